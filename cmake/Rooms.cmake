@@ -1,0 +1,38 @@
+# How a room (one folder, one target) is built: shared warnings, sanitizers, and who may see whom.
+
+option(XBR_ASAN "Build with the address and undefined-behaviour sanitizers" OFF)
+option(XBR_TSAN "Build with the thread sanitizer" OFF)
+
+add_library(xbr_options INTERFACE)
+target_compile_options(xbr_options INTERFACE
+    -Wall -Wextra -Werror -Wpedantic -Wshadow -Woverloaded-virtual -Wreturn-type
+    -Wcast-align -Wunused -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough)
+if(XBR_ASAN)
+    target_compile_options(xbr_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
+    target_link_options(xbr_options INTERFACE -fsanitize=address,undefined)
+elseif(XBR_TSAN)
+    target_compile_options(xbr_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+    target_link_options(xbr_options INTERFACE -fsanitize=thread)
+endif()
+
+# xbr_room(NAME [SHARED|EXECUTABLE] SOURCES ... [SEES room ...] [USES library ...])
+#
+# A room of the project. SEES are rooms whose headers this one may include (visible to its users, too);
+# USES are foreign libraries, never visible outside. Includes name the path from the project's root.
+function(xbr_room name)
+    cmake_parse_arguments(ROOM "SHARED;EXECUTABLE" "" "SOURCES;SEES;USES" ${ARGN})
+    if(ROOM_EXECUTABLE)
+        add_executable(${name} ${ROOM_SOURCES})
+    elseif(ROOM_SHARED)
+        add_library(${name} SHARED ${ROOM_SOURCES})
+        target_link_options(${name} PRIVATE -Wl,-z,defs)
+    else()
+        add_library(${name} STATIC ${ROOM_SOURCES})
+    endif()
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE xbr_options ${ROOM_USES})
+    if(ROOM_SEES)
+        target_link_libraries(${name} PUBLIC ${ROOM_SEES})
+    endif()
+endfunction()
