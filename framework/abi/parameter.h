@@ -5,7 +5,7 @@
 namespace xbr {
 
 enum class ParameterKind : std::int32_t {
-    kPlain = 0,   ///< any value
+    kPlain = 0,   ///< any value; setting it acts each time
     kCommand = 1, ///< performed by setting it to 1; reads 0
     kToggle = 2,  ///< 0 or 1
     kInteger = 3, ///< minimum() to maximum()

@@ -5,11 +5,29 @@
 
 namespace xbr {
 
+namespace {
+
+ModuleComponent* g_current = nullptr;
+
+} // namespace
+
 ModuleComponent::ModuleComponent(std::string id, std::string company, std::string title, std::string version)
     : m_id(std::move(id)),
       m_company(std::move(company)),
       m_title(std::move(title)),
-      m_version(std::move(version)) {}
+      m_version(std::move(version)) {
+    g_current = this;
+}
+
+ModuleComponent::~ModuleComponent() {
+    if (g_current == this) {
+        g_current = nullptr;
+    }
+}
+
+ModuleComponent* ModuleComponent::current() {
+    return g_current;
+}
 
 bool ModuleComponent::loadTheme(std::string_view location) {
     auto theme = createHostObject<ITheme>();
@@ -28,8 +46,8 @@ Ref<ITranslationTable> ModuleComponent::translations() {
     return m_translations;
 }
 
-std::string ModuleComponent::translate(std::string_view source) {
-    const auto table = translations();
+std::string translate(std::string_view source) {
+    const auto table = ModuleComponent::current() ? ModuleComponent::current()->translations() : nullptr;
     Ref<IString> translated;
     return table && table->translate(toText(source), translated.out()) == kOk ? take(translated)
                                                                               : std::string(source);

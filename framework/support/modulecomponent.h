@@ -9,9 +9,13 @@
 namespace xbr {
 
 /// A module's identity, theme and translations.
-class ModuleComponent final : public RefCounted {
+class ModuleComponent final : public Object<IObject> {
 public:
     ModuleComponent(std::string id, std::string company, std::string title, std::string version);
+    ~ModuleComponent() override;
+
+    /// The module's one component while the module is started; null before and after.
+    static ModuleComponent* current();
 
     const std::string& id() const { return m_id; }
     const std::string& company() const { return m_company; }
@@ -26,9 +30,6 @@ public:
     /// The module's translations, looked up on first use.
     Ref<ITranslationTable> translations();
 
-    /// `source` in the user's language.
-    std::string translate(std::string_view source);
-
 private:
     std::string m_id;
     std::string m_company;
@@ -37,5 +38,8 @@ private:
     Ref<ITheme> m_theme;
     Ref<ITranslationTable> m_translations;
 };
+
+/// `source`, an English text of the module, in the user's language.
+std::string translate(std::string_view source);
 
 } // namespace xbr

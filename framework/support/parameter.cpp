@@ -70,7 +70,9 @@ Result Parameter::setValue(const Value& value) noexcept {
         return kInvalidArgument;
     }
     const bool isCommand = m_kind == ParameterKind::kCommand;
-    if (!m_enabled || (isCommand ? integerOf(converted.value()) == 0 : !differs(converted.value()))) {
+    const bool acts = isCommand ? integerOf(converted.value()) != 0
+                                : m_kind == ParameterKind::kPlain || differs(converted.value());
+    if (!m_enabled || !acts) {
         return kFalse;
     }
     // The owner may drop the parameter while it acts on it.

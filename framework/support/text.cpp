@@ -1,7 +1,5 @@
 #include "framework/support/text.h"
 
-#include "framework/abi/textformats.h"
-
 #include <algorithm>
 
 namespace xbr {
@@ -69,9 +67,17 @@ std::string asciiLower(std::string_view text) {
     return lower;
 }
 
-std::string foldCase(std::string_view text) {
-    Ref<IString> folded;
-    return XBRFoldCase(toText(text), folded.out()) == kOk ? take(folded) : std::string(text);
+std::string toAscii(std::string_view text) {
+    std::string ascii;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x80) {
+            ascii += c;
+        } else if ((byte & 0xC0U) != 0x80) { // not a continuation byte: a character begins here
+            ascii += '?';
+        }
+    }
+    return ascii;
 }
 
 } // namespace xbr

@@ -49,6 +49,8 @@ private:
     Ref<IWebRequest> m_request;
 };
 
+XHRClient::XHRClient(std::string_view name) : Component(name) {}
+
 XHRClient::~XHRClient() {
     for (const auto& transfer : m_transfers) {
         transfer->detach();

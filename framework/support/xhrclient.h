@@ -19,7 +19,7 @@ public:
     /// the client is not busy any more. The handler may destroy the client.
     using Handler = std::function<void(const IMessage& message, IWebRequest& request)>;
 
-    using Component::Component;
+    explicit XHRClient(std::string_view name);
     ~XHRClient() override;
 
     /// Starts a request with the current credentials. An empty content type sets no header; the body may be

@@ -1,0 +1,229 @@
+#include "auth/oauth2client.h"
+
+#include "auth/authorizationgrant.h"
+#include "auth/tokenstore.h"
+#include "framework/abi/hostclasses.h"
+#include "framework/abi/system.h"
+#include "framework/support/hostobject.h"
+#include "framework/support/memorystream.h"
+#include "framework/support/text.h"
+
+#include <cassert>
+
+namespace brindlex {
+
+namespace {
+
+enum Tag : std::int32_t {
+    kGetAuthorizationCode = 100,
+    kResetAuthorization = 101,
+    kRetryAuthorization = 102,
+    kIsAuthorized = 103,
+};
+
+JoinToken mayJoinTokenBeSent() {
+    const auto permission = xbr::createHostObject<xbr::IJoinTokenPermission>();
+    return permission && permission->isAllowed() ? JoinToken::kSend : JoinToken::kWithhold;
+}
+
+bool isSuccess(const xbr::IWebRequest& request) {
+    return request.status() >= 200 && request.status() <= 299;
+}
+
+[[maybe_unused]] bool isLegal(ClientState from, ClientState to) {
+    switch (to) {
+    case ClientState::kIdle:
+        return true;
+    case ClientState::kAwaitingCode:
+        return from == ClientState::kIdle;
+    case ClientState::kRequestingToken:
+        return from == ClientState::kAwaitingCode;
+    case ClientState::kAuthorized:
+        return from != ClientState::kAuthorized;
+    case ClientState::kFailed:
+        return from == ClientState::kRequestingToken;
+    }
+    return false;
+}
+
+} // namespace
+
+OAuth2Client::OAuth2Client() : XHRClient("Client") {
+    addParameter(xbr::ParameterKind::kPlain, kGetAuthorizationCode, "getAuthorizationCode");
+    addParameter(xbr::ParameterKind::kPlain, kResetAuthorization, "resetAuthorization");
+    addParameter(xbr::ParameterKind::kPlain, kRetryAuthorization, "retryAuthorization");
+    addParameter(xbr::ParameterKind::kPlain, kIsAuthorized, "isAuthorized").set(xbr::boolValue(false));
+}
+
+xbr::Url OAuth2Client::serviceUrl(std::string_view path) const {
+    xbr::Url url = m_configuration.serverUrl;
+    url.appendPath(path);
+    return url;
+}
+
+bool OAuth2Client::getAuthorizationCode() {
+    if (m_state != ClientState::kIdle || isBusy()) {
+        return false;
+    }
+    const auto self = xbr::Ref<OAuth2Client>::share(this);
+    setState(ClientState::kAwaitingCode);
+    const std::string url = authorizationUrl(m_configuration, mayJoinTokenBeSent()).toString();
+    return XBRGetSystemShell()->openUrl(xbr::toText(url)) == xbr::kOk;
+}
+
+bool OAuth2Client::handleRedirect(const xbr::Url& url) {
+    if (m_state != ClientState::kAwaitingCode || isBusy()) {
+        return false;
+    }
+    const Redirect redirect = readRedirect(url);
+    if (!redirect.code.empty()) {
+        return requestToken(redirect.code);
+    }
+    // The state stays: users who denied by mistake go back in the browser and allow, and that second redirect
+    // must still find us waiting. Who gives up has "Cancel" and "Retry".
+    const std::string warning = "Authorization error: " + redirect.errorDescription + "\n";
+    XBRGetSystem()->writeDebugWarning(xbr::toText(warning));
+    return false;
+}
+
+bool OAuth2Client::requestToken(std::string_view code) {
+    const auto self = xbr::Ref<OAuth2Client>::share(this);
+    const xbr::Pairs form = tokenForm(m_configuration, code);
+    setState(ClientState::kRequestingToken);
+    const auto onReply = [this, attempt = ++m_attempt](const auto& message, auto& request) {
+        if (attempt == m_attempt) {
+            onTokenReply(message, request);
+        }
+    };
+    if (!postForm("oauth/token", form, onReply)) {
+        exchangeFailed();
+        return false;
+    }
+    return true;
+}
+
+bool OAuth2Client::postForm(std::string_view path, const xbr::Pairs& form, Handler handler) {
+    const auto body = xbr::make<xbr::MemoryStream>();
+    body->write(xbr::formEncode(form));
+    xbr::rewind(*body);
+    return send(std::move(handler), "POST", serviceUrl(path), body, "application/x-www-form-urlencoded");
+}
+
+void OAuth2Client::onTokenReply(const xbr::IMessage& message, xbr::IWebRequest& request) {
+    const bool finished = xbr::isNamed(message, "onloadend");
+    if (!finished && !xbr::isNamed(message, "onabort")) {
+        return;
+    }
+    const auto self = xbr::Ref<OAuth2Client>::share(this);
+    if (!finished || !readTokenReply(request)) {
+        exchangeFailed();
+        return;
+    }
+    becomeAuthorized();
+    // A reply without an access token signs in all the same, with nothing stored: the service answers so for
+    // accounts that wait for confirmation, and the panel must show them as connected.
+    if (!m_tokens.accessToken.empty()) {
+        storeTokens(m_tokens, m_credentialName);
+    }
+}
+
+void OAuth2Client::exchangeFailed() {
+    setState(ClientState::kFailed);
+    xbr::post(*this, "authorizationLost");
+}
+
+bool OAuth2Client::readTokenReply(xbr::IWebRequest& request) {
+    xbr::Ref<xbr::IStream> body;
+    return isSuccess(request) && request.getResponseBody(body.out()) == xbr::kOk &&
+           parseTokenReply(m_tokens, *body, XBRGetSystem()->currentTime());
+}
+
+void OAuth2Client::becomeAuthorized() {
+    setState(ClientState::kAuthorized);
+    xbr::Ref<xbr::IWebCredentials> credentials;
+    if (XBRGetWebService()->createCredentials(credentials.out()) == xbr::kOk) {
+        credentials->set(xbr::toText(""), xbr::toText(m_tokens.accessToken), xbr::toText("Bearer"));
+    }
+    setCredentials(std::move(credentials));
+    xbr::postSignal(*this, "authorizationCompleted");
+}
+
+void OAuth2Client::resetAuthorization(Silence silence) {
+    const auto self = xbr::Ref<OAuth2Client>::share(this);
+    ++m_attempt;
+    abort();
+    setState(ClientState::kIdle);
+    setCredentials(nullptr);
+    removeTokens(m_credentialName);
+    m_tokens = {};
+    if (silence == Silence::kTold) {
+        xbr::postSignal(*this, "authorizationCanceled");
+    }
+}
+
+void OAuth2Client::retryAuthorization() {
+    const auto self = xbr::Ref<OAuth2Client>::share(this);
+    resetAuthorization(Silence::kSilent);
+    getAuthorizationCode();
+}
+
+bool OAuth2Client::restoreAuthorization() {
+    if (isAuthorized() || isBusy() || !loadTokens(m_tokens, m_credentialName)) {
+        return false;
+    }
+    const auto self = xbr::Ref<OAuth2Client>::share(this);
+    becomeAuthorized();
+    return true;
+}
+
+bool OAuth2Client::sendAuthorizedRequest(Handler handler, const ServiceRequest& request) {
+    return isReady() &&
+           send(std::move(handler), "POST", serviceUrl(request.path), request.body, request.contentType);
+}
+
+bool OAuth2Client::sendAuthorizedQuery(Handler handler, std::string_view path) {
+    return isReady() && send(std::move(handler), "GET", serviceUrl(path), nullptr, "");
+}
+
+void OAuth2Client::setState(ClientState state) {
+    assert(isLegal(m_state, state));
+    m_state = state;
+    parameter(kIsAuthorized)->set(xbr::boolValue(isAuthorized()), xbr::Notify::kNobody);
+    xbr::signal(*this, "propertyChanged");
+}
+
+xbr::Result OAuth2Client::getProperty(xbr::Text name, xbr::Value* out) noexcept {
+    if (xbr::view(name) == "clientState") {
+        *out = xbr::integerValue(static_cast<std::int64_t>(m_state));
+        return xbr::kOk;
+    }
+    if (xbr::view(name) == "isAuthorized") {
+        *out = xbr::boolValue(isAuthorized());
+        return xbr::kOk;
+    }
+    return XHRClient::getProperty(name, out);
+}
+
+void OAuth2Client::notify(xbr::ISubject*, xbr::IMessage* message) noexcept {
+    if (xbr::isNamed(*message, "authorizationLost")) {
+        resetAuthorization(Silence::kTold);
+    }
+}
+
+void OAuth2Client::parameterChanged(xbr::Parameter& parameter) {
+    switch (parameter.tag()) {
+    case kGetAuthorizationCode:
+        getAuthorizationCode();
+        break;
+    case kResetAuthorization:
+        resetAuthorization(Silence::kTold);
+        break;
+    case kRetryAuthorization:
+        retryAuthorization();
+        break;
+    default: // "isAuthorized" only shows
+        break;
+    }
+}
+
+} // namespace brindlex

@@ -1,0 +1,40 @@
+#include "client/configuration.h"
+
+#include "framework/abi/hostclasses.h"
+#include "framework/support/hostobject.h"
+#include "framework/support/modulecomponent.h"
+#include "framework/support/text.h"
+
+namespace brindlex {
+
+namespace {
+
+constexpr std::string_view kId = "brindlex";
+constexpr std::int32_t kProfile = 0;
+constexpr std::int32_t kRead = 1;
+
+} // namespace
+
+ServiceConfiguration readConfiguration(const xbr::Attributes& attributes) {
+    ServiceConfiguration configuration;
+    configuration.serverUrl = xbr::Url(attributes.getString("ServerURL"));
+    configuration.userUrl = xbr::Url(attributes.getString("UserURL"));
+    configuration.consumerKey = xbr::toAscii(attributes.getString("ConsumerKey"));
+    configuration.consumerSecret = xbr::toAscii(attributes.getString("ConsumerSecret"));
+    configuration.callbackUrl = xbr::Url(attributes.getString("CallbackURL"));
+    configuration.joinToken = attributes.getString("JoinToken");
+    return configuration;
+}
+
+std::optional<ServiceConfiguration> loadStoredConfiguration() {
+    const auto store = xbr::createHostObject<xbr::IConfigurationStore>();
+    const auto attributes = xbr::make<xbr::Attributes>();
+    const std::string title = xbr::translate("Brindlex Client");
+    if (!store ||
+        store->load(attributes.get(), xbr::toText(kId), xbr::toText(title), kProfile, kRead) != xbr::kOk) {
+        return std::nullopt;
+    }
+    return readConfiguration(*attributes);
+}
+
+} // namespace brindlex

@@ -1,0 +1,60 @@
+#include "framework/abi/module.h"
+#include "framework/abi/system.h"
+#include "framework/support/classfactory.h"
+#include "framework/support/modulecomponent.h"
+#include "framework/support/text.h"
+#include "module/classtable.h"
+#include "module/modulegate.h"
+#include "module/modulekernel.h"
+#include "module/supportservice.h"
+
+namespace brindlex {
+
+namespace {
+
+/// What the module does at start (1) and stop (2).
+bool startModule(std::int32_t argument) {
+    if (argument != 1) {
+        return true;
+    }
+    const auto component = xbr::make<xbr::ModuleComponent>("brindlex", "Kestrova", "Brindlex Support", "");
+    ModuleKernel::instance().addObject(xbr::query<xbr::IObject>(component.get()));
+    if (!component->loadTheme("")) {
+        XBRGetSystem()->writeDebugWarning(xbr::toText("ModuleComponent::loadTheme failed\n"));
+        return false;
+    }
+    return true;
+}
+
+xbr::Ref<xbr::ClassFactory> makeFactory() {
+    auto factory = xbr::make<xbr::ClassFactory>(&isModuleLoaded);
+    factory->add(supportServiceClass(), xbr::creatorOf<SupportService>());
+    return factory;
+}
+
+} // namespace
+
+bool isModuleLoaded() {
+    const auto* component = xbr::ModuleComponent::current();
+    return component && component->theme();
+}
+
+} // namespace brindlex
+
+std::int32_t XBRModuleMain(void* moduleHandle, std::int32_t reason) noexcept {
+    auto& kernel = brindlex::ModuleKernel::instance();
+    switch (static_cast<xbr::ModuleReason>(reason)) {
+    case xbr::ModuleReason::kLoad:
+        return kernel.load(moduleHandle, &brindlex::startModule) ? 1 : 0;
+    case xbr::ModuleReason::kUnload:
+        kernel.unload(&brindlex::startModule);
+        return 1;
+    default:
+        return 1;
+    }
+}
+
+xbr::IClassFactory* XBRGetClassFactory() noexcept {
+    static const auto factory = brindlex::makeFactory();
+    return factory.get();
+}

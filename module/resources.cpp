@@ -1,0 +1,29 @@
+#include "framework/abi/filesystem.h"
+#include "framework/support/text.h"
+#include "module/modulekernel.h"
+
+// The archive that the build packs from resources/, see resourcedata.S.
+extern "C" const char kBrindlexResourcesBegin[];
+extern "C" const char kBrindlexResourcesEnd[];
+
+namespace brindlex {
+
+namespace {
+
+constexpr std::string_view kName = "brindlex";
+
+bool registerResources(void*, void*) {
+    const auto size = static_cast<std::uint64_t>(kBrindlexResourcesEnd - kBrindlexResourcesBegin);
+    return xbr::succeeded(
+        XBRGetFileSystem()->registerResources(xbr::toText(kName), kBrindlexResourcesBegin, size));
+}
+
+void unregisterResources(void*) {
+    XBRGetFileSystem()->unregisterResources(xbr::toText(kName));
+}
+
+const ModuleRegistration kRegistration(&registerResources, &unregisterResources);
+
+} // namespace
+
+} // namespace brindlex

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "auth/servicerequest.h"
+#include "framework/abi/progress.h"
+#include "framework/support/url.h"
+
+namespace brindlex {
+
+/// The delivery of one release: path, multipart body and content type. The body holds its own copy of the
+/// archive.
+struct IngestionRequest final : public ServiceRequest {};
+
+/// Where a payload is put together, below the host's temporary folder. There is one at a time.
+xbr::Url getPayloadFolder();
+
+/// Where the packed payload is written.
+xbr::Url getPayloadArchive();
+
+/// Packs the payload folder and wraps the archive into the request. Reports to `progress` and looks there for
+/// a cancellation. Empty when the archive cannot be written or read back; the files stay until
+/// `cleanupPayload`.
+xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress);
+
+/// Removes the payload folder and the archive; harmless when there are none.
+void cleanupPayload();
+
+} // namespace brindlex

@@ -1,0 +1,76 @@
+#include "release/payloadbuilder.h"
+
+#include "framework/abi/filesystem.h"
+#include "framework/support/jsonarchive.h"
+#include "framework/support/text.h"
+#include "release/releasedocument.h"
+
+namespace brindlex {
+
+namespace {
+
+xbr::Ref<xbr::IStream> openAudio(const xbr::Url& file) {
+    xbr::Ref<xbr::IStream> stream;
+    XBRGetFileSystem()->openForReading(xbr::toText(file.toString()), stream.out());
+    return stream;
+}
+
+void copyAudio(const xbr::Url& file) {
+    // A copy that fails is not an error of its own: the archive then lacks the file, and the service says so.
+    const std::string copy = getPayloadFolder().join("assets").join(file.fileName()).toString();
+    XBRGetFileSystem()->copyFile(xbr::toText(file.toString()), xbr::toText(copy));
+}
+
+void appendSong(xbr::IAttributeQueue& songs, const TrackMetadata& record, const xbr::Url& file) {
+    const auto song = xbr::make<xbr::Attributes>();
+    writeSongAttributes(*song, record, file.fileName());
+    songs.append(xbr::objectValue(song.get()));
+}
+
+void writeDocument(xbr::Attributes& release, xbr::IAttributeQueue& songs) {
+    release.set("songs", xbr::objectValue(&songs));
+    xbr::Ref<xbr::IStream> stream;
+    const std::string location = getPayloadFolder().join("metadata.json").toString();
+    if (XBRGetFileSystem()->createFile(xbr::toText(location), stream.out()) == xbr::kOk) {
+        xbr::writeJson(release, *stream);
+    }
+}
+
+} // namespace
+
+xbr::Ref<IngestionRequest> buildAlbumPayload(const std::vector<xbr::Ref<TrackMetadata>>& records,
+                                             const std::vector<xbr::Url>& files, std::string_view clientId,
+                                             xbr::IProgress& progress) {
+    const auto release = xbr::make<xbr::Attributes>();
+    const auto songs = xbr::make<xbr::AttributeQueue>();
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const auto audio = openAudio(files[i]); // held open while it is copied
+        if (!audio) {
+            return {};
+        }
+        if (i == 0) {
+            writeReleaseAttributes(*release, *records[i], clientId);
+        }
+        appendSong(*songs, *records[i], files[i]);
+        copyAudio(files[i]);
+    }
+    writeDocument(*release, *songs);
+    return createIngestionRequest(progress);
+}
+
+xbr::Ref<IngestionRequest> buildTrackPayload(const TrackMetadata& record, const xbr::Url& file,
+                                             std::string_view clientId, xbr::IProgress& progress) {
+    const auto audio = openAudio(file);
+    if (!audio) {
+        return {};
+    }
+    const auto release = xbr::make<xbr::Attributes>();
+    const auto songs = xbr::make<xbr::AttributeQueue>();
+    writeReleaseAttributes(*release, record, clientId);
+    appendSong(*songs, record, file);
+    writeDocument(*release, *songs);
+    copyAudio(file);
+    return createIngestionRequest(progress);
+}
+
+} // namespace brindlex

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "framework/support/object.h"
+
+#include <cstdint>
+#include <string>
+
+namespace brindlex {
+
+/// What is known about one track and the release it belongs to.
+struct TrackMetadata final : public xbr::RefCounted {
+    // Release
+    std::string albumTitle;
+    std::string albumArtist;
+    std::string primaryGenre; ///< a name of the genre catalogue
+
+    // Track
+    std::int32_t trackNumber = 1;      ///< the number in effect
+    std::int32_t albumTrackNumber = 1; ///< the number last entered in album mode
+    std::string songTitle;
+    std::string songArtist;
+
+    // What each upload mode remembers while the other one is on
+    std::string singlesGenre;
+    std::string albumGenre;
+    std::string albumModeTitle;
+
+    // Required values that were found empty
+    bool albumTitleMissing = false;
+    bool albumArtistMissing = false;
+    bool primaryGenreMissing = false;
+    bool songTitleMissing = false;
+    bool songArtistMissing = false;
+
+    /// True when every required value is there; the track number is not one of them.
+    bool isComplete() const {
+        return !albumTitle.empty() && !albumArtist.empty() && !primaryGenre.empty() && !songTitle.empty() &&
+               !songArtist.empty();
+    }
+};
+
+} // namespace brindlex

@@ -1,0 +1,157 @@
+#include "ui/trackpropertycomponent.h"
+
+#include "framework/support/text.h"
+#include "release/genrecatalogue.h"
+#include "ui/tracks.h"
+
+namespace brindlex {
+
+namespace {
+
+enum Tag : std::int32_t {
+    kAlbumTitle = 100,
+    kAlbumArtist = 101,
+    kPrimaryGenre = 102,
+    kTrackNumber = 103,
+    kSongTitle = 104,
+    kSongArtist = 105,
+    kAlbumTitleMissing = 106,
+    kAlbumArtistMissing = 107,
+    kPrimaryGenreMissing = 108,
+    kSongTitleMissing = 109,
+    kSongArtistMissing = 110,
+};
+
+constexpr std::int64_t kLastTrackNumber = 10000;
+
+/// The genre menu; a blank stands for no genre, as menus do not show an empty line.
+std::vector<std::string> genreChoices() {
+    std::vector<std::string> choices = genreNames();
+    for (std::string& choice : choices) {
+        if (choice.empty()) {
+            choice = " ";
+        }
+    }
+    return choices;
+}
+
+} // namespace
+
+TrackPropertyComponent::TrackPropertyComponent(xbr::Ref<xbr::ListViewModel> tracks)
+    : Component("TrackProperties"),
+      m_tracks(std::move(tracks)) {
+    using Kind = xbr::ParameterKind;
+    addParameter(Kind::kText, kAlbumTitle, "albumTitle");
+    addParameter(Kind::kText, kAlbumArtist, "albumArtist");
+    addParameter(Kind::kList, kPrimaryGenre, "primaryGenre").setChoices(genreChoices());
+    addParameter(Kind::kInteger, kTrackNumber, "trackNumber", 1, kLastTrackNumber);
+    addParameter(Kind::kText, kSongTitle, "songTitle");
+    addParameter(Kind::kText, kSongArtist, "songArtist");
+    addParameter(Kind::kInteger, kAlbumTitleMissing, "albumTitleMissing");
+    addParameter(Kind::kInteger, kAlbumArtistMissing, "albumArtistMissing");
+    addParameter(Kind::kInteger, kPrimaryGenreMissing, "primaryGenreMissing");
+    addParameter(Kind::kInteger, kSongTitleMissing, "songTitleMissing");
+    addParameter(Kind::kInteger, kSongArtistMissing, "songArtistMissing");
+    setItem(nullptr);
+}
+
+void TrackPropertyComponent::loadParameters(const TrackMetadata& record) {
+    parameter(kAlbumTitle)->set(xbr::textValue(record.albumTitle));
+    parameter(kAlbumArtist)->set(xbr::textValue(record.albumArtist));
+    getGenreIndex(*parameter(kPrimaryGenre), record.primaryGenre);
+    parameter(kTrackNumber)->set(xbr::integerValue(record.trackNumber));
+    parameter(kSongTitle)->set(xbr::textValue(record.songTitle));
+    parameter(kSongArtist)->set(xbr::textValue(record.songArtist));
+    parameter(kAlbumTitleMissing)->set(xbr::integerValue(record.albumTitleMissing ? 1 : 0));
+    parameter(kAlbumArtistMissing)->set(xbr::integerValue(record.albumArtistMissing ? 1 : 0));
+    parameter(kPrimaryGenreMissing)->set(xbr::integerValue(record.primaryGenreMissing ? 1 : 0));
+    parameter(kSongTitleMissing)->set(xbr::integerValue(record.songTitleMissing ? 1 : 0));
+    parameter(kSongArtistMissing)->set(xbr::integerValue(record.songArtistMissing ? 1 : 0));
+}
+
+void TrackPropertyComponent::setItem(TrackItem* item) {
+    const auto empty = xbr::make<TrackMetadata>();
+    loadParameters(item ? *item->metadata : *empty);
+    for (std::int32_t tag = kAlbumTitle; tag <= kSongArtistMissing; ++tag) {
+        parameter(tag)->setEnabled(item != nullptr);
+    }
+    m_hasItem = item != nullptr;
+    signalChanged();
+}
+
+void TrackPropertyComponent::applyMode() {
+    if (countTracks(*m_tracks) == 0) {
+        return;
+    }
+    if (m_mode == UploadMode::kAlbum) {
+        applyAlbumMode();
+    } else {
+        applySinglesMode();
+    }
+    m_tracks->signalChanged();
+    updateReady();
+}
+
+void TrackPropertyComponent::applyAlbumMode() {
+    TrackMetadata& first = *trackAt(*m_tracks, 0).metadata;
+    if (!first.albumGenre.empty()) {
+        first.primaryGenre = first.albumGenre;
+    } else if (!first.singlesGenre.empty()) {
+        first.primaryGenre = first.singlesGenre;
+    }
+    first.albumTitle = first.albumModeTitle;
+    forEachTrack(*m_tracks, [&](TrackItem& track) {
+        TrackMetadata& record = *track.metadata;
+        record.trackNumber = record.albumTrackNumber;
+        record.albumTitle = first.albumTitle;
+        record.albumArtist = first.albumArtist;
+        record.primaryGenre = first.primaryGenre;
+    });
+}
+
+void TrackPropertyComponent::applySinglesMode() {
+    forEachTrack(*m_tracks, [](TrackItem& track) {
+        TrackMetadata& record = *track.metadata;
+        record.albumTitle = record.songTitle;
+        record.albumArtist = record.songArtist;
+        if (!record.singlesGenre.empty()) {
+            record.primaryGenre = record.singlesGenre;
+        } else if (!record.albumGenre.empty()) {
+            record.primaryGenre = record.albumGenre;
+        }
+        record.trackNumber = 1;
+    });
+}
+
+void TrackPropertyComponent::validateItem(Marks marks, std::size_t index) {
+    TrackItem& item = trackAt(*m_tracks, index);
+    setItem(&item);
+    TrackMetadata& record = *item.metadata;
+    const auto mark = [&](bool& missing, const std::string& value) {
+        missing = marks == Marks::kSet && (missing || value.empty());
+    };
+    mark(record.albumTitleMissing, parameter(kAlbumTitle)->string());
+    mark(record.albumArtistMissing, parameter(kAlbumArtist)->string());
+    mark(record.primaryGenreMissing, getGenreText(*parameter(kPrimaryGenre)));
+    mark(record.songTitleMissing, parameter(kSongTitle)->string());
+    mark(record.songArtistMissing, parameter(kSongArtist)->string());
+}
+
+void TrackPropertyComponent::updateReady() {
+    bool ready = false;
+    forEachTrack(*m_tracks, [&](const TrackItem& track) { ready = ready || track.metadata->isComplete(); });
+    if (m_ready != ready) {
+        m_ready = ready;
+        signalChanged();
+    }
+}
+
+xbr::Result TrackPropertyComponent::getProperty(xbr::Text name, xbr::Value* out) noexcept {
+    if (xbr::view(name) == "hasFocusItem") {
+        *out = xbr::boolValue(m_hasItem);
+        return xbr::kOk;
+    }
+    return Component::getProperty(name, out);
+}
+
+} // namespace brindlex

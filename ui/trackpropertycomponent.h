@@ -1,0 +1,59 @@
+#pragma once
+
+#include "framework/support/component.h"
+#include "framework/support/listviewmodel.h"
+#include "ui/trackitem.h"
+
+#include <cstdint>
+
+namespace brindlex {
+
+/// How tracks become releases.
+enum class UploadMode { kSingles, kAlbum };
+
+/// Whether validation marks what is missing, or takes the marks away.
+enum class Marks { kClear, kSet };
+
+/// Edits the metadata of the track with the focus, and tells whether anything can be uploaded. A component
+/// named "TrackProperties" with the parameters 100 "albumTitle" to 110 "songArtistMissing" and the property
+/// "hasFocusItem".
+class TrackPropertyComponent final : public xbr::Component {
+public:
+    /// `tracks` is the list whose items are edited; kept.
+    explicit TrackPropertyComponent(xbr::Ref<xbr::ListViewModel> tracks);
+
+    UploadMode mode() const { return m_mode; }
+    void setMode(UploadMode mode) { m_mode = mode; }
+
+    /// True while at least one track of the list is complete.
+    bool isReady() const { return m_ready; }
+
+    /// Loads a track into the parameters; null empties and disables them.
+    void setItem(TrackItem* item);
+
+    /// Gives every track the release values of the present mode: one album's, or each song's own.
+    void applyMode();
+
+    /// Loads track `index` and marks its missing values, or clears all five marks.
+    void validateItem(Marks marks, std::size_t index);
+
+    /// Recomputes `isReady`; "changed" is signalled when it changed.
+    void updateReady();
+
+    /// The list is being emptied: nothing is ready any more.
+    void clearReady() { m_ready = false; }
+
+    xbr::Result getProperty(xbr::Text name, xbr::Value* out) noexcept override;
+
+private:
+    void applyAlbumMode();
+    void applySinglesMode();
+    void loadParameters(const TrackMetadata& record);
+
+    xbr::Ref<xbr::ListViewModel> m_tracks;
+    UploadMode m_mode = UploadMode::kSingles;
+    bool m_ready = false;
+    bool m_hasItem = false;
+};
+
+} // namespace brindlex
