@@ -33,10 +33,10 @@ public:
             m_handler(*message, *request);
             return;
         }
-        m_client->completed(*this);
+        m_client->becomeFree(*this);
         // An observer of the busy state may have dropped the client, and whom the handler stands for with it.
         if (m_client) {
-            m_client = nullptr;
+            std::exchange(m_client, nullptr)->forget(*this);
             const auto handler = std::exchange(m_handler, nullptr);
             const auto request = std::move(m_request);
             handler(*message, *request);
@@ -95,12 +95,15 @@ void XHRClient::cancel() {
     }
 }
 
-void XHRClient::completed(Transfer& transfer) {
-    std::erase_if(m_transfers, [&](const auto& held) { return held.get() == &transfer; });
+void XHRClient::becomeFree(const Transfer& transfer) {
     if (m_current == &transfer) {
         m_current = nullptr;
         signal(*this, "propertyChanged");
     }
+}
+
+void XHRClient::forget(const Transfer& transfer) {
+    std::erase_if(m_transfers, [&](const auto& held) { return held.get() == &transfer; });
 }
 
 Result XHRClient::getProperty(Text name, Value* out) noexcept {

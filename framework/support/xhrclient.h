@@ -44,7 +44,8 @@ protected:
 private:
     class Transfer;
 
-    void completed(Transfer& transfer);
+    void becomeFree(const Transfer& transfer);
+    void forget(const Transfer& transfer);
 
     Ref<IWebCredentials> m_credentials;
     std::vector<Ref<Transfer>> m_transfers; ///< the current one, and aborted ones that wait for "onabort"

@@ -1,0 +1,259 @@
+#include "auth/oauth2client.h"
+
+#include "framework/support/text.h"
+#include "tests/fakehost/fakehost.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using brindlex::ClientState;
+using brindlex::OAuth2Client;
+using brindlex::Silence;
+using fakehost::host;
+using testing::ElementsAre;
+using xbr::Url;
+
+constexpr const char* kReply = R"({"access_token":"A","refresh_token":"R","expires_in":60})";
+
+/// Writes down what the client tells.
+class Listener final : public xbr::Object<xbr::IObserver> {
+public:
+    explicit Listener(OAuth2Client& client) : m_client(client) {}
+    void notify(xbr::ISubject*, xbr::IMessage* message) noexcept override {
+        const std::string name = xbr::toString(message->name());
+        heard.push_back(name == "propertyChanged" ? std::to_string(static_cast<int>(m_client.state()))
+                                                  : name);
+    }
+
+    std::vector<std::string> heard;
+
+private:
+    OAuth2Client& m_client;
+};
+
+class OAuth2ClientTest : public testing::Test {
+protected:
+    OAuth2ClientTest() {
+        fakehost::resetHost();
+        client = xbr::make<OAuth2Client>();
+        brindlex::ServiceConfiguration configuration;
+        configuration.serverUrl = Url("https://service.example/base");
+        configuration.callbackUrl = Url("brindlex://authorize?x=\xC3\xA9");
+        configuration.consumerKey = "key";
+        configuration.consumerSecret = "se&cret";
+        configuration.joinToken = "join";
+        client->setConfiguration(configuration);
+        client->setCredentialName("Name");
+        listener = xbr::make<Listener>(*client);
+        host().signals.addObserver(client.get(), listener.get());
+    }
+
+    void reachTokenRequest() {
+        ASSERT_TRUE(client->getAuthorizationCode());
+        ASSERT_TRUE(client->handleRedirect(Url("brindlex://authorize?code=abc")));
+    }
+
+    void signIn() {
+        reachTokenRequest();
+        host().web.answer(200, kReply);
+        ASSERT_TRUE(client->isAuthorized());
+        listener->heard.clear();
+    }
+
+    /// The states that were passed through, without what else was told.
+    std::vector<std::string> told() {
+        host().signals.pump();
+        auto names = listener->heard;
+        names.erase(std::unique(names.begin(), names.end()), names.end()); // busy changes repeat the state
+        return names;
+    }
+
+    xbr::Ref<OAuth2Client> client;
+    xbr::Ref<Listener> listener;
+};
+
+TEST_F(OAuth2ClientTest, OpensTheExactAuthorizationUrl) {
+    const std::string expected = "https://service.example/base/oauth/authorize?client_id=key&redirect_uri="
+                                 "brindlex%3A%2F%2Fauthorize%3Fx%3D%25C3%25A9&response_type=code";
+    struct Case {
+        bool has;
+        bool allowed;
+        std::string url;
+    };
+    for (const auto& [has, allowed, url] : {Case{false, false, expected}, Case{true, false, expected},
+                                            Case{true, true, expected + "&jt=join"}}) {
+        host().objects.hasJoinTokenPermission = has;
+        host().objects.joinTokenAllowed = allowed;
+        client->retryAuthorization();
+        EXPECT_EQ(host().shell.opened.back(), url);
+    }
+    for (const char* never : {"state=", "scope=", "code_challenge"}) {
+        EXPECT_EQ(host().shell.opened.back().find(never), std::string::npos) << never;
+    }
+}
+
+TEST_F(OAuth2ClientTest, ExchangesTheCodeAndStoresTheTokens) {
+    ASSERT_TRUE(client->getAuthorizationCode());
+    ASSERT_TRUE(client->handleRedirect(Url("brindlex://authorize?code=a%2Bb%2Fc%3D%26%25+%C3%A9%23glued")));
+    const auto& request = host().web.sent.back();
+    EXPECT_EQ(request.method, "POST");
+    EXPECT_EQ(request.url, "https://service.example/base/oauth/token");
+    EXPECT_EQ(request.headers.at("Content-Type"), "application/x-www-form-urlencoded");
+    EXPECT_FALSE(request.headers.contains("Authorization"));
+    EXPECT_EQ(request.body,
+              "client_id=key&client_secret=se%26cret&redirect_uri=brindlex%3A%2F%2Fauthorize%3Fx%3D%25C3"
+              "%25A9&grant_type=authorization_code&code=a%2Bb%2Fc%3D%26%25+%C3%A9");
+    host().web.answer(200, kReply);
+    EXPECT_THAT(told(), ElementsAre("1", "2", "3", "authorizationCompleted"));
+    EXPECT_EQ(host().credentials.stored->password, "A&R");
+    EXPECT_EQ(host().credentials.removals, 0) << "an older credential is replaced, not removed first";
+}
+
+TEST_F(OAuth2ClientTest, IgnoresWhatComesInTheWrongState) {
+    const Url callback("brindlex://authorize?code=abc");
+    EXPECT_FALSE(client->handleRedirect(callback)) << "nobody asked";
+    EXPECT_TRUE(client->getAuthorizationCode());
+    EXPECT_FALSE(client->getAuthorizationCode()) << "only retry starts again";
+    EXPECT_TRUE(client->handleRedirect(callback));
+    EXPECT_FALSE(client->handleRedirect(callback)) << "a second click in the browser";
+    EXPECT_EQ(host().web.sent.size(), 1U);
+    host().web.answer(200, kReply);
+    EXPECT_FALSE(client->handleRedirect(callback));
+    EXPECT_FALSE(client->getAuthorizationCode());
+    EXPECT_FALSE(client->restoreAuthorization());
+    EXPECT_EQ(host().web.sent.size(), 1U);
+}
+
+TEST_F(OAuth2ClientTest, DeniedInTheBrowserKeepsWaiting) {
+    client->getAuthorizationCode();
+    EXPECT_FALSE(
+        client->handleRedirect(Url("brindlex://authorize?error=access_denied&error_description=Not+now")));
+    EXPECT_FALSE(client->handleRedirect(Url("brindlex://authorize?code=%23abc")))
+        << "nothing before the fragment";
+    EXPECT_EQ(host().system.warnings, "Authorization error: Not now\nAuthorization error: \n");
+    EXPECT_EQ(client->state(), ClientState::kAwaitingCode);
+    EXPECT_TRUE(client->handleRedirect(Url("brindlex://authorize?code=abc")));
+}
+
+TEST_F(OAuth2ClientTest, FailedExchangeEndsInAFullReset) {
+    struct Case {
+        std::int32_t status;
+        const char* body;
+    };
+    for (const auto& [status, body] :
+         {Case{400, R"({"error":"invalid_grant"})"}, Case{200, ""}, Case{200, "text"}, Case{302, kReply},
+          Case{0, ""}, Case{500, kReply}}) {
+        host().credentials.stored = {"Name", "OAuth2Tokens", "old&old", ""};
+        listener->heard.clear();
+        reachTokenRequest();
+        host().web.answer(status, body);
+        EXPECT_THAT(told(), ElementsAre("1", "2", "4", "0", "authorizationCanceled")) << status;
+        EXPECT_FALSE(host().credentials.stored) << status;
+        EXPECT_EQ(client->state(), ClientState::kIdle) << status;
+    }
+}
+
+TEST_F(OAuth2ClientTest, RequestThatTheHostAbortsOrRefusesFailsTheExchange) {
+    reachTokenRequest();
+    client->abort();
+    EXPECT_THAT(told(), ElementsAre("1", "2", "4", "0", "authorizationCanceled"));
+    listener->heard.clear();
+    client->getAuthorizationCode();
+    host().web.refusesRequests = true;
+    EXPECT_FALSE(client->handleRedirect(Url("brindlex://authorize?code=abc")));
+    EXPECT_THAT(told(), ElementsAre("1", "2", "4", "0", "authorizationCanceled")) << "nobody waits for ever";
+}
+
+TEST_F(OAuth2ClientTest, ReplyWithoutAccessTokenSignsInAndStoresNothing) {
+    reachTokenRequest();
+    host().web.answer(200, R"({"refresh_token":"R"})");
+    EXPECT_EQ(client->state(), ClientState::kAuthorized);
+    EXPECT_FALSE(host().credentials.stored);
+}
+
+TEST_F(OAuth2ClientTest, ResetTellsUnlessSilent) {
+    client->resetAuthorization(Silence::kTold);
+    EXPECT_THAT(told(), ElementsAre("0", "authorizationCanceled"));
+    EXPECT_EQ(host().credentials.removals, 1);
+    listener->heard.clear();
+    client->resetAuthorization(Silence::kSilent);
+    EXPECT_THAT(told(), ElementsAre("0"));
+    EXPECT_EQ(host().credentials.removals, 2);
+}
+
+TEST_F(OAuth2ClientTest, RetryDuringTheExchangeStartsAfreshAndStays) {
+    reachTokenRequest();
+    client->retryAuthorization();
+    ASSERT_TRUE(client->handleRedirect(Url("brindlex://authorize?code=second")));
+    host().signals.pump(); // the abort of the first exchange is told only now
+    EXPECT_EQ(client->state(), ClientState::kRequestingToken);
+    host().web.answer(200, kReply);
+    EXPECT_THAT(told(), ElementsAre("1", "2", "0", "1", "2", "3", "authorizationCompleted"));
+    EXPECT_THAT(host().web.sent.back().body, testing::HasSubstr("code=second"));
+}
+
+TEST_F(OAuth2ClientTest, RestoresFromTheStoreWithoutAskingAnyone) {
+    EXPECT_FALSE(client->restoreAuthorization());
+    host().credentials.stored = {"Name", "OAuth2Tokens", "stored&R", ""};
+    client->getAuthorizationCode();
+    EXPECT_TRUE(client->restoreAuthorization()) << "also while the browser is open";
+    EXPECT_THAT(told(), ElementsAre("1", "3", "authorizationCompleted"));
+    EXPECT_TRUE(host().web.sent.empty());
+    ASSERT_TRUE(client->sendAuthorizedQuery([](const auto&, auto&) {}, "api/me"));
+    EXPECT_EQ(host().web.sent.back().headers.at("Authorization"), "Bearer stored");
+}
+
+TEST_F(OAuth2ClientTest, SendsServiceRequestsOnlyWhenAuthorizedAndFree) {
+    brindlex::ServiceRequest request;
+    request.path = "api/upload";
+    request.contentType = "text/x";
+    const auto handler = [](const auto&, auto&) {};
+    EXPECT_FALSE(client->sendAuthorizedRequest(handler, request));
+    signIn();
+    ASSERT_TRUE(client->sendAuthorizedRequest(handler, request));
+    EXPECT_FALSE(client->sendAuthorizedRequest(handler, request)) << "busy";
+    const auto& sent = host().web.sent.back();
+    EXPECT_EQ(sent.url, "https://service.example/base/api/upload");
+    EXPECT_EQ(sent.headers.at("Authorization"), "Bearer A");
+    EXPECT_EQ(sent.headers.at("Content-Type"), "text/x");
+    client->resetAuthorization(Silence::kTold);
+    host().signals.pump();
+    EXPECT_FALSE(client->sendAuthorizedRequest(handler, request));
+    client->getAuthorizationCode();
+    client->handleRedirect(Url("brindlex://authorize?code=abc"));
+    EXPECT_FALSE(host().web.sent.back().headers.contains("Authorization")) << "credentials are gone";
+}
+
+TEST_F(OAuth2ClientTest, ParametersActAndPropertiesTell) {
+    const auto set = [&](const char* name) {
+        return client->findParameter(xbr::toText(name))->setValue(xbr::integerValue(1));
+    };
+    const auto property = [&](const char* name) {
+        xbr::Value value{};
+        client->getProperty(xbr::toText(name), &value);
+        return xbr::integerOf(value, -1);
+    };
+    set("getAuthorizationCode");
+    EXPECT_EQ(property("clientState"), 1);
+    set("retryAuthorization");
+    set("retryAuthorization");
+    EXPECT_EQ(host().shell.opened.size(), 3U) << "the same value acts again";
+    client->handleRedirect(Url("brindlex://authorize?code=abc"));
+    EXPECT_EQ(property("isBusy"), 1);
+    host().web.answer(200, kReply);
+    EXPECT_EQ(property("isAuthorized"), 1);
+    EXPECT_EQ(xbr::integerOf(client->findParameter(xbr::toText("isAuthorized"))->value()), 1);
+    set("resetAuthorization");
+    EXPECT_EQ(property("clientState"), 0);
+    EXPECT_EQ(property("unknown"), -1);
+}
+
+TEST_F(OAuth2ClientTest, StaysWaitingWhenNoBrowserOpens) {
+    host().shell.fails = true;
+    EXPECT_FALSE(client->getAuthorizationCode());
+    EXPECT_EQ(client->state(), ClientState::kAwaitingCode);
+}
+
+} // namespace

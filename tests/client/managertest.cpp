@@ -1,0 +1,162 @@
+#include "client/configuration.h"
+#include "tests/client/clientfixture.h"
+
+#include <gmock/gmock.h>
+
+namespace brindlex {
+
+namespace {
+
+using fakehost::host;
+using testing::Contains;
+using testing::Not;
+
+class ManagerTest : public ClientFixture {};
+
+TEST_F(ManagerTest, ConnectsWithStoredTokensWithoutADialog) {
+    signIn();
+    EXPECT_TRUE(host().shell.opened.empty());
+    EXPECT_THAT(host().objects.log, Contains("load brindlex Brindlex Client 0 1"));
+    EXPECT_THAT(host().objects.log, Not(Contains("run BrindlexConnectDialog 66")));
+    EXPECT_EQ(host().web.sent.back().method, "GET");
+    EXPECT_EQ(host().web.sent.back().url, "https://service/api/frontstage/account");
+    EXPECT_EQ(text("userName"), "Mara");
+    EXPECT_EQ(text("userURL"), "https://web/me");
+    host().objects.log.clear();
+    perform("connect");
+    EXPECT_TRUE(host().objects.log.empty()) << "connected already";
+}
+
+TEST_F(ManagerTest, ConnectsThroughTheDialogAndTheBrowser) {
+    host().objects.onModalRun = [&] {
+        EXPECT_EQ(manager->client().state(), ClientState::kAwaitingCode);
+        EXPECT_EQ(host().shell.opened.size(), 1U);
+        manager->client().handleRedirect(xbr::Url("brindlex://authorize?code=c"));
+        host().web.answer(200, R"({"access_token":"A"})");
+        EXPECT_EQ(host().objects.log.back(), "close");
+    };
+    perform("connect");
+    EXPECT_THAT(host().objects.log, Contains("run BrindlexConnectDialog 66"));
+    EXPECT_TRUE(manager->client().isAuthorized());
+}
+
+TEST_F(ManagerTest, CancellingClearsTheUserAndClosesTheDialog) {
+    signIn();
+    manager->client().resetAuthorization(Silence::kTold);
+    host().signals.pump();
+    EXPECT_EQ(text("userName"), "");
+    EXPECT_EQ(text("userURL"), "");
+    host().objects.onModalRun = [&] {
+        manager->client().findParameter(xbr::toText("resetAuthorization"))->setValue(xbr::integerValue(1));
+        host().signals.pump();
+    };
+    perform("connect");
+    EXPECT_EQ(host().objects.log.back(), "close");
+    EXPECT_EQ(manager->client().state(), ClientState::kIdle);
+}
+
+TEST_F(ManagerTest, NoDialogMeansNoAuthorization) {
+    host().objects.hasDialog = false;
+    perform("connect");
+    EXPECT_TRUE(host().shell.opened.empty());
+    EXPECT_EQ(manager->client().state(), ClientState::kIdle);
+}
+
+TEST_F(ManagerTest, MayGoAwayWhileTheDialogRuns) {
+    host().objects.onModalRun = [&] {
+        manager.reset();
+        host().signals.pump();
+    };
+    perform("connect");
+    EXPECT_EQ(Manager::current(), nullptr);
+    EXPECT_EQ(host().signals.remaining(), 0U);
+}
+
+TEST_F(ManagerTest, LoadsTheConfigurationOncePerClient) {
+    host().objects.configurationResult = xbr::kFalse;
+    perform("connect");
+    EXPECT_EQ(manager->client().configuration().consumerKey, "") << "nothing is applied";
+    host().objects.configurationResult = xbr::kOk;
+    perform("connect");
+    EXPECT_EQ(manager->client().configuration().consumerKey, "key");
+    host().objects.configuration["ConsumerKey"] = "other";
+    perform("connect");
+    EXPECT_EQ(manager->client().configuration().consumerKey, "key");
+}
+
+TEST_F(ManagerTest, ConfigurationTakesWhatIsThere) {
+    const auto attributes = xbr::make<xbr::Attributes>();
+    attributes->set("ConsumerKey", "k\xC3\xA9y");
+    attributes->set("ConsumerSecret", xbr::integerValue(5));
+    attributes->set("JoinToken", "j\xC3\xB6in");
+    const ServiceConfiguration configuration = readConfiguration(*attributes);
+    EXPECT_EQ(configuration.consumerKey, "k?y");
+    EXPECT_EQ(configuration.consumerSecret, "");
+    EXPECT_EQ(configuration.joinToken, "j\xC3\xB6in");
+    EXPECT_TRUE(configuration.serverUrl.isEmpty());
+}
+
+TEST_F(ManagerTest, AccountReplyDecidesWhoIsShown) {
+    struct Case {
+        std::int32_t status;
+        const char* body;
+        const char* name;
+    };
+    for (const auto& [status, body, name] :
+         {Case{200, R"({"user":{"name":"Nils"}})", "Nils"}, Case{200, "no json", ""}, Case{204, "", ""},
+          Case{500, R"({"user":{"name":"Nils"}})", "old"}, Case{401, "", "old"}, Case{0, "", "old"}}) {
+        signIn();
+        manager->client().resetAuthorization(Silence::kSilent);
+        manager->findParameter(xbr::toText("userName"))->setValue(xbr::textValue("old"));
+        host().credentials.stored = {"Kestrova_Brindlex_Client", "OAuth2Tokens", "A&R", ""};
+        perform("connect");
+        host().signals.pump();
+        host().web.answer(status, body);
+        EXPECT_EQ(text("userName"), name) << status;
+        manager->client().resetAuthorization(Silence::kTold);
+        host().signals.pump();
+    }
+}
+
+TEST_F(ManagerTest, UploadIsEnabledOnlyWhenItCanRun) {
+    EXPECT_FALSE(isEnabled("upload"));
+    signIn();
+    EXPECT_FALSE(isEnabled("upload")) << "no tracks";
+    addTrack("a", false);
+    EXPECT_FALSE(isEnabled("upload")) << "nothing complete";
+    addTrack("b");
+    EXPECT_TRUE(isEnabled("upload"));
+    manager->client().sendAuthorizedQuery([](const auto&, auto&) {}, "x");
+    EXPECT_FALSE(isEnabled("upload")) << "busy";
+    host().web.answer(200);
+    EXPECT_TRUE(isEnabled("upload"));
+    manager->client().resetAuthorization(Silence::kSilent);
+    EXPECT_FALSE(isEnabled("upload"));
+}
+
+TEST_F(ManagerTest, FirstInstanceIsTheCurrentOne) {
+    EXPECT_EQ(Manager::current(), manager.get());
+    auto second = xbr::make<Manager>();
+    EXPECT_EQ(Manager::current(), manager.get());
+    manager.reset();
+    EXPECT_EQ(Manager::current(), nullptr);
+    second.reset();
+}
+
+TEST_F(ManagerTest, DashboardVisibleIsTruncated) {
+    struct Case {
+        xbr::Value value;
+        bool visible;
+    };
+    for (const auto& [value, visible] :
+         {Case{xbr::integerValue(2), true}, Case{xbr::floatValue(0.5), false},
+          Case{xbr::floatValue(1.7), true}, Case{xbr::floatValue(-0.9), false},
+          Case{xbr::integerValue(0), false}, Case{xbr::textValue("1"), false}}) {
+        EXPECT_EQ(manager->setProperty(xbr::toText("dashboardVisible"), value), xbr::kFalse);
+        EXPECT_EQ(manager->isDashboardVisible(), visible);
+    }
+}
+
+} // namespace
+
+} // namespace brindlex

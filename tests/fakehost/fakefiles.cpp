@@ -1,0 +1,130 @@
+#include "tests/fakehost/fakefiles.h"
+
+#include "framework/support/memorystream.h"
+#include "framework/support/text.h"
+#include "tests/fakehost/fakehost.h"
+
+namespace fakehost {
+
+namespace {
+
+xbr::Ref<xbr::MemoryStream> makeStream(const std::string& bytes) {
+    auto stream = xbr::make<xbr::MemoryStream>();
+    stream->write(bytes);
+    xbr::rewind(*stream);
+    return stream;
+}
+
+/// Puts every byte written into the file at once.
+class FileWriter final : public xbr::Object<xbr::IStream> {
+public:
+    explicit FileWriter(std::string url) : m_url(std::move(url)) {}
+
+    xbr::Result read(void*, std::uint64_t, std::uint64_t*) noexcept override { return xbr::kNotImplemented; }
+    xbr::Result write(const void* buffer, std::uint64_t size, std::uint64_t* done) noexcept override {
+        host().files.files[m_url].append(static_cast<const char*>(buffer), size);
+        if (done) {
+            *done = size;
+        }
+        return xbr::kOk;
+    }
+    xbr::Result seek(std::int64_t, xbr::SeekOrigin, std::int64_t*) noexcept override {
+        return xbr::kNotImplemented;
+    }
+
+private:
+    std::string m_url;
+};
+
+class FakePackage final : public xbr::Object<xbr::IPackage> {
+public:
+    explicit FakePackage(std::string url) : m_url(std::move(url)) {}
+
+    xbr::Result setOption(xbr::Text name, std::int64_t value) noexcept override {
+        m_listing += xbr::toString(name) + ":" + std::to_string(value) + ";";
+        return xbr::kOk;
+    }
+    xbr::Result create() noexcept override {
+        return host().packages.failsToCreate ? xbr::kUnexpected : xbr::kOk;
+    }
+    xbr::Result addFolder(xbr::Text folder, std::int32_t, xbr::IProgress* progress) noexcept override {
+        const std::string prefix = xbr::toString(folder) + "/";
+        for (const auto& [url, bytes] : host().files.files) {
+            if (url.starts_with(prefix)) {
+                m_listing += url.substr(prefix.size()) + "=" + bytes + ";";
+            }
+        }
+        progress->update(0.5, xbr::toText("half"));
+        return xbr::kOk;
+    }
+    xbr::Result flush(xbr::IProgress*) noexcept override {
+        if (host().packages.failsToFlush) {
+            return xbr::kUnexpected;
+        }
+        host().files.files[m_url] = m_listing;
+        return xbr::kOk;
+    }
+    xbr::Result close() noexcept override { return xbr::kOk; }
+
+private:
+    std::string m_url;
+    std::string m_listing;
+};
+
+} // namespace
+
+xbr::Result FakeFileSystem::openForReading(xbr::Text url, xbr::IStream** out) noexcept {
+    const auto found = files.find(xbr::toString(url));
+    const bool readable = found != files.end() && !unreadable.contains(found->first);
+    *out = readable ? makeStream(found->second).detach() : nullptr;
+    return readable ? xbr::kOk : xbr::kFalse;
+}
+
+xbr::Result FakeFileSystem::createFile(xbr::Text url, xbr::IStream** out) noexcept {
+    files[xbr::toString(url)].clear();
+    *out = xbr::make<FileWriter>(xbr::toString(url)).detach();
+    return xbr::kOk;
+}
+
+xbr::Result FakeFileSystem::copyFile(xbr::Text from, xbr::Text to) noexcept {
+    if (!fileExists(from)) {
+        return xbr::kUnexpected;
+    }
+    files[xbr::toString(to)] = files[xbr::toString(from)];
+    return xbr::kOk;
+}
+
+bool FakeFileSystem::fileExists(xbr::Text url) noexcept {
+    return files.contains(xbr::toString(url));
+}
+
+bool FakeFileSystem::folderExists(xbr::Text url) noexcept {
+    const std::string prefix = xbr::toString(url) + "/";
+    const auto found = files.lower_bound(prefix);
+    return found != files.end() && found->first.starts_with(prefix);
+}
+
+xbr::Result FakeFileSystem::removeFile(xbr::Text url) noexcept {
+    return files.erase(xbr::toString(url)) > 0 ? xbr::kOk : xbr::kFalse;
+}
+
+xbr::Result FakeFileSystem::removeFolder(xbr::Text url) noexcept {
+    const std::string prefix = xbr::toString(url) + "/";
+    return std::erase_if(files, [&](const auto& file) { return file.first.starts_with(prefix); }) > 0
+               ? xbr::kOk
+               : xbr::kFalse;
+}
+
+xbr::Result FakeFileSystem::registerResources(xbr::Text, const void*, std::uint64_t) noexcept {
+    return xbr::kOk;
+}
+xbr::Result FakeFileSystem::unregisterResources(xbr::Text) noexcept {
+    return xbr::kOk;
+}
+
+xbr::Result FakePackageHandler::createPackage(const xbr::Uid&, xbr::Text url, xbr::IPackage** out) noexcept {
+    *out = xbr::make<FakePackage>(xbr::toString(url)).detach();
+    return xbr::kOk;
+}
+
+} // namespace fakehost

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "framework/abi/filesystem.h"
+#include "framework/abi/package.h"
+#include "framework/support/object.h"
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace fakehost {
+
+/// Files in memory, by URL. Folders exist as long as they hold a file.
+class FakeFileSystem final : public xbr::Object<xbr::IFileSystem> {
+public:
+    xbr::Result openForReading(xbr::Text url, xbr::IStream** out) noexcept override;
+    xbr::Result createFile(xbr::Text url, xbr::IStream** out) noexcept override;
+    xbr::Result copyFile(xbr::Text from, xbr::Text to) noexcept override;
+    bool fileExists(xbr::Text url) noexcept override;
+    bool folderExists(xbr::Text url) noexcept override;
+    xbr::Result removeFile(xbr::Text url) noexcept override;
+    xbr::Result removeFolder(xbr::Text url) noexcept override;
+    xbr::Result registerResources(xbr::Text name, const void* bytes, std::uint64_t size) noexcept override;
+    xbr::Result unregisterResources(xbr::Text name) noexcept override;
+
+    std::map<std::string, std::string> files;
+    std::set<std::string> unreadable; ///< files that exist and cannot be opened
+};
+
+/// Writes "archives" that list what was packed, one "name=bytes;" each.
+class FakePackageHandler final : public xbr::Object<xbr::IPackageHandler> {
+public:
+    xbr::Result createPackage(const xbr::Uid& type, xbr::Text url, xbr::IPackage** out) noexcept override;
+
+    bool failsToCreate = false;
+    bool failsToFlush = false;
+};
+
+} // namespace fakehost

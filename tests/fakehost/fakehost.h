@@ -1,0 +1,32 @@
+#pragma once
+
+#include "tests/fakehost/fakefiles.h"
+#include "tests/fakehost/fakeobjects.h"
+#include "tests/fakehost/fakesignalhandler.h"
+#include "tests/fakehost/fakesystem.h"
+#include "tests/fakehost/fakeweb.h"
+
+namespace fakehost {
+
+/// A host without a window, a network or a disk: everything that the accessors answer, recording what it is
+/// asked and failing when it is told to.
+struct FakeHost {
+    FakeSignalHandler signals;
+    FakeWebService web;
+    FakeFileSystem files;
+    FakePackageHandler packages;
+    FakeSystem system;
+    FakeSystemShell shell;
+    FakeCredentialManager credentials;
+    FakeFileTypeRegistry fileTypes;
+    FakeLocaleManager locale;
+    FakePlugInManager objects;
+};
+
+/// The host of the running test.
+FakeHost& host();
+
+/// Starts a new one; call it at the beginning of each test, when nothing of the last one is left.
+void resetHost();
+
+} // namespace fakehost

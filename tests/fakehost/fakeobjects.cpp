@@ -1,0 +1,143 @@
+#include "tests/fakehost/fakeobjects.h"
+
+#include "framework/support/text.h"
+#include "framework/support/value.h"
+#include "tests/fakehost/fakehost.h"
+
+namespace fakehost {
+
+namespace {
+
+FakePlugInManager& objects() {
+    return host().objects;
+}
+
+class FakeView final : public xbr::Object<xbr::IView> {
+public:
+    FakeView(std::string form, xbr::IController* controller)
+        : m_form(std::move(form)),
+          m_controller(xbr::Ref<xbr::IController>::share(controller)) {}
+    xbr::Text formName() const noexcept override { return xbr::toText(m_form); }
+    xbr::IController* controller() noexcept override { return m_controller.get(); }
+
+private:
+    std::string m_form;
+    xbr::Ref<xbr::IController> m_controller;
+};
+
+class FakeTheme final : public xbr::Object<xbr::ITheme> {
+public:
+    xbr::Result load(xbr::Text folder) noexcept override {
+        objects().log.push_back("theme " + xbr::toString(folder));
+        return objects().themeLoads ? xbr::kOk : xbr::kInvalidArgument;
+    }
+    bool hasForm(xbr::Text) const noexcept override { return true; }
+    xbr::Result createView(xbr::Text form, xbr::IController* controller, xbr::IView** out) noexcept override {
+        *out = xbr::make<FakeView>(xbr::toString(form), controller).detach();
+        return xbr::kOk;
+    }
+};
+
+/// Runs until it is closed: `onModalRun` is the event loop.
+class FakeDialog final : public xbr::Object<xbr::IDialog> {
+public:
+    xbr::Result setTheme(xbr::ITheme*) noexcept override { return xbr::kOk; }
+    xbr::Result setTranslationTable(xbr::ITranslationTable*) noexcept override { return xbr::kOk; }
+    xbr::Result runModal(xbr::IView* view, std::int32_t styleFlags) noexcept override {
+        objects().log.push_back("run " + xbr::toString(view->formName()) + " " + std::to_string(styleFlags));
+        if (objects().onModalRun) {
+            objects().onModalRun();
+        }
+        return xbr::kOk;
+    }
+    xbr::Result close() noexcept override {
+        objects().log.emplace_back("close");
+        return xbr::kOk;
+    }
+};
+
+class FakeProgressIndicator final : public xbr::Object<xbr::IProgressIndicator, xbr::IProgress> {
+public:
+    void setTitle(xbr::Text title) noexcept override {
+        objects().log.push_back("title " + xbr::toString(title));
+    }
+    void setOption(std::int32_t option) noexcept override {
+        objects().log.push_back("option " + std::to_string(option));
+    }
+    void begin() noexcept override { objects().log.emplace_back("begin"); }
+    void end() noexcept override { objects().log.emplace_back("end"); }
+    void update(double, xbr::Text) noexcept override {
+        if (objects().onProgressUpdate) {
+            objects().onProgressUpdate();
+        }
+    }
+    bool isCancelled() noexcept override { return objects().cancelled; }
+};
+
+class FakeConfigurationStore final : public xbr::Object<xbr::IConfigurationStore> {
+public:
+    xbr::Result load(xbr::IAttributes* out, xbr::Text id, xbr::Text title, std::int32_t profile,
+                     std::int32_t mode) noexcept override {
+        objects().log.push_back("load " + xbr::toString(id) + " " + xbr::toString(title) + " " +
+                                std::to_string(profile) + " " + std::to_string(mode));
+        for (const auto& [key, value] : objects().configuration) {
+            out->set(xbr::toText(key), xbr::textValue(value));
+        }
+        return objects().configurationResult;
+    }
+};
+
+class FakeMediaFileInfo final : public xbr::Object<xbr::IMediaFileInfo> {
+public:
+    xbr::Result open(xbr::Text url) noexcept override {
+        m_url = xbr::view(url);
+        return objects().tags.contains(m_url) ? xbr::kOk : xbr::kUnexpected;
+    }
+    xbr::Result getAttributes(xbr::IAttributes* out) noexcept override {
+        for (const auto& [key, value] : objects().tags[m_url]) {
+            out->set(xbr::toText(key), xbr::textValue(value));
+        }
+        return xbr::kOk;
+    }
+
+private:
+    std::string m_url;
+};
+
+class FakeJoinTokenPermission final : public xbr::Object<xbr::IJoinTokenPermission> {
+public:
+    bool isAllowed() noexcept override { return objects().joinTokenAllowed; }
+};
+
+template <class T>
+xbr::Result create(const xbr::Uid& interfaceUid, void** out) {
+    return xbr::make<T>()->queryInterface(interfaceUid, out);
+}
+
+} // namespace
+
+xbr::Result FakePlugInManager::createInstance(const xbr::Uid& classUid, const xbr::Uid& interfaceUid,
+                                              void** out) noexcept {
+    *out = nullptr;
+    if (classUid == xbr::ITheme::kClassUid) {
+        return create<FakeTheme>(interfaceUid, out);
+    }
+    if (classUid == xbr::IDialog::kClassUid && hasDialog) {
+        return create<FakeDialog>(interfaceUid, out);
+    }
+    if (classUid == xbr::IProgressIndicator::kClassUid) {
+        return create<FakeProgressIndicator>(interfaceUid, out);
+    }
+    if (classUid == xbr::IConfigurationStore::kClassUid) {
+        return create<FakeConfigurationStore>(interfaceUid, out);
+    }
+    if (classUid == xbr::IMediaFileInfo::kClassUid) {
+        return create<FakeMediaFileInfo>(interfaceUid, out);
+    }
+    if (classUid == xbr::IJoinTokenPermission::kClassUid && hasJoinTokenPermission) {
+        return create<FakeJoinTokenPermission>(interfaceUid, out);
+    }
+    return xbr::kNoInterface;
+}
+
+} // namespace fakehost

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "framework/abi/message.h"
+#include "framework/support/object.h"
+
+#include <algorithm>
+#include <deque>
+#include <functional>
+#include <vector>
+
+namespace fakehost {
+
+/// Delivers signals at once and posted messages when `pump` is called.
+class FakeSignalHandler final : public xbr::Object<xbr::ISignalHandler> {
+public:
+    xbr::Result addObserver(xbr::ISubject* subject, xbr::IObserver* observer) noexcept override;
+    xbr::Result removeObserver(xbr::ISubject* subject, xbr::IObserver* observer) noexcept override;
+    void signal(xbr::ISubject* subject, xbr::IMessage* message) noexcept override;
+    void postSignal(xbr::ISubject* subject, xbr::IMessage* message) noexcept override;
+    void post(xbr::IObserver* observer, xbr::IMessage* message, std::int32_t delay) noexcept override;
+    void forgetObserver(xbr::IObserver* observer) noexcept override;
+    void forgetSubject(xbr::ISubject* subject) noexcept override;
+
+    /// Runs `task` in its turn, like a completion that comes from the event loop.
+    void enqueue(std::function<void()> task);
+
+    /// Delivers everything posted, also what is posted meanwhile.
+    void pump();
+
+    /// Observers and undelivered messages: 0 when everybody cleaned up.
+    std::size_t remaining() const { return m_pairs.size() + m_posted.size(); }
+
+private:
+    struct Pair {
+        xbr::ISubject* subject;
+        xbr::IObserver* observer;
+    };
+    struct Posted {
+        xbr::ISubject* subject;
+        xbr::IObserver* observer;
+        xbr::Ref<xbr::IMessage> message;
+        std::function<void()> task;
+    };
+
+    std::vector<Pair> m_pairs;
+    std::deque<Posted> m_posted;
+};
+
+} // namespace fakehost

@@ -1,0 +1,105 @@
+#include "tests/fakehost/fakesystem.h"
+
+#include "framework/support/text.h"
+
+namespace fakehost {
+
+namespace {
+
+class Credential final : public xbr::Object<xbr::ICredential> {
+public:
+    explicit Credential(FakeCredentialManager::Stored stored) : m_stored(std::move(stored)) {}
+    xbr::Text userName() const noexcept override { return xbr::toText(m_stored.userName); }
+    xbr::Text password() const noexcept override { return xbr::toText(m_stored.password); }
+
+private:
+    FakeCredentialManager::Stored m_stored;
+};
+
+class FileType final : public xbr::Object<xbr::IFileType> {
+public:
+    explicit FileType(std::string extension) : m_extension(std::move(extension)) {}
+    xbr::Text extension() const noexcept override { return xbr::toText(m_extension); }
+    xbr::Text mimeType() const noexcept override { return xbr::toText(""); }
+    xbr::Text description() const noexcept override { return xbr::toText(""); }
+
+private:
+    std::string m_extension;
+};
+
+} // namespace
+
+xbr::Result FakeSystem::getTemporaryFolder(xbr::IString** out) noexcept {
+    return xbr::giveText("file:///tmp/host", out);
+}
+
+void FakeSystem::writeDebugWarning(xbr::Text message) noexcept {
+    warnings += xbr::view(message);
+}
+
+xbr::Result FakeSystemShell::openUrl(xbr::Text url) noexcept {
+    opened.push_back(xbr::toString(url));
+    return fails ? xbr::kUnexpected : xbr::kOk;
+}
+
+xbr::Result FakeCredentialManager::add(xbr::Text target, xbr::Text userName, xbr::Text password,
+                                       xbr::Text note) noexcept {
+    if (locked) {
+        return xbr::kUnexpected;
+    }
+    stored =
+        Stored{xbr::toString(target), xbr::toString(userName), xbr::toString(password), xbr::toString(note)};
+    return xbr::kOk;
+}
+
+xbr::Result FakeCredentialManager::find(xbr::Text target, xbr::ICredential** out) noexcept {
+    const bool found = stored && stored->target == xbr::view(target);
+    *out = found ? xbr::make<Credential>(*stored).detach() : nullptr;
+    return found ? xbr::kOk : xbr::kFalse;
+}
+
+xbr::Result FakeCredentialManager::remove(xbr::Text target) noexcept {
+    ++removals;
+    if (!stored || stored->target != xbr::view(target)) {
+        return xbr::kFalse;
+    }
+    stored.reset();
+    return xbr::kOk;
+}
+
+xbr::Result FakeFileTypeRegistry::getTypeByExtension(xbr::Text, xbr::IFileType** out) noexcept {
+    *out = nullptr;
+    return xbr::kFalse;
+}
+
+xbr::Result FakeFileTypeRegistry::getTypeByMimeType(xbr::Text, xbr::IFileType** out) noexcept {
+    *out = nullptr;
+    return xbr::kFalse;
+}
+
+xbr::Result FakeFileTypeRegistry::createType(xbr::Text extension, xbr::IFileType** out) noexcept {
+    *out = xbr::make<FileType>(xbr::toString(extension)).detach();
+    return xbr::kOk;
+}
+
+xbr::Result FakeFileTypeRegistry::addHandler(xbr::IFileHandler* handler) noexcept {
+    handlers.push_back(xbr::Ref<xbr::IFileHandler>::share(handler));
+    return xbr::kOk;
+}
+
+xbr::Result FakeFileTypeRegistry::removeHandler(xbr::IFileHandler* handler) noexcept {
+    std::erase_if(handlers, [&](const auto& held) { return held.get() == handler; });
+    return xbr::kOk;
+}
+
+bool FakeFileTypeRegistry::openUrl(xbr::Text url) noexcept {
+    const auto snapshot = handlers;
+    for (const auto& handler : snapshot) {
+        if (handler->openUrl(url)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace fakehost

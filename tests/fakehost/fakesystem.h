@@ -1,0 +1,73 @@
+#pragma once
+
+#include "framework/abi/credentials.h"
+#include "framework/abi/filetype.h"
+#include "framework/abi/locale.h"
+#include "framework/abi/system.h"
+#include "framework/support/object.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fakehost {
+
+class FakeSystem final : public xbr::Object<xbr::ISystem> {
+public:
+    std::int64_t currentTime() const noexcept override { return time; }
+    xbr::Result getTemporaryFolder(xbr::IString** out) noexcept override;
+    void writeDebugWarning(xbr::Text message) noexcept override;
+
+    std::int64_t time = 1'000'000;
+    std::string warnings;
+};
+
+class FakeSystemShell final : public xbr::Object<xbr::ISystemShell> {
+public:
+    xbr::Result openUrl(xbr::Text url) noexcept override;
+
+    std::vector<std::string> opened;
+    bool fails = false;
+};
+
+/// A credential store with one field per part of a credential.
+class FakeCredentialManager final : public xbr::Object<xbr::ICredentialManager> {
+public:
+    struct Stored {
+        std::string target;
+        std::string userName;
+        std::string password;
+        std::string note;
+    };
+
+    xbr::Result add(xbr::Text target, xbr::Text userName, xbr::Text password,
+                    xbr::Text note) noexcept override;
+    xbr::Result find(xbr::Text target, xbr::ICredential** out) noexcept override;
+    xbr::Result remove(xbr::Text target) noexcept override;
+
+    std::optional<Stored> stored;
+    int removals = 0;
+    bool locked = false;
+};
+
+class FakeFileTypeRegistry final : public xbr::Object<xbr::IFileTypeRegistry> {
+public:
+    xbr::Result getTypeByExtension(xbr::Text extension, xbr::IFileType** out) noexcept override;
+    xbr::Result getTypeByMimeType(xbr::Text mimeType, xbr::IFileType** out) noexcept override;
+    xbr::Result createType(xbr::Text extension, xbr::IFileType** out) noexcept override;
+    xbr::Result addHandler(xbr::IFileHandler* handler) noexcept override;
+    xbr::Result removeHandler(xbr::IFileHandler* handler) noexcept override;
+    bool openUrl(xbr::Text url) noexcept override;
+
+    std::vector<xbr::Ref<xbr::IFileHandler>> handlers;
+};
+
+class FakeLocaleManager final : public xbr::Object<xbr::ILocaleManager> {
+public:
+    xbr::Result getTable(xbr::Text, xbr::ITranslationTable** out) noexcept override {
+        *out = nullptr;
+        return xbr::kFalse;
+    }
+};
+
+} // namespace fakehost

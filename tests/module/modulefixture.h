@@ -1,0 +1,50 @@
+#pragma once
+
+#include "client/manager.h"
+#include "framework/abi/module.h"
+#include "framework/abi/publisher.h"
+#include "framework/support/text.h"
+#include "tests/fakehost/fakehost.h"
+#include "ui/tracks.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+
+class FakeContext final : public xbr::Object<xbr::IHostContext> {
+public:
+    std::uint32_t borderVersion() const noexcept override { return version; }
+    xbr::Text hostName() const noexcept override { return xbr::toText("fake"); }
+    xbr::Text hostVersion() const noexcept override { return xbr::toText("1"); }
+
+    std::uint32_t version = xbr::kBorderVersion;
+};
+
+/// The module as a host has it after loading: started, with its service.
+class ModuleFixture : public testing::Test {
+protected:
+    ModuleFixture() {
+        fakehost::resetHost();
+        EXPECT_EQ(XBRModuleMain(this, 1), 1);
+        auto* factory = XBRGetClassFactory();
+        service = create<xbr::IProgramService>(*factory, factory->classAt(0)->uid);
+    }
+    ~ModuleFixture() override {
+        service.reset();
+        XBRModuleMain(this, 2);
+        EXPECT_EQ(fakehost::host().signals.remaining(), 0U);
+        EXPECT_TRUE(fakehost::host().fileTypes.handlers.empty());
+    }
+
+    template <class Interface>
+    static xbr::Ref<Interface> create(xbr::IClassFactory& factory, const xbr::Uid& uid) {
+        void* object = nullptr;
+        factory.createInstance(uid, Interface::kUid, &object);
+        return xbr::Ref<Interface>::adopt(static_cast<Interface*>(object));
+    }
+
+    xbr::Ref<FakeContext> context = xbr::make<FakeContext>();
+    xbr::Ref<xbr::IProgramService> service;
+};
+
+} // namespace brindlex

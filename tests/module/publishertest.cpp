@@ -1,0 +1,111 @@
+#include "framework/support/objectlist.h"
+#include "module/uploadpublisher.h"
+#include "tests/module/modulefixture.h"
+
+namespace brindlex {
+
+namespace {
+
+using fakehost::host;
+
+/// A song that the host rendered.
+class Song final : public xbr::Object<xbr::IUrlSource, xbr::IMediaAttributes> {
+public:
+    explicit Song(std::string url) : m_url(std::move(url)) {}
+    xbr::Result getUrl(xbr::IString** out) noexcept override {
+        *out = nullptr;
+        return m_url.empty() ? xbr::kFalse : xbr::giveText(m_url, out);
+    }
+    xbr::Result getMediaAttributes(xbr::IAttributes* out) noexcept override {
+        for (const char* key :
+             {"Media:Title", "Media:Artist", "Media:Album", "Media:AlbumArtist", "Media:Genre"}) {
+            out->set(xbr::toText(key), xbr::textValue(std::string(key).substr(6)));
+        }
+        out->set(xbr::toText("Media:TrackIndex"), xbr::integerValue(7));
+        return xbr::kOk;
+    }
+
+private:
+    std::string m_url;
+};
+
+/// The panel's window.
+class Window final : public xbr::Object<xbr::IView, xbr::IShow> {
+public:
+    xbr::Text formName() const noexcept override { return xbr::toText("BrindlexManager"); }
+    xbr::IController* controller() noexcept override { return nullptr; }
+    xbr::Result show() noexcept override {
+        ++shown;
+        return xbr::kOk;
+    }
+
+    int shown = 0;
+};
+
+class PublisherTest : public ModuleFixture {
+protected:
+    xbr::Result publish(std::initializer_list<const char*> urls) {
+        const auto items = xbr::make<xbr::ObjectList>();
+        for (const char* url : urls) {
+            const auto song = xbr::make<Song>(url);
+            items->add(xbr::query<xbr::IObject>(song.get()));
+        }
+        return publisher->publish(items.get());
+    }
+
+    xbr::Ref<UploadPublisher> publisher = xbr::make<UploadPublisher>();
+};
+
+TEST_F(PublisherTest, AnswersTheQuestionAboutTheFileType) {
+    struct Case {
+        const char* offered;
+        xbr::Result result;
+        const char* answer;
+    };
+    for (const auto& [offered, result, answer] :
+         {Case{"FLAC", xbr::kOk, "FLAC"}, Case{"wav", xbr::kOk, "wav"}, Case{"mp3", xbr::kOk, "mp3"},
+          Case{"aiff", xbr::kInvalidArgument, "wav"}, Case{"", xbr::kInvalidArgument, "wav"}}) {
+        xbr::Ref<xbr::IFileType> type;
+        host().fileTypes.createType(xbr::toText(offered), type.out());
+        xbr::IFileType* slot = type.detach();
+        EXPECT_EQ(publisher->acceptFileType(&slot), result) << offered;
+        EXPECT_EQ(xbr::toString(slot->extension()), answer) << offered;
+        slot->release();
+    }
+}
+
+TEST_F(PublisherTest, NeedsThePanel) {
+    EXPECT_EQ(publish({"file:///a.wav"}), xbr::kUnexpected);
+}
+
+TEST_F(PublisherTest, FillsTheListAndShowsThePanel) {
+    const auto manager = xbr::make<Manager>();
+    const auto window = xbr::make<Window>();
+    manager->viewAttached(window.get());
+    auto& list = manager->trackList();
+
+    EXPECT_EQ(publish({"file:///one.wav"}), xbr::kOk);
+    EXPECT_EQ(list.mode(), UploadMode::kSingles);
+    EXPECT_EQ(window->shown, 1);
+
+    EXPECT_EQ(publish({"file:///a.wav", "file:///x.aiff", "", "file:///b.mp3"}), xbr::kOk);
+    EXPECT_EQ(list.mode(), UploadMode::kAlbum);
+    ASSERT_EQ(list.model().countRows(), 2) << "the earlier song is gone";
+    const TrackMetadata& record = *trackAt(list.model(), 1).metadata;
+    EXPECT_EQ(record.songTitle, "Title");
+    EXPECT_EQ(record.songArtist, "Artist");
+    EXPECT_EQ(record.albumTitle, "Album");
+    EXPECT_EQ(record.albumArtist, "AlbumArtist");
+    EXPECT_EQ(record.primaryGenre, "Genre");
+    EXPECT_EQ(record.trackNumber, 7);
+
+    EXPECT_EQ(publish({"file:///one.wav"}), xbr::kOk);
+    EXPECT_EQ(list.mode(), UploadMode::kAlbum) << "a single song leaves the mode alone";
+    EXPECT_EQ(publish({"file:///x.aiff"}), xbr::kOk);
+    EXPECT_EQ(list.model().countRows(), 0);
+    manager->viewDetached(window.get());
+}
+
+} // namespace
+
+} // namespace brindlex

@@ -1,0 +1,67 @@
+#include "module/classtable.h"
+#include "tests/module/modulefixture.h"
+
+namespace brindlex {
+
+namespace {
+
+using fakehost::host;
+
+class SupportServiceTest : public ModuleFixture {};
+
+TEST_F(SupportServiceTest, OffersTheClassesInOrder) {
+    xbr::Ref<xbr::IClassFactory> classes;
+    EXPECT_EQ(service->getClasses(classes.out()), xbr::kFalse) << "before initialise";
+    ASSERT_EQ(service->initialise(context.get()), xbr::kOk);
+    ASSERT_EQ(service->getClasses(classes.out()), xbr::kOk);
+    ASSERT_EQ(classes->countClasses(), 3);
+    const std::string names[] = {"Publisher Upload to Brindlex", "Gadget Brindlex Client",
+                                 "MetaClass Brindlex Client"};
+    for (int i = 0; i < 3; ++i) {
+        const auto* description = classes->classAt(i);
+        EXPECT_EQ(xbr::toString(description->category) + " " + xbr::toString(description->name), names[i]);
+        EXPECT_EQ(description->flags, 0U);
+    }
+    xbr::Value metaClassId{};
+    ASSERT_EQ(classes->attributesAt(1)->get(xbr::toText("Class:MetaClassID"), &metaClassId), xbr::kOk);
+    EXPECT_EQ(xbr::textOf(metaClassId), xbr::toString(classes->classAt(2)->uid));
+    EXPECT_TRUE(create<xbr::IGadgetDescription>(*classes, classes->classAt(2)->uid));
+    EXPECT_FALSE(create<xbr::IPublisher>(*classes, classes->classAt(1)->uid)) << "a gadget is no publisher";
+}
+
+TEST_F(SupportServiceTest, TakesCallbackUrlsWhileItRuns) {
+    service->initialise(context.get());
+    EXPECT_TRUE(host().fileTypes.openUrl(xbr::toText("brindlex://authorize?code=c")))
+        << "nobody waits for it";
+    EXPECT_FALSE(host().fileTypes.openUrl(xbr::toText("file:///a.wav")));
+    EXPECT_FALSE(host().fileTypes.openUrl(xbr::toText("brindlexx://authorize")));
+    {
+        const auto manager = xbr::make<Manager>();
+        manager->client().getAuthorizationCode();
+        EXPECT_TRUE(host().fileTypes.openUrl(xbr::toText("BRINDLEX://authorize?code=c")));
+        EXPECT_EQ(manager->client().state(), ClientState::kRequestingToken);
+    }
+    EXPECT_EQ(service->terminate(), xbr::kOk);
+    EXPECT_TRUE(host().fileTypes.handlers.empty());
+    EXPECT_EQ(service->terminate(), xbr::kOk) << "twice is harmless";
+}
+
+TEST_F(SupportServiceTest, RefusesAHostOfAnotherBorder) {
+    context->version = xbr::kBorderVersion + 0x10000;
+    EXPECT_EQ(service->initialise(context.get()), xbr::kUnexpected);
+    EXPECT_TRUE(host().fileTypes.handlers.empty());
+    context->version = xbr::kBorderVersion + 1;
+    EXPECT_EQ(service->initialise(context.get()), xbr::kOk) << "a higher minor only adds";
+}
+
+TEST_F(SupportServiceTest, NothingCanBeCreatedAfterUnloading) {
+    service->initialise(context.get());
+    xbr::Ref<xbr::IClassFactory> classes;
+    service->getClasses(classes.out());
+    XBRModuleMain(this, 2);
+    EXPECT_FALSE(create<xbr::IController>(*classes, gadgetClass().uid));
+}
+
+} // namespace
+
+} // namespace brindlex

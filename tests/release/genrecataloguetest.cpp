@@ -1,0 +1,73 @@
+#include "release/genrecatalogue.h"
+
+#include "framework/support/component.h"
+#include "tests/fakehost/fakehost.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+constexpr const char* kResource = "resource://brindlex/brindlex_genres.csv";
+
+// The catalogue is filled once per process: each test runs in a process of its own.
+class GenreCatalogueTest : public testing::Test, public xbr::IParameterOwner {
+protected:
+    GenreCatalogueTest() { fakehost::resetHost(); }
+
+    void load(std::string text) {
+        fakehost::host().files.files[kResource] = std::move(text);
+        brindlex::loadGenres();
+        parameter->setChoices(brindlex::genreNames());
+    }
+
+    std::int64_t indexOf(const char* text) {
+        parameter->set(xbr::integerValue(0));
+        brindlex::getGenreIndex(*parameter, text);
+        return parameter->integer();
+    }
+
+    void parameterChanged(xbr::Parameter&) override {}
+
+    xbr::Ref<xbr::Parameter> parameter = xbr::make<xbr::Parameter>(static_cast<xbr::IParameterOwner&>(*this),
+                                                                   xbr::ParameterKind::kList, 102, "genre");
+};
+
+TEST_F(GenreCatalogueTest, ShippedListHasItsNamesInOrder) {
+    std::ifstream file(BRINDLEX_GENRES_FILE);
+    load({std::istreambuf_iterator<char>(file), {}});
+    const auto& names = brindlex::genreNames();
+    ASSERT_EQ(names.size(), 135U);
+    EXPECT_EQ(names[0], "");
+    EXPECT_EQ(names[1], "140 / Deep Dubstep / Grime");
+    EXPECT_EQ(names[14], "Ax\xC3\xA9");
+    EXPECT_EQ(names[134], "World");
+    struct Case {
+        const char* text;
+        const char* name;
+    };
+    for (const auto& [text, name] :
+         {Case{"rock", "Rock"}, Case{"AX\xC3\x89", "Ax\xC3\xA9"}, Case{"dubstep", "Dubstep"},
+          Case{"Deep Dub", "140 / Deep Dubstep / Grime"}, Case{"Polka", ""}, Case{"", ""}}) {
+        EXPECT_EQ(names[static_cast<std::size_t>(indexOf(text))], name) << text;
+        EXPECT_EQ(brindlex::getGenreText(*parameter), name) << text;
+    }
+}
+
+TEST_F(GenreCatalogueTest, TrimsLinesAndSkipsBlankOnes) {
+    load("  Rock \t\r\n\n   \nJazz");
+    EXPECT_EQ(brindlex::genreNames(), (std::vector<std::string>{"", "Rock", "Jazz"}));
+    EXPECT_EQ(brindlex::genreTitle(0), "(not set)");
+    EXPECT_EQ(brindlex::genreTitle(2), "Jazz");
+}
+
+TEST_F(GenreCatalogueTest, WithoutTheResourceThereIsNoGenreAndNoSecondTry) {
+    brindlex::loadGenres();
+    EXPECT_EQ(brindlex::genreNames(), std::vector<std::string>{""});
+    load("Rock");
+    EXPECT_EQ(brindlex::genreNames().size(), 1U);
+}
+
+} // namespace

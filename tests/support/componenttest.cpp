@@ -1,0 +1,91 @@
+#include "framework/support/component.h"
+
+#include "framework/support/path.h"
+#include "framework/support/text.h"
+#include "tests/fakehost/fakehost.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using fakehost::host;
+
+/// Remembers the tags that were changed.
+class Recorder : public xbr::Component {
+public:
+    using Component::addChild;
+    using Component::addParameter;
+    using Component::Component;
+
+    std::vector<std::int32_t> changed;
+
+protected:
+    void parameterChanged(xbr::Parameter& parameter) override { changed.push_back(parameter.tag()); }
+};
+
+class ComponentTest : public testing::Test {
+protected:
+    ComponentTest() { fakehost::resetHost(); }
+};
+
+TEST_F(ComponentTest, ActsOnlyOnRealChangesByTheUser) {
+    const auto component = xbr::make<Recorder>("Root");
+    using Kind = xbr::ParameterKind;
+    auto& text = component->addParameter(Kind::kText, 1, "text");
+    auto& number = component->addParameter(Kind::kInteger, 2, "number", 1, 10);
+    auto& command = component->addParameter(Kind::kCommand, 3, "command");
+    auto& toggle = component->addParameter(Kind::kToggle, 4, "toggle");
+
+    EXPECT_EQ(text.setValue(xbr::textValue("")), xbr::kFalse) << "no change, no echo";
+    EXPECT_EQ(text.setValue(xbr::integerValue(1)), xbr::kInvalidArgument);
+    EXPECT_EQ(text.setValue(xbr::textValue("a")), xbr::kOk);
+    text.set(xbr::textValue("b"));
+    EXPECT_EQ(number.setValue(xbr::floatValue(99.9)), xbr::kOk);
+    EXPECT_EQ(number.integer(), 10) << "held to the range";
+    EXPECT_EQ(command.setValue(xbr::integerValue(1)), xbr::kOk);
+    EXPECT_EQ(command.setValue(xbr::integerValue(1)), xbr::kOk) << "a command acts each time";
+    EXPECT_EQ(command.integer(), 0);
+    toggle.setEnabled(false);
+    EXPECT_EQ(toggle.setValue(xbr::integerValue(1)), xbr::kFalse) << "disabled";
+    EXPECT_EQ(component->changed, (std::vector<std::int32_t>{1, 2, 3, 3}));
+}
+
+TEST_F(ComponentTest, ResolvesPathsOfForms) {
+    const auto root = xbr::make<Recorder>("Root");
+    const auto client = xbr::make<Recorder>("Client");
+    const auto list = xbr::make<Recorder>("TrackList");
+    root->addChild(client);
+    root->addChild(list);
+    root->addParameter(xbr::ParameterKind::kCommand, 1, "upload");
+    list->addParameter(xbr::ParameterKind::kCommand, 2, "addTracks");
+
+    struct Case {
+        const char* path;
+        std::int32_t tag;
+    };
+    for (const auto& [path, tag] :
+         {Case{"../upload", 1}, Case{"../TrackList/addTracks", 2}, Case{"../TrackList/../upload", 1}}) {
+        const auto* parameter = xbr::findParameter(*client, path);
+        ASSERT_NE(parameter, nullptr) << path;
+        EXPECT_EQ(parameter->tag(), tag) << path;
+    }
+    for (const char* path : {"upload", "../../upload", "../Missing/upload", "", "/", ".."}) {
+        EXPECT_EQ(xbr::findParameter(*client, path), nullptr) << path;
+    }
+}
+
+TEST_F(ComponentTest, LeavesNothingBehind) {
+    xbr::Ref<xbr::IParameter> kept;
+    {
+        const auto component = xbr::make<Recorder>("Root");
+        component->addParameter(xbr::ParameterKind::kText, 1, "text");
+        host().signals.addObserver(component.get(), component.get());
+        xbr::post(*component, "later");
+        xbr::postSignal(*component, "later");
+        kept = xbr::Ref<xbr::IParameter>::share(component->parameter(1));
+    }
+    EXPECT_EQ(host().signals.remaining(), 0U);
+    EXPECT_EQ(kept->setValue(xbr::textValue("x")), xbr::kOk) << "a view may outlive the component";
+}
+
+} // namespace

@@ -1,0 +1,99 @@
+#include "framework/support/xhrclient.h"
+
+#include "framework/support/text.h"
+#include "tests/fakehost/fakehost.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using fakehost::host;
+
+class XHRClientTest : public testing::Test {
+protected:
+    XHRClientTest() { fakehost::resetHost(); }
+
+    xbr::XHRClient::Handler recorder(std::string prefix = {}) {
+        return [this, prefix](const xbr::IMessage& message, xbr::IWebRequest& request) {
+            events.push_back(prefix + xbr::toString(message.name()) + " " + std::to_string(request.status()));
+        };
+    }
+
+    std::vector<std::string> events;
+};
+
+const xbr::Url kUrl("https://service/path");
+
+TEST_F(XHRClientTest, SendsOneRequestAtATime) {
+    const auto client = xbr::make<xbr::XHRClient>("Client");
+    ASSERT_TRUE(client->send(recorder(), "POST", kUrl, nullptr, "text/plain"));
+    EXPECT_TRUE(client->isBusy());
+    EXPECT_FALSE(client->send(recorder(), "GET", kUrl, nullptr, ""));
+    host().web.answer(200);
+    EXPECT_FALSE(client->isBusy());
+    EXPECT_EQ(events, std::vector<std::string>{"onloadend 200"});
+    EXPECT_EQ(host().web.sent.size(), 1U);
+}
+
+TEST_F(XHRClientTest, RefusedSendLeavesTheClientFree) {
+    const auto client = xbr::make<xbr::XHRClient>("Client");
+    host().web.refusesRequests = true;
+    EXPECT_FALSE(client->send(recorder(), "GET", kUrl, nullptr, ""));
+    EXPECT_FALSE(client->isBusy());
+    host().signals.pump();
+    EXPECT_TRUE(events.empty());
+}
+
+TEST_F(XHRClientTest, AbortFreesAtOnceAndTellsOnceLater) {
+    const auto client = xbr::make<xbr::XHRClient>("Client");
+    client->send(recorder("first "), "GET", kUrl, nullptr, "");
+    client->abort();
+    EXPECT_FALSE(client->isBusy());
+    EXPECT_TRUE(events.empty()) << "not inside abort";
+    ASSERT_TRUE(client->send(recorder("second "), "GET", kUrl, nullptr, ""));
+    host().signals.pump();
+    EXPECT_TRUE(client->isBusy()) << "the late message of the first request does not free the second";
+    host().web.answer(204);
+    EXPECT_EQ(events, (std::vector<std::string>{"first onabort 0", "second onloadend 204"}));
+}
+
+TEST_F(XHRClientTest, HandlerMayDestroyTheClient) {
+    auto client = xbr::make<xbr::XHRClient>("Client");
+    client->send([&](const auto&, auto&) { client.reset(); }, "GET", kUrl, nullptr, "");
+    host().web.answer(200);
+    EXPECT_FALSE(client);
+    EXPECT_EQ(host().signals.remaining(), 0U);
+}
+
+/// Drops the client as soon as it is free again.
+class Dropper final : public xbr::Object<xbr::IObserver> {
+public:
+    explicit Dropper(xbr::Ref<xbr::XHRClient>& client) : m_client(client) {}
+    void notify(xbr::ISubject*, xbr::IMessage*) noexcept override {
+        if (m_client && !m_client->isBusy()) {
+            m_client.reset();
+        }
+    }
+
+private:
+    xbr::Ref<xbr::XHRClient>& m_client;
+};
+
+TEST_F(XHRClientTest, NobodyIsCalledForAClientThatIsGone) {
+    auto client = xbr::make<xbr::XHRClient>("Client");
+    client->send(recorder(), "GET", kUrl, nullptr, "");
+    const auto dropper = xbr::make<Dropper>(client);
+    host().signals.addObserver(client.get(), dropper.get());
+    host().web.answer(200); // the observer of the busy state drops the client before its handler's turn
+    EXPECT_FALSE(client);
+
+    auto second = xbr::make<xbr::XHRClient>("Client");
+    second->send(recorder(), "GET", kUrl, nullptr, "");
+    second->cancel();
+    EXPECT_FALSE(second->isBusy());
+    EXPECT_FALSE(host().web.isInFlight());
+    host().signals.pump();
+    EXPECT_TRUE(events.empty());
+}
+
+} // namespace

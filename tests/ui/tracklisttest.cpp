@@ -1,0 +1,164 @@
+#include "framework/support/objectlist.h"
+#include "framework/support/text.h"
+#include "release/genrecatalogue.h"
+#include "tests/fakehost/fakehost.h"
+#include "ui/tracklistcomponent.h"
+#include "ui/tracks.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using brindlex::TrackItem;
+using brindlex::TrackListComponent;
+using brindlex::TrackUploadState;
+using fakehost::host;
+
+/// A file that is dragged or chosen.
+class DraggedFile final : public xbr::Object<xbr::IUrlSource> {
+public:
+    explicit DraggedFile(std::string url) : m_url(std::move(url)) {}
+    xbr::Result getUrl(xbr::IString** out) noexcept override { return xbr::giveText(m_url, out); }
+
+private:
+    std::string m_url;
+};
+
+class TrackListTest : public testing::Test {
+protected:
+    TrackListTest() {
+        fakehost::resetHost();
+        host().files.files["resource://brindlex/brindlex_genres.csv"] = "Rock\nJazz\n";
+        brindlex::loadGenres();
+        list = xbr::make<TrackListComponent>();
+    }
+
+    static xbr::Ref<xbr::ObjectList> files(std::initializer_list<const char*> urls) {
+        auto objects = xbr::make<xbr::ObjectList>();
+        for (const char* url : urls) {
+            const auto file = xbr::make<DraggedFile>(url);
+            objects->add(xbr::query<xbr::IObject>(file.get()));
+        }
+        return objects;
+    }
+
+    void add(std::initializer_list<const char*> urls) { list->add(*files(urls)); }
+    TrackItem& track(std::size_t index) { return brindlex::trackAt(list->model(), index); }
+
+    bool isRemoveAllEnabled() { return list->findParameter(xbr::toText("removeAll"))->isEnabled(); }
+
+    std::string cell(std::int32_t row, std::int32_t column,
+                     xbr::CellStyle expected = xbr::CellStyle::kNormal) {
+        xbr::Ref<xbr::IString> text;
+        xbr::CellStyle style{};
+        EXPECT_EQ(list->model().getCell(row, column, text.out(), &style), xbr::kOk);
+        EXPECT_EQ(style, expected);
+        return xbr::take(text);
+    }
+
+    xbr::Ref<TrackListComponent> list;
+};
+
+TEST_F(TrackListTest, TakesAudioFilesAndTheirTags) {
+    host().objects.tags["file:///m/b.flac"] = {{"Media:Title", "Tagged"}, {"Media:Genre", "Jazz"}};
+    EXPECT_EQ(list->model().dragOver(files({"file:///m/x.txt", "file:///m/a.wav"}).get()),
+              xbr::DropEffect::kCopy);
+    EXPECT_EQ(list->model().dragOver(files({"file:///m/x.txt"}).get()), xbr::DropEffect::kNone);
+    EXPECT_EQ(list->model().drop(files({"file:///m/x.aiff", "file:///m/folder.wav/"}).get()), xbr::kFalse);
+    EXPECT_EQ(
+        list->model().drop(files({"file:///m/My%20Take.1.wav", "file:///m/x.txt", "file:///m/b.flac"}).get()),
+        xbr::kOk);
+    ASSERT_EQ(list->model().countRows(), 2);
+    EXPECT_EQ(cell(0, 0), "My Take.1");
+    EXPECT_EQ(cell(0, 1), "My Take.1.wav");
+    EXPECT_EQ(cell(1, 0), "Tagged");
+    EXPECT_EQ(track(1).metadata->primaryGenre, "Jazz");
+    EXPECT_EQ(track(0).metadata->trackNumber, 1);
+    EXPECT_EQ(track(1).metadata->trackNumber, 1) << "adding does not number";
+}
+
+TEST_F(TrackListTest, AlbumModeGivesAllTracksTheFirstOnesRelease) {
+    host().objects.tags["file:///m/a.wav"] = {{"Media:Title", "A"}, {"Media:Genre", "Rock"}};
+    host().objects.tags["file:///m/b.wav"] = {{"Media:Title", "B"}, {"Media:Genre", "Jazz"}};
+    list->prepareMode(brindlex::UploadMode::kAlbum);
+    add({"file:///m/a.wav", "file:///m/b.wav"});
+    EXPECT_EQ(track(1).metadata->albumTitle, "A");
+    EXPECT_EQ(track(1).metadata->primaryGenre, "Rock");
+    list->findParameter(xbr::toText("albumUpload"))->setValue(xbr::integerValue(0));
+    EXPECT_EQ(track(1).metadata->albumTitle, "B") << "each song's own again";
+    EXPECT_EQ(track(1).metadata->primaryGenre, "Jazz");
+}
+
+TEST_F(TrackListTest, StateCellTellsProgressAndOutcome) {
+    add({"file:///m/a.wav"});
+    struct Case {
+        bool uploading;
+        double progress;
+        TrackUploadState state;
+        const char* text;
+        xbr::CellStyle style;
+    };
+    const Case cases[] = {
+        {true, 0.37, TrackUploadState::kNone, "37%", xbr::CellStyle::kBusy},
+        {true, 0.999, TrackUploadState::kFailed, "99%", xbr::CellStyle::kBusy},
+        {false, 1.0, TrackUploadState::kNone, "", xbr::CellStyle::kNormal},
+        {false, 1.0, TrackUploadState::kDone, "Done", xbr::CellStyle::kNormal},
+        {false, 0.5, TrackUploadState::kFailed, "Failed", xbr::CellStyle::kError},
+        {false, 1.0, TrackUploadState::kMissingInformation, "Missing Information", xbr::CellStyle::kNormal},
+    };
+    for (const auto& [uploading, progress, state, text, style] : cases) {
+        track(0).uploading = uploading;
+        track(0).progress = progress;
+        track(0).state = state;
+        EXPECT_EQ(cell(0, 2, style), text);
+    }
+}
+
+TEST_F(TrackListTest, TracksInTransferCannotBeRemoved) {
+    EXPECT_FALSE(isRemoveAllEnabled()) << "nothing to remove";
+    add({"file:///m/a.wav", "file:///m/b.wav"});
+    EXPECT_TRUE(isRemoveAllEnabled());
+    list->setCurrentUploadItem(&track(0));
+    EXPECT_FALSE(isRemoveAllEnabled());
+    EXPECT_FALSE(list->model().isEditable(0));
+    list->model().setFocus(0);
+    EXPECT_EQ(list->model().removeFocused(), xbr::kFalse);
+    list->setCurrentUploadItem(&track(1));
+    EXPECT_FALSE(track(0).uploading) << "singles: one at a time";
+    list->setCurrentUploadItem(nullptr);
+    EXPECT_EQ(list->model().removeFocused(), xbr::kOk);
+    EXPECT_EQ(cell(0, 0), "b");
+    list->findParameter(xbr::toText("removeAll"))->setValue(xbr::integerValue(1));
+    EXPECT_EQ(list->model().countRows(), 0);
+    EXPECT_FALSE(isRemoveAllEnabled());
+}
+
+TEST_F(TrackListTest, AlbumTracksStayMarkedUntilTheEnd) {
+    list->prepareMode(brindlex::UploadMode::kAlbum);
+    add({"file:///m/a.wav", "file:///m/b.wav"});
+    list->setCurrentUploadItem(&track(0));
+    list->setCurrentUploadItem(&track(1));
+    EXPECT_TRUE(track(0).uploading);
+    list->setCurrentUploadItem(nullptr);
+    EXPECT_FALSE(track(0).uploading || track(1).uploading);
+}
+
+TEST_F(TrackListTest, EditorShowsTheFocusAndMarksWhatIsMissing) {
+    add({"file:///m/a.wav"});
+    const auto value = [&](const char* name) {
+        return list->editor().findParameter(xbr::toText(name))->value();
+    };
+    EXPECT_FALSE(list->editor().findParameter(xbr::toText("songTitle"))->isEnabled());
+    list->model().setFocus(0);
+    EXPECT_EQ(xbr::textOf(value("songTitle")), "a");
+    EXPECT_TRUE(list->editor().findParameter(xbr::toText("songTitle"))->isEnabled());
+    list->setCurrentUploadItem(&track(0));
+    list->validateForUpload(brindlex::Marks::kSet);
+    EXPECT_EQ(xbr::integerOf(value("songTitleMissing")), 0);
+    EXPECT_EQ(xbr::integerOf(value("songArtistMissing")), 1);
+    EXPECT_EQ(xbr::integerOf(value("primaryGenreMissing")), 1);
+    list->validateForUpload(brindlex::Marks::kClear);
+    EXPECT_EQ(xbr::integerOf(value("songArtistMissing")), 0);
+}
+
+} // namespace
