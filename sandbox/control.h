@@ -1,0 +1,33 @@
+#pragma once
+
+#include "sandbox/exchange.h"
+#include "sandbox/faults.h"
+#include "sandbox/grants.h"
+#include "sandbox/inbox.h"
+#include "sandbox/requestlog.h"
+
+namespace sandbox {
+
+// The switches for tests: what is to go wrong, and what happened so far.
+class Control {
+public:
+    Control(Faults& faults, RequestLog& log, const Grants& grants, const Inbox& inbox)
+        : m_faults(faults),
+          m_log(log),
+          m_grants(grants),
+          m_inbox(inbox) {}
+
+    Reply addFault(Exchange& exchange);
+    Reply clearFaults();
+    Reply showLog() const;
+    Reply clearLog();
+    Reply showState() const;
+
+private:
+    Faults& m_faults;
+    RequestLog& m_log;
+    const Grants& m_grants;
+    const Inbox& m_inbox;
+};
+
+} // namespace sandbox

@@ -1,0 +1,131 @@
+#include "sandbox/commandline.h"
+#include "sandbox/server.h"
+#include "sandbox/service.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <limits>
+#include <pthread.h>
+#include <thread>
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kUsage = 2;
+
+constexpr const char* kHelp = R"(Usage: brindlex-sandbox --inbox DIR [options]
+
+Plays the music distribution service on this computer (127.0.0.1) until it gets SIGTERM or SIGINT.
+
+  --inbox DIR            where accepted releases are kept
+  --port N               port to listen on (default 0: a free one)
+  --port-file FILE       file that receives the port once the server listens
+  --log FILE             file to which every request is appended as a line of JSON (no secrets)
+  --client-id TEXT       the client program that the service knows (default brindlex-demo)
+  --client-secret TEXT   its secret (default brindlex-demo-secret)
+  --redirect-uri URI     its return address (default brindlex://authorize)
+  --token-lifetime SEC   how long an access token is good (default 3600)
+  --help                 this text
+)";
+
+struct Options {
+    sandbox::Settings settings;
+    std::string inbox;
+    std::string log;
+    std::string portFile;
+    int port = 0;
+    bool help = false;
+};
+
+Options readOptions(const std::vector<std::string>& words) {
+    Options options;
+    sandbox::CommandLine line;
+    line.addSwitch("--help", options.help);
+    line.addOption("--inbox", options.inbox);
+    line.addOption("--log", options.log);
+    line.addOption("--port-file", options.portFile);
+    line.addOption("--client-id", options.settings.client.id);
+    line.addOption("--client-secret", options.settings.client.secret);
+    line.addOption("--redirect-uri", options.settings.client.redirectUri);
+    line.addOption("--port", [&](const std::string& text) {
+        options.port = sandbox::numberFrom("--port", text, 0, 65535);
+    });
+    line.addOption("--token-lifetime", [&](const std::string& text) {
+        options.settings.tokenLifetime = std::chrono::seconds(
+            sandbox::numberFrom("--token-lifetime", text, 1, std::numeric_limits<int>::max()));
+    });
+    const auto arguments = line.parse(words);
+    if (!arguments.empty()) {
+        throw sandbox::UsageError("unexpected argument '" + arguments.front() + "'");
+    }
+    if (options.inbox.empty() && !options.help) {
+        throw sandbox::UsageError("option --inbox is missing");
+    }
+    return options;
+}
+
+// Blocked in all threads; one waits for them.
+sigset_t endSignals() {
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTERM);
+    sigaddset(&signals, SIGINT);
+    return signals;
+}
+
+// Whoever waits for the file finds it complete.
+void writePortFile(const std::filesystem::path& file, int port) {
+    auto temporary = file;
+    temporary += ".new";
+    std::ofstream out(temporary);
+    out << port << '\n';
+    out.close();
+    if (!out) {
+        throw std::runtime_error("cannot write " + temporary.string());
+    }
+    std::filesystem::rename(temporary, file);
+}
+
+void serve(const Options& options) {
+    const auto signals = endSignals();
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+
+    sandbox::Service service(options.settings, options.inbox, options.log);
+    sandbox::Server server([&](sandbox::Exchange& exchange) { return service.handle(exchange); });
+    const int port = server.open(options.port);
+    if (port < 0) {
+        throw std::runtime_error("cannot listen on 127.0.0.1 port " + std::to_string(options.port));
+    }
+    if (!options.portFile.empty()) {
+        writePortFile(options.portFile, port);
+    }
+    std::cout << "listening on http://127.0.0.1:" << port << "/" << std::endl;
+
+    std::thread network([&] { server.run(); });
+    int signal = 0;
+    sigwait(&signals, &signal);
+    server.stop();
+    network.join();
+}
+
+} // namespace
+
+int main(int count, char** words) {
+    try {
+        const auto options = readOptions({words + 1, words + count});
+        if (options.help) {
+            std::cout << kHelp;
+            return 0;
+        }
+        serve(options);
+        return 0;
+    } catch (const sandbox::UsageError& error) {
+        std::cerr << "brindlex-sandbox: " << error.what() << "\nTry 'brindlex-sandbox --help'.\n";
+        return kUsage;
+    } catch (const std::exception& error) {
+        std::cerr << "brindlex-sandbox: " << error.what() << '\n';
+        return kFailed;
+    }
+}

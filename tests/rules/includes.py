@@ -1,0 +1,105 @@
+#!/usr/bin/env python3
+"""Reads the includes of all sources and holds them against the arrows that may exist between the rooms."""
+
+import pathlib
+import re
+import sys
+
+# Which rooms a room may include, beside itself. "tests" may include everything.
+ALLOWED = {
+    "framework/abi": [],
+    "framework/support": ["framework/abi"],
+    "auth": ["framework/abi", "framework/support"],
+    "release": ["framework/abi", "framework/support", "auth"],
+    "ui": ["framework/abi", "framework/support", "auth", "release"],
+    "client": ["framework/abi", "framework/support", "auth", "release", "ui"],
+    "module": ["framework/abi", "framework/support", "auth", "release", "ui", "client"],
+    "host/system": ["framework/abi", "framework/support"],
+    "host/text": ["framework/abi", "framework/support"],
+    "host/gui": ["framework/abi", "framework/support"],
+    "host/net": ["framework/abi", "framework/support"],
+    "host/security": ["framework/abi", "framework/support"],
+    "host/app/core": ["framework/abi", "framework/support"],
+    "host/app/headless": ["framework/abi", "framework/support", "host/app/core"],
+    "sandbox": [],
+}
+
+# The host libraries' own public headers: for the host program, never for modules.
+PUBLIC_HOST_HEADERS = re.compile(r"host/(system|text|gui|net|security)/host\w+\.h")
+
+# Rooms of the extension: the C++ standard library and the border, nothing else.
+EXTENSION = ["framework/abi", "framework/support", "auth", "release", "ui", "client", "module"]
+
+STANDARD = set("""algorithm any array atomic bit cassert cctype cerrno charconv chrono cinttypes climits clocale cmath
+compare concepts condition_variable cstdarg cstddef cstdint cstdio cstdlib cstring ctime cwctype deque exception
+filesystem fstream functional initializer_list iomanip iostream istream iterator limits list locale map memory mutex new
+numbers numeric optional ostream queue random ranges ratio regex set span sstream stack stdexcept streambuf string
+string_view system_error thread tuple type_traits typeinfo unordered_map unordered_set utility variant vector
+version""".split())
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+
+
+def room_of(path):
+    """The room that a file of the project lies in."""
+    matches = [room for room in ALLOWED if path.startswith(room + "/")]
+    return max(matches, key=len) if matches else None
+
+
+def may_include(room, path):
+    target = room_of(path)
+    if target == room or target in ALLOWED[room]:
+        return True
+    return room.startswith("host/app/") and PUBLIC_HOST_HEADERS.fullmatch(path) is not None
+
+
+def faults_of(room, name, text, files):
+    for bracket, path in INCLUDE.findall(text):
+        if bracket == '"':
+            if path not in files:
+                yield f"{name}: \"{path}\" is not named from the project's root"
+            elif not may_include(room, path):
+                yield f"{name}: {room} may not know {path}"
+        elif room in EXTENSION and path not in STANDARD:
+            yield f"{name}: the extension may not use <{path}>"
+
+
+def circles(graph):
+    """Files that include themselves by way of others."""
+    done, found = set(), []
+
+    def visit(node, trail):
+        if node in trail:
+            found.append(" -> ".join(trail[trail.index(node):] + [node]))
+        elif node not in done:
+            for following in graph.get(node, []):
+                visit(following, trail + [node])
+            done.add(node)
+
+    for start in graph:
+        visit(start, [])
+    return found
+
+
+def main():
+    root = pathlib.Path(sys.argv[1])
+    rooms = sorted({room.split("/")[0] for room in ALLOWED})
+    paths = [p for top in rooms for p in (root / top).rglob("*") if p.suffix in (".h", ".cpp")]
+    files = {str(p.relative_to(root)): p.read_text(encoding="utf-8") for p in paths}
+    if len(files) < 50:
+        sys.exit(f"only {len(files)} files found below {root}: this looks at the wrong folder")
+    faults, graph = [], {}
+    for name, text in sorted(files.items()):
+        room = room_of(name)
+        if room is None:
+            faults.append(f"{name}: lies in no room")
+            continue
+        faults += faults_of(room, name, text, files)
+        graph[name] = [path for bracket, path in INCLUDE.findall(text) if bracket == '"']
+    faults += circles(graph)
+    print("\n".join(faults) if faults else f"{len(files)} files keep to the rooms")
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,116 @@
+// Renders a few short songs as a musician's workstation would: WAV, FLAC and MP3 with tags. For the demo, the
+// tests and the benchmarks; what it writes depends on its arguments only.
+
+#include <sndfile.h>
+#include <taglib/fileref.h>
+#include <taglib/tpropertymap.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <numbers>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kRate = 48000;
+constexpr int kChannels = 2;
+
+struct Song {
+    const char* fileName;
+    int format;
+    const char* title;
+    const char* artist;
+    const char* genre;
+    const char* number;
+    double root; ///< Hz
+};
+
+constexpr Song kSongs[] = {
+    {"Opening.wav", SF_FORMAT_WAV | SF_FORMAT_PCM_24, "Opening", "The Lamps", "Electronica", "1", 110.0},
+    {"Night Drive.flac", SF_FORMAT_FLAC | SF_FORMAT_PCM_24, "Night Drive", "The Lamps", "Electronica", "2",
+     146.83},
+    {"Café del Último.mp3", SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III, "Café del Último",
+     "The Lamps feat. Axé", "Ambient", "3", 164.81},
+};
+
+/// Plucked chords with a little room noise: neither silence nor noise, so that it compresses as music does.
+std::vector<float> render(const Song& song, int seconds) {
+    static constexpr double kChord[] = {1.0, 1.25, 1.5, 2.0};
+    std::mt19937 random(static_cast<unsigned>(song.root));
+    std::normal_distribution<float> hiss(0.0F, 0.0008F);
+    std::vector<float> samples(static_cast<std::size_t>(seconds) * kRate * kChannels);
+    for (std::size_t frame = 0; frame * kChannels < samples.size(); ++frame) {
+        const double time = static_cast<double>(frame) / kRate;
+        const double beat = std::fmod(time, 0.5);
+        const double note = song.root * kChord[static_cast<std::size_t>(time / 0.5) % 4];
+        double value = 0.0;
+        for (int harmonic = 1; harmonic <= 6; ++harmonic) {
+            const double level = std::exp(-beat * (2.0 + harmonic)) / harmonic;
+            value += level * std::sin(2.0 * std::numbers::pi * note * harmonic * time);
+        }
+        for (int channel = 0; channel < kChannels; ++channel) {
+            samples[frame * kChannels + static_cast<std::size_t>(channel)] =
+                static_cast<float>(0.25 * value) + hiss(random);
+        }
+    }
+    return samples;
+}
+
+bool write(const std::filesystem::path& path, const Song& song, int seconds) {
+    SF_INFO info{};
+    info.samplerate = kRate;
+    info.channels = kChannels;
+    info.format = song.format;
+    SNDFILE* file = sf_open(path.c_str(), SFM_WRITE, &info);
+    if (!file) {
+        std::cerr << path << ": " << sf_strerror(nullptr) << '\n';
+        return false;
+    }
+    const std::vector<float> samples = render(song, seconds);
+    const auto frames = static_cast<sf_count_t>(samples.size()) / kChannels;
+    const bool complete = sf_writef_float(file, samples.data(), frames) == frames;
+    return sf_close(file) == 0 && complete;
+}
+
+bool tag(const std::filesystem::path& path, const Song& song) {
+    const auto text = [](const char* value) {
+        return TagLib::StringList(TagLib::String(value, TagLib::String::UTF8));
+    };
+    TagLib::FileRef file(path.c_str(), false);
+    TagLib::PropertyMap properties;
+    properties.insert("TITLE", text(song.title));
+    properties.insert("ARTIST", text(song.artist));
+    properties.insert("ALBUM", text("Night Drive"));
+    properties.insert("ALBUMARTIST", text("The Lamps"));
+    properties.insert("GENRE", text(song.genre));
+    properties.insert("TRACKNUMBER", text(song.number));
+    return !file.isNull() && file.file()->setProperties(properties).isEmpty() && file.save();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2 || argc > 3) {
+        std::cerr << "usage: brindlex-songs FOLDER [SECONDS]\n";
+        return 2;
+    }
+    const std::filesystem::path folder = argv[1];
+    const int seconds = argc > 2 ? std::atoi(argv[2]) : 4;
+    if (seconds < 1 || seconds > 3600) {
+        std::cerr << "brindlex-songs: the length must be 1 to 3600 seconds\n";
+        return 2;
+    }
+    std::filesystem::create_directories(folder);
+    for (const Song& song : kSongs) {
+        const auto path = folder / song.fileName;
+        if (!write(path, song, seconds) || !tag(path, song)) {
+            std::cerr << "brindlex-songs: cannot write " << path << '\n';
+            return 1;
+        }
+    }
+    return 0;
+}
