@@ -1,0 +1,41 @@
+#include "host/app/core/mediafileinfo.h"
+
+#include "framework/support/text.h"
+#include "framework/support/value.h"
+#include "host/app/core/mediatags.h"
+#include "host/system/fileurl.h"
+
+namespace xbr::host {
+
+Result MediaFileInfo::open(Text url) noexcept {
+    m_attributes.reset();
+    const auto path = localPath(view(url));
+    if (!path) {
+        return kInvalidArgument;
+    }
+    const auto tags = readTags(*path);
+    if (!tags) {
+        return kUnexpected;
+    }
+    m_attributes = make<Attributes>();
+    for (const auto& [name, text] : tags->texts) {
+        m_attributes->set(name, text);
+    }
+    if (tags->trackIndex > 0) {
+        m_attributes->set("Media:TrackIndex", integerValue(tags->trackIndex));
+    }
+    return kOk;
+}
+
+Result MediaFileInfo::getAttributes(IAttributes* out) noexcept {
+    if (!m_attributes || !out) {
+        return kUnexpected;
+    }
+    for (std::int32_t i = 0; i < m_attributes->count(); ++i) {
+        const Text name = m_attributes->nameAt(i);
+        out->set(name, m_attributes->get(view(name)));
+    }
+    return kOk;
+}
+
+} // namespace xbr::host

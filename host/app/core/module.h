@@ -1,0 +1,48 @@
+#pragma once
+
+#include "framework/abi/module.h"
+#include "framework/support/object.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+/// A module that is loaded, with its services running and their classes known to the plug-in manager. Its end
+/// takes everything back in the reverse order. Objects that the module made must be released before.
+class Module {
+public:
+    /// Loads the library at `path` and starts it. Null when that fails; `error` then says why, in one line
+    /// that names the path.
+    static std::unique_ptr<Module> load(const std::string& path, IHostContext& context, std::string& error);
+
+    Module(const Module&) = delete;
+    Module& operator=(const Module&) = delete;
+    ~Module();
+
+    const std::string& path() const { return m_path; }
+
+private:
+    struct Service {
+        Ref<IProgramService> service;
+        Ref<IClassFactory> classes; ///< empty when the service has none
+    };
+
+    explicit Module(std::string path) : m_path(std::move(path)) {}
+    std::string open();
+    std::string start();
+    std::string startServices(IHostContext& context);
+    std::string startService(const ClassDescription& description, IHostContext& context);
+    void stopServices() noexcept;
+
+    std::string m_path;
+    void* m_library = nullptr;
+    decltype(&XBRModuleMain) m_main = nullptr;
+    decltype(&XBRGetClassFactory) m_getFactory = nullptr;
+    bool m_isStarted = false;
+    IClassFactory* m_factory = nullptr; ///< the module's own
+    std::vector<Service> m_services;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,83 @@
+#include "host/app/core/trackfollower.h"
+
+#include "framework/abi/controller.h"
+#include "framework/support/message.h"
+#include "framework/support/text.h"
+#include "framework/support/value.h"
+
+#include <algorithm>
+
+namespace xbr::host {
+
+namespace {
+
+Value property(IPropertySource& item, std::string_view name) {
+    Value value{};
+    item.getProperty(toText(name), &value);
+    return value;
+}
+
+TrackState stateOf(std::int64_t code) {
+    return code >= 0 && code <= 3 ? static_cast<TrackState>(code) : TrackState::kFailed;
+}
+
+TrackReport read(IListViewModel& tracks, std::int32_t row) {
+    TrackReport report;
+    report.index = row;
+    Ref<IObject> object;
+    tracks.getItem(row, object.out());
+    if (const auto item = query<IPropertySource>(object.get())) {
+        report.title = textOf(property(*item, "title"));
+        report.file = textOf(property(*item, "file"));
+        report.state = stateOf(integerOf(property(*item, "state")));
+        report.isUploading = integerOf(property(*item, "uploading")) != 0;
+        report.progress = std::clamp(numberOf(property(*item, "progress")), 0.0, 1.0);
+    }
+    return report;
+}
+
+} // namespace
+
+TrackFollower::TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed)
+    : m_tracks(std::move(tracks)),
+      m_touched(std::move(touched)),
+      m_changed(std::move(changed)),
+      m_listener([this](ISubject*, const IMessage& message) {
+          m_touched();
+          if (isNamed(message, "itemChanged")) {
+              readRow(static_cast<std::int32_t>(integerOf(message.argument(0), -1)));
+          } else if (isNamed(message, "changed")) {
+              readAll();
+          }
+      }) {
+    for (std::int32_t row = 0; row < m_tracks->countRows(); ++row) {
+        m_reports.push_back(read(*m_tracks, row));
+    }
+    m_listener.listen(query<ISubject>(m_tracks.get()));
+}
+
+bool TrackFollower::isUploading() const {
+    return std::any_of(m_reports.begin(), m_reports.end(),
+                       [](const TrackReport& report) { return report.isUploading; });
+}
+
+void TrackFollower::readAll() {
+    m_reports.resize(static_cast<std::size_t>(m_tracks->countRows()));
+    for (std::int32_t row = 0; row < m_tracks->countRows(); ++row) {
+        readRow(row);
+    }
+}
+
+void TrackFollower::readRow(std::int32_t row) {
+    if (row < 0 || static_cast<std::size_t>(row) >= m_reports.size()) {
+        return;
+    }
+    TrackReport report = read(*m_tracks, row);
+    auto& known = m_reports[static_cast<std::size_t>(row)];
+    if (!(report == known)) {
+        known = report;
+        m_changed(report);
+    }
+}
+
+} // namespace xbr::host

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "framework/abi/listmodel.h"
+#include "framework/support/object.h"
+#include "host/app/core/signallistener.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+enum class TrackState : std::uint8_t {
+    kNone = 0, ///< not sent
+    kDone = 1,
+    kFailed = 2,
+    kMissingInformation = 3, ///< sent, and refused for it
+};
+
+/// One row of the list of tracks.
+struct TrackReport {
+    std::int32_t index = 0; ///< from 0
+    std::string title;
+    std::string file; ///< URL
+    TrackState state = TrackState::kNone;
+    bool isUploading = false;
+    double progress = 0.0; ///< fraction of the transfer
+
+    bool operator==(const TrackReport&) const = default;
+};
+
+/// Reads a list of tracks and tells what changes in it.
+class TrackFollower {
+public:
+    using Changed = std::function<void(const TrackReport& track)>;
+
+    /// `touched` is called for every message of the list, before `changed` for each track that looks
+    /// different from before.
+    TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed);
+
+    const std::vector<TrackReport>& reports() const { return m_reports; }
+    bool isUploading() const;
+
+private:
+    void readAll();
+    void readRow(std::int32_t row);
+
+    Ref<IListViewModel> m_tracks;
+    std::function<void()> m_touched;
+    Changed m_changed;
+    std::vector<TrackReport> m_reports;
+    SignalListener m_listener;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/app/core/exitcodes.h"
+#include "host/app/headless/commandline.h"
+
+namespace xbr::host {
+
+/// `xbrhost sign-in`: signs in through the browser, unless somebody is signed in.
+ExitCode runSignIn(const CommandLine& commandLine);
+
+/// `xbrhost sign-out`: forgets the stored sign-in.
+ExitCode runSignOut(const CommandLine& commandLine);
+
+/// `xbrhost status`: tells whether a stored sign-in can be used. Never asks the user.
+ExitCode runStatus(const CommandLine& commandLine);
+
+} // namespace xbr::host

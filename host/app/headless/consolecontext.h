@@ -1,0 +1,26 @@
+#pragma once
+
+#include "host/app/core/activity.h"
+#include "host/app/core/callbackserver.h"
+#include "host/app/core/configurationstore.h"
+#include "host/app/headless/interruption.h"
+#include "host/app/headless/output.h"
+
+#include <memory>
+
+namespace xbr::host {
+
+/// What the console classes share with the commands. Outlives every object that a module makes.
+struct ConsoleContext {
+    explicit ConsoleContext(std::unique_ptr<Output> front)
+        : output(std::move(front)),
+          configuration(std::make_shared<ConfigurationReport>()) {}
+
+    std::unique_ptr<Output> output;
+    Interruption interruption;
+    CallbackServer callbacks;
+    Activity activity;
+    std::shared_ptr<ConfigurationReport> configuration;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,82 @@
+#include "host/app/headless/headlesshost.h"
+
+#include "host/app/core/modulesearch.h"
+#include "host/gui/hostgui.h"
+#include "host/security/hostsecurity.h"
+#include "host/system/hostsystem.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace xbr::host {
+
+namespace {
+
+std::string moduleToLoad(const std::string& wanted) {
+    if (!wanted.empty()) {
+        return wanted;
+    }
+    const QByteArray folder = QFile::encodeName(QCoreApplication::applicationDirPath());
+    const auto modules = findModules(folder.toStdString());
+    return modules.empty() ? std::string() : modules.front();
+}
+
+} // namespace
+
+HeadlessHost::HeadlessHost(const CommandLine& commandLine, Dialogs dialogs)
+    : m_modulePath(moduleToLoad(commandLine.module)),
+      m_context(commandLine.isJson ? makeJsonOutput() : makeTextOutput()),
+      m_coreClasses(m_context.configuration),
+      m_consoleClasses(m_context, dialogs),
+      m_hostContext(make<HostContext>("xbrhost", XBR_HOST_VERSION)) {
+    registerGuiClasses();
+    setBrowserAnnouncer([this](std::string_view url) {
+        m_context.output->signInAddress(url);
+        return true;
+    });
+    setStoreProblemListener([this](const std::string& words) { m_context.output->message(words); });
+}
+
+HeadlessHost::~HeadlessHost() {
+    m_panel.reset();
+    m_module.reset();
+    setStoreProblemListener({});
+    setBrowserAnnouncer({});
+    unregisterGuiClasses();
+    removeTemporaryFolder();
+}
+
+bool HeadlessHost::start(std::string& error) {
+    if (m_modulePath.empty()) {
+        error = "no module was found; name one with --module PATH";
+        return false;
+    }
+    m_module = Module::load(m_modulePath, *m_hostContext, error);
+    if (!m_module) {
+        return false;
+    }
+    m_panel = GadgetPanel::open({}, error);
+    return m_panel != nullptr;
+}
+
+void HeadlessHost::listenForCallbacks() {
+    std::string error;
+    if (!m_context.callbacks.start(error)) {
+        printError("the browser's answer to a sign-in cannot be received: " + error);
+    }
+}
+
+std::string describeProblem(const ConfigurationReport& report) {
+    const std::string where = "'" + report.path + "', section [" + report.id + "]";
+    if (report.result == ConfigurationResult::kUnreadable) {
+        return "the settings of " + report.title + " cannot be read from " + where;
+    }
+    std::string keys;
+    for (const std::string& key : report.missingKeys) {
+        keys += keys.empty() ? key : ", " + key;
+    }
+    return "settings of " + report.title + " are missing: put " + keys +
+           " (one \"key = value\" a line) into " + where;
+}
+
+} // namespace xbr::host

@@ -1,0 +1,83 @@
+#include "host/app/headless/interruption.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+#include <vector>
+
+namespace xbr::host {
+
+namespace {
+
+constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
+volatile std::sig_atomic_t interrupted = 0;
+volatile std::sig_atomic_t pipeEnd = -1;
+
+void takeSignal(int) {
+    interrupted = 1;
+    const char byte = 0;
+    // A full pipe has woken the loop already.
+    [[maybe_unused]] const auto written = write(static_cast<int>(pipeEnd), &byte, 1);
+}
+
+void install(void (*handler)(int), int flags) {
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = flags;
+    sigemptyset(&action.sa_mask);
+    for (const int number : kSignals) {
+        sigaction(number, &action, nullptr);
+    }
+}
+
+} // namespace
+
+Interruption::Interruption() {
+    if (pipe2(m_pipe, O_CLOEXEC | O_NONBLOCK) == 0) {
+        pipeEnd = m_pipe[1];
+        m_notifier = std::make_unique<QSocketNotifier>(m_pipe[0], QSocketNotifier::Read);
+        QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { tell(); });
+    }
+    install(&takeSignal, static_cast<int>(SA_RESETHAND | SA_RESTART));
+    struct sigaction ignore {};
+    ignore.sa_handler = SIG_IGN;
+    sigaction(SIGPIPE, &ignore, nullptr); // a reader of our output that went away must not end the clean-up
+}
+
+Interruption::~Interruption() {
+    install(SIG_DFL, 0);
+    m_notifier.reset();
+    close(m_pipe[0]);
+    close(m_pipe[1]);
+}
+
+bool Interruption::isInterrupted() const {
+    return interrupted != 0;
+}
+
+Interruption::Handle Interruption::subscribe(std::function<void()> handler) {
+    const int number = m_nextHandler++;
+    m_handlers.emplace(number, std::move(handler));
+    return Handle(this, [number](void* self) { static_cast<Interruption*>(self)->m_handlers.erase(number); });
+}
+
+void Interruption::tell() {
+    char bytes[16];
+    while (read(m_pipe[0], bytes, sizeof(bytes)) > 0) {
+    }
+    std::vector<int> numbers;
+    for (const auto& [number, handler] : m_handlers) {
+        numbers.push_back(number);
+    }
+    // Handlers may come and go while they are told.
+    for (const int number : numbers) {
+        const auto found = m_handlers.find(number);
+        if (found != m_handlers.end()) {
+            const auto handler = found->second;
+            handler();
+        }
+    }
+}
+
+} // namespace xbr::host

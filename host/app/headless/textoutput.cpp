@@ -1,0 +1,122 @@
+#include "host/app/headless/output.h"
+
+#include <iostream>
+#include <map>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace xbr::host {
+
+namespace {
+
+constexpr char kWaiting[] = "waiting";
+
+const char* stateText(const TrackReport& track) {
+    switch (track.state) {
+    case TrackState::kDone:
+        return "done";
+    case TrackState::kFailed:
+        return "failed";
+    case TrackState::kMissingInformation:
+        return "refused, information is missing";
+    case TrackState::kNone:
+        break;
+    }
+    return track.isUploading ? "uploading" : kWaiting;
+}
+
+int percent(double fraction) {
+    return static_cast<int>(fraction * 100.0);
+}
+
+/// The first `width` characters of a UTF-8 text.
+std::string cut(const std::string& text, std::size_t width) {
+    std::size_t characters = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isFirstByte = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80;
+        if (isFirstByte && ++characters > width) {
+            return text.substr(0, i);
+        }
+    }
+    return text;
+}
+
+/// Lines for people. On a terminal what moves is shown in one line that is written over.
+class TextOutput final : public Output {
+public:
+    TextOutput() : m_isTerminal(isatty(STDOUT_FILENO) == 1) {}
+    ~TextOutput() override { clearStatus(); }
+
+    void message(std::string_view text) override { line(plainText(text)); }
+
+    void signInAddress(std::string_view url) override {
+        line("Waiting for the browser. If it does not open by itself, open this address:");
+        line(plainText(url));
+    }
+
+    void account(bool isSignedIn, std::string_view name) override {
+        const std::string who = name.empty() ? "" : " as " + plainText(name);
+        line(isSignedIn ? "Signed in" + who + "." : "Not signed in.");
+    }
+
+    void preparation(std::string_view title, double fraction, std::string_view what) override {
+        if (!m_isTerminal) {
+            if (m_title != title) { // one line for all of it
+                line(plainText(title));
+            }
+            m_title = title;
+            return;
+        }
+        status(plainText(title) + " " + std::to_string(percent(fraction)) + "% " + plainText(what));
+    }
+
+    void track(const TrackReport& track, std::size_t count) override {
+        m_title.clear();
+        const std::string start = std::to_string(track.index + 1) + "/" + std::to_string(count) + " " +
+                                  plainText(track.title) + ": " + stateText(track);
+        // Until a track moves there is nothing to say about it.
+        std::string& known = m_states.try_emplace(track.index, kWaiting).first->second;
+        const bool isNews = known != stateText(track);
+        known = stateText(track);
+        if (track.isUploading && m_isTerminal) {
+            status(start + " " + std::to_string(percent(track.progress)) + "%");
+        } else if (isNews) {
+            line(start);
+        }
+    }
+
+    void finished(ExitCode) override { clearStatus(); }
+
+private:
+    void line(const std::string& text) {
+        clearStatus();
+        std::cout << text << std::endl;
+    }
+
+    void status(const std::string& text) {
+        winsize size{};
+        const bool isKnown = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 1;
+        std::cout << '\r' << cut(text, isKnown ? size.ws_col - 1U : 79U) << "\x1b[K" << std::flush;
+        m_isStatusShown = true;
+    }
+
+    void clearStatus() {
+        if (m_isStatusShown) {
+            std::cout << "\r\x1b[K" << std::flush;
+            m_isStatusShown = false;
+        }
+    }
+
+    bool m_isTerminal;
+    bool m_isStatusShown = false;
+    std::string m_title;
+    std::map<std::int32_t, std::string> m_states;
+};
+
+} // namespace
+
+std::unique_ptr<Output> makeTextOutput() {
+    return std::make_unique<TextOutput>();
+}
+
+} // namespace xbr::host

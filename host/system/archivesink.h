@@ -1,0 +1,41 @@
+#pragma once
+
+#include "host/system/pendingfile.h"
+
+#include <zip.h>
+
+#include <optional>
+#include <string>
+
+namespace xbr::host {
+
+/// Where libzip writes an archive to.
+/// Rationale: libzip's own file target buffers, and closes its file a second time when the last bytes do not
+/// fit on the disk any more; this one writes directly and leaves nothing behind when it fails.
+class ArchiveSink {
+public:
+    explicit ArchiveSink(std::string path);
+    ArchiveSink(const ArchiveSink&) = delete;
+    ArchiveSink& operator=(const ArchiveSink&) = delete;
+    ~ArchiveSink();
+
+    /// An empty archive for adding entries, or null. It must be closed or discarded before this object goes.
+    zip_t* open();
+
+private:
+    static zip_int64_t command(void* self, void* data, zip_uint64_t length, zip_source_cmd_t command);
+    zip_int64_t handle(void* data, zip_uint64_t length, zip_source_cmd_t command);
+    zip_int64_t begin();
+    zip_int64_t write(const void* data, zip_uint64_t length);
+    zip_int64_t seek(void* data, zip_uint64_t length);
+    zip_int64_t commit();
+    zip_int64_t fail(int code, int systemError);
+
+    std::string m_path;
+    std::optional<PendingFile> m_file;
+    std::int64_t m_position = 0;
+    std::int64_t m_end = 0;
+    zip_error_t m_error;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace xbr::host {
+
+/// Copies a regular file, replacing an old one; the copy's permissions are those of a new file. False when
+/// that fails; no partial copy is left and an old file stays then. The target's folder must exist.
+bool copyFile(const std::string& from, const std::string& to);
+
+} // namespace xbr::host

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+/// What the host program sets up in this library. Modules never use it.
+namespace xbr::host {
+
+/// Is told the URL before a browser is started for it, so that a front end can show it. Answers true when the
+/// user can reach the URL without that browser; opening it is a success then in any case.
+using BrowserAnnouncer = std::function<bool(std::string_view url)>;
+
+/// Replaces the announcer; an empty function removes it. Main thread.
+[[gnu::visibility("default")]] void setBrowserAnnouncer(BrowserAnnouncer announcer);
+
+/// Drops every message that is posted and not delivered yet. Main thread; to be called before a module's
+/// library is closed, because messages that it made are code and data of that library.
+[[gnu::visibility("default")]] void dropPostedMessages() noexcept;
+
+/// Removes the temporary folder with everything in it, if this process made one. Happens by itself when the
+/// process ends through exit(); a next request for the folder makes a new one. Main thread.
+[[gnu::visibility("default")]] void removeTemporaryFolder() noexcept;
+
+} // namespace xbr::host

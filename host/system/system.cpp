@@ -1,0 +1,49 @@
+#include "host/system/system.h"
+
+#include "framework/support/text.h"
+#include "host/system/fileurl.h"
+#include "host/system/mainthread.h"
+#include "host/system/temporaryfolder.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+namespace xbr::host {
+
+std::int64_t System::currentTime() const noexcept {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::floor<std::chrono::seconds>(now).count();
+}
+
+Result System::getTemporaryFolder(IString** out) noexcept {
+    assertMainThread();
+    *out = nullptr;
+    const std::string& path = temporaryFolder();
+    if (path.empty()) {
+        return kUnexpected;
+    }
+    *out = make<String>(fileUrl(path)).detach();
+    return kOk;
+}
+
+void System::writeDebugWarning(Text message) noexcept {
+    static const bool isWanted = std::getenv("XBR_DEBUG") != nullptr; // NOLINT(concurrency-mt-unsafe)
+    if (!isWanted) {
+        return;
+    }
+    // One warning, one line: text from outside must not look like several, nor steer the terminal.
+    std::string line = "debug: " + std::string(view(message));
+    std::replace_if(
+        line.begin(), line.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
+    line += '\n';
+    [[maybe_unused]] const auto written = std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+} // namespace xbr::host
+
+xbr::ISystem* XBRGetSystem() noexcept {
+    static auto* const system = xbr::make<xbr::host::System>().detach();
+    return system;
+}

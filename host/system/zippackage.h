@@ -1,0 +1,37 @@
+#pragma once
+
+#include "framework/abi/package.h"
+#include "framework/support/object.h"
+#include "host/system/packageinput.h"
+
+#include <zip.h>
+
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+/// Writes a ZIP archive. Adding a folder notes what it holds; all bytes are read and written by `flush`.
+class ZipPackage final : public Object<IPackage> {
+public:
+    explicit ZipPackage(std::string path) : m_path(std::move(path)) {}
+
+    Result setOption(Text name, std::int64_t value) noexcept override;
+    Result create() noexcept override;
+    Result addFolder(Text folder, std::int32_t mode, IProgress* progress) noexcept override;
+    Result flush(IProgress* progress) noexcept override;
+    Result close() noexcept override;
+
+private:
+    enum class State { kNew, kCreated, kBusy, kFlushed, kClosed };
+
+    Result write(IProgress* progress);
+    bool addEntry(zip_t* archive, const PackageEntry& entry, PackageInput& input) const;
+
+    std::string m_path;
+    std::vector<PackageEntry> m_entries;
+    State m_state = State::kNew;
+    bool m_isCompressed = false;
+};
+
+} // namespace xbr::host

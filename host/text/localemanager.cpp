@@ -1,0 +1,107 @@
+#include "host/text/localemanager.h"
+
+#include "framework/abi/filesystem.h"
+#include "framework/support/text.h"
+#include "host/system/mainthread.h"
+#include "host/text/streams.h"
+
+#include <QTranslator>
+
+#include <cstdlib>
+#include <sstream>
+#include <vector>
+
+namespace xbr::host {
+
+namespace {
+
+class TranslationTable final : public Object<ITranslationTable> {
+public:
+    /// `file` is the contents of a .qm file; one that is damaged or empty makes an empty table.
+    TranslationTable(std::string module, std::string file)
+        : m_context(std::move(module)),
+          m_file(std::move(file)) {
+        // The translator refers to these bytes.
+        [[maybe_unused]] const bool isLoaded =
+            m_translator.load(reinterpret_cast<const uchar*>(m_file.data()), static_cast<int>(m_file.size()));
+    }
+
+    Result translate(Text source, IString** out) noexcept override {
+        assertMainThread();
+        const std::string text = toString(source);
+        const QString translation = m_translator.translate(m_context.c_str(), text.c_str());
+        return giveText(translation.isNull() ? text : translation.toStdString(), out);
+    }
+
+private:
+    std::string m_context;
+    std::string m_file;
+    QTranslator m_translator;
+};
+
+std::string environment(const char* name) {
+    const char* value =
+        std::getenv(name); // NOLINT(concurrency-mt-unsafe): nothing in the host sets variables
+    return value ? value : std::string();
+}
+
+/// The user's languages by the rules of GNU gettext, separated by ':'; empty for none.
+/// Rationale: QLocale reads the environment by the same rules, and keeps the first answer for ever.
+std::string wantedLanguages() {
+    std::string locale;
+    for (const auto* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        locale = locale.empty() ? environment(variable) : locale;
+    }
+    if (locale.empty() || locale == "POSIX" || locale == "C" || locale.starts_with("C.")) {
+        return {};
+    }
+    const std::string languages = environment("LANGUAGE");
+    return languages.empty() ? locale : languages;
+}
+
+/// The names of the translation files to look for, the most wanted first. Ends where English is wanted: it is
+/// what the source texts are in.
+std::vector<std::string> fileNames() {
+    std::vector<std::string> names;
+    std::istringstream languages(wantedLanguages());
+    for (std::string language; std::getline(languages, language, ':');) {
+        language = language.substr(0, language.find_first_of(".@")); // no encoding, no variant
+        const std::string base = language.substr(0, language.find('_'));
+        if (base == "en" || base == "C" || base == "POSIX") {
+            break;
+        }
+        names.insert(names.end(), {language, base});
+    }
+    return names;
+}
+
+std::string readTranslations(const std::string& module) {
+    static constexpr std::uint64_t kLimit = std::uint64_t{16} << 20U;
+    const std::string folder = "resource://" + module + "/skin/translations/";
+    for (const auto& name : fileNames()) {
+        const std::string url = folder + name + ".qm";
+        Ref<IStream> stream;
+        if (XBRGetFileSystem()->openForReading(toText(url), stream.out()) == kOk) {
+            return readUpTo(*stream, kLimit).bytes;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+Result LocaleManager::getTable(Text module, ITranslationTable** out) noexcept {
+    assertMainThread();
+    std::string name = toString(module);
+    std::string file = readTranslations(name);
+    *out = make<TranslationTable>(std::move(name), std::move(file)).detach();
+    return kOk;
+}
+
+} // namespace xbr::host
+
+xbr::ILocaleManager* XBRGetLocaleManager() noexcept {
+    // Never destroyed: modules may still call while the process ends.
+    static auto* const manager = xbr::make<xbr::host::LocaleManager>().detach();
+    return manager;
+}

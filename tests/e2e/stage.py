@@ -1,0 +1,110 @@
+"""A stage for end-to-end tests: the service's stand-in, songs, and xbrhost with folders of its own."""
+
+import json
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+import urllib.request
+
+BIN = pathlib.Path(os.environ["BRINDLEX_BIN"])
+
+# Marked values: none of them may show up where it does not belong.
+CLIENT_SECRET = "marked+client/secret=0815"
+
+# A desktop session of whoever runs the tests stays out of them.
+SESSION = ["DISPLAY", "WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION", "DBUS_SESSION_BUS_ADDRESS"]
+
+
+def wait_for(condition, what, seconds=20):
+    """Waits until `condition` answers something true, and answers that."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.02)
+    raise AssertionError(f"waited {seconds} s in vain for {what}")
+
+
+class Stage:
+    """Starts the service; everything lies below one folder that `close` removes."""
+
+    def __init__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="brindlex-e2e-"))
+        for name in ("home", "run", "tmp"):
+            (self.folder / name).mkdir(mode=0o700)
+        self.inbox = self.folder / "inbox"
+        port = self.folder / "port"
+        self.service = subprocess.Popen(
+            [BIN / "brindlex-sandbox", "--inbox", self.inbox, "--port-file", port, "--client-secret", CLIENT_SECRET],
+            stdout=subprocess.DEVNULL)
+        self.server = "http://127.0.0.1:" + wait_for(lambda: port.exists() and port.read_text().strip(), "the service")
+        self.configure(self.server)
+        self.environment = {key: value for key, value in os.environ.items() if key not in SESSION}
+        self.environment.update({
+            "HOME": str(self.folder / "home"),
+            "XDG_RUNTIME_DIR": str(self.folder / "run"),
+            "TMPDIR": str(self.folder / "tmp"),
+            "XBRHOST_CONFIG": str(self.folder / "services.ini"),
+            "BROWSER": str(BIN / "brindlex-browser"),
+            "LC_ALL": "C.UTF-8",
+        })
+
+    def close(self):
+        self.service.terminate()
+        self.service.wait(10)
+        shutil.rmtree(self.folder)
+
+    def configure(self, server, secret=CLIENT_SECRET):
+        (self.folder / "services.ini").write_text(
+            f"[brindlex]\nServerURL={server}\nUserURL={server}/me\nConsumerKey=brindlex-demo\n"
+            f"ConsumerSecret={secret}\nCallbackURL=brindlex://authorize\n")
+
+    def make_songs(self):
+        """Three tagged songs: MP3, FLAC and WAV, in the order of their names."""
+        songs = self.folder / "songs"
+        subprocess.run([BIN / "brindlex-songs", songs, "1"], check=True)
+        return sorted(songs.iterdir())
+
+    def start(self, *arguments, **environment):
+        return subprocess.Popen([BIN / "xbrhost", *arguments], env={**self.environment, **environment},
+                                stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+
+    def run(self, *arguments, **environment):
+        """Runs xbrhost to its end."""
+        process = self.start(*arguments, **environment)
+        try:
+            process.stdout_text, process.stderr_text = process.communicate(timeout=60)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            raise AssertionError(f"xbrhost {arguments} hangs: {process.communicate()}") from None
+        return process
+
+    def releases(self):
+        """What was accepted: folder, document and audio of each release, in order."""
+        found = []
+        for folder in sorted(path for path in self.inbox.iterdir() if (path / "metadata.json").exists()):
+            found.append((json.loads((folder / "metadata.json").read_text()), sorted((folder / "assets").iterdir())))
+        return found
+
+    def control(self, method, path, body=None):
+        request = urllib.request.Request(self.server + "/control/" + path, method=method,
+                                         data=json.dumps(body).encode() if body is not None else None)
+        with urllib.request.urlopen(request, timeout=10) as reply:
+            return reply.read().decode()
+
+    def log(self, path):
+        """The requests to a path that the service saw."""
+        return [entry for entry in json.loads(self.control("GET", "log")) if entry["path"] == path]
+
+    def leftovers(self):
+        return [str(path.relative_to(self.folder)) for path in (self.folder / "tmp").rglob("*")]
+
+
+def interrupt(process):
+    process.send_signal(signal.SIGINT)
+    return process.communicate(timeout=20)

@@ -1,0 +1,24 @@
+// Stands in for the C library's name look-up, so that names that do not exist and name servers that do not
+// answer are the same on every machine.
+
+#include <chrono>
+#include <cstring>
+#include <dlfcn.h>
+#include <netdb.h>
+#include <thread>
+
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the C library's names are reserved
+// ones
+extern "C" __attribute__((visibility("default"))) int getaddrinfo(const char* node, const char* service,
+                                                                  const addrinfo* hints, addrinfo** result) {
+    if (node && std::strcmp(node, "missing.invalid") == 0) {
+        return EAI_NONAME;
+    }
+    if (node && std::strcmp(node, "slow.invalid") == 0) {
+        std::this_thread::sleep_for(std::chrono::seconds(2));
+        return EAI_AGAIN;
+    }
+    using Lookup = int (*)(const char*, const char*, const addrinfo*, addrinfo**);
+    static const auto real = reinterpret_cast<Lookup>(::dlsym(RTLD_NEXT, "getaddrinfo"));
+    return real(node, service, hints, result);
+}

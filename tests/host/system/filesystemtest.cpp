@@ -1,0 +1,172 @@
+#include "framework/abi/filesystem.h"
+
+#include "framework/support/memorystream.h"
+#include "framework/support/text.h"
+#include "host/system/fileurl.h"
+#include "tests/host/system/testfiles.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace xbr::host::tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(FileUrlTest, NamesPathsAsBytes) {
+    struct Case {
+        const char* url;
+        std::optional<std::string> path;
+    };
+    const std::vector<Case> table = {
+        {"file:///tmp/a%20b", "/tmp/a b"}, {"FILE://LocalHost/tmp/x", "/tmp/x"},
+        {"file:/tmp/x", "/tmp/x"},         {"file:///caf%C3%A9/%E9", "/caf\xC3\xA9/\xE9"},
+        {"file:///folder/", "/folder/"},   {"file:///100%25", "/100%"},
+        {"file:///a%2Fb", "/a/b"},         {"file://server/share", std::nullopt},
+        {"file:relative", std::nullopt},   {"file://", std::nullopt},
+        {"http://host/x", std::nullopt},   {"/tmp/x", std::nullopt},
+        {"file:///a%00b", std::nullopt},   {"file:///a%", std::nullopt},
+        {"file:///a%4", std::nullopt},     {"file:///a%zz", std::nullopt},
+        {"file:///a?b", std::nullopt},     {"file:///a#b", std::nullopt},
+    };
+    for (const auto& [url, path] : table) {
+        EXPECT_EQ(localPath(url), path) << url;
+    }
+    for (const std::string path : {"/", "/tmp/a b?c#d%e", "/Axé/\xE9\x01;+&"}) {
+        EXPECT_EQ(localPath(fileUrl(path)), path);
+    }
+    EXPECT_EQ(fileUrl("/a b+Axé"), "file:///a%20b+Ax%C3%A9");
+}
+
+class FileSystemTest : public testing::Test {
+protected:
+    Result open(const std::string& name) {
+        return files.openForReading(toText(folder.url(name)), stream.out());
+    }
+    Result create(const std::string& name) {
+        return files.createFile(toText(folder.url(name)), stream.out());
+    }
+    Result copy(const std::string& from, const std::string& to) {
+        return files.copyFile(toText(folder.url(from)), toText(folder.url(to)));
+    }
+    Result removeFolder(const std::string& name) { return files.removeFolder(toText(folder.url(name))); }
+    fs::path at(const std::string& name) const { return folder.path() / name; }
+
+    IFileSystem& files = *XBRGetFileSystem();
+    TestFolder folder;
+    Ref<IStream> stream;
+};
+
+TEST_F(FileSystemTest, OpensRegularFilesOnly) {
+    writeFile(at("plain"), "bytes");
+    ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(open("plain"), kOk);
+    EXPECT_EQ(readAll(*stream), "bytes");
+    for (const auto* name : {"missing", "pipe", ""}) {
+        EXPECT_EQ(open(name), kFalse) << name;
+        EXPECT_FALSE(stream);
+        EXPECT_FALSE(files.fileExists(toText(folder.url(name)))) << name;
+    }
+    EXPECT_EQ(create("pipe"), kUnexpected);
+    EXPECT_EQ(copy("pipe", "copy"), kUnexpected);
+    EXPECT_EQ(files.openForReading(toText("https://host/x"), stream.out()), kInvalidArgument);
+    EXPECT_EQ(files.createFile(toText("resource://x/y"), stream.out()), kInvalidArgument);
+}
+
+TEST_F(FileSystemTest, CreatesFilesWithTheirFolders) {
+    EXPECT_EQ(create("new/deep/file"), kOk);
+    std::uint64_t done = 0;
+    std::int64_t position = 0;
+    EXPECT_EQ(stream->write("hello", 5, &done), kOk);
+    EXPECT_EQ(stream->seek(-3, SeekOrigin::kEnd, &position), kOk);
+    EXPECT_EQ(position, 2);
+    EXPECT_EQ(stream->write("y", 1, &done), kOk);
+    EXPECT_EQ(readFile(at("new/deep/file")), "heylo");
+    EXPECT_EQ(create("new/deep/file"), kOk);
+    EXPECT_EQ(readFile(at("new/deep/file")), "");
+    EXPECT_EQ(create("new/deep"), kUnexpected);
+    EXPECT_EQ(create("new/deep/file/below"), kUnexpected);
+
+    EXPECT_EQ(open("new/deep/file"), kOk);
+    EXPECT_EQ(stream->write("x", 1, &done), kNotImplemented);
+    EXPECT_EQ(stream->seek(-1, SeekOrigin::kCurrent, nullptr), kInvalidArgument);
+}
+
+TEST_F(FileSystemTest, SeeksBeyondFourGigabytes) {
+    constexpr std::int64_t kFar = std::int64_t{5} << 30U;
+    std::uint64_t done = 0;
+    ASSERT_EQ(create("large"), kOk);
+    EXPECT_EQ(stream->seek(kFar, SeekOrigin::kStart, nullptr), kOk);
+    EXPECT_EQ(stream->write("end", 3, &done), kOk);
+    ASSERT_EQ(open("large"), kOk);
+    EXPECT_EQ(measure(*stream), kFar + 3);
+    EXPECT_EQ(stream->seek(-3, SeekOrigin::kEnd, nullptr), kOk);
+    EXPECT_EQ(readAll(*stream), "end");
+}
+
+TEST_F(FileSystemTest, AFullDiskIsReportedAndLeavesNoPartialCopy) {
+    const auto bytes = noise(100'000);
+    writeFile(at("source"), bytes);
+    writeFile(at("target"), "old");
+    ASSERT_EQ(create("written"), kOk);
+    const FileSizeLimit limit(50'000);
+    std::uint64_t done = 0;
+    EXPECT_EQ(stream->write(bytes.data(), bytes.size(), &done), kUnexpected);
+    EXPECT_EQ(done, 50'000U);
+    EXPECT_EQ(copy("source", "target"), kUnexpected);
+    EXPECT_EQ(readFile(at("target")), "old");
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"source", "target", "written"}));
+}
+
+TEST_F(FileSystemTest, CopiesReplaceAndStayReadable) {
+    const auto bytes = noise(3'000'000);
+    writeFile(at("source"), bytes);
+    fs::permissions(at("source"), fs::perms::owner_read);
+    writeFile(at("target"), "old");
+    for (const auto* target : {"new/folder/copy", "target", "source"}) {
+        EXPECT_EQ(copy("source", target), kOk) << target;
+        EXPECT_EQ(readFile(at(target)), bytes) << target;
+        EXPECT_NE(fs::status(at(target)).permissions() & fs::perms::owner_write, fs::perms::none) << target;
+    }
+    fs::create_directory(at("folder"));
+    EXPECT_EQ(copy("source", "folder"), kUnexpected);
+    EXPECT_EQ(copy("folder", "other"), kUnexpected);
+    EXPECT_EQ(copy("missing", "never/made"), kUnexpected);
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"folder", "new", "source", "target"}));
+}
+
+TEST_F(FileSystemTest, RemovesLinksAndDoesNotFollowThem) {
+    writeFile(at("precious/file"), "keep");
+    fs::create_directories(at("payload/deep"));
+    fs::create_directory_symlink(at("precious"), at("payload/deep/link"));
+    fs::create_symlink(at("precious/file"), at("payload/file"));
+    EXPECT_EQ(removeFolder("payload/"), kOk);
+    EXPECT_FALSE(fs::exists(at("payload")));
+
+    for (const auto* url : {"planted", "planted/", "planted//"}) {
+        fs::create_directory_symlink(at("precious"), at("planted"));
+        EXPECT_EQ(removeFolder(url), kOk) << url;
+        EXPECT_FALSE(fs::is_symlink(at("planted"))) << url;
+    }
+    EXPECT_EQ(readFile(at("precious/file")), "keep");
+}
+
+TEST_F(FileSystemTest, RemovesOnlyWhatIsMeant) {
+    writeFile(at("folder/file"), "x");
+    EXPECT_EQ(removeFolder("missing"), kFalse);
+    EXPECT_EQ(removeFolder("folder/file"), kFalse);
+    EXPECT_EQ(files.removeFolder(toText("file:///")), kInvalidArgument);
+    EXPECT_EQ(files.removeFolder(toText("file:////")), kInvalidArgument);
+    EXPECT_EQ(files.removeFolder(toText("folder")), kInvalidArgument);
+    EXPECT_EQ(files.removeFile(toText(folder.url("folder"))), kFalse);
+    EXPECT_EQ(files.removeFile(toText(folder.url("missing"))), kFalse);
+    EXPECT_TRUE(files.folderExists(toText(folder.url("folder"))));
+    EXPECT_EQ(files.removeFile(toText(folder.url("folder/file"))), kOk);
+    EXPECT_EQ(files.removeFile(toText(folder.url("folder/file"))), kFalse);
+}
+
+} // namespace
+} // namespace xbr::host::tests

@@ -1,0 +1,237 @@
+#include "framework/abi/message.h"
+#include "framework/support/message.h"
+#include "framework/support/text.h"
+#include "host/system/hostsystem.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <vector>
+
+namespace xbr::host::tests {
+namespace {
+
+using Log = std::vector<std::string>;
+
+class Subject final : public Object<ISubject> {
+public:
+    ~Subject() override { XBRGetSignalHandler()->forgetSubject(this); }
+};
+
+/// Notes what it receives as "name:message", then does what the test wants.
+class Observer final : public Object<IObserver> {
+public:
+    Observer(std::string name, Log& log) : m_name(std::move(name)), m_log(log) {}
+    ~Observer() override {
+        XBRGetSignalHandler()->forgetObserver(this);
+        m_log.push_back("~" + m_name);
+    }
+
+    void notify(ISubject* subject, IMessage* message) noexcept override {
+        m_log.push_back(m_name + (subject ? ":" : "<") + toString(message->name()));
+        if (then) {
+            then();
+        }
+    }
+
+    std::function<void()> then;
+
+private:
+    std::string m_name;
+    Log& m_log;
+};
+
+class SignalHandlerTest : public testing::Test {
+protected:
+    ~SignalHandlerTest() override {
+        for (auto* observer : {&a, &b, &c}) {
+            observer->reset();
+        }
+        dropPostedMessages();
+    }
+
+    void observe(const Ref<Observer>& observer) { handler.addObserver(subject.get(), observer.get()); }
+    void observeAll() {
+        for (auto* observer : {&a, &b, &c}) {
+            observe(*observer);
+        }
+    }
+    void signal(const std::string& name) { handler.signal(subject.get(), make<Message>(name).get()); }
+    void postSignal(const std::string& name) { handler.postSignal(subject.get(), make<Message>(name).get()); }
+    void post(const Ref<Observer>& to, const std::string& name, std::int32_t delay = 0) {
+        handler.post(to.get(), make<Message>(name).get(), delay);
+    }
+    static void runLoop() {
+        // Twice, because what is posted during a turn comes with the next one.
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+    Log taken() { return std::exchange(log, {}); }
+
+    ISignalHandler& handler = *XBRGetSignalHandler();
+    Log log;
+    Ref<Subject> subject = make<Subject>();
+    Ref<Observer> a = make<Observer>("a", log);
+    Ref<Observer> b = make<Observer>("b", log);
+    Ref<Observer> c = make<Observer>("c", log);
+};
+
+TEST_F(SignalHandlerTest, SignalsAtOnceInTheOrderOfAdding) {
+    observe(b);
+    observe(a);
+    EXPECT_EQ(handler.addObserver(subject.get(), a.get()), kFalse);
+    signal("x");
+    EXPECT_EQ(taken(), (Log{"b:x", "a:x"}));
+    EXPECT_EQ(handler.removeObserver(subject.get(), b.get()), kOk);
+    EXPECT_EQ(handler.removeObserver(subject.get(), b.get()), kFalse);
+    signal("y");
+    EXPECT_EQ(taken(), Log{"a:y"});
+}
+
+TEST_F(SignalHandlerTest, AnObserverAddedDuringADeliveryWaitsForTheNextMessage) {
+    observe(a);
+    a->then = [&] { observe(b); };
+    signal("x");
+    EXPECT_EQ(taken(), Log{"a:x"});
+    signal("y");
+    EXPECT_EQ(taken(), (Log{"a:y", "b:y"}));
+}
+
+TEST_F(SignalHandlerTest, AnObserverRemovedDuringADeliveryGetsNothing) {
+    const std::vector<std::pair<const char*, std::function<void()>>> removals = {
+        {"removed", [&] { handler.removeObserver(subject.get(), b.get()); }},
+        {"forgotten", [&] { handler.forgetObserver(b.get()); }},
+        {"removed and added again",
+         [&] {
+             handler.removeObserver(subject.get(), b.get());
+             observe(b);
+         }},
+    };
+    for (const auto& [what, remove] : removals) {
+        SCOPED_TRACE(what);
+        handler.forgetSubject(subject.get());
+        observeAll();
+        a->then = remove;
+        signal("x");
+        EXPECT_EQ(taken(), (Log{"a:x", "c:x"}));
+    }
+}
+
+TEST_F(SignalHandlerTest, NestedSignalsAndAnEndingSubject) {
+    observeAll();
+    a->then = [&] {
+        a->then = nullptr;
+        signal("inner");
+    };
+    signal("outer");
+    EXPECT_EQ(taken(), (Log{"a:outer", "a:inner", "b:inner", "c:inner", "b:outer", "c:outer"}));
+
+    a->then = [&] { subject.reset(); };
+    signal("last");
+    EXPECT_EQ(taken(), Log{"a:last"});
+}
+
+TEST_F(SignalHandlerTest, TheReceiverLivesUntilItsHandlerHasReturned) {
+    observeAll();
+    b->then = [&] {
+        b.reset();
+        log.push_back("still here");
+    };
+    signal("x");
+    EXPECT_EQ(taken(), (Log{"a:x", "b:x", "still here", "~b", "c:x"}));
+
+    c->then = [&] {
+        c.reset();
+        log.push_back("still here");
+    };
+    post(c, "y");
+    runLoop();
+    EXPECT_EQ(taken(), (Log{"c<y", "still here", "~c"}));
+}
+
+TEST_F(SignalHandlerTest, PostsComeFromTheLoopInTheOrderOfTheCalls) {
+    observe(a);
+    post(b, "1", 0);
+    postSignal("2");
+    post(b, "3", -1);
+    post(a, "4", 0);
+    signal("now");
+    EXPECT_EQ(taken(), Log{"a:now"});
+    observe(c); // before the delivery: receives the posted signal, too
+    runLoop();
+    EXPECT_EQ(taken(), (Log{"b<1", "a:2", "c:2", "b<3", "a<4"}));
+}
+
+TEST_F(SignalHandlerTest, AHandlerThatPostsToItselfDoesNotHoldUpTheLoop) {
+    a->then = [&] { post(a, "again"); };
+    post(a, "first");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(taken(), Log{"a<first"});
+}
+
+TEST_F(SignalHandlerTest, ALoopInsideAHandlerDeliversWhatWasPostedBefore) {
+    a->then = [&] {
+        QEventLoop modal;
+        c->then = [&] { modal.quit(); };
+        post(c, "4");
+        modal.exec();
+        log.push_back("modal ended");
+        c->then = nullptr;
+    };
+    post(a, "1");
+    post(b, "2");
+    post(b, "3");
+    post(b, "5", 1);
+    runLoop();
+    EXPECT_EQ(taken(), (Log{"a<1", "b<2", "b<3", "c<4", "modal ended"}));
+}
+
+TEST_F(SignalHandlerTest, DelayedPostsWaitTheirTime) {
+    QElapsedTimer clock;
+    clock.start();
+    post(a, "late", 60);
+    post(a, "early", 20);
+    post(a, "now");
+    post(b, "dropped", 20);
+    handler.forgetObserver(b.get());
+    qint64 arrival = 0;
+    a->then = [&] { arrival = clock.elapsed(); };
+    while (log.size() < 3 && clock.elapsed() < 5000) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    }
+    EXPECT_EQ(taken(), (Log{"a<now", "a<early", "a<late"}));
+    EXPECT_GE(arrival, 60);
+}
+
+TEST_F(SignalHandlerTest, WhatIsPostedToTheForgottenIsDropped) {
+    observe(c);
+    post(a, "1");
+    post(b, "2");
+    postSignal("3");
+    a.reset();
+    subject.reset();
+    EXPECT_EQ(taken(), Log{"~a"});
+    runLoop();
+    EXPECT_EQ(taken(), Log{"b<2"});
+}
+
+TEST_F(SignalHandlerTest, DroppingAMessageMayEndObjectsThatForgetThemselves) {
+    // The message to a holds the last reference to b, to which another message is posted.
+    IObserver& held = *b;
+    const Value holding = objectValue(&held);
+    post(b, "to b");
+    handler.post(a.get(), make<Message>("holder", std::initializer_list<Value>{holding}).get(), 0);
+    post(c, "to c");
+    b.reset();
+    EXPECT_EQ(taken(), Log{});
+    handler.forgetObserver(a.get());
+    EXPECT_EQ(taken(), Log{"~b"});
+    runLoop();
+    EXPECT_EQ(taken(), Log{"c<to c"});
+}
+
+} // namespace
+} // namespace xbr::host::tests
