@@ -5,7 +5,8 @@
 
 namespace xbr {
 
-/// Files and folders by URL: local files, and the resources that modules registered (for reading only).
+/// Files and folders by URL: local files, and the resources that modules registered (for reading only). Other
+/// locations do not exist (false, kFalse) and cannot be written (kInvalidArgument).
 struct IFileSystem : IObject {
     static constexpr Uid kUid = uid("d8f39c93-48aa-4ee9-99ed-ed2922e3d0a9");
 

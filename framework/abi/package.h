@@ -18,7 +18,8 @@ struct IPackage : IObject {
     /// for an unknown option.
     virtual Result setOption(Text name, std::int64_t value) noexcept = 0;
 
-    /// Starts the archive file, replacing an old one. kUnexpected: it cannot be created there.
+    /// Starts the archive. An old file of that name is removed at once, so that it is never taken for the new
+    /// one. kUnexpected: it cannot be created there.
     virtual Result create() noexcept = 0;
 
     /// Adds what a folder holds; `mode` is kRecursiveRelative. Progress may be null. kFalse when the user

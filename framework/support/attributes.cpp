@@ -2,8 +2,6 @@
 
 #include "framework/support/text.h"
 
-#include <algorithm>
-
 namespace xbr {
 
 std::int32_t Attributes::count() const noexcept {
@@ -15,9 +13,8 @@ Text Attributes::nameAt(std::int32_t index) const noexcept {
 }
 
 const Attributes::Entry* Attributes::find(std::string_view name) const {
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
-                                    [&](const Entry& entry) { return entry.name == name; });
-    return found == m_entries.end() ? nullptr : &*found;
+    const auto found = m_index.find(std::string(name));
+    return found == m_index.end() ? nullptr : &m_entries[found->second];
 }
 
 Result Attributes::get(Text name, Value* out) const noexcept {
@@ -27,12 +24,11 @@ Result Attributes::get(Text name, Value* out) const noexcept {
 }
 
 Result Attributes::set(Text name, const Value& value) noexcept {
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
-                                    [&](const Entry& entry) { return entry.name == view(name); });
-    if (found == m_entries.end()) {
+    const auto [place, isNew] = m_index.try_emplace(toString(name), m_entries.size());
+    if (isNew) {
         m_entries.push_back({toString(name), OwnedValue(value)});
     } else {
-        found->value = OwnedValue(value);
+        m_entries[place->second].value = OwnedValue(value);
     }
     return kOk;
 }

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace xbr {
@@ -39,6 +40,7 @@ private:
     const Entry* find(std::string_view name) const;
 
     std::vector<Entry> m_entries;
+    std::unordered_map<std::string, std::size_t> m_index; ///< documents from outside may have very many names
 };
 
 /// An array of such a tree.

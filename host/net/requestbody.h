@@ -23,6 +23,9 @@ public:
     /// Reads the next bytes. False when fewer than announced can be read.
     bool read(char* buffer, std::size_t size, std::size_t& done);
 
+    /// How many bytes were read.
+    std::int64_t position() const noexcept { return m_read; }
+
     /// Goes back to `offset` from the start of the body, to send it from there again.
     bool rewindTo(std::int64_t offset);
 

@@ -3,6 +3,8 @@
 #include <QByteArray>
 
 #include <algorithm>
+#include <poll.h>
+#include <utility>
 
 namespace xbr::host {
 
@@ -109,6 +111,17 @@ std::int64_t Transfer::sent() const {
     return count;
 }
 
+bool Transfer::isAnswerWaiting() const {
+    pollfd socket = {m_socket, POLLIN, 0};
+    return m_reply.received() == 0 && ::poll(&socket, 1, 0) > 0 && (socket.revents & POLLIN) != 0;
+}
+
+void Transfer::resume() {
+    if (std::exchange(m_heldBack, false)) {
+        curl_easy_pause(m_easy, CURLPAUSE_CONT);
+    }
+}
+
 bool Transfer::onTick() {
     const auto moved = m_reply.received() + static_cast<std::uint64_t>(sent());
     if (moved != m_bytesMoved) {
@@ -155,10 +168,19 @@ Outcome Transfer::outcome(CURLcode code) {
 
 std::size_t Transfer::readBody(char* buffer, std::size_t size, std::size_t count, void* self) {
     auto& transfer = *static_cast<Transfer*>(self);
+    auto& body = transfer.m_request.body;
+    const std::int64_t place = body.position();
     std::size_t done = 0;
-    if (!transfer.m_request.body.read(buffer, size * count, done)) {
+    if (!body.read(buffer, size * count, done)) {
         transfer.m_ended = Ended::kBodyUnreadable;
         return CURL_READFUNC_ABORT;
+    }
+    // Rationale: libcurl looks for an answer before it asks for more of the body, and reading that takes a
+    // while. A server that has answered and closed meanwhile makes sending fail, and with it the answer would
+    // be lost.
+    if (transfer.isAnswerWaiting() && body.rewindTo(place)) {
+        transfer.m_heldBack = true;
+        return CURL_READFUNC_PAUSE;
     }
     return done;
 }

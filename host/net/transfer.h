@@ -58,6 +58,12 @@ public:
 
     CURL* handle() const noexcept { return m_easy; }
 
+    /// Names the socket that the transfer uses.
+    void setSocket(curl_socket_t socket) noexcept { m_socket = socket; }
+
+    /// Goes on sending where the body was held back.
+    void resume();
+
     /// Counts the time without a byte. False when it was too long and the transfer must end.
     bool onTick();
 
@@ -75,6 +81,7 @@ private:
     bool configureCertificates();
     bool configureCallbacks();
     std::int64_t sent() const;
+    bool isAnswerWaiting() const;
     Outcome outcome(CURLcode code);
 
     static std::size_t readBody(char* buffer, std::size_t size, std::size_t count, void* self);
@@ -90,6 +97,8 @@ private:
     std::int64_t m_idleTicksLeft;
     std::int64_t m_idleTicks;
     std::uint64_t m_bytesMoved = 0;
+    curl_socket_t m_socket = CURL_SOCKET_BAD;
+    bool m_heldBack = false;
 };
 
 } // namespace xbr::host

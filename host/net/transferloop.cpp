@@ -89,17 +89,30 @@ void TransferLoop::detach(Transfer& transfer) {
 }
 
 void TransferLoop::act(curl_socket_t socket) {
+    if (m_insideCurl) {
+        // The stream of a body runs an event loop of its own. What is ready now will still be ready
+        // afterwards, but the timer has to be wound again.
+        if (socket == CURL_SOCKET_TIMEOUT) {
+            m_timer.start(Transfer::kTick);
+        }
+        return;
+    }
     int running = 0;
+    ++m_depth;
     {
         const QScopedValueRollback inside(m_insideCurl, true);
         // Without a direction libcurl looks itself, at both: told of "writable" alone it would go on sending
         // and fail on a connection whose early answer is there to be read.
         curl_multi_socket_action(m_multi, socket, 0, &running);
+        for (Transfer* transfer : m_transfers) {
+            transfer->resume();
+        }
     }
     for (const auto& transfer : std::exchange(m_doomed, {})) {
         detach(*transfer);
     }
     reportFinished();
+    leave();
 }
 
 void TransferLoop::leave() {
@@ -109,7 +122,6 @@ void TransferLoop::leave() {
 }
 
 void TransferLoop::reportFinished() {
-    ++m_depth;
     int left = 0;
     while (const CURLMsg* message = s_instance == this ? curl_multi_info_read(m_multi, &left) : nullptr) {
         Transfer* transfer = nullptr;
@@ -118,10 +130,12 @@ void TransferLoop::reportFinished() {
         detach(*transfer);
         transfer->finish(code);
     }
-    leave();
 }
 
 void TransferLoop::tick() {
+    if (m_insideCurl) {
+        return;
+    }
     ++m_depth;
     // Listeners may end any transfer, and start new ones.
     const auto present = m_transfers;
@@ -156,9 +170,13 @@ void TransferLoop::setNotifier(QSocketNotifier*& slot, curl_socket_t socket, int
     }
 }
 
-int TransferLoop::onSocket(CURL*, curl_socket_t socket, int what, void* self, void*) {
+int TransferLoop::onSocket(CURL* easy, curl_socket_t socket, int what, void* self, void*) {
     auto& loop = *static_cast<TransferLoop*>(self);
     loop.watch(socket, what);
+    Transfer* transfer = nullptr;
+    if (curl_easy_getinfo(easy, CURLINFO_PRIVATE, &transfer) == CURLE_OK && transfer) {
+        transfer->setSocket(what == CURL_POLL_REMOVE ? CURL_SOCKET_BAD : socket);
+    }
     if (what == CURL_POLL_REMOVE) {
         // Later: this may be the very notifier that is calling.
         const Watch watch = loop.m_watches[socket];

@@ -56,7 +56,7 @@ private:
     std::vector<Transfer*> m_transfers;
     std::vector<std::unique_ptr<Transfer>> m_doomed;
     bool m_insideCurl = false;
-    int m_depth = 0; ///< how many calls to listeners are on the stack
+    int m_depth = 0; ///< how many calls that may lead to listeners or streams are on the stack
 
     static TransferLoop* s_instance;
 };

@@ -52,7 +52,9 @@ Result ZipPackage::setOption(Text name, std::int64_t value) noexcept {
 
 Result ZipPackage::create() noexcept {
     assertMainThread();
-    if (m_state != State::kNew || !canBeCreated(m_path)) {
+    // The old archive goes now: when the new one fails later, nobody may take the old one for it.
+    std::error_code error;
+    if (m_state != State::kNew || !canBeCreated(m_path) || (std::filesystem::remove(m_path, error), error)) {
         return kUnexpected;
     }
     m_state = State::kCreated;

@@ -33,7 +33,7 @@ def wait_for(condition, what, seconds=20):
 class Stage:
     """Starts the service; everything lies below one folder that `close` removes."""
 
-    def __init__(self):
+    def __init__(self, keyring=False):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="brindlex-e2e-"))
         for name in ("home", "run", "tmp"):
             (self.folder / name).mkdir(mode=0o700)
@@ -44,7 +44,8 @@ class Stage:
             stdout=subprocess.DEVNULL)
         self.server = "http://127.0.0.1:" + wait_for(lambda: port.exists() and port.read_text().strip(), "the service")
         self.configure(self.server)
-        self.environment = {key: value for key, value in os.environ.items() if key not in SESSION}
+        kept = ["DBUS_SESSION_BUS_ADDRESS"] if keyring else []
+        self.environment = {key: value for key, value in os.environ.items() if key in kept or key not in SESSION}
         self.environment.update({
             "HOME": str(self.folder / "home"),
             "XDG_RUNTIME_DIR": str(self.folder / "run"),
@@ -53,6 +54,8 @@ class Stage:
             "BROWSER": str(BIN / "brindlex-browser"),
             "LC_ALL": "C.UTF-8",
         })
+        for name in ("CONFIG", "DATA", "CACHE"):
+            self.environment[f"XDG_{name}_HOME"] = str(self.folder / "home" / name.lower())
 
     def close(self):
         self.service.terminate()

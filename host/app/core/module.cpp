@@ -49,7 +49,7 @@ std::string Module::open() {
     // A name without a slash would be searched for in the system's library folders.
     m_library = dlopen(std::filesystem::absolute(m_path).c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!m_library) {
-        const char* reason = dlerror();
+        const char* reason = dlerror(); // NOLINT(concurrency-mt-unsafe): the C library keeps it per thread
         return std::string("cannot be loaded: ") + (reason ? reason : "no reason was given");
     }
     m_main = lookUp<decltype(m_main)>(m_library, "XBRModuleMain");
@@ -78,7 +78,7 @@ std::string Module::startServices(IHostContext& context) {
     for (std::int32_t i = 0; i < m_factory->countClasses(); ++i) {
         const ClassDescription* description = m_factory->classAt(i);
         if (description && view(description->category) == kServiceCategory) {
-            const std::string problem = startService(*description, context);
+            std::string problem = startService(*description, context);
             if (!problem.empty()) {
                 return problem;
             }

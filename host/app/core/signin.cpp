@@ -30,8 +30,7 @@ void SignIn::look() {
 
 void SignIn::finish(SignInResult result, const std::string& detail) {
     const Done done = std::move(m_done);
-    const std::string kept = detail; // may lie in what `done` destroys
-    done(result, kept);
+    done(result, detail);
 }
 
 } // namespace xbr::host

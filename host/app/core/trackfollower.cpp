@@ -4,6 +4,7 @@
 #include "framework/support/message.h"
 #include "framework/support/text.h"
 #include "framework/support/value.h"
+#include "host/system/fileurl.h"
 
 #include <algorithm>
 
@@ -37,6 +38,11 @@ TrackReport read(IListViewModel& tracks, std::int32_t row) {
 }
 
 } // namespace
+
+std::string labelOf(const TrackReport& track) {
+    const std::string path = localPath(track.file).value_or(track.file);
+    return track.title.empty() ? path.substr(path.rfind('/') + 1) : track.title;
+}
 
 TrackFollower::TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed)
     : m_tracks(std::move(tracks)),

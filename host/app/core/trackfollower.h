@@ -30,6 +30,9 @@ struct TrackReport {
     bool operator==(const TrackReport&) const = default;
 };
 
+/// What to call a track: its title, or the name of its file when it has none.
+std::string labelOf(const TrackReport& track);
+
 /// Reads a list of tracks and tells what changes in it.
 class TrackFollower {
 public:

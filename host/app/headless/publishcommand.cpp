@@ -53,12 +53,12 @@ std::string nameOf(const std::string& field) {
     return field;
 }
 
-std::string describe(const IncompleteTrack& track) {
+std::string describe(const IncompleteTrack& track, const TrackReport& report) {
     std::string fields;
     for (const std::string& field : track.fields) {
         fields += (fields.empty() ? "" : ", ") + nameOf(field);
     }
-    return "track " + std::to_string(track.index + 1) + " '" + track.title + "': missing " + fields;
+    return "track " + std::to_string(track.index + 1) + " '" + labelOf(report) + "': missing " + fields;
 }
 
 /// Shows a session on the output and remembers how it ended.
@@ -98,7 +98,7 @@ void tellProblem(const PublishOutcome& outcome, const ConfigurationReport& repor
         printError(outcome.detail);
     }
     for (const IncompleteTrack& track : outcome.incomplete) {
-        printError(describe(track));
+        printError(describe(track, outcome.tracks[static_cast<std::size_t>(track.index)]));
     }
 }
 

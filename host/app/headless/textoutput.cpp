@@ -73,7 +73,7 @@ public:
     void track(const TrackReport& track, std::size_t count) override {
         m_title.clear();
         const std::string start = std::to_string(track.index + 1) + "/" + std::to_string(count) + " " +
-                                  plainText(track.title) + ": " + stateText(track);
+                                  plainText(labelOf(track)) + ": " + stateText(track);
         // Until a track moves there is nothing to say about it.
         std::string& known = m_states.try_emplace(track.index, kWaiting).first->second;
         const bool isNews = known != stateText(track);

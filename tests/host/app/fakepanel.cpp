@@ -19,13 +19,16 @@ constexpr int kAlbum = 102;
 
 struct FakeTrack final : Object<IPropertySource> {
     Result getProperty(Text name, Value* out) noexcept override {
-        const auto wanted = view(name);
-        *out = wanted == "title"       ? textValue(title)
-               : wanted == "state"     ? integerValue(static_cast<std::int64_t>(state))
-               : wanted == "uploading" ? boolValue(isUploading)
-               : wanted == "progress"  ? floatValue(isUploading ? 0.5 : 0.0)
-                                       : noValue();
-        return out->kind == ValueKind::kNone ? kFalse : kOk;
+        const std::pair<std::string_view, Value> properties[] = {
+            {"title", textValue(title)},
+            {"state", integerValue(static_cast<std::int64_t>(state))},
+            {"uploading", boolValue(isUploading)},
+            {"progress", floatValue(isUploading ? 0.5 : 0.0)},
+        };
+        const auto* const found = std::find_if(std::begin(properties), std::end(properties),
+                                               [&](const auto& pair) { return pair.first == view(name); });
+        *out = found == std::end(properties) ? noValue() : found->second;
+        return found == std::end(properties) ? kFalse : kOk;
     }
     Result setProperty(Text, const Value&) noexcept override { return kFalse; }
 

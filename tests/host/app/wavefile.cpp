@@ -35,7 +35,10 @@ std::string infoChunk(const std::vector<std::pair<std::string, std::string>>& fi
 std::string id3Tag(const std::vector<std::pair<std::string, std::string>>& frames) {
     std::string body;
     for (const auto& [id, text] : frames) {
-        body += id + bigEndian(static_cast<std::uint32_t>(text.size() + 1)) + std::string(3, '\0') + text;
+        body += id;
+        body += bigEndian(static_cast<std::uint32_t>(text.size() + 1));
+        body += std::string(3, '\0'); // flags, and Latin-1 as the encoding
+        body += text;
     }
     std::string size;
     for (int shift = 21; shift >= 0; shift -= 7) { // seven bits a byte

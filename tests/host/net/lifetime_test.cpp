@@ -140,6 +140,49 @@ TEST_F(Lifetime, handlerMayDestroyEverything) {
     }
 }
 
+/// A body that does something of its own when it is read.
+class CallingStream final : public Object<IStream> {
+public:
+    explicit CallingStream(std::function<void()> onRead) : m_onRead(std::move(onRead)) {}
+
+    Result read(void* buffer, std::uint64_t size, std::uint64_t* done) noexcept override {
+        m_onRead();
+        return m_bytes->read(buffer, size, done);
+    }
+    Result write(const void*, std::uint64_t, std::uint64_t*) noexcept override { return kNotImplemented; }
+    Result seek(std::int64_t offset, SeekOrigin origin, std::int64_t* position) noexcept override {
+        return m_bytes->seek(offset, origin, position);
+    }
+
+private:
+    std::function<void()> m_onRead;
+    Ref<MemoryStream> m_bytes = streamOf(std::string(5'000'000, 'b'));
+};
+
+TEST_F(Lifetime, bodyMayEndTheRequestThatReadsIt) {
+    const ScriptedServer server(&Lifetime::hang);
+    Ref<IWebRequest> request;
+    const auto abort = [&] { request->abort(); };
+    const auto release = [&] { request.reset(); };
+    struct Case {
+        std::function<void()> onRead;
+        int aborts;
+    };
+    const auto runLoop = [&] {
+        spinFor(100);
+        request->abort();
+    };
+    for (const Case& one : {Case{abort, 1}, Case{release, 0}, Case{&abortAllRequests, 0}, Case{runLoop, 1}}) {
+        const auto recorder = make<Recorder>();
+        request = openRequest("POST", server.url());
+        ASSERT_EQ(request->send(make<CallingStream>(one.onRead).get(), recorder.get()), kOk);
+        spinFor(300);
+        EXPECT_FALSE(request && request->isBusy());
+        EXPECT_EQ(recorder->heard("onabort"), one.aborts);
+        EXPECT_EQ(recorder->heard("onloadend"), 0);
+    }
+}
+
 TEST_F(Lifetime, releasedInFlight) {
     std::atomic<bool> closed = false;
     const ScriptedServer server([&closed](Peer& peer) {

@@ -7,10 +7,11 @@
 #include <netdb.h>
 #include <thread>
 
-// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the C library's names are reserved
-// ones
-extern "C" __attribute__((visibility("default"))) int getaddrinfo(const char* node, const char* service,
-                                                                  const addrinfo* hints, addrinfo** result) {
+extern "C" __attribute__((visibility("default"))) int lookUp(const char* node, const char* service,
+                                                             const addrinfo* hints,
+                                                             addrinfo** result) __asm__("getaddrinfo");
+
+int lookUp(const char* node, const char* service, const addrinfo* hints, addrinfo** result) {
     if (node && std::strcmp(node, "missing.invalid") == 0) {
         return EAI_NONAME;
     }

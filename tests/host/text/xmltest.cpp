@@ -77,7 +77,7 @@ TEST(XmlParseTest, HandsOutThePartsInOrder) {
 
 TEST(XmlParseTest, RefusesTheIllFormedAndTheDangerous) {
     for (const auto& document :
-         {nested(64), crowded(256), "<a><!--" + repeated("x", 10'000'000) + "--></a>"}) {
+         {nested(64), crowded(256), "<a><!--" + repeated("xxxxxxxxxx", 1'000'000) + "--></a>"}) {
         EXPECT_EQ(XBRXmlParse(streamOf(document).get(), make<Handler>().get()), kOk);
     }
 
@@ -102,7 +102,7 @@ TEST(XmlParseTest, RefusesTheIllFormedAndTheDangerous) {
         {"crowded tag in a crowd", "<a><![CDATA[<]]>" + crowded(100'000) + "</a>"},
         {"crowded tag in UTF-16", utf16(crowded(100'000))},
         {"too deep", nested(65)},
-        {"depth bomb", nested(2'000'000)},
+        {"depth bomb", nested(1'000'000)},
         {"too large", "<a>" + std::string(16U << 20U, ' ') + "</a>"},
     };
     for (const auto& [what, document] : table) {
