@@ -7,6 +7,12 @@ add_library(xbr_options INTERFACE)
 target_compile_options(xbr_options INTERFACE
     -Wall -Wextra -Werror -Wpedantic -Wshadow -Woverloaded-virtual -Wreturn-type
     -Wcast-align -Wunused -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough)
+
+# A room's archive holds more than each of its users needs; what is not called goes, and with it the accessors that
+# only it would have called.
+target_compile_options(xbr_options INTERFACE -ffunction-sections -fdata-sections)
+target_link_options(xbr_options INTERFACE -Wl,--gc-sections)
+
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # GCC bug 105651: assigning a literal to a std::string is taken for an overlapping copy.
     target_compile_options(xbr_options INTERFACE -Wno-restrict)

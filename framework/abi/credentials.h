@@ -12,7 +12,8 @@ struct ICredential : IObject {
     virtual Text password() const noexcept = 0;
 };
 
-/// The user's system credential store.
+/// The user's system credential store. Texts are valid UTF-8 without zero bytes and a target is not empty,
+/// otherwise kInvalidArgument.
 struct ICredentialManager : IObject {
     static constexpr Uid kUid = uid("2ab431ef-49fc-445a-9599-2d14111e31e0");
 

@@ -24,11 +24,13 @@ struct IWebCredentials : IObject {
 struct IWebRequest : IObject {
     static constexpr Uid kUid = uid("a883120c-7b3b-40f7-bacc-16c0a8950a8b");
 
-    /// Names method and URL (http or https). Credentials may be null; they are sent to this URL's server
-    /// only, and such a request follows no redirect.
+    /// Names method and URL (http or https, without user name and password; kInvalidArgument otherwise).
+    /// Credentials may be null; they are sent to this URL's server only, and such a request follows no
+    /// redirect.
     virtual Result open(Text method, Text url, IWebCredentials* credentials) noexcept = 0;
 
-    /// Adds a header. kInvalidArgument: not a header name, or a control character in the value.
+    /// Adds a header. kInvalidArgument: not a header name, a control character in the value, or a header that
+    /// the transport sets itself (Content-Length, Host, ...).
     virtual Result setHeader(Text name, Text value) noexcept = 0;
 
     /// Starts the request. The body (may be null) is read from its position to its end, and kept; the handler
@@ -43,7 +45,8 @@ struct IWebRequest : IObject {
     /// The HTTP status; 0 before "onloadend" and when no complete answer came.
     virtual std::int32_t status() const noexcept = 0;
 
-    /// The answer's body at its start, handed over; kFalse and null when there is none.
+    /// The answer's body at its start, handed over: the same stream each time. kFalse and null when it is
+    /// empty.
     virtual Result getResponseBody(IStream** out) noexcept = 0;
 
     /// After status 0, why no answer came, in plain words and without secrets; otherwise empty.

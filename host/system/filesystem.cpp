@@ -3,7 +3,7 @@
 #include "framework/support/text.h"
 #include "host/system/copyfile.h"
 #include "host/system/filestream.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 #include "host/system/mainthread.h"
 
 #include <cerrno>

@@ -1,7 +1,7 @@
 #include "host/system/packagehandler.h"
 
 #include "framework/support/text.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 #include "host/system/mainthread.h"
 #include "host/system/zippackage.h"
 

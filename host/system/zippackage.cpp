@@ -2,8 +2,8 @@
 
 #include "framework/support/text.h"
 #include "host/system/archivesink.h"
-#include "host/system/fileurl.h"
 #include "host/system/folderscan.h"
+#include "host/system/hostfileurl.h"
 #include "host/system/mainthread.h"
 
 #include <algorithm>

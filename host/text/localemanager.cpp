@@ -2,7 +2,6 @@
 
 #include "framework/abi/filesystem.h"
 #include "framework/support/text.h"
-#include "host/system/mainthread.h"
 #include "host/text/streams.h"
 
 #include <QTranslator>
@@ -27,7 +26,6 @@ public:
     }
 
     Result translate(Text source, IString** out) noexcept override {
-        assertMainThread();
         const std::string text = toString(source);
         const QString translation = m_translator.translate(m_context.c_str(), text.c_str());
         return giveText(translation.isNull() ? text : translation.toStdString(), out);
@@ -91,7 +89,6 @@ std::string readTranslations(const std::string& module) {
 } // namespace
 
 Result LocaleManager::getTable(Text module, ITranslationTable** out) noexcept {
-    assertMainThread();
     std::string name = toString(module);
     std::string file = readTranslations(name);
     *out = make<TranslationTable>(std::move(name), std::move(file)).detach();

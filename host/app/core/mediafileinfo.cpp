@@ -3,7 +3,7 @@
 #include "framework/support/text.h"
 #include "framework/support/value.h"
 #include "host/app/core/mediatags.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 
 namespace xbr::host {
 

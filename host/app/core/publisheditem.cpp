@@ -2,7 +2,7 @@
 
 #include "framework/support/hostobject.h"
 #include "framework/support/text.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 
 #include <filesystem>
 #include <unistd.h>

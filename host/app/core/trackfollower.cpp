@@ -4,7 +4,7 @@
 #include "framework/support/message.h"
 #include "framework/support/text.h"
 #include "framework/support/value.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 
 #include <algorithm>
 

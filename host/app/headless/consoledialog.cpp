@@ -35,8 +35,10 @@ bool ConsoleDialog::isHopeless() const {
 void ConsoleDialog::watchCallbacks(IController& controller) {
     m_context->callbacks.setUrlListener([this, &controller] {
         if (isAwaitingCode(controller)) {
-            m_context->output->message("The browser came back without a permission.");
-            close();
+            // Who denied by mistake may go back in the browser and allow; and any page can open such a link.
+            m_context->output->message(
+                "The browser came back without a permission. Still waiting: allow it there, or "
+                "end with Ctrl-C.");
         }
     });
 }

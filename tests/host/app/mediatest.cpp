@@ -2,7 +2,7 @@
 #include "framework/support/text.h"
 #include "host/app/core/mediafileinfo.h"
 #include "host/app/core/mediasignature.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 #include "tests/host/app/testfolder.h"
 #include "tests/host/app/wavefile.h"
 

@@ -3,7 +3,7 @@
 #include "framework/support/hostobject.h"
 #include "framework/support/text.h"
 #include "host/gui/hostgui.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 #include "tests/host/app/testfolder.h"
 
 #include <gtest/gtest.h>

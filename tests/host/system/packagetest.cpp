@@ -1,7 +1,7 @@
 #include "framework/abi/package.h"
 
 #include "framework/support/text.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 #include "tests/host/system/testfiles.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 #include "framework/abi/package.h"
 #include "framework/support/memorystream.h"
 #include "framework/support/text.h"
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

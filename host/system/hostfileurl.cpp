@@ -1,4 +1,4 @@
-#include "host/system/fileurl.h"
+#include "host/system/hostfileurl.h"
 
 #include "framework/abi/uid.h"
 
