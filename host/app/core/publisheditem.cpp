@@ -1,5 +1,6 @@
 #include "host/app/core/publisheditem.h"
 
+#include "framework/support/attributes.h"
 #include "framework/support/hostobject.h"
 #include "framework/support/text.h"
 #include "host/system/hostfileurl.h"
@@ -42,7 +43,7 @@ bool PublishedItems::add(const std::string& path, std::string& error) {
         error = "'" + path + "' " + problem;
         return false;
     }
-    std::string url = fileUrl(fs::absolute(path).lexically_normal().string());
+    std::string url = fileUrl(fs::absolute(path).string());
     auto info = createHostObject<IMediaFileInfo>();
     if (!info || info->open(toText(url)) != kOk) {
         error = "'" + path + "' is not an audio file that can be published (wav, flac or mp3)";
@@ -50,6 +51,12 @@ bool PublishedItems::add(const std::string& path, std::string& error) {
     }
     m_items.push_back(make<PublishedItem>(std::move(url), std::move(info)));
     return true;
+}
+
+bool PublishedItems::hasLastGenre() const {
+    const auto tags = make<Attributes>();
+    m_items.back()->getMediaAttributes(tags.get());
+    return !tags->getString("Media:Genre").empty();
 }
 
 Result PublishedItems::next(IObject** out) noexcept {

@@ -34,6 +34,9 @@ public:
 
     bool isEmpty() const { return m_items.empty(); }
 
+    /// True when the tags of the item added last tell its genre.
+    bool hasLastGenre() const;
+
     Result next(IObject** out) noexcept override;
 
 private:

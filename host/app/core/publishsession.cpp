@@ -90,6 +90,12 @@ bool PublishSession::collect(PublishedItems& items) {
                    "'" + file + "' is of a kind that cannot be published (wav, flac or mp3 can)");
             return false;
         }
+        // Several files make the module think of an album first, where all take the first one's genre; what
+        // has none of its own would keep that one as a single.
+        if (m_mode == ReleaseMode::kSingles && m_files.size() > 1 && !items.hasLastGenre()) {
+            finish(PublishResult::kInformationMissing, "'" + file + "' has no genre in its tags");
+            return false;
+        }
     }
     const bool isTaken = publisher->publish(&items) == kOk &&
                          m_panel->tracks()->countRows() == static_cast<std::int32_t>(m_files.size());
