@@ -61,6 +61,8 @@ xbr::Url getPayloadArchive() {
 }
 
 xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress) {
+    // The host's generator as it is, never seeded here. NOLINTNEXTLINE(concurrency-mt-unsafe): main thread
+    // only
     const std::string boundary = makeBoundary(std::rand());
     const xbr::Url archive = getPayloadArchive();
     if (!packFolder(getPayloadFolder(), archive, progress)) {

@@ -2,25 +2,15 @@
 
 #include "framework/support/text.h"
 #include "release/genrecatalogue.h"
+#include "ui/trackeditrules.h"
+#include "ui/trackparameters.h"
 #include "ui/tracks.h"
+
+#include <algorithm>
 
 namespace brindlex {
 
 namespace {
-
-enum Tag : std::int32_t {
-    kAlbumTitle = 100,
-    kAlbumArtist = 101,
-    kPrimaryGenre = 102,
-    kTrackNumber = 103,
-    kSongTitle = 104,
-    kSongArtist = 105,
-    kAlbumTitleMissing = 106,
-    kAlbumArtistMissing = 107,
-    kPrimaryGenreMissing = 108,
-    kSongTitleMissing = 109,
-    kSongArtistMissing = 110,
-};
 
 constexpr std::int64_t kLastTrackNumber = 10000;
 
@@ -71,7 +61,9 @@ void TrackPropertyComponent::loadParameters(const TrackMetadata& record) {
 
 void TrackPropertyComponent::setItem(TrackItem* item) {
     const auto empty = xbr::make<TrackMetadata>();
+    m_updating = true;
     loadParameters(item ? *item->metadata : *empty);
+    m_updating = false;
     for (std::int32_t tag = kAlbumTitle; tag <= kSongArtistMissing; ++tag) {
         parameter(tag)->setEnabled(item != nullptr);
     }
@@ -144,6 +136,29 @@ void TrackPropertyComponent::updateReady() {
         m_ready = ready;
         signalChanged();
     }
+}
+
+std::vector<xbr::Ref<TrackItem>> TrackPropertyComponent::editedTracks() const {
+    std::vector<xbr::Ref<TrackItem>> edited;
+    for (const auto& item : m_tracks->selection()) {
+        edited.push_back(xbr::Ref<TrackItem>::share(TrackItem::from(*item)));
+    }
+    const auto focused = xbr::Ref<TrackItem>::share(focusTrack(*m_tracks));
+    if (focused && std::find(edited.begin(), edited.end(), focused) == edited.end()) {
+        edited.push_back(focused);
+    }
+    return edited;
+}
+
+void TrackPropertyComponent::parameterChanged(xbr::Parameter& parameter) {
+    const auto edited = editedTracks();
+    if (m_updating || edited.empty()) {
+        return;
+    }
+    const auto self = xbr::Ref<TrackPropertyComponent>::share(this);
+    TrackEditRules(*this, *m_tracks).apply(parameter.tag(), edited);
+    m_tracks->signalChanged();
+    updateReady();
 }
 
 xbr::Result TrackPropertyComponent::getProperty(xbr::Text name, xbr::Value* out) noexcept {

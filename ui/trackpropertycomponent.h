@@ -5,6 +5,7 @@
 #include "ui/trackitem.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace brindlex {
 
@@ -45,7 +46,12 @@ public:
 
     xbr::Result getProperty(xbr::Text name, xbr::Value* out) noexcept override;
 
+protected:
+    void parameterChanged(xbr::Parameter& parameter) override;
+
 private:
+    /// The selected tracks in the order of selection, and the one with the focus.
+    std::vector<xbr::Ref<TrackItem>> editedTracks() const;
     void applyAlbumMode();
     void applySinglesMode();
     void loadParameters(const TrackMetadata& record);
@@ -54,6 +60,8 @@ private:
     UploadMode m_mode = UploadMode::kSingles;
     bool m_ready = false;
     bool m_hasItem = false;
+    bool m_updating =
+        false; ///< a track is being loaded: views that write back what they are shown change nothing
 };
 
 } // namespace brindlex

@@ -1,50 +1,13 @@
-#include "framework/support/objectlist.h"
-#include "framework/support/text.h"
-#include "release/genrecatalogue.h"
-#include "tests/fakehost/fakehost.h"
-#include "ui/tracklistcomponent.h"
-#include "ui/tracks.h"
+#include "tests/ui/tracklistfixture.h"
 
-#include <gtest/gtest.h>
+namespace brindlex {
 
 namespace {
 
-using brindlex::TrackItem;
-using brindlex::TrackListComponent;
-using brindlex::TrackUploadState;
 using fakehost::host;
 
-/// A file that is dragged or chosen.
-class DraggedFile final : public xbr::Object<xbr::IUrlSource> {
-public:
-    explicit DraggedFile(std::string url) : m_url(std::move(url)) {}
-    xbr::Result getUrl(xbr::IString** out) noexcept override { return xbr::giveText(m_url, out); }
-
-private:
-    std::string m_url;
-};
-
-class TrackListTest : public testing::Test {
+class TrackListTest : public TrackListFixture {
 protected:
-    TrackListTest() {
-        fakehost::resetHost();
-        host().files.files["resource://brindlex/brindlex_genres.csv"] = "Rock\nJazz\n";
-        brindlex::loadGenres();
-        list = xbr::make<TrackListComponent>();
-    }
-
-    static xbr::Ref<xbr::ObjectList> files(std::initializer_list<const char*> urls) {
-        auto objects = xbr::make<xbr::ObjectList>();
-        for (const char* url : urls) {
-            const auto file = xbr::make<DraggedFile>(url);
-            objects->add(xbr::query<xbr::IObject>(file.get()));
-        }
-        return objects;
-    }
-
-    void add(std::initializer_list<const char*> urls) { list->add(*files(urls)); }
-    TrackItem& track(std::size_t index) { return brindlex::trackAt(list->model(), index); }
-
     bool isRemoveAllEnabled() { return list->findParameter(xbr::toText("removeAll"))->isEnabled(); }
 
     std::string cell(std::int32_t row, std::int32_t column,
@@ -55,8 +18,6 @@ protected:
         EXPECT_EQ(style, expected);
         return xbr::take(text);
     }
-
-    xbr::Ref<TrackListComponent> list;
 };
 
 TEST_F(TrackListTest, TakesAudioFilesAndTheirTags) {
@@ -80,11 +41,11 @@ TEST_F(TrackListTest, TakesAudioFilesAndTheirTags) {
 TEST_F(TrackListTest, AlbumModeGivesAllTracksTheFirstOnesRelease) {
     host().objects.tags["file:///m/a.wav"] = {{"Media:Title", "A"}, {"Media:Genre", "Rock"}};
     host().objects.tags["file:///m/b.wav"] = {{"Media:Title", "B"}, {"Media:Genre", "Jazz"}};
-    list->prepareMode(brindlex::UploadMode::kAlbum);
+    list->prepareMode(UploadMode::kAlbum);
     add({"file:///m/a.wav", "file:///m/b.wav"});
     EXPECT_EQ(track(1).metadata->albumTitle, "A");
     EXPECT_EQ(track(1).metadata->primaryGenre, "Rock");
-    list->findParameter(xbr::toText("albumUpload"))->setValue(xbr::integerValue(0));
+    switchTo(UploadMode::kSingles);
     EXPECT_EQ(track(1).metadata->albumTitle, "B") << "each song's own again";
     EXPECT_EQ(track(1).metadata->primaryGenre, "Jazz");
 }
@@ -134,7 +95,7 @@ TEST_F(TrackListTest, TracksInTransferCannotBeRemoved) {
 }
 
 TEST_F(TrackListTest, AlbumTracksStayMarkedUntilTheEnd) {
-    list->prepareMode(brindlex::UploadMode::kAlbum);
+    list->prepareMode(UploadMode::kAlbum);
     add({"file:///m/a.wav", "file:///m/b.wav"});
     list->setCurrentUploadItem(&track(0));
     list->setCurrentUploadItem(&track(1));
@@ -143,22 +104,6 @@ TEST_F(TrackListTest, AlbumTracksStayMarkedUntilTheEnd) {
     EXPECT_FALSE(track(0).uploading || track(1).uploading);
 }
 
-TEST_F(TrackListTest, EditorShowsTheFocusAndMarksWhatIsMissing) {
-    add({"file:///m/a.wav"});
-    const auto value = [&](const char* name) {
-        return list->editor().findParameter(xbr::toText(name))->value();
-    };
-    EXPECT_FALSE(list->editor().findParameter(xbr::toText("songTitle"))->isEnabled());
-    list->model().setFocus(0);
-    EXPECT_EQ(xbr::textOf(value("songTitle")), "a");
-    EXPECT_TRUE(list->editor().findParameter(xbr::toText("songTitle"))->isEnabled());
-    list->setCurrentUploadItem(&track(0));
-    list->validateForUpload(brindlex::Marks::kSet);
-    EXPECT_EQ(xbr::integerOf(value("songTitleMissing")), 0);
-    EXPECT_EQ(xbr::integerOf(value("songArtistMissing")), 1);
-    EXPECT_EQ(xbr::integerOf(value("primaryGenreMissing")), 1);
-    list->validateForUpload(brindlex::Marks::kClear);
-    EXPECT_EQ(xbr::integerOf(value("songArtistMissing")), 0);
-}
-
 } // namespace
+
+} // namespace brindlex
