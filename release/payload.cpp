@@ -61,8 +61,8 @@ xbr::Url getPayloadArchive() {
 }
 
 xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress) {
-    // The host's generator as it is, never seeded here. NOLINTNEXTLINE(concurrency-mt-unsafe): main thread
-    // only
+    // The host's generator as it is, never seeded here; only the main thread comes by.
+    // NOLINTNEXTLINE(concurrency-mt-unsafe)
     const std::string boundary = makeBoundary(std::rand());
     const xbr::Url archive = getPayloadArchive();
     if (!packFolder(getPayloadFolder(), archive, progress)) {

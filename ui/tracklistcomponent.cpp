@@ -2,15 +2,17 @@
 
 #include "framework/support/modulecomponent.h"
 #include "framework/support/text.h"
+#include "ui/resetcommand.h"
 #include "ui/trackcells.h"
 #include "ui/trackfactory.h"
+#include "ui/trackfiledialog.h"
 #include "ui/tracks.h"
 
 namespace brindlex {
 
 namespace {
 
-enum Tag : std::int32_t { kRemoveAll = 101, kAlbumUpload = 102 };
+enum Tag : std::int32_t { kAddTracks = 100, kRemoveAll = 101, kAlbumUpload = 102 };
 
 } // namespace
 
@@ -20,6 +22,7 @@ TrackListComponent::TrackListComponent() : Component("TrackList") {
     m_editor = xbr::make<TrackPropertyComponent>(m_model);
     addChild(m_editor);
     addObject("tracks", xbr::query<xbr::IObject>(m_model.get()));
+    addParameter(xbr::ParameterKind::kCommand, kAddTracks, "addTracks");
     addParameter(xbr::ParameterKind::kCommand, kRemoveAll, "removeAll").setEnabled(false);
     addParameter(xbr::ParameterKind::kToggle, kAlbumUpload, "albumUpload");
     for (std::int32_t i = 0; i < kTrackColumns; ++i) {
@@ -148,7 +151,13 @@ void TrackListComponent::notify(xbr::ISubject* subject, xbr::IMessage* message) 
 }
 
 void TrackListComponent::parameterChanged(xbr::Parameter& parameter) {
+    const auto self = xbr::Ref<TrackListComponent>::share(this);
     switch (parameter.tag()) {
+    case kAddTracks:
+        if (const auto chosen = chooseTrackFiles()) {
+            add(*chosen);
+        }
+        break;
     case kRemoveAll:
         removeAll();
         break;
@@ -203,7 +212,7 @@ xbr::Result TrackListComponent::removeFocused() {
 }
 
 xbr::Ref<xbr::ICommandList> TrackListComponent::contextCommands() {
-    return {};
+    return xbr::make<ResetCommand>(m_model);
 }
 
 } // namespace brindlex

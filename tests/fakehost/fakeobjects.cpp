@@ -56,6 +56,24 @@ public:
     }
 };
 
+class FakeFileSelector final : public xbr::Object<xbr::IFileSelector> {
+public:
+    xbr::Result addFilter(xbr::IFileType* type) noexcept override {
+        objects().log.push_back("filter " + xbr::toString(type->extension()));
+        return xbr::kOk;
+    }
+    xbr::Result run(Mode mode, xbr::Text title) noexcept override {
+        objects().log.push_back("choose " + std::to_string(static_cast<int>(mode)) + xbr::toString(title));
+        return objects().chosenFiles.empty() ? xbr::kFalse : xbr::kOk;
+    }
+    std::int32_t countUrls() const noexcept override {
+        return static_cast<std::int32_t>(objects().chosenFiles.size());
+    }
+    xbr::Text urlAt(std::int32_t index) const noexcept override {
+        return xbr::toText(objects().chosenFiles[static_cast<std::size_t>(index)]);
+    }
+};
+
 class FakeProgressIndicator final : public xbr::Object<xbr::IProgressIndicator, xbr::IProgress> {
 public:
     void setTitle(xbr::Text title) noexcept override {
@@ -124,6 +142,9 @@ xbr::Result FakePlugInManager::createInstance(const xbr::Uid& classUid, const xb
     }
     if (classUid == xbr::IDialog::kClassUid && hasDialog) {
         return create<FakeDialog>(interfaceUid, out);
+    }
+    if (classUid == xbr::IFileSelector::kClassUid) {
+        return create<FakeFileSelector>(interfaceUid, out);
     }
     if (classUid == xbr::IProgressIndicator::kClassUid) {
         return create<FakeProgressIndicator>(interfaceUid, out);

@@ -34,6 +34,7 @@ public:
     std::map<std::string, std::string> configuration;
     std::map<std::string, std::map<std::string, std::string>> tags; ///< by file URL
 
+    std::vector<std::string> chosenFiles;   ///< what the file dialog answers; none: the user cancels
     std::function<void()> onModalRun;       ///< what happens while the connect dialog is open
     std::function<void()> onProgressUpdate; ///< what happens while the progress indicator runs the event loop
     bool cancelled = false;                 ///< the user cancelled the progress indicator

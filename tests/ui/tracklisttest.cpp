@@ -94,6 +94,41 @@ TEST_F(TrackListTest, TracksInTransferCannotBeRemoved) {
     EXPECT_FALSE(isRemoveAllEnabled());
 }
 
+TEST_F(TrackListTest, FileDialogOffersTheServicesFormats) {
+    list->findParameter(xbr::toText("addTracks"))->setValue(xbr::integerValue(1));
+    EXPECT_EQ(host().objects.log,
+              (std::vector<std::string>{"filter wav", "filter flac", "filter mp3", "choose 1"}));
+    EXPECT_EQ(list->model().countRows(), 0) << "cancelled";
+    host().objects.chosenFiles = {"file:///m/b.MP3", "file:///m/x.aiff", "file:///m/a.wav"};
+    list->findParameter(xbr::toText("addTracks"))->setValue(xbr::integerValue(1));
+    ASSERT_EQ(list->model().countRows(), 2);
+    EXPECT_EQ(cell(0, 1), "b.MP3") << "in the dialog's order";
+}
+
+TEST_F(TrackListTest, ResetSendsSelectedTracksAgain) {
+    add({"file:///m/a.wav", "file:///m/b.wav", "file:///m/c.wav"});
+    const TrackUploadState states[] = {TrackUploadState::kDone, TrackUploadState::kFailed,
+                                       TrackUploadState::kDone};
+    for (std::size_t i = 0; i < 3; ++i) {
+        track(i).state = states[i];
+    }
+    track(1).uploading = true;
+    xbr::Ref<xbr::ICommandList> commands;
+    ASSERT_EQ(list->model().getContextCommands(commands.out()), xbr::kOk);
+    ASSERT_EQ(commands->count(), 1);
+    EXPECT_EQ(xbr::toString(commands->categoryAt(0)) + "/" + xbr::toString(commands->nameAt(0)),
+              "Tracks/Reset");
+    EXPECT_FALSE(commands->isEnabled(0)) << "nothing is selected";
+    select({1}, 0);
+    EXPECT_EQ(commands->perform(0), xbr::kFalse) << "on its way, and the focus does not count";
+    select({1, 2}, 0);
+    EXPECT_EQ(commands->perform(0), xbr::kOk);
+    EXPECT_EQ(track(0).state, TrackUploadState::kDone);
+    EXPECT_EQ(track(1).state, TrackUploadState::kFailed);
+    EXPECT_EQ(track(2).state, TrackUploadState::kNone);
+    EXPECT_FALSE(commands->isEnabled(0));
+}
+
 TEST_F(TrackListTest, AlbumTracksStayMarkedUntilTheEnd) {
     list->prepareMode(UploadMode::kAlbum);
     add({"file:///m/a.wav", "file:///m/b.wav"});
