@@ -67,6 +67,9 @@ bool OAuth2Client::getAuthorizationCode() {
     }
     const auto self = xbr::Ref<OAuth2Client>::share(this);
     setState(ClientState::kAwaitingCode);
+    if (m_state != ClientState::kAwaitingCode) {
+        return false; // an observer of the change reset it
+    }
     const std::string url = authorizationUrl(m_configuration, mayJoinTokenBeSent()).toString();
     return XBRGetSystemShell()->openUrl(xbr::toText(url)) == xbr::kOk;
 }
@@ -89,9 +92,16 @@ bool OAuth2Client::handleRedirect(const xbr::Url& url) {
 bool OAuth2Client::requestToken(std::string_view code) {
     const auto self = xbr::Ref<OAuth2Client>::share(this);
     const xbr::Pairs form = tokenForm(m_configuration, code);
+    const auto attempt = ++m_attempt;
     setState(ClientState::kRequestingToken);
-    const auto onReply = [this, attempt = ++m_attempt](const auto& message, auto& request) {
-        if (attempt == m_attempt) {
+    const auto isCurrent = [this, attempt] {
+        return attempt == m_attempt && m_state == ClientState::kRequestingToken;
+    };
+    if (!isCurrent()) {
+        return false; // an observer of the change reset it
+    }
+    const auto onReply = [this, isCurrent](const auto& message, auto& request) {
+        if (isCurrent()) {
             onTokenReply(message, request);
         }
     };
@@ -140,9 +150,15 @@ bool OAuth2Client::readTokenReply(xbr::IWebRequest& request) {
 
 void OAuth2Client::becomeAuthorized() {
     setState(ClientState::kAuthorized);
+    if (m_state != ClientState::kAuthorized) {
+        return; // an observer of the change reset it
+    }
     xbr::Ref<xbr::IWebCredentials> credentials;
-    if (XBRGetWebService()->createCredentials(credentials.out()) == xbr::kOk) {
-        credentials->set(xbr::toText(""), xbr::toText(m_tokens.accessToken), xbr::toText("Bearer"));
+    if (XBRGetWebService()->createCredentials(credentials.out()) == xbr::kOk &&
+        credentials->set(xbr::toText(""), xbr::toText(m_tokens.accessToken), xbr::toText("Bearer")) !=
+            xbr::kOk) {
+        credentials
+            .reset(); // a token that no header can carry: the service will refuse us, and the user sees it
     }
     setCredentials(std::move(credentials));
     xbr::postSignal(*this, "authorizationCompleted");
@@ -173,7 +189,7 @@ bool OAuth2Client::restoreAuthorization() {
     }
     const auto self = xbr::Ref<OAuth2Client>::share(this);
     becomeAuthorized();
-    return true;
+    return isAuthorized();
 }
 
 bool OAuth2Client::sendAuthorizedRequest(Handler handler, const ServiceRequest& request) {
@@ -205,7 +221,8 @@ xbr::Result OAuth2Client::getProperty(xbr::Text name, xbr::Value* out) noexcept 
 }
 
 void OAuth2Client::notify(xbr::ISubject*, xbr::IMessage* message) noexcept {
-    if (xbr::isNamed(*message, "authorizationLost")) {
+    // A newer sign-in that began before this message arrived is not lost with the old one.
+    if (xbr::isNamed(*message, "authorizationLost") && m_state == ClientState::kFailed) {
         resetAuthorization(Silence::kTold);
     }
 }
@@ -222,6 +239,7 @@ void OAuth2Client::parameterChanged(xbr::Parameter& parameter) {
         retryAuthorization();
         break;
     default: // "isAuthorized" only shows
+        parameter.set(xbr::boolValue(isAuthorized()), xbr::Notify::kNobody);
         break;
     }
 }

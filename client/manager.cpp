@@ -53,6 +53,9 @@ Manager::~Manager() {
     XBRGetSignalHandler()->forgetObserver(this);
     // A view may hold the client longer than we live; its handlers are ours.
     m_client->cancel();
+    if (m_trackList->currentUploadItem()) {
+        cleanupPayload(); // nobody else will, now that the reply has no one to come to
+    }
     if (g_current == this) {
         g_current = nullptr;
     }
@@ -122,6 +125,7 @@ void Manager::onAuthorizationCanceled() {
 }
 
 void Manager::onAccountReply(const xbr::IMessage& message, xbr::IWebRequest& request) {
+    const auto self = xbr::Ref<Manager>::share(this); // an observer of what is set here may drop the panel
     if (!xbr::isNamed(message, "onloadend")) {
         return;
     }

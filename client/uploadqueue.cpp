@@ -8,6 +8,9 @@
 #include "release/payloadbuilder.h"
 #include "ui/tracks.h"
 
+#include <algorithm>
+#include <unordered_set>
+
 namespace brindlex {
 
 namespace {
@@ -19,6 +22,12 @@ constexpr std::int32_t kMayCancel = 1;
 constexpr std::int32_t kDeferred = -1;
 constexpr std::int32_t kNoDelay = 0;
 
+constexpr std::int32_t kRetryDelay = 200; // milliseconds
+
+// The progress indicator runs the event loop while a payload is put together. There is one payload folder, so
+// no queue may start a second one in there, nor take the files away.
+bool g_preparing = false;
+
 } // namespace
 
 UploadQueue::UploadQueue(OAuth2Client& client, TrackListComponent& tracks, xbr::IObserver& owner)
@@ -27,7 +36,7 @@ UploadQueue::UploadQueue(OAuth2Client& client, TrackListComponent& tracks, xbr::
       m_owner(owner) {}
 
 void UploadQueue::restart() {
-    if (m_preparing) {
+    if (g_preparing) {
         return;
     }
     m_currentTrackIndex = 0;
@@ -35,7 +44,11 @@ void UploadQueue::restart() {
 }
 
 void UploadQueue::startUpload() {
-    if (!m_client.isReady() || m_tracks.currentUploadItem() || m_preparing) {
+    if (!m_client.isReady() || m_tracks.currentUploadItem()) {
+        return;
+    }
+    if (g_preparing) {
+        xbr::post(m_owner, "uploadNext", kRetryDelay); // another panel's payload is in the making
         return;
     }
     if (const Selection selection = select(); !selection.tracks.empty()) {
@@ -45,7 +58,8 @@ void UploadQueue::startUpload() {
 
 UploadQueue::Selection UploadQueue::select() {
     Selection selection;
-    if (!isAlbum()) {
+    selection.mode = m_tracks.mode();
+    if (selection.mode == UploadMode::kSingles) {
         if (TrackItem* track = chooseTrack()) {
             selection.tracks.push_back(xbr::Ref<TrackItem>::share(track));
         }
@@ -83,7 +97,7 @@ TrackItem* UploadQueue::chooseTrack() {
 
 xbr::Ref<IngestionRequest> UploadQueue::build(const Selection& selection, xbr::IProgress& progress) const {
     const std::string& clientId = m_client.configuration().consumerKey;
-    if (!isAlbum()) {
+    if (selection.mode == UploadMode::kSingles) {
         const TrackItem& track = *selection.tracks.front();
         return buildTrackPayload(*track.metadata, track.file, clientId, progress);
     }
@@ -102,14 +116,14 @@ void UploadQueue::prepareAndSend(const Selection& selection) {
     if (!progress) {
         return;
     }
-    m_preparing = true;
+    g_preparing = true;
     const std::string title = xbr::translate("Preparing Brindlex Upload");
     indicator->setTitle(xbr::toText(title));
     indicator->setOption(kMayCancel);
     indicator->begin();
     const auto request = build(selection, *progress);
-    m_preparing = false;
-    if (progress->isCancelled() || !isStillListed(selection)) {
+    g_preparing = false;
+    if (progress->isCancelled() || !isStillWanted(selection)) {
         cleanupPayload();
     } else if (request &&
                m_client.sendAuthorizedRequest(
@@ -119,16 +133,12 @@ void UploadQueue::prepareAndSend(const Selection& selection) {
     indicator->end();
 }
 
-bool UploadQueue::isStillListed(const Selection& selection) const {
-    for (const auto& track : selection.tracks) {
-        bool listed = false;
-        forEachTrack(m_tracks.model(),
-                     [&](const TrackItem& item) { listed = listed || &item == track.get(); });
-        if (!listed) {
-            return false;
-        }
-    }
-    return true;
+bool UploadQueue::isStillWanted(const Selection& selection) const {
+    std::unordered_set<const TrackItem*> listed;
+    forEachTrack(m_tracks.model(), [&](const TrackItem& track) { listed.insert(&track); });
+    return m_tracks.mode() == selection.mode &&
+           std::all_of(selection.tracks.begin(), selection.tracks.end(),
+                       [&](const auto& track) { return listed.contains(track.get()); });
 }
 
 void UploadQueue::markSent(const Selection& selection) {
@@ -140,6 +150,7 @@ void UploadQueue::markSent(const Selection& selection) {
 }
 
 void UploadQueue::onUploadEvent(const xbr::IMessage& message, xbr::IWebRequest& request) {
+    const auto owner = xbr::Ref<xbr::IObserver>::share(&m_owner); // an observer may drop the panel in here
     if (xbr::isNamed(message, "onloadend")) {
         onLoadEnd(request);
     } else if (xbr::isNamed(message, "onprogress")) {
@@ -159,7 +170,9 @@ void UploadQueue::onLoadEnd(xbr::IWebRequest& request) {
     if (request.status() == kUnauthorized) {
         xbr::post(m_owner, "refreshAccessToken", kNoDelay);
     }
-    cleanupPayload();
+    if (!g_preparing) {
+        cleanupPayload();
+    }
 }
 
 void UploadQueue::judgeAlbum(TrackUploadState outcome) {

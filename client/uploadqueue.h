@@ -27,6 +27,7 @@ public:
 private:
     /// What one transfer sends.
     struct Selection {
+        UploadMode mode = UploadMode::kSingles;
         std::vector<xbr::Ref<TrackItem>> tracks;
     };
 
@@ -36,7 +37,8 @@ private:
     xbr::Ref<IngestionRequest> build(const Selection& selection, xbr::IProgress& progress) const;
     void prepareAndSend(const Selection& selection);
     void markSent(const Selection& selection);
-    bool isStillListed(const Selection& selection) const;
+    /// False when tracks or mode changed while the progress indicator ran the event loop.
+    bool isStillWanted(const Selection& selection) const;
 
     void onUploadEvent(const xbr::IMessage& message, xbr::IWebRequest& request);
     void onLoadEnd(xbr::IWebRequest& request);
@@ -49,7 +51,6 @@ private:
     TrackListComponent& m_tracks;
     xbr::IObserver& m_owner;
     std::size_t m_currentTrackIndex = 0; ///< the track that one-by-one mode handles
-    bool m_preparing = false; ///< the progress indicator runs the event loop: no second start in there
 };
 
 } // namespace brindlex

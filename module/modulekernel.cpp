@@ -29,6 +29,9 @@ void ModuleKernel::addObject(xbr::Ref<xbr::IObject> object) {
 }
 
 bool ModuleKernel::load(void* moduleHandle, StartFunction start) {
+    if (m_started && m_initialise.empty()) {
+        return true; // loaded already
+    }
     m_moduleHandle = moduleHandle;
     m_started = true;
     if (!runInitialiseList()) {

@@ -14,8 +14,8 @@ constexpr std::string_view kName = "brindlex";
 
 bool registerResources(void*, void*) {
     const auto size = static_cast<std::uint64_t>(kBrindlexResourcesEnd - kBrindlexResourcesBegin);
-    return xbr::succeeded(
-        XBRGetFileSystem()->registerResources(xbr::toText(kName), kBrindlexResourcesBegin, size));
+    return XBRGetFileSystem()->registerResources(xbr::toText(kName), kBrindlexResourcesBegin, size) ==
+           xbr::kOk;
 }
 
 void unregisterResources(void*) {

@@ -16,7 +16,7 @@ namespace {
 
 void readTrackIndex(const xbr::Attributes& media, TrackMetadata& record) {
     const xbr::Value index = media.get("Media:TrackIndex");
-    if (index.kind == xbr::ValueKind::kNone) {
+    if (index.kind != xbr::ValueKind::kInteger && index.kind != xbr::ValueKind::kFloat) {
         return;
     }
     using Limits = std::numeric_limits<std::int32_t>;

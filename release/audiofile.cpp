@@ -1,5 +1,6 @@
 #include "release/audiofile.h"
 
+#include "framework/abi/filesystem.h"
 #include "framework/abi/filetype.h"
 #include "framework/support/text.h"
 
@@ -25,7 +26,8 @@ bool isSupportedExtension(std::string_view extension) {
 }
 
 bool isSupportedAudioFile(const xbr::Url& location) {
-    return location.isLocalFile() && isSupportedExtension(fileTypeExtension(location));
+    return location.isLocalFile() && isSupportedExtension(fileTypeExtension(location)) &&
+           !XBRGetFileSystem()->folderExists(xbr::toText(location.toString()));
 }
 
 } // namespace brindlex

@@ -56,7 +56,7 @@ const std::vector<TrackEditRules::Row>& TrackEditRules::wholeAlbumRows() {
 void TrackEditRules::run(const std::vector<Row>& rows, std::int32_t tag, TrackItem& track) {
     const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row& each) { return each.tag == tag; });
     if (row != rows.end()) {
-        (this->*row->rule)(track);
+        row->rule(*this, track);
     }
 }
 
@@ -130,7 +130,7 @@ void TrackEditRules::singlesTrackNumber(TrackItem& track) {
     m_editor.parameter(kTrackNumber)->set(xbr::integerValue(1));
 }
 
-void TrackEditRules::albumTrackNumber(TrackItem& track) {
+void TrackEditRules::albumTrackNumber(TrackItem& track) const {
     track.metadata->albumTrackNumber = m_values.trackNumber;
     track.metadata->trackNumber = m_values.trackNumber;
 }

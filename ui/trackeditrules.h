@@ -5,6 +5,7 @@
 #include "ui/trackpropertycomponent.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,7 @@ public:
     void apply(std::int32_t tag, const std::vector<xbr::Ref<TrackItem>>& targets);
 
 private:
-    using Rule = void (TrackEditRules::*)(TrackItem& track);
+    using Rule = std::function<void(TrackEditRules& rules, TrackItem& track)>;
     struct Row {
         std::int32_t tag;
         Rule rule;
@@ -48,7 +49,7 @@ private:
     void singlesAlbumArtist(TrackItem& track);
     void singlesGenre(TrackItem& track);
     void singlesTrackNumber(TrackItem& track);
-    void albumTrackNumber(TrackItem& track);
+    void albumTrackNumber(TrackItem& track) const;
     void songTitle(TrackItem& track);
     void songArtist(TrackItem& track);
     void wholeAlbumTitle(TrackItem& track);

@@ -43,6 +43,7 @@ void TrackListComponent::prepareMode(UploadMode mode) {
 }
 
 void TrackListComponent::add(xbr::IObjectIterator& objects) {
+    const auto self = xbr::Ref<TrackListComponent>::share(this);
     xbr::Ref<xbr::IObject> object;
     while (objects.next(object.out()) == xbr::kOk) {
         if (const auto item = makeItem(*object)) {
@@ -98,6 +99,9 @@ void TrackListComponent::setCurrentUploadItem(TrackItem* item) {
 void TrackListComponent::markAlbum(TrackItem* item) {
     // All tracks of an album travel together: a track that gives way to the next one is still on its way, so
     // it keeps its mark until the transfer ends.
+    if (!item && m_current) {
+        m_current->uploading = false; // also when it is not listed any more
+    }
     m_current = xbr::Ref<TrackItem>::share(item);
     if (item) {
         item->uploading = true;
@@ -140,6 +144,7 @@ void TrackListComponent::reloadEditor() {
 }
 
 void TrackListComponent::notify(xbr::ISubject* subject, xbr::IMessage* message) noexcept {
+    const auto self = xbr::Ref<TrackListComponent>::share(this);
     if (subject == m_editor.get()) {
         signalChanged();
     } else if (xbr::isNamed(*message, "selectionChanged")) {
@@ -196,6 +201,7 @@ xbr::DropEffect TrackListComponent::dragOver(xbr::IObjectIterator& objects) {
 }
 
 xbr::Result TrackListComponent::drop(xbr::IObjectIterator& objects) {
+    const auto self = xbr::Ref<TrackListComponent>::share(this);
     const auto before = countTracks(*m_model);
     add(objects);
     return countTracks(*m_model) > before ? xbr::kOk : xbr::kFalse;
@@ -206,7 +212,9 @@ xbr::Result TrackListComponent::removeFocused() {
     if (!track || track->uploading) {
         return xbr::kFalse;
     }
+    const auto self = xbr::Ref<TrackListComponent>::share(this);
     m_model->remove(m_model->focus());
+    m_editor->updateReady();
     signalTracksChanged();
     return xbr::kOk;
 }

@@ -29,8 +29,10 @@ public:
         }
         const auto self = Ref<Transfer>::share(this);
         if (!isNamed(*message, "onloadend") && !isNamed(*message, "onabort")) {
+            // Copies: the handler may lead to the client's end, which drops both here.
             const auto request = m_request;
-            m_handler(*message, *request);
+            const auto handler = m_handler;
+            handler(*message, *request);
             return;
         }
         m_client->becomeFree(*this);

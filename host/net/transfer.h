@@ -59,6 +59,7 @@ public:
     CURL* handle() const noexcept { return m_easy; }
 
     /// Names the socket that the transfer uses.
+    curl_socket_t socket() const noexcept { return m_socket; }
     void setSocket(curl_socket_t socket) noexcept { m_socket = socket; }
 
     /// Goes on sending where the body was held back.

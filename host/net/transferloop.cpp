@@ -175,7 +175,11 @@ int TransferLoop::onSocket(CURL* easy, curl_socket_t socket, int what, void* sel
     loop.watch(socket, what);
     Transfer* transfer = nullptr;
     if (curl_easy_getinfo(easy, CURLINFO_PRIVATE, &transfer) == CURLE_OK && transfer) {
-        transfer->setSocket(what == CURL_POLL_REMOVE ? CURL_SOCKET_BAD : socket);
+        if (what != CURL_POLL_REMOVE) {
+            transfer->setSocket(socket);
+        } else if (transfer->socket() == socket) { // a new socket may be announced before the old one goes
+            transfer->setSocket(CURL_SOCKET_BAD);
+        }
     }
     if (what == CURL_POLL_REMOVE) {
         // Later: this may be the very notifier that is calling.

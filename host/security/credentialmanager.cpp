@@ -63,7 +63,12 @@ public:
     }
 
     Result remove(Text target) noexcept override {
-        return isTarget(target) ? resultOf(removeSecrets(view(target))) : kInvalidArgument;
+        if (!isTarget(target)) {
+            return kInvalidArgument;
+        }
+        const StoreResult result = removeSecrets(view(target));
+        tellRemoveProblem(result);
+        return resultOf(result);
     }
 };
 

@@ -7,7 +7,17 @@ namespace xbr::host {
 namespace {
 
 StoreProblemListener g_listener;
-bool g_told = false;
+
+/// Tells the listener unless `told` says that it was told before.
+void tellOnce(bool& told, const std::string& words) {
+    if (!g_listener || told) {
+        return;
+    }
+    told = true;
+    // A copy: the listener may replace itself.
+    const StoreProblemListener listener = g_listener;
+    listener(words);
+}
 
 } // namespace
 
@@ -16,13 +26,16 @@ void setStoreProblemListener(StoreProblemListener listener) {
 }
 
 void tellStoreProblem(StoreResult result) {
-    if (!g_listener || g_told) {
-        return;
+    static bool told = false;
+    tellOnce(told, storeProblemText(result));
+}
+
+void tellRemoveProblem(StoreResult result) {
+    static bool told = false;
+    // Without a store nothing can have been kept.
+    if (result == StoreResult::kLocked || result == StoreResult::kFailed) {
+        tellOnce(told, removeProblemText(result));
     }
-    g_told = true;
-    // A copy: the listener may replace itself.
-    const StoreProblemListener listener = g_listener;
-    listener(storeProblemText(result));
 }
 
 } // namespace xbr::host

@@ -9,9 +9,9 @@ namespace xbr::host {
 /// Hears, in plain words for the user, why credentials cannot be kept.
 using StoreProblemListener = std::function<void(const std::string& plainWords)>;
 
-/// Names who is told when storing a credential fails because the store is missing or locked, or because the
-/// user refused. Called at most once per run, from within ICredentialManager::add: show the words later, not
-/// in a dialog inside the call. An empty function ends it.
+/// Names who is told when a credential cannot be stored or removed because the store is missing or locked, or
+/// because the user refused. Called at most once per run for each, from within ICredentialManager::add and
+/// remove: show the words later, not in a dialog inside the call. An empty function ends it.
 __attribute__((visibility("default"))) void setStoreProblemListener(StoreProblemListener listener);
 
 } // namespace xbr::host

@@ -18,4 +18,10 @@ std::string storeProblemText(StoreResult result) {
     }
 }
 
+std::string removeProblemText(StoreResult result) {
+    return std::string("The sign-in could not be removed from the password store: ") +
+           (result == StoreResult::kLocked ? "it is locked." : "it did not do so.") +
+           " Unlock the store and sign out again.";
+}
+
 } // namespace xbr::host

@@ -9,7 +9,11 @@ namespace xbr::host {
 /// What the user reads when a credential could not be stored.
 std::string storeProblemText(StoreResult result);
 
-/// Tells the host's listener, the first time only.
+/// What the user reads when a credential could not be removed.
+std::string removeProblemText(StoreResult result);
+
+/// Tell the host's listener, the first time only.
 void tellStoreProblem(StoreResult result);
+void tellRemoveProblem(StoreResult result);
 
 } // namespace xbr::host

@@ -47,7 +47,9 @@ class Browser:
         self.press("sign-in")
 
     def press(self, decision):
-        self.driver.find_element(By.CSS_SELECTOR, f"button[value={decision}]").click()
+        buttons = wait_for(lambda: self.driver.find_elements(By.CSS_SELECTOR, f"button[value={decision}]"),
+                           f"the button '{decision}'")
+        buttons[0].click()
 
 
 def desktop_environment(stage):
@@ -106,7 +108,7 @@ class SignInTest(unittest.TestCase):
     def test_denied_by_mistake_then_allowed(self):
         host, page = self.start_sign_in()
         self.browser.press("deny")
-        wait_for(lambda: not self.stage.log("/oauth/token") and host.poll() is None, "the host to keep waiting")
+        wait_for(lambda: "without a permission" in host.stdout.readline(), "the host to tell and to wait on")
         self.browser.driver.get(page)
         self.browser.fill_in("night-drive")
         self.browser.press("allow")

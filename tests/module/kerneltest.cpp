@@ -58,6 +58,7 @@ TEST_F(KernelTest, LoadsInOrderAndUnloadsInReverseEachTime) {
         g_calls.clear();
         EXPECT_TRUE(kernel->load(&handle, &startWell));
         EXPECT_EQ(kernel->moduleHandle(), &handle);
+        EXPECT_TRUE(kernel->load(&handle, &startWell)) << "a second load runs nothing again";
         kernel->unload(&startWell);
         EXPECT_EQ(kernel->moduleHandle(), nullptr);
         EXPECT_THAT(g_calls, ElementsAre("first+", "second", "start 1", "start 2", "end second", "end first"))

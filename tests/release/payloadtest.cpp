@@ -118,10 +118,12 @@ TEST_F(PayloadTest, OnlyAudioFilesOfTheServiceAreTaken) {
         const char* url;
         bool supported;
     };
+    host().files.files["file:///a/folder.wav/inside.txt"] = "";
     for (const auto& [url, supported] :
-         {Case{"file:///a/Song.FLAC", true}, Case{"file:///a/s.wav", true}, Case{"file:///a/s.Mp3", true},
-          Case{"file:///a/s.aiff", false}, Case{"file:///a/wav", false}, Case{"file:///a/s.wav/", false},
-          Case{"https://h/s.wav", false}, Case{"file:///a/s.wav.zip", false}, Case{"", false}}) {
+         {Case{"file:///a/folder.wav", false}, Case{"file:///a/Song.FLAC", true},
+          Case{"file:///a/s.wav", true}, Case{"file:///a/s.Mp3", true}, Case{"file:///a/s.aiff", false},
+          Case{"file:///a/wav", false}, Case{"file:///a/s.wav/", false}, Case{"https://h/s.wav", false},
+          Case{"file:///a/s.wav.zip", false}, Case{"", false}}) {
         EXPECT_EQ(brindlex::isSupportedAudioFile(xbr::Url(url)), supported) << url;
     }
 }

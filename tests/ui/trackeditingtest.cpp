@@ -20,10 +20,12 @@ TEST_F(TrackEditingTest, EditorShowsTheTrackWithTheFocus) {
     EXPECT_EQ(text("songTitle"), "a") << "loading a track edits nothing";
     EXPECT_EQ(record(1).songTitle, "B");
     EXPECT_EQ(track(1).title, "B");
-    list->model().setFocus(-1);
-    xbr::Value hasItem{};
-    list->editor().getProperty(xbr::toText("hasFocusItem"), &hasItem);
-    EXPECT_FALSE(hasItem.boolean);
+    for (const std::int32_t focus : {0, -1}) {
+        list->model().setFocus(focus);
+        xbr::Value hasItem{};
+        ASSERT_EQ(list->editor().getProperty(xbr::toText("hasFocusItem"), &hasItem), xbr::kOk);
+        EXPECT_EQ(hasItem.boolean, focus == 0);
+    }
 }
 
 TEST_F(TrackEditingTest, SinglesShareTitleAndArtistWithTheirAlbum) {
@@ -139,6 +141,12 @@ TEST_F(TrackEditingTest, ReadyFollowsTheFirstCompleteTrack) {
     edit("songTitle", "");
     EXPECT_FALSE(list->editor().isReady());
     edit("songTitle", "b");
+    EXPECT_TRUE(list->editor().isReady());
+    EXPECT_EQ(list->model().removeFocused(), xbr::kOk);
+    EXPECT_FALSE(list->editor().isReady()) << "the complete one is gone";
+    select({0}, 0);
+    edit("songArtist", "Ann");
+    edit("primaryGenre", xbr::integerValue(1));
     list->removeAll();
     EXPECT_FALSE(list->editor().isReady());
 }

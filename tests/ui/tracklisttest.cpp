@@ -50,6 +50,19 @@ TEST_F(TrackListTest, AlbumModeGivesAllTracksTheFirstOnesRelease) {
     EXPECT_EQ(track(1).metadata->primaryGenre, "Jazz");
 }
 
+TEST_F(TrackListTest, ColumnsAreTheirTitlesAndWidths) {
+    struct Case {
+        const char* title;
+        std::int32_t width;
+    };
+    const Case cases[] = {{"Title", 150}, {"File", 300}, {"State", 150}};
+    ASSERT_EQ(list->model().countColumns(), 3);
+    for (std::int32_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(xbr::toString(list->model().columnAt(i).title), cases[i].title);
+        EXPECT_EQ(list->model().columnAt(i).width, cases[i].width);
+    }
+}
+
 TEST_F(TrackListTest, StateCellTellsProgressAndOutcome) {
     add({"file:///m/a.wav"});
     struct Case {
@@ -137,6 +150,12 @@ TEST_F(TrackListTest, AlbumTracksStayMarkedUntilTheEnd) {
     EXPECT_TRUE(track(0).uploading);
     list->setCurrentUploadItem(nullptr);
     EXPECT_FALSE(track(0).uploading || track(1).uploading);
+
+    list->setCurrentUploadItem(&track(0));
+    const auto removed = xbr::Ref<TrackItem>::share(&track(0));
+    list->removeAll();
+    list->setCurrentUploadItem(nullptr);
+    EXPECT_FALSE(removed->uploading) << "it may be added again";
 }
 
 } // namespace

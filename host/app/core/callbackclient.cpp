@@ -6,7 +6,10 @@
 #include <QFile>
 #include <QLocalSocket>
 
+#include <chrono>
+#include <cstdint>
 #include <filesystem>
+#include <thread>
 
 namespace xbr::host {
 
@@ -17,7 +20,9 @@ namespace fs = std::filesystem;
 constexpr int kConnectLimit = 1000; ///< milliseconds
 constexpr int kAnswerLimit = 3000;  ///< milliseconds
 
-bool handOver(const fs::path& path, const std::string& line) {
+enum class Answer : std::uint8_t { kTaken, kRefused, kNone };
+
+Answer handOver(const fs::path& path, const std::string& line) {
     QLocalSocket socket;
     socket.connectToServer(QFile::decodeName(path.c_str()));
     if (!socket.waitForConnected(kConnectLimit)) {
@@ -25,12 +30,30 @@ bool handOver(const fs::path& path, const std::string& line) {
             std::error_code ignored;
             fs::remove(path, ignored);
         }
-        return false;
+        return Answer::kRefused;
     }
     socket.write(line.data(), static_cast<qint64>(line.size()));
     while (!socket.canReadLine() && socket.waitForReadyRead(kAnswerLimit)) {
     }
-    return socket.readLine() == "ok\n";
+    const QByteArray answer = socket.readLine();
+    if (answer.isEmpty()) {
+        return Answer::kNone;
+    }
+    return answer == "ok\n" ? Answer::kTaken : Answer::kRefused;
+}
+
+/// A host that is flooded closes connections without an answer: it gets another try, and another.
+bool handOverPatiently(const fs::path& path, const std::string& line) {
+    static constexpr int kTries = 8;
+    static constexpr std::chrono::milliseconds kPause{400};
+    for (int i = 0; i < kTries; ++i) {
+        const Answer answer = handOver(path, line);
+        if (answer != Answer::kNone) {
+            return answer == Answer::kTaken;
+        }
+        std::this_thread::sleep_for(kPause);
+    }
+    return false;
 }
 
 } // namespace
@@ -46,9 +69,12 @@ HandOver handOverUrl(const std::string& url) {
         return HandOver::kNoHost;
     }
     bool isTaken = false;
-    for (const auto& entry : fs::directory_iterator(folder, ignored)) {
-        if (entry.is_socket(ignored) && entry.path().extension() == ".sock") {
-            isTaken = handOver(entry.path(), url + "\n") || isTaken;
+    // Hosts come and go meanwhile: a step that fails ends the walk.
+    for (fs::directory_iterator entry(folder, ignored), end; !ignored && entry != end;
+         entry.increment(ignored)) {
+        std::error_code vanished;
+        if (entry->is_socket(vanished) && entry->path().extension() == ".sock") {
+            isTaken = handOverPatiently(entry->path(), url + "\n") || isTaken;
         }
     }
     return isTaken ? HandOver::kTaken : HandOver::kNoHost;

@@ -98,8 +98,9 @@ ExitCode runSignOut(const CommandLine& commandLine) {
         return started;
     }
     const bool isDone = host.panel().set("Client/resetAuthorization", 1);
-    const ExitCode code = isDone ? ExitCode::kDone : ExitCode::kModuleProblem;
-    if (isDone) {
+    const ExitCode removed = host.context().hadStoreProblem ? ExitCode::kNotAllDone : ExitCode::kDone;
+    const ExitCode code = isDone ? removed : ExitCode::kModuleProblem;
+    if (code == ExitCode::kDone) {
         host.context().output->account(false, {});
     }
     host.context().output->finished(code);

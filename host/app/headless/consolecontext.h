@@ -21,6 +21,7 @@ struct ConsoleContext {
     CallbackServer callbacks;
     Activity activity;
     std::shared_ptr<ConfigurationReport> configuration;
+    bool hadStoreProblem = false; ///< a sign-in could not be stored or removed
 };
 
 } // namespace xbr::host

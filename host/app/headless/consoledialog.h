@@ -11,8 +11,8 @@ namespace xbr::host {
 
 /// Stands for a dialog where there is no window: waits until the module closes it.
 ///
-/// It closes by itself where a person in front of a window would press "Cancel": on Ctrl-C, when the service
-/// does not answer or its settings are missing, and when the browser came back without a grant.
+/// It closes by itself where a person in front of a window would press "Cancel": on Ctrl-C, and when the
+/// service does not answer or its settings are missing.
 class ConsoleDialog final : public Object<IDialog> {
 public:
     explicit ConsoleDialog(ConsoleContext& context) : m_context(&context) {}

@@ -34,7 +34,10 @@ HeadlessHost::HeadlessHost(const CommandLine& commandLine, Dialogs dialogs)
         m_context.output->signInAddress(url);
         return true;
     });
-    setStoreProblemListener([this](const std::string& words) { m_context.output->message(words); });
+    setStoreProblemListener([this](const std::string& words) {
+        m_context.hadStoreProblem = true;
+        m_context.output->message(words);
+    });
 }
 
 HeadlessHost::~HeadlessHost() {

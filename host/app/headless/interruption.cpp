@@ -1,5 +1,6 @@
 #include "host/app/headless/interruption.h"
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -15,10 +16,12 @@ volatile std::sig_atomic_t interrupted = 0;
 volatile std::sig_atomic_t pipeEnd = -1;
 
 void takeSignal(int) {
+    const int error = errno; // the code that is interrupted may be about to read it
     interrupted = 1;
     const char byte = 0;
     // A full pipe has woken the loop already.
     [[maybe_unused]] const auto written = write(static_cast<int>(pipeEnd), &byte, 1);
+    errno = error;
 }
 
 void install(void (*handler)(int), int flags) {

@@ -24,7 +24,7 @@ protected:
     Publishing() {
         *m_report = {true, ConfigurationResult::kRead, {}, {}, {}, kNowhere, {}};
         for (const char* name : {"a.wav", "b.wav", "c.wav"}) {
-            m_files.push_back(m_folder.write(name, waveFile()));
+            m_files.push_back(m_folder.write(name, waveFile(infoChunk({{"IGNR", "Rock"}}))));
         }
     }
 
