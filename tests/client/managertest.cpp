@@ -113,6 +113,8 @@ TEST_F(ManagerTest, AccountReplyDecidesWhoIsShown) {
         host().signals.pump();
         host().web.answer(status, body);
         EXPECT_EQ(text("userName"), name) << status;
+        EXPECT_EQ(host().signals.posts.size(), status == 401 ? 1U : 0U) << status;
+        host().signals.posts.clear();
         manager->client().resetAuthorization(Silence::kTold);
         host().signals.pump();
     }

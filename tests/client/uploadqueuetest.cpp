@@ -38,6 +38,7 @@ TEST_F(UploadQueueTest, SendsSinglesOneAfterTheOther) {
     EXPECT_TRUE(trackAt(manager->trackList().model(), 2).uploading);
     host().web.answer(200);
     EXPECT_THAT(states(), ElementsAre(1, 3, 1));
+    EXPECT_EQ(host().signals.posts, std::vector<std::string>(3, "uploadNext -1"));
     EXPECT_EQ(host().web.sent.size(), 3U);
     EXPECT_THAT(host().web.sent[2].body, testing::HasSubstr("assets/c.wav=audio of c;"));
     EXPECT_EQ(leftovers(), 0);
@@ -107,6 +108,9 @@ TEST_F(UploadQueueTest, JudgesTheReply) {
         host().web.answer(status, body);
         EXPECT_THAT(states(), ElementsAre(state)) << status << body;
         EXPECT_FALSE(host().web.isInFlight()) << "a list of one is not continued";
+        EXPECT_EQ(host().signals.posts, status == 401 ? std::vector<std::string>{"refreshAccessToken 0"}
+                                                      : std::vector<std::string>{});
+        host().signals.posts.clear();
         EXPECT_EQ(leftovers(), 0);
     }
 }

@@ -1,5 +1,7 @@
 #include "tests/fakehost/fakesignalhandler.h"
 
+#include "framework/support/text.h"
+
 namespace fakehost {
 
 xbr::Result FakeSignalHandler::addObserver(xbr::ISubject* subject, xbr::IObserver* observer) noexcept {
@@ -30,7 +32,8 @@ void FakeSignalHandler::postSignal(xbr::ISubject* subject, xbr::IMessage* messag
     m_posted.push_back({subject, nullptr, xbr::Ref<xbr::IMessage>::share(message), nullptr});
 }
 
-void FakeSignalHandler::post(xbr::IObserver* observer, xbr::IMessage* message, std::int32_t) noexcept {
+void FakeSignalHandler::post(xbr::IObserver* observer, xbr::IMessage* message, std::int32_t delay) noexcept {
+    posts.push_back(xbr::toString(message->name()) + " " + std::to_string(delay));
     m_posted.push_back({nullptr, observer, xbr::Ref<xbr::IMessage>::share(message), nullptr});
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <deque>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace fakehost {
@@ -26,6 +27,9 @@ public:
 
     /// Delivers everything posted, also what is posted meanwhile.
     void pump();
+
+    /// What was posted to observers, as "name delay".
+    std::vector<std::string> posts;
 
     /// Observers and undelivered messages: 0 when everybody cleaned up.
     std::size_t remaining() const { return m_pairs.size() + m_posted.size(); }
