@@ -1,5 +1,6 @@
 #include "host/security/hostsecurity.h"
 
+#include "host/security/interruptwatch.h"
 #include "host/security/storeproblem.h"
 
 namespace xbr::host {
@@ -7,6 +8,7 @@ namespace xbr::host {
 namespace {
 
 StoreProblemListener g_listener;
+IsInterrupted g_isInterrupted = nullptr;
 
 /// Tells the listener unless `told` says that it was told before.
 void tellOnce(bool& told, const std::string& words) {
@@ -23,6 +25,14 @@ void tellOnce(bool& told, const std::string& words) {
 
 void setStoreProblemListener(StoreProblemListener listener) {
     g_listener = std::move(listener);
+}
+
+void setStoreInterruption(bool (*isInterrupted)() noexcept) {
+    g_isInterrupted = isInterrupted;
+}
+
+IsInterrupted storeInterruption() {
+    return g_isInterrupted;
 }
 
 void tellStoreProblem(StoreResult result) {

@@ -14,4 +14,9 @@ using StoreProblemListener = std::function<void(const std::string& plainWords)>;
 /// remove: show the words later, not in a dialog inside the call. An empty function ends it.
 __attribute__((visibility("default"))) void setStoreProblemListener(StoreProblemListener listener);
 
+/// Names how the library learns that the program is to end (null: not at all). While a call into the store
+/// waits for the user, `isInterrupted` is asked from another thread; when it says so, the call fails as if
+/// the user refused.
+__attribute__((visibility("default"))) void setStoreInterruption(bool (*isInterrupted)() noexcept);
+
 } // namespace xbr::host

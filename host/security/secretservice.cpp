@@ -1,5 +1,7 @@
 #include "host/security/secretservice.h"
 
+#include "host/security/interruptwatch.h"
+
 #include <libsecret/secret.h>
 
 namespace xbr::host {
@@ -76,23 +78,23 @@ Connection connectToBus() {
 }
 
 /// Whether the service is there and answers in time; the bus starts it when it knows how.
-bool isServiceAlive(GDBusConnection* bus) {
+bool isServiceAlive(GDBusConnection* bus, GCancellable* cancellable) {
     const Variant answer(g_dbus_connection_call_sync(
         bus, "org.freedesktop.secrets", "/org/freedesktop/secrets", "org.freedesktop.DBus.Properties", "Get",
         g_variant_new("(ss)", "org.freedesktop.Secret.Service", "Collections"), nullptr,
-        G_DBUS_CALL_FLAGS_NONE, kPatience, nullptr, nullptr));
+        G_DBUS_CALL_FLAGS_NONE, kPatience, cancellable, nullptr));
     return answer != nullptr;
 }
 
 /// Opens the service for one operation. Nothing is kept between operations, so that a service that was
 /// restarted or came late is found, and nothing is left to clean up at the end.
-Service openService() {
+Service openService(GCancellable* cancellable) {
     const Connection bus = connectToBus();
-    if (!bus || !isServiceAlive(bus.get())) {
+    if (!bus || !isServiceAlive(bus.get(), cancellable)) {
         return nullptr;
     }
     Service service(secret_service_open_sync(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION,
-                                             nullptr, nullptr));
+                                             cancellable, nullptr));
     if (service) {
         g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(service.get()), kPatience);
     }
@@ -109,12 +111,13 @@ StoreResult failureOf(const Error& error) {
 }
 
 /// All items of a target, unlocked where the user allowed it.
-StoreResult searchItems(SecretService* service, std::string_view target, Items& items) {
+StoreResult searchItems(SecretService* service, std::string_view target, Items& items,
+                        GCancellable* cancellable) {
     const Attributes attributes = attributesOf(target);
     const auto flags =
         static_cast<SecretSearchFlags>(SECRET_SEARCH_ALL | SECRET_SEARCH_UNLOCK | SECRET_SEARCH_LOAD_SECRETS);
     GError* raw = nullptr;
-    items.reset(secret_service_search_sync(service, &schema(), attributes.get(), flags, nullptr, &raw));
+    items.reset(secret_service_search_sync(service, &schema(), attributes.get(), flags, cancellable, &raw));
     const Error error(raw);
     if (error) {
         return failureOf(error);
@@ -155,7 +158,8 @@ bool isAttributeText(std::string_view text) {
 
 StoreResult storeSecret(std::string_view target, std::string_view userName, std::string_view password,
                         std::string_view note) {
-    const Service service = openService();
+    const InterruptWatch watch;
+    const Service service = openService(watch.cancellable());
     if (!service) {
         return StoreResult::kMissing;
     }
@@ -164,20 +168,22 @@ StoreResult storeSecret(std::string_view target, std::string_view userName, std:
     const SecretText secret(
         secret_value_new(password.data(), static_cast<gssize>(password.size()), "text/plain"));
     GError* raw = nullptr;
-    const bool done =
-        secret_service_store_sync(service.get(), &schema(), attributes.get(), SECRET_COLLECTION_DEFAULT,
-                                  labelOf(target, note).c_str(), secret.get(), nullptr, &raw) != 0;
+    const bool done = secret_service_store_sync(service.get(), &schema(), attributes.get(),
+                                                SECRET_COLLECTION_DEFAULT, labelOf(target, note).c_str(),
+                                                secret.get(), watch.cancellable(), &raw) != 0;
     const Error error(raw);
     return done ? StoreResult::kDone : failureOf(error);
 }
 
 StoreResult findSecret(std::string_view target, FoundSecret& found) {
-    const Service service = openService();
+    const InterruptWatch watch;
+    const Service service = openService(watch.cancellable());
     if (!service) {
         return StoreResult::kMissing;
     }
     Items items;
-    if (const StoreResult result = searchItems(service.get(), target, items); result != StoreResult::kDone) {
+    if (const StoreResult result = searchItems(service.get(), target, items, watch.cancellable());
+        result != StoreResult::kDone) {
         return result;
     }
     SecretItem* item = lastModified(items);
@@ -194,15 +200,16 @@ StoreResult findSecret(std::string_view target, FoundSecret& found) {
 }
 
 StoreResult removeSecrets(std::string_view target) {
-    const Service service = openService();
+    const InterruptWatch watch;
+    const Service service = openService(watch.cancellable());
     if (!service) {
         return StoreResult::kMissing;
     }
     Items items;
-    StoreResult result = searchItems(service.get(), target, items);
+    StoreResult result = searchItems(service.get(), target, items, watch.cancellable());
     for (const GList* node = items.get(); node; node = node->next) {
         GError* raw = nullptr;
-        const bool removed = secret_item_delete_sync(itemOf(node), nullptr, &raw) != 0;
+        const bool removed = secret_item_delete_sync(itemOf(node), watch.cancellable(), &raw) != 0;
         const Error error(raw);
         if (!removed) {
             // The others are removed all the same: fewer secrets left behind.

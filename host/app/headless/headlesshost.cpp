@@ -34,6 +34,7 @@ HeadlessHost::HeadlessHost(const CommandLine& commandLine, Dialogs dialogs)
         m_context.output->signInAddress(url);
         return true;
     });
+    setStoreInterruption(&Interruption::isInterrupted);
     setStoreProblemListener([this](const std::string& words) {
         m_context.hadStoreProblem = true;
         m_context.output->message(words);
@@ -44,6 +45,7 @@ HeadlessHost::~HeadlessHost() {
     m_panel.reset();
     m_module.reset();
     setStoreProblemListener({});
+    setStoreInterruption(nullptr);
     setBrowserAnnouncer({});
     unregisterGuiClasses();
     removeTemporaryFolder();

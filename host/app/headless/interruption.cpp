@@ -1,5 +1,6 @@
 #include "host/app/headless/interruption.h"
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -12,12 +13,14 @@ namespace {
 
 constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
-volatile std::sig_atomic_t interrupted = 0;
+// Lock-free, so that the signal handler may write it and other threads may read it.
+std::atomic<bool> interrupted = false;
+static_assert(std::atomic<bool>::is_always_lock_free);
 volatile std::sig_atomic_t pipeEnd = -1;
 
 void takeSignal(int) {
     const int error = errno; // the code that is interrupted may be about to read it
-    interrupted = 1;
+    interrupted = true;
     const char byte = 0;
     // A full pipe has woken the loop already.
     [[maybe_unused]] const auto written = write(static_cast<int>(pipeEnd), &byte, 1);
@@ -55,8 +58,8 @@ Interruption::~Interruption() {
     close(m_pipe[1]);
 }
 
-bool Interruption::isInterrupted() const {
-    return interrupted != 0;
+bool Interruption::isInterrupted() noexcept {
+    return interrupted;
 }
 
 Interruption::Handle Interruption::subscribe(std::function<void()> handler) {

@@ -20,8 +20,8 @@ public:
     Interruption& operator=(const Interruption&) = delete;
     ~Interruption();
 
-    /// True once a signal came, also while the event loop does not run.
-    bool isInterrupted() const;
+    /// True once a signal came, also while the event loop does not run. Any thread.
+    static bool isInterrupted() noexcept;
 
     /// Calls a function from the event loop, when a signal came, until its handle dies.
     using Handle = std::shared_ptr<void>;

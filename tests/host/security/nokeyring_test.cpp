@@ -6,8 +6,10 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <chrono>
 #include <filesystem>
+#include <thread>
 #include <vector>
 
 namespace xbr::host::test {
@@ -76,6 +78,22 @@ TEST(DeafService, isMissingAfterAFewSeconds) {
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(find("Target"), "failed");
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(8));
+}
+
+TEST(DeafService, isLeftWhenTheProgramIsToEnd) {
+    static std::atomic<bool> interrupted = false;
+    setStoreInterruption([]() noexcept { return interrupted.load(); });
+    std::thread user([] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        interrupted = true;
+    });
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(find("Target"), "failed");
+    const auto waited = std::chrono::steady_clock::now() - start;
+    EXPECT_GT(waited, std::chrono::milliseconds(250));
+    EXPECT_LT(waited, std::chrono::milliseconds(2000)) << "long before the service is given up";
+    user.join();
+    setStoreInterruption(nullptr);
 }
 
 } // namespace
