@@ -11,7 +11,8 @@ ExitCode runSignIn(const CommandLine& commandLine);
 /// `xbrhost sign-out`: forgets the stored sign-in.
 ExitCode runSignOut(const CommandLine& commandLine);
 
-/// `xbrhost status`: tells whether a stored sign-in can be used. Never asks the user.
+/// `xbrhost status`: tells whether a stored sign-in can be used. Opens no browser (a locked keyring may ask
+/// for its password).
 ExitCode runStatus(const CommandLine& commandLine);
 
 } // namespace xbr::host
