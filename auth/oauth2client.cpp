@@ -26,10 +26,6 @@ JoinToken mayJoinTokenBeSent() {
     return permission && permission->isAllowed() ? JoinToken::kSend : JoinToken::kWithhold;
 }
 
-bool isSuccess(const xbr::IWebRequest& request) {
-    return request.status() >= 200 && request.status() <= 299;
-}
-
 [[maybe_unused]] bool isLegal(ClientState from, ClientState to) {
     switch (to) {
     case ClientState::kIdle:
@@ -144,7 +140,7 @@ void OAuth2Client::exchangeFailed() {
 
 bool OAuth2Client::readTokenReply(xbr::IWebRequest& request) {
     xbr::Ref<xbr::IStream> body;
-    return isSuccess(request) && request.getResponseBody(body.out()) == xbr::kOk &&
+    return xbr::isSuccess(request) && request.getResponseBody(body.out()) == xbr::kOk &&
            parseTokenReply(m_tokens, *body, XBRGetSystem()->currentTime());
 }
 

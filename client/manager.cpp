@@ -14,7 +14,6 @@ namespace {
 constexpr std::string_view kName = "Kestrova_Brindlex_Client";
 constexpr std::string_view kConnectForm = "BrindlexConnectDialog";
 constexpr std::int32_t kDialogStyle = xbr::IDialog::kModal | xbr::IDialog::kCloseButton;
-constexpr std::int32_t kUnauthorized = 401;
 
 enum Tag : std::int32_t { kOpen = 100, kUpload = 101, kConnect = 102, kUserName = 103, kUserUrl = 104 };
 
@@ -129,12 +128,12 @@ void Manager::onAccountReply(const xbr::IMessage& message, xbr::IWebRequest& req
     if (!xbr::isNamed(message, "onloadend")) {
         return;
     }
-    if (request.status() >= 200 && request.status() <= 299) {
+    if (xbr::isSuccess(request)) {
         xbr::Ref<xbr::IStream> body;
         const bool hasBody = request.getResponseBody(body.out()) == xbr::kOk;
         setUser(hasBody ? parseAccountReply(*body) : nullptr);
     }
-    if (request.status() == kUnauthorized) {
+    if (xbr::isUnauthorized(request)) {
         xbr::post(*this, "refreshAccessToken");
     }
 }

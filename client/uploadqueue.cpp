@@ -15,7 +15,6 @@ namespace brindlex {
 
 namespace {
 
-constexpr std::int32_t kUnauthorized = 401;
 constexpr std::int32_t kMayCancel = 1;
 
 // The host's two ways of saying "with the next turn of the event loop".
@@ -167,7 +166,7 @@ void UploadQueue::onLoadEnd(xbr::IWebRequest& request) {
     } else {
         judgeTrack(outcome);
     }
-    if (request.status() == kUnauthorized) {
+    if (xbr::isUnauthorized(request)) {
         xbr::post(m_owner, "refreshAccessToken", kNoDelay);
     }
     if (!g_preparing) {

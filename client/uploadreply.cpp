@@ -2,6 +2,7 @@
 
 #include "framework/support/jsonarchive.h"
 #include "framework/support/memorystream.h"
+#include "framework/support/xhrclient.h"
 
 namespace brindlex {
 
@@ -22,7 +23,7 @@ bool tellsMissingProperty(xbr::IWebRequest& request) {
 } // namespace
 
 TrackUploadState judgeReply(xbr::IWebRequest& request) {
-    if (request.status() >= 200 && request.status() <= 299) {
+    if (xbr::isSuccess(request)) {
         return TrackUploadState::kDone;
     }
     return tellsMissingProperty(request) ? TrackUploadState::kMissingInformation : TrackUploadState::kFailed;

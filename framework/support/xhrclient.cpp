@@ -6,6 +6,14 @@
 
 namespace xbr {
 
+bool isSuccess(const IWebRequest& request) {
+    return request.status() >= 200 && request.status() <= 299;
+}
+
+bool isUnauthorized(const IWebRequest& request) {
+    return request.status() == 401;
+}
+
 /// One request on its way, and who waits for it. Outlives the client when the client dies first.
 class XHRClient::Transfer final : public Object<IObserver> {
 public:

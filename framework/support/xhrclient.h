@@ -10,6 +10,10 @@
 
 namespace xbr {
 
+/// What a completed request's status says (RFC 9110, section 15): done, 200 to 299; or 401, sign in again.
+bool isSuccess(const IWebRequest& request);
+bool isUnauthorized(const IWebRequest& request);
+
 /// A component that sends one asynchronous HTTP request at a time.
 ///
 /// Property "isBusy"; "propertyChanged" is signalled when it changed.
