@@ -213,6 +213,7 @@ xbr::Result TrackListComponent::removeFocused() {
         return xbr::kFalse;
     }
     const auto self = xbr::Ref<TrackListComponent>::share(this);
+    m_editor->tracksRemoved();
     m_model->remove(m_model->focus());
     m_editor->updateReady();
     signalTracksChanged();

@@ -25,6 +25,34 @@ std::vector<std::string> genreChoices() {
     return choices;
 }
 
+/// The first track of an album speaks for all of them.
+void beginAlbum(TrackMetadata& first) {
+    if (!first.albumGenre.empty()) {
+        first.primaryGenre = first.albumGenre;
+    } else if (!first.singlesGenre.empty()) {
+        first.primaryGenre = first.singlesGenre;
+    }
+    first.albumTitle = first.albumModeTitle;
+}
+
+void followAlbum(TrackMetadata& record, const TrackMetadata& first) {
+    record.trackNumber = record.albumTrackNumber;
+    record.albumTitle = first.albumTitle;
+    record.albumArtist = first.albumArtist;
+    record.primaryGenre = first.primaryGenre;
+}
+
+void standAlone(TrackMetadata& record) {
+    record.albumTitle = record.songTitle;
+    record.albumArtist = record.songArtist;
+    if (!record.singlesGenre.empty()) {
+        record.primaryGenre = record.singlesGenre;
+    } else if (!record.albumGenre.empty()) {
+        record.primaryGenre = record.albumGenre;
+    }
+    record.trackNumber = 1;
+}
+
 } // namespace
 
 TrackPropertyComponent::TrackPropertyComponent(xbr::Ref<xbr::ListViewModel> tracks)
@@ -71,48 +99,38 @@ void TrackPropertyComponent::setItem(TrackItem* item) {
     signalChanged();
 }
 
+void TrackPropertyComponent::setMode(UploadMode mode) {
+    m_mode = mode;
+    m_settled = {};
+}
+
+void TrackPropertyComponent::clearReady() {
+    m_ready = false;
+    m_settled = {};
+}
+
 void TrackPropertyComponent::applyMode() {
-    if (countTracks(*m_tracks) == 0) {
+    const auto count = countTracks(*m_tracks);
+    if (count == 0) {
         return;
     }
-    if (m_mode == UploadMode::kAlbum) {
-        applyAlbumMode();
-    } else {
-        applySinglesMode();
+    TrackMetadata& first = *trackAt(*m_tracks, 0).metadata;
+    if (m_settled.mode == 0) {
+        m_settled.ready = 0;
+        if (m_mode == UploadMode::kAlbum) {
+            beginAlbum(first);
+        }
+    }
+    for (; m_settled.mode < count; ++m_settled.mode) {
+        TrackMetadata& record = *trackAt(*m_tracks, m_settled.mode).metadata;
+        if (m_mode == UploadMode::kAlbum) {
+            followAlbum(record, first);
+        } else {
+            standAlone(record);
+        }
     }
     m_tracks->signalChanged();
     updateReady();
-}
-
-void TrackPropertyComponent::applyAlbumMode() {
-    TrackMetadata& first = *trackAt(*m_tracks, 0).metadata;
-    if (!first.albumGenre.empty()) {
-        first.primaryGenre = first.albumGenre;
-    } else if (!first.singlesGenre.empty()) {
-        first.primaryGenre = first.singlesGenre;
-    }
-    first.albumTitle = first.albumModeTitle;
-    forEachTrack(*m_tracks, [&](TrackItem& track) {
-        TrackMetadata& record = *track.metadata;
-        record.trackNumber = record.albumTrackNumber;
-        record.albumTitle = first.albumTitle;
-        record.albumArtist = first.albumArtist;
-        record.primaryGenre = first.primaryGenre;
-    });
-}
-
-void TrackPropertyComponent::applySinglesMode() {
-    forEachTrack(*m_tracks, [](TrackItem& track) {
-        TrackMetadata& record = *track.metadata;
-        record.albumTitle = record.songTitle;
-        record.albumArtist = record.songArtist;
-        if (!record.singlesGenre.empty()) {
-            record.primaryGenre = record.singlesGenre;
-        } else if (!record.albumGenre.empty()) {
-            record.primaryGenre = record.albumGenre;
-        }
-        record.trackNumber = 1;
-    });
 }
 
 void TrackPropertyComponent::validateItem(Marks marks, std::size_t index) {
@@ -130,8 +148,11 @@ void TrackPropertyComponent::validateItem(Marks marks, std::size_t index) {
 }
 
 void TrackPropertyComponent::updateReady() {
-    bool ready = false;
-    forEachTrack(*m_tracks, [&](const TrackItem& track) { ready = ready || track.metadata->isComplete(); });
+    bool ready = m_settled.ready > 0 && m_ready;
+    for (auto i = m_settled.ready; !ready && i < countTracks(*m_tracks); ++i) {
+        ready = trackAt(*m_tracks, i).metadata->isComplete();
+    }
+    m_settled.ready = countTracks(*m_tracks);
     if (m_ready != ready) {
         m_ready = ready;
         signalChanged();
@@ -156,7 +177,9 @@ void TrackPropertyComponent::parameterChanged(xbr::Parameter& parameter) {
         return;
     }
     const auto self = xbr::Ref<TrackPropertyComponent>::share(this);
+    m_settled = {};
     TrackEditRules(*this, *m_tracks).apply(parameter.tag(), edited);
+    m_settled = {}; // again: who was told of a parameter meanwhile may have added tracks
     m_tracks->signalChanged();
     updateReady();
 }

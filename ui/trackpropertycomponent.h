@@ -24,7 +24,7 @@ public:
     explicit TrackPropertyComponent(xbr::Ref<xbr::ListViewModel> tracks);
 
     UploadMode mode() const { return m_mode; }
-    void setMode(UploadMode mode) { m_mode = mode; }
+    void setMode(UploadMode mode);
 
     /// True while at least one track of the list is complete.
     bool isReady() const { return m_ready; }
@@ -32,7 +32,9 @@ public:
     /// Loads a track into the parameters; null empties and disables them.
     void setItem(TrackItem* item);
 
-    /// Gives every track the release values of the present mode: one album's, or each song's own.
+    /// Gives every track the release values of the present mode: one album's, or each song's own. Tracks that
+    /// were given them already and not touched since cost nothing, so that adding many tracks one by one
+    /// stays quick.
     void applyMode();
 
     /// Loads track `index` and marks its missing values, or clears all five marks.
@@ -42,7 +44,10 @@ public:
     void updateReady();
 
     /// The list is being emptied: nothing is ready any more.
-    void clearReady() { m_ready = false; }
+    void clearReady();
+
+    /// A track is being taken out of the list: others may come first now.
+    void tracksRemoved() { m_settled = {}; }
 
     xbr::Result getProperty(xbr::Text name, xbr::Value* out) noexcept override;
 
@@ -52,12 +57,17 @@ protected:
 private:
     /// The selected tracks in the order of selection, and the one with the focus.
     std::vector<xbr::Ref<TrackItem>> editedTracks() const;
-    void applyAlbumMode();
-    void applySinglesMode();
     void loadParameters(const TrackMetadata& record);
+
+    /// How many tracks from the start of the list need no second look, as only this editor changes records.
+    struct Settled {
+        std::size_t mode = 0; ///< have the values of the present mode; applying it again would change nothing
+        std::size_t ready = 0; ///< are accounted for in `m_ready`
+    };
 
     xbr::Ref<xbr::ListViewModel> m_tracks;
     UploadMode m_mode = UploadMode::kSingles;
+    Settled m_settled;
     bool m_ready = false;
     bool m_hasItem = false;
     bool m_updating =

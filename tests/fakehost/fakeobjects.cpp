@@ -59,7 +59,9 @@ public:
 class FakeFileSelector final : public xbr::Object<xbr::IFileSelector> {
 public:
     xbr::Result addFilter(xbr::IFileType* type) noexcept override {
-        objects().log.push_back("filter " + xbr::toString(type->extension()));
+        const std::string mimeType = xbr::toString(type->mimeType());
+        objects().log.push_back("filter " + xbr::toString(type->extension()) +
+                                (mimeType.empty() ? "" : " " + mimeType));
         return xbr::kOk;
     }
     xbr::Result run(Mode mode, xbr::Text title) noexcept override {

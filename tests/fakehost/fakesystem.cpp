@@ -2,6 +2,8 @@
 
 #include "framework/support/text.h"
 
+#include <algorithm>
+
 namespace fakehost {
 
 namespace {
@@ -18,13 +20,16 @@ private:
 
 class FileType final : public xbr::Object<xbr::IFileType> {
 public:
-    explicit FileType(std::string extension) : m_extension(std::move(extension)) {}
+    explicit FileType(std::string extension, std::string mimeType = {})
+        : m_extension(std::move(extension)),
+          m_mimeType(std::move(mimeType)) {}
     xbr::Text extension() const noexcept override { return xbr::toText(m_extension); }
-    xbr::Text mimeType() const noexcept override { return xbr::toText(""); }
+    xbr::Text mimeType() const noexcept override { return xbr::toText(m_mimeType); }
     xbr::Text description() const noexcept override { return xbr::toText(""); }
 
 private:
     std::string m_extension;
+    std::string m_mimeType;
 };
 
 } // namespace
@@ -67,14 +72,17 @@ xbr::Result FakeCredentialManager::remove(xbr::Text target) noexcept {
     return xbr::kOk;
 }
 
-xbr::Result FakeFileTypeRegistry::getTypeByExtension(xbr::Text, xbr::IFileType** out) noexcept {
-    *out = nullptr;
-    return xbr::kFalse;
+xbr::Result FakeFileTypeRegistry::getTypeByExtension(xbr::Text extension, xbr::IFileType** out) noexcept {
+    const auto known = mimeTypes.find(xbr::toString(extension));
+    *out = known == mimeTypes.end() ? nullptr : xbr::make<FileType>(known->first, known->second).detach();
+    return *out ? xbr::kOk : xbr::kFalse;
 }
 
-xbr::Result FakeFileTypeRegistry::getTypeByMimeType(xbr::Text, xbr::IFileType** out) noexcept {
-    *out = nullptr;
-    return xbr::kFalse;
+xbr::Result FakeFileTypeRegistry::getTypeByMimeType(xbr::Text mimeType, xbr::IFileType** out) noexcept {
+    const auto known = std::find_if(mimeTypes.begin(), mimeTypes.end(),
+                                    [&](const auto& type) { return type.second == xbr::view(mimeType); });
+    *out = known == mimeTypes.end() ? nullptr : xbr::make<FileType>(known->first, known->second).detach();
+    return *out ? xbr::kOk : xbr::kFalse;
 }
 
 xbr::Result FakeFileTypeRegistry::createType(xbr::Text extension, xbr::IFileType** out) noexcept {

@@ -6,6 +6,7 @@
 #include "framework/abi/system.h"
 #include "framework/support/object.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -60,6 +61,7 @@ public:
     bool openUrl(xbr::Text url) noexcept override;
 
     std::vector<xbr::Ref<xbr::IFileHandler>> handlers;
+    std::map<std::string, std::string> mimeTypes; ///< of the known types, by extension
 };
 
 class FakeLocaleManager final : public xbr::Object<xbr::ILocaleManager> {

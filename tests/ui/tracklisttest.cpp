@@ -108,9 +108,10 @@ TEST_F(TrackListTest, TracksInTransferCannotBeRemoved) {
 }
 
 TEST_F(TrackListTest, FileDialogOffersTheServicesFormats) {
+    host().fileTypes.mimeTypes["flac"] = "audio/flac"; // the one that this host knows
     list->findParameter(xbr::toText("addTracks"))->setValue(xbr::integerValue(1));
     EXPECT_EQ(host().objects.log,
-              (std::vector<std::string>{"filter wav", "filter flac", "filter mp3", "choose 1"}));
+              (std::vector<std::string>{"filter wav", "filter flac audio/flac", "filter mp3", "choose 1"}));
     EXPECT_EQ(list->model().countRows(), 0) << "cancelled";
     host().objects.chosenFiles = {"file:///m/b.MP3", "file:///m/x.aiff", "file:///m/a.wav"};
     list->findParameter(xbr::toText("addTracks"))->setValue(xbr::integerValue(1));
