@@ -67,6 +67,22 @@ Result MemoryStream::write(const void* buffer, std::uint64_t size, std::uint64_t
     return kOk;
 }
 
+bool MemoryStream::writeFrom(IStream& source, std::uint64_t size) noexcept {
+    const auto before = m_size;
+    grow(m_position + size);
+    bool isWhole = true;
+    std::uint64_t came = 0;
+    forEachPiece(m_position, size, [&](std::size_t chunk, std::uint64_t offset, std::uint64_t piece) {
+        std::uint64_t done = 0;
+        isWhole =
+            isWhole && source.read(m_chunks[chunk].get() + offset, piece, &done) == kOk && done == piece;
+        came += isWhole ? piece : 0;
+    });
+    m_position += came;
+    m_size = came > 0 ? std::max(before, m_position) : before;
+    return isWhole;
+}
+
 void MemoryStream::write(std::string_view bytes) {
     write(bytes.data(), bytes.size(), nullptr);
 }
@@ -114,6 +130,10 @@ bool copyStream(IStream& from, IStream& to, std::uint64_t size) {
         size -= wanted;
     }
     return true;
+}
+
+bool copyStream(IStream& from, MemoryStream& to, std::uint64_t size) {
+    return to.writeFrom(from, size);
 }
 
 std::string readAll(IStream& stream) {

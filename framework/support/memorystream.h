@@ -21,6 +21,11 @@ public:
     Result seek(std::int64_t offset, SeekOrigin origin, std::int64_t* position) noexcept override;
 
     void write(std::string_view bytes);
+
+    /// Reads exactly `size` bytes from the source's position into this stream's own memory, without a copy in
+    /// between; false when fewer came.
+    bool writeFrom(IStream& source, std::uint64_t size) noexcept;
+
     std::uint64_t size() const noexcept { return m_size; }
 
 private:
@@ -40,6 +45,7 @@ std::int64_t measure(IStream& stream) noexcept;
 
 /// Copies exactly `size` bytes from one position to the other; false when fewer came or went.
 bool copyStream(IStream& from, IStream& to, std::uint64_t size);
+bool copyStream(IStream& from, MemoryStream& to, std::uint64_t size);
 
 /// Everything from the position to the end.
 std::string readAll(IStream& stream);

@@ -3,10 +3,13 @@
 #include "host/system/filestream.h"
 
 #include <cerrno>
+#include <utility>
 
 namespace xbr::host {
 
-ArchiveSink::ArchiveSink(std::string path) : m_path(std::move(path)) {
+ArchiveSink::ArchiveSink(std::string path, std::stop_token stop)
+    : m_path(std::move(path)),
+      m_stop(std::move(stop)) {
     zip_error_init(&m_error);
 }
 
@@ -60,11 +63,18 @@ zip_int64_t ArchiveSink::begin() {
     m_position = 0;
     m_end = 0;
     m_file = PendingFile::start(m_path);
-    return m_file ? 0 : fail(ZIP_ER_TMPOPEN, errno);
+    if (!m_file) {
+        return fail(ZIP_ER_TMPOPEN, errno);
+    }
+    m_buffer.start(m_file->descriptor());
+    return 0;
 }
 
 zip_int64_t ArchiveSink::write(const void* data, zip_uint64_t length) {
-    if (writeAt(m_file->descriptor(), data, length, m_position) != length) {
+    if (m_stop.stop_requested()) {
+        return fail(ZIP_ER_CANCELLED, 0);
+    }
+    if (!m_buffer.write(m_position, {static_cast<const std::byte*>(data), length})) {
         return fail(ZIP_ER_WRITE, errno);
     }
     m_position += static_cast<std::int64_t>(length);
@@ -87,7 +97,8 @@ zip_int64_t ArchiveSink::seek(void* data, zip_uint64_t length) {
 }
 
 zip_int64_t ArchiveSink::commit() {
-    const bool isComplete = m_file->commit();
+    // Not synchronised with the disk: the archive is read back at once and lives for one upload.
+    const bool isComplete = m_buffer.flush() && !m_stop.stop_requested() && m_file->commit();
     const int systemError = errno;
     m_file.reset();
     return isComplete ? 0 : fail(ZIP_ER_RENAME, systemError);

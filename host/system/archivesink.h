@@ -1,20 +1,23 @@
 #pragma once
 
 #include "host/system/pendingfile.h"
+#include "host/system/writebuffer.h"
 
 #include <zip.h>
 
 #include <optional>
+#include <stop_token>
 #include <string>
 
 namespace xbr::host {
 
 /// Where libzip writes an archive to.
-/// Rationale: libzip's own file target buffers, and closes its file a second time when the last bytes do not
-/// fit on the disk any more; this one writes directly and leaves nothing behind when it fails.
+/// Rationale: libzip's own file target closes its file a second time when the last bytes do not fit on the
+/// disk any more, and cannot be stopped in the middle; this one leaves nothing behind when it fails.
 class ArchiveSink {
 public:
-    explicit ArchiveSink(std::string path);
+    /// When `stop` is requested, writing fails.
+    ArchiveSink(std::string path, std::stop_token stop);
     ArchiveSink(const ArchiveSink&) = delete;
     ArchiveSink& operator=(const ArchiveSink&) = delete;
     ~ArchiveSink();
@@ -32,7 +35,9 @@ private:
     zip_int64_t fail(int code, int systemError);
 
     std::string m_path;
+    std::stop_token m_stop;
     std::optional<PendingFile> m_file;
+    WriteBuffer m_buffer;
     std::int64_t m_position = 0;
     std::int64_t m_end = 0;
     zip_error_t m_error;

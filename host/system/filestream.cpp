@@ -1,5 +1,7 @@
 #include "host/system/filestream.h"
 
+#include "host/system/fileproblem.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -79,6 +81,9 @@ Result FileStream::write(const void* buffer, std::uint64_t size, std::uint64_t* 
     }
     *done = writeAt(m_file.get(), buffer, size, m_position);
     m_position += static_cast<std::int64_t>(*done);
+    if (*done != size) {
+        noteFileProblem("a file cannot be written", errno);
+    }
     return *done == size ? kOk : kUnexpected;
 }
 

@@ -2,6 +2,8 @@
 
 #include "framework/support/text.h"
 #include "host/system/copyfile.h"
+#include "host/system/fileproblem.h"
+#include "host/system/filestore.h"
 #include "host/system/filestream.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/mainthread.h"
@@ -26,6 +28,9 @@ void removeTrailingSlashes(std::string& path) {
 bool makeParents(const std::string& path) {
     std::error_code error;
     std::filesystem::create_directories(std::filesystem::path(path).parent_path(), error);
+    if (error) {
+        errno = error.value(); // as the calls that follow would tell
+    }
     return !error;
 }
 
@@ -84,6 +89,7 @@ Result FileSystem::createFile(Text url, IStream** out) noexcept {
     }
     auto file = makeParents(*path) ? openRegularFile(*path, O_RDWR | O_CREAT | O_TRUNC) : FileDescriptor();
     if (!file.isOpen()) {
+        noteFileProblem("'" + *path + "' cannot be created", errno);
         return kUnexpected;
     }
     *out = make<FileStream>(std::move(file), StreamAccess::kReadWrite).detach();
@@ -97,8 +103,12 @@ Result FileSystem::copyFile(Text from, Text to) noexcept {
     if (!source || !target) {
         return kInvalidArgument;
     }
+    errno = 0;
     const bool isCopied =
         isOfKind(*source, S_IFREG) && makeParents(*target) && host::copyFile(*source, *target);
+    if (!isCopied) {
+        noteFileProblem("'" + *source + "' cannot be copied", errno);
+    }
     return isCopied ? kOk : kUnexpected;
 }
 
@@ -182,6 +192,32 @@ Result FileSystem::unregisterResources(Text name) noexcept {
     }
     m_resources.erase(found);
     return kOk;
+}
+
+Result FileSystem::getCacheFolder(IString** out) noexcept {
+    assertMainThread();
+    *out = nullptr;
+    const std::string path = cacheFolder();
+    return path.empty() ? kUnexpected : giveText(fileUrl(path), out);
+}
+
+Result FileSystem::replaceFile(Text url, const void* bytes, std::uint64_t size) noexcept {
+    assertMainThread();
+    const auto path = localPath(view(url));
+    if (!path || path->ends_with('/')) {
+        return kInvalidArgument;
+    }
+    return host::replaceFile(*path, bytes, size) ? kOk : kUnexpected;
+}
+
+Result FileSystem::getFiles(Text folder, IFileList** out) noexcept {
+    assertMainThread();
+    auto path = localPath(view(folder));
+    if (path) {
+        removeTrailingSlashes(*path);
+    }
+    *out = path ? listFiles(*path) : nullptr;
+    return *out ? kOk : kFalse;
 }
 
 } // namespace xbr::host

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/abi/filestore.h"
 #include "framework/abi/filesystem.h"
 #include "framework/support/object.h"
 #include "host/system/resourcearchive.h"
@@ -12,7 +13,7 @@
 namespace xbr::host {
 
 /// Local files by file URL, and registered archives by resource URL. Any other URL is kInvalidArgument.
-class FileSystem final : public Object<IFileSystem> {
+class FileSystem final : public Object<IFileSystem, IFileStore> {
 public:
     Result openForReading(Text url, IStream** out) noexcept override;
     Result createFile(Text url, IStream** out) noexcept override;
@@ -23,6 +24,9 @@ public:
     Result removeFolder(Text url) noexcept override;
     Result registerResources(Text name, const void* bytes, std::uint64_t size) noexcept override;
     Result unregisterResources(Text name) noexcept override;
+    Result getCacheFolder(IString** out) noexcept override;
+    Result replaceFile(Text url, const void* bytes, std::uint64_t size) noexcept override;
+    Result getFiles(Text folder, IFileList** out) noexcept override;
 
 private:
     /// A place inside an archive. Without an archive: no such module is registered.

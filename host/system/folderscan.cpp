@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <sys/stat.h>
 
 namespace xbr::host {
 
@@ -19,39 +18,31 @@ std::string toUtf8(const std::string& name) {
 
 class Scan {
 public:
-    Scan(PackageProgress& progress, std::vector<PackageEntry>& entries)
+    Scan(PackageProgress& progress, const std::stop_token& stop, std::vector<PackageEntry>& entries)
         : m_progress(progress),
+          m_stop(stop),
           m_entries(entries) {}
 
-    Result folder(const fs::path& path, const std::string& prefix) {
+    /// False when something cannot be taken, or when stopped.
+    bool folder(const fs::path& path, const std::string& prefix) {
+        m_progress.start(prefix);
         std::vector<std::string> files;
         std::vector<std::string> folders;
-        if (!list(path, files, folders)) {
-            return kUnexpected;
-        }
-        for (const auto& name : files) {
-            if (!file(path / name, prefix + toUtf8(name))) {
-                return kUnexpected;
-            }
-        }
-        if (!m_progress.advance(prefix, 0)) {
-            return kFalse;
-        }
-        for (const auto& name : folders) {
-            if (const Result result = folder(path / name, prefix + toUtf8(name) + '/'); result != kOk) {
-                return result;
-            }
-        }
-        return kOk;
+        return list(path, files, folders) &&
+               std::all_of(files.begin(), files.end(),
+                           [&](const auto& name) { return file(path / name, prefix + toUtf8(name)); }) &&
+               std::all_of(folders.begin(), folders.end(), [&](const auto& name) {
+                   return folder(path / name, prefix + toUtf8(name) + '/');
+               });
     }
 
 private:
-    static bool list(const fs::path& path, std::vector<std::string>& files,
-                     std::vector<std::string>& folders) {
+    bool list(const fs::path& path, std::vector<std::string>& files, std::vector<std::string>& folders) {
         std::error_code error;
         for (fs::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error)) {
             const auto type = entry->symlink_status(error).type();
-            if (error || (type != fs::file_type::regular && type != fs::file_type::directory)) {
+            const bool isKnown = type == fs::file_type::regular || type == fs::file_type::directory;
+            if (error || !isKnown || m_stop.stop_requested()) {
                 return false;
             }
             auto& names = type == fs::file_type::regular ? files : folders;
@@ -63,22 +54,27 @@ private:
     }
 
     bool file(const fs::path& path, std::string name) {
-        struct stat status {};
-        if (lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        const auto identity = identityAt(path.string());
+        if (!identity || m_stop.stop_requested()) {
             return false;
         }
-        m_entries.push_back({path.string(), std::move(name), status.st_size, status.st_mtim});
+        m_entries.push_back({path.string(), std::move(name), *identity});
         return true;
     }
 
     PackageProgress& m_progress;
+    const std::stop_token& m_stop;
     std::vector<PackageEntry>& m_entries;
 };
 
 } // namespace
 
-Result scanFolder(const std::string& folder, PackageProgress& progress, std::vector<PackageEntry>& entries) {
-    return Scan(progress, entries).folder(folder, {});
+Result scanFolder(const std::string& folder, PackageProgress& progress, const std::stop_token& stop,
+                  std::vector<PackageEntry>& entries) {
+    if (Scan(progress, stop, entries).folder(folder, {})) {
+        return kOk;
+    }
+    return stop.stop_requested() ? kFalse : kUnexpected;
 }
 
 } // namespace xbr::host

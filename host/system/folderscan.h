@@ -1,7 +1,8 @@
 #pragma once
 
 #include "framework/abi/result.h"
-#include "host/system/packageinput.h"
+#include "host/system/packageprogress.h"
+#include "host/system/packagesource.h"
 
 #include <string>
 #include <vector>
@@ -12,8 +13,9 @@ namespace xbr::host {
 /// the same contents make the same archive. Folders have no entries of their own.
 ///
 /// kUnexpected when something cannot be read or is neither file nor folder: leaving a link or a device out
-/// without a word would make an incomplete archive, and following one could lead anywhere. kFalse when the
-/// user cancelled. `entries` may be incomplete then.
-Result scanFolder(const std::string& folder, PackageProgress& progress, std::vector<PackageEntry>& entries);
+/// without a word would make an incomplete archive, and following one could lead anywhere. kFalse when
+/// stopped. `entries` may be incomplete then.
+Result scanFolder(const std::string& folder, PackageProgress& progress, const std::stop_token& stop,
+                  std::vector<PackageEntry>& entries);
 
 } // namespace xbr::host

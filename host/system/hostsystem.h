@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 /// What the host program sets up in this library. Modules never use it.
@@ -20,5 +21,11 @@ using BrowserAnnouncer = std::function<bool(std::string_view url)>;
 /// Removes the temporary folder with everything in it, if this process made one. Happens by itself when the
 /// process ends through exit(); a next request for the folder makes a new one. Main thread.
 [[gnu::visibility("default")]] void removeTemporaryFolder() noexcept;
+
+/// The first thing since the last call that modules could not write or copy, in plain words that name the
+/// system's reason ("'/music/a.wav' cannot be copied: No space left on device"); empty when there was none.
+/// Modules are silent about it: a front end asks when something that a module prepared did not come about.
+/// Main thread.
+[[gnu::visibility("default")]] std::string takeFileProblem();
 
 } // namespace xbr::host

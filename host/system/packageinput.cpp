@@ -1,44 +1,16 @@
 #include "host/system/packageinput.h"
 
-#include "framework/support/text.h"
-#include "host/system/filestream.h"
-
-#include <chrono>
-#include <fcntl.h>
-#include <sys/stat.h>
+#include <algorithm>
+#include <cstring>
 
 namespace xbr::host {
 
-namespace {
-
-std::int64_t now() {
-    const auto time = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration_cast<std::chrono::milliseconds>(time).count();
-}
-
-} // namespace
-
-bool PackageProgress::advance(const std::string& name, std::int64_t bytes) {
-    m_done += bytes;
-    if (m_progress && !m_isCancelled && now() - m_lastReport >= kIntervalMilliseconds) {
-        const double fraction =
-            m_total > 0 ? static_cast<double>(m_done) / static_cast<double>(m_total) : 0.0;
-        m_progress->update(std::min(fraction, 1.0), toText(name));
-        m_isCancelled = m_progress->isCancelled();
-        m_lastReport = now(); // after the report, which may have taken its time
-    }
-    return !m_isCancelled;
-}
-
-void PackageProgress::finish() {
-    if (m_progress) {
-        m_progress->update(1.0, Text{});
-    }
-}
-
-PackageInput::PackageInput(const PackageEntry& entry, PackageProgress& progress)
+PackageInput::PackageInput(const PackageEntry& entry, PackagePipeline& pipeline, PackageProgress& progress,
+                           const std::stop_token& stop)
     : m_entry(entry),
-      m_progress(progress) {
+      m_pipeline(pipeline),
+      m_progress(progress),
+      m_stop(stop) {
     zip_error_init(&m_error);
 }
 
@@ -59,16 +31,15 @@ zip_int64_t PackageInput::handle(void* data, zip_uint64_t length, zip_source_cmd
     case ZIP_SOURCE_SUPPORTS:
         return ZIP_SOURCE_SUPPORTS_READABLE;
     case ZIP_SOURCE_OPEN:
-        return open();
+        m_progress.start(m_entry.name);
+        return 0;
     case ZIP_SOURCE_READ:
         return read(data, length);
-    case ZIP_SOURCE_CLOSE:
-        m_file.close();
-        return 0;
     case ZIP_SOURCE_STAT:
         return describe(data, length);
     case ZIP_SOURCE_ERROR:
         return zip_error_to_data(&m_error, data, length);
+    case ZIP_SOURCE_CLOSE:
     case ZIP_SOURCE_FREE:
         return 0;
     default:
@@ -76,29 +47,38 @@ zip_int64_t PackageInput::handle(void* data, zip_uint64_t length, zip_source_cmd
     }
 }
 
-zip_int64_t PackageInput::open() {
-    m_position = 0;
-    m_file = openRegularFile(m_entry.path, O_RDONLY | O_NOFOLLOW);
-    if (!m_file.isOpen()) {
-        return fail(ZIP_ER_OPEN);
+zip_int64_t PackageInput::read(void* data, zip_uint64_t length) {
+    while (!m_isComplete && (!m_piece || m_position == m_piece->packedSize)) {
+        if (!fetch()) {
+            return fail(m_stop.stop_requested() ? ZIP_ER_CANCELLED : ZIP_ER_CHANGED);
+        }
     }
-    return isUnchanged() ? 0 : fail(ZIP_ER_CHANGED);
+    if (m_isComplete) {
+        return 0;
+    }
+    const auto count = std::min<std::size_t>(length, m_piece->packedSize - m_position);
+    std::memcpy(data, m_piece->bytes.data() + m_position, count);
+    m_position += count;
+    return static_cast<zip_int64_t>(count);
 }
 
-zip_int64_t PackageInput::read(void* data, zip_uint64_t length) {
-    const auto came = readAt(m_file.get(), data, length, m_position);
-    if (!came) {
-        return fail(ZIP_ER_READ);
+/// Goes to the next piece or, after the last one, to the end.
+bool PackageInput::fetch() {
+    if (m_piece && m_piece->isLast) {
+        m_isComplete = m_piece->source->isUnchanged();
+        return m_isComplete;
     }
-    m_position += static_cast<std::int64_t>(*came);
-    const bool isAtEnd = *came == 0;
-    if (m_position > m_entry.size || (isAtEnd && (m_position != m_entry.size || !isUnchanged()))) {
-        return fail(ZIP_ER_CHANGED);
+    if (m_stop.stop_requested()) {
+        return false;
     }
-    if (!m_progress.advance(m_entry.name, static_cast<std::int64_t>(*came))) {
-        return fail(ZIP_ER_CANCELLED);
+    m_piece = &m_pipeline.next();
+    if (!m_piece->isGood) {
+        return false;
     }
-    return static_cast<zip_int64_t>(*came);
+    m_position = 0;
+    m_checkSum = joinedCheckSum(m_checkSum, m_piece->checkSum, m_piece->size);
+    m_progress.advance(static_cast<std::int64_t>(m_piece->size));
+    return true;
 }
 
 zip_int64_t PackageInput::describe(void* data, zip_uint64_t length) const {
@@ -108,21 +88,20 @@ zip_int64_t PackageInput::describe(void* data, zip_uint64_t length) const {
     auto* status = static_cast<zip_stat_t*>(data);
     zip_stat_init(status);
     status->valid = ZIP_STAT_SIZE | ZIP_STAT_MTIME;
-    status->size = static_cast<zip_uint64_t>(m_entry.size);
-    status->mtime = m_entry.modified.tv_sec;
+    status->size = static_cast<zip_uint64_t>(m_entry.identity.size);
+    status->mtime = m_entry.identity.modified.tv_sec;
+    if (m_entry.isDeflated) {
+        // libzip takes what is deflated already as it is, and with it the check sum that it cannot compute.
+        status->valid |= ZIP_STAT_COMP_METHOD | (m_isComplete ? ZIP_STAT_CRC : 0U);
+        status->comp_method = ZIP_CM_DEFLATE;
+        status->crc = m_checkSum;
+    }
     return sizeof(zip_stat_t);
 }
 
 zip_int64_t PackageInput::fail(int code) {
     zip_error_set(&m_error, code, 0);
     return -1;
-}
-
-bool PackageInput::isUnchanged() const {
-    struct stat status {};
-    return fstat(m_file.get(), &status) == 0 && status.st_size == m_entry.size &&
-           status.st_mtim.tv_sec == m_entry.modified.tv_sec &&
-           status.st_mtim.tv_nsec == m_entry.modified.tv_nsec;
 }
 
 } // namespace xbr::host

@@ -1,53 +1,20 @@
 #pragma once
 
-#include "framework/abi/progress.h"
-#include "host/system/filedescriptor.h"
+#include "host/system/packagepipeline.h"
+#include "host/system/packageprogress.h"
 
 #include <zip.h>
 
-#include <cstdint>
-#include <ctime>
-#include <string>
-
 namespace xbr::host {
 
-/// A file that goes into an archive, as it was when it was added.
-struct PackageEntry {
-    std::string path;
-    std::string name; ///< in the archive: relative, UTF-8, '/' between its parts
-    std::int64_t size;
-    timespec modified;
-};
-
-/// Reports progress at most every kInterval, because each report may redraw a window.
-class PackageProgress {
-public:
-    static constexpr std::int64_t kIntervalMilliseconds = 50;
-
-    /// `progress` may be null.
-    PackageProgress(IProgress* progress, std::int64_t total) : m_progress(progress), m_total(total) {}
-
-    /// Counts `bytes` of work on the entry `name`. False when the user has cancelled.
-    bool advance(const std::string& name, std::int64_t bytes);
-
-    /// Reports that all is done.
-    void finish();
-
-    bool isCancelled() const { return m_isCancelled; }
-
-private:
-    IProgress* m_progress;
-    std::int64_t m_total;
-    std::int64_t m_done = 0;
-    std::int64_t m_lastReport = 0; ///< milliseconds of the steady clock
-    bool m_isCancelled = false;
-};
-
-/// Gives a file's bytes to libzip, and fails when they are not the bytes that were added: libzip itself would
-/// write a short entry without a word.
+/// Gives an entry's bytes to libzip as the pipeline made them, and fails when the file is not the one that
+/// was added: libzip itself would write a short entry without a word.
 class PackageInput {
 public:
-    PackageInput(const PackageEntry& entry, PackageProgress& progress);
+    /// libzip must read the inputs in the order of the pipeline's entries. When `stop` is requested, reading
+    /// fails. All of them must outlive this object.
+    PackageInput(const PackageEntry& entry, PackagePipeline& pipeline, PackageProgress& progress,
+                 const std::stop_token& stop);
     PackageInput(const PackageInput&) = delete;
     PackageInput& operator=(const PackageInput&) = delete;
     ~PackageInput();
@@ -58,16 +25,19 @@ public:
 private:
     static zip_int64_t command(void* self, void* data, zip_uint64_t length, zip_source_cmd_t command);
     zip_int64_t handle(void* data, zip_uint64_t length, zip_source_cmd_t command);
-    zip_int64_t open();
     zip_int64_t read(void* data, zip_uint64_t length);
+    bool fetch();
     zip_int64_t describe(void* data, zip_uint64_t length) const;
     zip_int64_t fail(int code);
-    bool isUnchanged() const;
 
     const PackageEntry& m_entry;
+    PackagePipeline& m_pipeline;
     PackageProgress& m_progress;
-    FileDescriptor m_file;
-    std::int64_t m_position = 0;
+    const std::stop_token& m_stop;
+    const PackedPiece* m_piece = nullptr;
+    std::size_t m_position = 0; ///< in the piece
+    std::uint32_t m_checkSum = 0;
+    bool m_isComplete = false;
     zip_error_t m_error;
 };
 

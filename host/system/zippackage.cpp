@@ -1,33 +1,20 @@
 #include "host/system/zippackage.h"
 
 #include "framework/support/text.h"
-#include "host/system/archivesink.h"
+#include "host/system/archivewriter.h"
+#include "host/system/fileproblem.h"
 #include "host/system/folderscan.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/mainthread.h"
 
-#include <algorithm>
-#include <array>
-#include <deque>
 #include <filesystem>
+#include <iterator>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace xbr::host {
 
 namespace {
-
-/// Already compressed: deflating them again costs time and gains nothing.
-bool isDense(const std::string& name) {
-    static constexpr std::array kSuffixes{".flac", ".mp3", ".ogg", ".oga",  ".opus",
-                                          ".m4a",  ".zip", ".jpg", ".jpeg", ".png"};
-    return std::any_of(kSuffixes.begin(), kSuffixes.end(), [&](std::string_view suffix) {
-        return name.size() > suffix.size() &&
-               std::equal(suffix.rbegin(), suffix.rend(), name.rbegin(), [](char expected, char c) {
-                   return expected == (c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
-               });
-    });
-}
 
 bool canBeCreated(const std::string& path) {
     struct stat status {};
@@ -74,11 +61,14 @@ Result ZipPackage::addFolder(Text folder, std::int32_t mode, IProgress* progress
     const auto self = Ref<ZipPackage>::share(this);
     m_state = State::kBusy;
     std::vector<PackageEntry> added;
-    PackageProgress report(progress, 0);
-    const Result result = scanFolder(*path, report, added);
+    PackageProgress state(0);
+    const Result result = runReporting(
+        progress, state, [&](const std::stop_token& stop) { return scanFolder(*path, state, stop, added); });
     m_state = State::kCreated;
     if (result == kOk) {
         std::move(added.begin(), added.end(), std::back_inserter(m_entries));
+    } else if (result == kUnexpected) {
+        noteFileProblem("'" + *path + "' cannot be read", 0);
     }
     return result;
 }
@@ -98,37 +88,24 @@ Result ZipPackage::flush(IProgress* progress) noexcept {
 Result ZipPackage::write(IProgress* progress) {
     std::int64_t total = 0;
     for (const auto& entry : m_entries) {
-        total += entry.size;
+        total += entry.identity.size;
     }
-    PackageProgress report(progress, total);
-    ArchiveSink sink(m_path);
-    std::deque<PackageInput> inputs;
-    zip_t* archive = sink.open();
-    const bool isReady = archive && std::all_of(m_entries.begin(), m_entries.end(), [&](const auto& entry) {
-                             return addEntry(archive, entry, inputs.emplace_back(entry, report));
-                         });
-    // libzip writes no archive without entries.
-    if (!isReady || m_entries.empty() || zip_close(archive) != 0) {
-        if (archive) {
-            zip_discard(archive);
-        }
-        return report.isCancelled() ? kFalse : kUnexpected;
+    PackageProgress state(total);
+    if (!m_entries.empty()) {
+        state.start(m_entries.front().name);
     }
-    report.finish();
-    return kOk;
-}
-
-bool ZipPackage::addEntry(zip_t* archive, const PackageEntry& entry, PackageInput& input) const {
-    zip_source_t* source = input.source(archive);
-    const auto index = source ? zip_file_add(archive, entry.name.c_str(), source, ZIP_FL_ENC_UTF_8) : -1;
-    if (index < 0) {
-        zip_source_free(source);
-        return false;
+    PackageProblem problem;
+    const Result result = runReporting(progress, state, [&](const std::stop_token& stop) {
+        return writeArchive(m_path, std::move(m_entries), m_isCompressed, state, stop, problem);
+    });
+    m_entries.clear();
+    if (result == kUnexpected) {
+        noteFileProblem(problem.what, problem.error);
     }
-    const bool isDeflated = m_isCompressed && !isDense(entry.name);
-    // Level 1: audio hardly deflates, and higher levels take many times as long for a percent.
-    return zip_set_file_compression(archive, static_cast<zip_uint64_t>(index),
-                                    isDeflated ? ZIP_CM_DEFLATE : ZIP_CM_STORE, isDeflated ? 1 : 0) == 0;
+    if (progress && result == kOk) {
+        progress->update(1.0, Text{});
+    }
+    return result;
 }
 
 Result ZipPackage::close() noexcept {

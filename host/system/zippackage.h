@@ -2,16 +2,16 @@
 
 #include "framework/abi/package.h"
 #include "framework/support/object.h"
-#include "host/system/packageinput.h"
-
-#include <zip.h>
+#include "host/system/packagesource.h"
 
 #include <string>
 #include <vector>
 
 namespace xbr::host {
 
-/// Writes a ZIP archive. Adding a folder notes what it holds; all bytes are read and written by `flush`.
+/// Writes a ZIP archive. Adding a folder notes what it holds; all bytes are read and written by `flush`. Both
+/// do their work on threads of their own, which end before the call does; whoever is called back is called on
+/// the main thread.
 class ZipPackage final : public Object<IPackage> {
 public:
     explicit ZipPackage(std::string path) : m_path(std::move(path)) {}
@@ -26,7 +26,6 @@ private:
     enum class State { kNew, kCreated, kBusy, kFlushed, kClosed };
 
     Result write(IProgress* progress);
-    bool addEntry(zip_t* archive, const PackageEntry& entry, PackageInput& input) const;
 
     std::string m_path;
     std::vector<PackageEntry> m_entries;

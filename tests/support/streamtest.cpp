@@ -50,6 +50,23 @@ TEST(MemoryStream, CopiesExactlyWhatIsAsked) {
     EXPECT_TRUE(xbr::copyStream(*from, *to, 4));
     EXPECT_FALSE(xbr::copyStream(*from, *to, 4)) << "the source ends early";
     EXPECT_EQ(to->size(), 4U);
+    xbr::IStream& any = *to;
+    EXPECT_FALSE(xbr::copyStream(*from, any, 4)) << "the source ends early";
+    EXPECT_EQ(to->size(), 4U);
+}
+
+/// Bytes that are read straight into the chunks land where written ones would.
+TEST(MemoryStream, TakesLongSourcesInTheMiddleOfAChunk) {
+    const std::string bytes = pattern(2 * MemoryStream::kChunkSize + 100);
+    const auto from = xbr::make<MemoryStream>();
+    const auto to = xbr::make<MemoryStream>();
+    from->write(bytes);
+    xbr::rewind(*from);
+    to->write("head");
+    EXPECT_TRUE(xbr::copyStream(*from, *to, bytes.size()));
+    to->write("tail");
+    xbr::rewind(*to);
+    EXPECT_TRUE(xbr::readAll(*to) == "head" + bytes + "tail");
 }
 
 } // namespace

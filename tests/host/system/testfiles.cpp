@@ -22,6 +22,11 @@ void writeFile(const std::filesystem::path& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
+void writeSparseFile(const std::filesystem::path& path, std::uint64_t size) {
+    writeFile(path, "");
+    std::filesystem::resize_file(path, size);
+}
+
 std::string readFile(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};

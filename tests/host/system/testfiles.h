@@ -24,6 +24,9 @@ private:
 };
 
 void writeFile(const std::filesystem::path& path, const std::string& bytes);
+
+/// Zeros that take no room on the disk.
+void writeSparseFile(const std::filesystem::path& path, std::uint64_t size);
 std::string readFile(const std::filesystem::path& path);
 
 /// The names of everything in a folder, hidden files included.

@@ -1,0 +1,93 @@
+#include "host/system/hostsystem.h"
+#include "tests/host/system/packagefixture.h"
+
+#include <fstream>
+
+namespace xbr::host::tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Sparse, so that it takes no room; and long enough for a report or two while it is packed.
+constexpr std::uint64_t kLongSize = std::uint64_t{1} << 30U;
+
+/// A source that changes while it is packed must never become an entry that looks right.
+TEST_F(PackageTest, ASourceThatChangesIsAnError) {
+    const auto song = payload / "song.wav";
+    const auto other = folder.path() / "payload" / "other";
+    const std::vector<std::pair<const char*, std::function<void()>>> changes = {
+        {"shortened", [&] { fs::resize_file(song, kLongSize - 1); }},
+        {"grown", [&] { std::ofstream(song, std::ios::app) << "more"; }},
+        {"written to", [&] { std::fstream(song, std::ios::in | std::ios::out) << "other"; }},
+        {"removed", [&] { fs::remove(song); }},
+        {"replaced by its like",
+         [&] {
+             const auto time = fs::last_write_time(song);
+             writeSparseFile(other, kLongSize);
+             fs::last_write_time(other, time);
+             fs::rename(other, song);
+         }},
+        {"replaced by a link",
+         [&] {
+             fs::rename(song, folder.path() / "moved");
+             fs::create_symlink(folder.path() / "moved", song);
+         }},
+    };
+    for (const auto& [what, change] : changes) {
+        for (const char* when : {"before", "at the start", "in the middle"}) {
+            SCOPED_TRACE(std::string(what) + ' ' + when);
+            fs::remove(song);
+            writeSparseFile(song, kLongSize);
+            start();
+            EXPECT_EQ(add(), kOk);
+            if (std::string_view(when) == "before") {
+                change();
+            } else {
+                progress->thenFrom = std::string_view(when) == "in the middle" ? 0.001 : 0.0;
+                progress->then = change;
+            }
+            takeFileProblem();
+            EXPECT_EQ(flush(), kUnexpected);
+            EXPECT_FALSE(progress->then) << "the change was not made";
+            EXPECT_NE(takeFileProblem().find("'song.wav' cannot be read, or was changed"), std::string::npos);
+            fs::remove(folder.path() / "moved");
+            expectNothingLeft(what);
+        }
+    }
+}
+
+TEST_F(PackageTest, CancellingLeavesNoArchiveNorAnOldOne) {
+    writeSparseFile(payload / "song.wav", kLongSize);
+    writeFile(archive, "old");
+    for (const double from : {0.0, 0.001, 0.3}) {
+        start();
+        EXPECT_EQ(add(), kOk);
+        progress->thenFrom = from;
+        progress->then = [&] { progress->cancelled = true; };
+        EXPECT_EQ(flush(), kFalse) << from;
+        EXPECT_LT(progress->lastFraction, 1.0);
+        expectNothingLeft("from " + std::to_string(from));
+    }
+    start();
+    progress->cancelled = true;
+    EXPECT_EQ(add(), kFalse);
+}
+
+TEST_F(PackageTest, AFullDiskLeavesNoPartialArchive) {
+    writeFile(payload / "1.mp3", noise(2'000'000));
+    writeFile(payload / "2.mp3", noise(500'000));
+    // The last one hits the directory at the end.
+    for (const std::uint64_t limit : {0, 50, 100'000, 1'500'000, 2'000'100, 2'500'150}) {
+        start();
+        EXPECT_EQ(add(), kOk);
+        const FileSizeLimit full(limit);
+        takeFileProblem();
+        EXPECT_EQ(flush(), kUnexpected) << limit;
+        EXPECT_NE(takeFileProblem().find("payload.zip' cannot be written: File too large"),
+                  std::string::npos);
+        expectNothingLeft(std::to_string(limit));
+    }
+}
+
+} // namespace
+} // namespace xbr::host::tests

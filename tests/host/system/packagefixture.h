@@ -1,0 +1,71 @@
+#pragma once
+
+#include "framework/abi/package.h"
+#include "framework/support/text.h"
+#include "tests/host/system/testfiles.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <thread>
+
+namespace xbr::host::tests {
+
+/// Records what is reported, and lets a test do something in the middle.
+class RecordingProgress final : public Object<IProgress> {
+public:
+    void update(double fraction, Text what) noexcept override {
+        EXPECT_EQ(std::this_thread::get_id(), m_thread);
+        EXPECT_GE(fraction, lastFraction);
+        lastFraction = fraction;
+        names.push_back(toString(what));
+        if (then && fraction >= thenFrom) {
+            std::exchange(then, nullptr)();
+        }
+    }
+    bool isCancelled() noexcept override { return cancelled; }
+
+    double lastFraction = 0.0;
+    std::vector<std::string> names;
+    bool cancelled = false;
+    std::function<void()> then; ///< runs once, during the first report from `thenFrom` on
+    double thenFrom = 0.0;
+
+private:
+    std::thread::id m_thread = std::this_thread::get_id();
+};
+
+/// A folder "payload" that is packed into "payload.zip" beside it.
+class PackageTest : public testing::Test {
+protected:
+    PackageTest() {
+        std::filesystem::create_directories(payload);
+        start();
+    }
+
+    /// A new package at the archive's place, and a new progress.
+    void start() {
+        progress = make<RecordingProgress>();
+        const auto url = folder.url("payload.zip");
+        ASSERT_EQ(XBRGetPackageHandler()->createPackage(kZipPackage, toText(url), package.out()), kOk);
+        EXPECT_EQ(package->setOption(toText("compressed"), 1), kOk);
+        EXPECT_EQ(package->create(), kOk);
+    }
+    Result add() {
+        return package->addFolder(toText(folder.url("payload")), kRecursiveRelative, progress.get());
+    }
+    Result flush() { return package->flush(progress.get()); }
+
+    /// Neither an archive nor a part of one.
+    void expectNothingLeft(const std::string& context) const {
+        EXPECT_EQ(namesIn(folder.path()), std::vector<std::string>{"payload"}) << context;
+    }
+
+    TestFolder folder;
+    std::filesystem::path payload = folder.path() / "payload";
+    std::filesystem::path archive = folder.path() / "payload.zip";
+    Ref<IPackage> package;
+    Ref<RecordingProgress> progress;
+};
+
+} // namespace xbr::host::tests
