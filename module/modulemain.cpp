@@ -4,6 +4,7 @@
 #include "framework/support/modulecomponent.h"
 #include "framework/support/text.h"
 #include "module/classtable.h"
+#include "module/componentclasses.h"
 #include "module/modulegate.h"
 #include "module/modulekernel.h"
 #include "module/supportservice.h"
@@ -11,6 +12,8 @@
 namespace brindlex {
 
 namespace {
+
+const ModuleRegistration kComponents(&addComponentClasses, &removeComponentClasses);
 
 /// What the module does at start (1) and stop (2).
 bool startModule(std::int32_t argument) {

@@ -1,17 +1,23 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 
 /// Set-up functions of libxbrnet for the host program. Modules never use them. All on the main thread.
 namespace xbr::host {
 
-/// Ends all requests in flight: no handler is called afterwards, and handlers are released before this
-/// returns. Call it before a module is unloaded and before the program ends; it runs by itself when the
-/// QCoreApplication is destroyed. New requests may be sent afterwards.
+/// Ends all requests and downloads in flight: no handler is called afterwards, and handlers are released
+/// before this returns. Call it before a module is unloaded and before the program ends; it runs by itself
+/// when the QCoreApplication is destroyed. New requests may be sent afterwards.
 __attribute__((visibility("default"))) void abortAllRequests();
 
 /// How long a request may pass without a byte in either direction before it fails. Applies to requests sent
 /// afterwards; 60 seconds at the start. Time during which the event loop does not run is not counted.
 __attribute__((visibility("default"))) void setIdleLimit(std::chrono::milliseconds limit);
+
+/// How many requests with credentials were answered 401 (RFC 9110, 15.5.2) since the program began. A front
+/// end that compares the number before and after sees that a sign-in is not accepted any more; modules need
+/// not say.
+__attribute__((visibility("default"))) std::uint64_t countRefusedCredentials() noexcept;
 
 } // namespace xbr::host

@@ -9,6 +9,7 @@ bool Reply::addHeaderLine(std::string_view line) {
     } else if (line == "\r\n" || line == "\n") {
         m_headersEnded = true;
     }
+    m_headers.addLine(line);
     m_headerBytes += line.size();
     return m_headerBytes <= kHeaderLimit;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/support/memorystream.h"
+#include "host/net/replyheaders.h"
 
 #include <cstdint>
 #include <string_view>
@@ -32,10 +33,14 @@ public:
     /// True when a body of this length has arrived.
     bool hasBodyOf(std::int64_t length) const noexcept;
 
+    /// The headers of the last answer.
+    const ReplyHeaders& headers() const noexcept { return m_headers; }
+
     /// The body at its start; null when it is empty.
     Ref<MemoryStream> body() const;
 
 private:
+    ReplyHeaders m_headers;
     Ref<MemoryStream> m_body;
     std::uint64_t m_headerBytes = 0;
     std::uint64_t m_bodyBytes = 0;

@@ -159,6 +159,7 @@ Outcome Transfer::outcome(CURLcode code) {
     result.wholeBodySent = m_request.body.size() > 0 && sent() >= m_request.body.size();
     if (whole && m_reply.hasHeaders() && status >= 200 && m_ended == Ended::kNot) {
         result.status = static_cast<std::int32_t>(status);
+        result.headers = m_reply.headers();
         result.body = m_reply.body();
     } else {
         result.error = failureText(m_ended, code, m_request.host);

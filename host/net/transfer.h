@@ -16,6 +16,7 @@ namespace xbr::host {
 /// How a transfer ended: with a status, or with the reason why there is none.
 struct Outcome {
     std::int32_t status = 0;
+    ReplyHeaders headers;
     Ref<MemoryStream> body; ///< null when there is none
     std::string error;
     bool wholeBodySent = false;

@@ -18,6 +18,9 @@ namespace {
 /// All requests that owe their handler a message.
 std::vector<WebRequest*> g_owing;
 
+constexpr std::int32_t kUnauthorized = 401;
+std::uint64_t g_refusedCredentials = 0;
+
 bool isOwing(const WebRequest* request) {
     return std::find(g_owing.begin(), g_owing.end(), request) != g_owing.end();
 }
@@ -104,6 +107,7 @@ Result WebRequest::send(IStream* body, IObserver* handler) noexcept {
         return kUnexpected;
     }
     m_transfer = std::move(transfer);
+    m_hadCredentials = static_cast<bool>(m_credentials);
     m_credentials.reset();
     if (handler) {
         m_handler = Ref<IObserver>::share(handler);
@@ -171,6 +175,7 @@ void WebRequest::onFinished(Outcome outcome) {
         return; // aborted by the handler of the progress
     }
     m_outcome = std::move(outcome);
+    g_refusedCredentials += m_hadCredentials && m_outcome.status == kUnauthorized ? 1 : 0;
     const auto handler = std::exchange(m_handler, {});
     setState(State::kDone);
     tell(handler.get(), *make<RequestMessage>("onloadend"));
@@ -182,6 +187,10 @@ void WebRequest::endSilently() {
     m_pendingAbort.reset();
     setState(State::kDone);
     endTransfer();
+}
+
+std::uint64_t WebRequest::countRefusedCredentials() noexcept {
+    return g_refusedCredentials;
 }
 
 void WebRequest::endAll() {

@@ -5,6 +5,7 @@
 #include "host/net/transfer.h"
 #include "host/net/webcredentials.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
@@ -36,6 +37,9 @@ public:
     /// Ends all requests that still owe a message, without one.
     static void endAll();
 
+    /// How many requests with credentials were answered 401.
+    static std::uint64_t countRefusedCredentials() noexcept;
+
 private:
     enum class State {
         kNew,
@@ -61,6 +65,7 @@ private:
     std::string m_host;
     std::vector<std::pair<std::string, std::string>> m_headers;
     Ref<WebCredentials> m_credentials;
+    bool m_hadCredentials = false; ///< when it was sent
     Ref<IObserver> m_handler;
     std::unique_ptr<Transfer> m_transfer;
     std::shared_ptr<WebRequest*> m_pendingAbort; ///< gone when the message is no longer owed

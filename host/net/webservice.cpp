@@ -1,26 +1,37 @@
-#include "framework/abi/webservice.h"
+#include "host/net/webservice.h"
 
+#include "framework/support/text.h"
+#include "host/net/downloadtask.h"
+#include "host/net/feedreader.h"
 #include "host/net/webcredentials.h"
 #include "host/net/webrequest.h"
 
 namespace xbr::host {
 
-namespace {
+Result WebService::createCredentials(IWebCredentials** out) noexcept {
+    *out = make<WebCredentials>().detach();
+    return kOk;
+}
 
-class WebService final : public Object<IWebService> {
-public:
-    Result createCredentials(IWebCredentials** out) noexcept override {
-        *out = make<WebCredentials>().detach();
-        return kOk;
+Result WebService::createRequest(IWebRequest** out) noexcept {
+    *out = make<WebRequest>().detach();
+    return kOk;
+}
+
+Result WebService::createTask(Text url, IDownloadTask** out) noexcept {
+    *out = nullptr;
+    const DownloadSource source = downloadSource(view(url));
+    if (source == DownloadSource::kNone) {
+        return kInvalidArgument;
     }
+    *out = make<DownloadTask>(toString(url), source).detach();
+    return kOk;
+}
 
-    Result createRequest(IWebRequest** out) noexcept override {
-        *out = make<WebRequest>().detach();
-        return kOk;
-    }
-};
-
-} // namespace
+Result WebService::readFeed(IStream* stream, Text location, Text mimeType, IFeed** out) noexcept {
+    *out = nullptr;
+    return stream ? host::readFeed(*stream, location, mimeType, out) : kInvalidArgument;
+}
 
 } // namespace xbr::host
 

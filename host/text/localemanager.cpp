@@ -2,6 +2,7 @@
 
 #include "framework/abi/filesystem.h"
 #include "framework/support/text.h"
+#include "host/text/dateformats.h"
 #include "host/text/streams.h"
 
 #include <QTranslator>
@@ -93,6 +94,14 @@ Result LocaleManager::getTable(Text module, ITranslationTable** out) noexcept {
     std::string file = readTranslations(name);
     *out = make<TranslationTable>(std::move(name), std::move(file)).detach();
     return kOk;
+}
+
+Result LocaleManager::getLocalDate(std::int64_t time, Date* out) noexcept {
+    return localDate(time, *out);
+}
+
+Result LocaleManager::formatDate(const Date& date, std::int32_t format, IString** out) noexcept {
+    return formattedDate(date, format, out);
 }
 
 } // namespace xbr::host

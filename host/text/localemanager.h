@@ -1,19 +1,22 @@
 #pragma once
 
+#include "framework/abi/dates.h"
 #include "framework/abi/locale.h"
 #include "framework/support/object.h"
 
 namespace xbr::host {
 
-/// Finds the translations that a module carries for the user's languages.
+/// Finds the translations that a module carries for the user's languages, and writes dates for the user.
 ///
 /// The languages are those of the environment in the user's order of preference, by the rules of GNU gettext
 /// (LANGUAGE, LC_ALL, LC_MESSAGES, LANG). For each one the file of its full name ("pt_BR.qm") comes before
 /// the language's own
 /// ("pt.qm"). A module's source texts are English and their context is the module's name.
-class LocaleManager final : public Object<ILocaleManager> {
+class LocaleManager final : public Object<ILocaleManager, IDateFormats> {
 public:
     Result getTable(Text module, ITranslationTable** out) noexcept override;
+    Result getLocalDate(std::int64_t time, Date* out) noexcept override;
+    Result formatDate(const Date& date, std::int32_t format, IString** out) noexcept override;
 };
 
 } // namespace xbr::host

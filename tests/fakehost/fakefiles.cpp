@@ -36,6 +36,27 @@ private:
     std::string m_url;
 };
 
+class FileList final : public xbr::Object<xbr::IFileList> {
+public:
+    void add(std::string url, std::uint64_t size, std::int64_t modified) {
+        m_files.push_back({std::move(url), size, modified});
+    }
+    std::int32_t count() const noexcept override { return static_cast<std::int32_t>(m_files.size()); }
+    xbr::Text urlAt(std::int32_t index) const noexcept override { return xbr::toText(at(index).url); }
+    std::uint64_t sizeAt(std::int32_t index) const noexcept override { return at(index).size; }
+    std::int64_t modifiedAt(std::int32_t index) const noexcept override { return at(index).modified; }
+
+private:
+    struct File {
+        std::string url;
+        std::uint64_t size;
+        std::int64_t modified;
+    };
+    const File& at(std::int32_t index) const { return m_files.at(static_cast<std::size_t>(index)); }
+
+    std::vector<File> m_files;
+};
+
 class FakePackage final : public xbr::Object<xbr::IPackage> {
 public:
     explicit FakePackage(std::string url) : m_url(std::move(url)) {}
@@ -119,6 +140,28 @@ xbr::Result FakeFileSystem::registerResources(xbr::Text, const void*, std::uint6
     return xbr::kOk;
 }
 xbr::Result FakeFileSystem::unregisterResources(xbr::Text) noexcept {
+    return xbr::kOk;
+}
+
+xbr::Result FakeFileSystem::getCacheFolder(xbr::IString** out) noexcept {
+    *out = nullptr;
+    return hasCacheFolder ? xbr::giveText("file:///cache", out) : xbr::kUnexpected;
+}
+
+xbr::Result FakeFileSystem::replaceFile(xbr::Text url, const void* bytes, std::uint64_t size) noexcept {
+    files[xbr::toString(url)].assign(static_cast<const char*>(bytes), size);
+    modified[xbr::toString(url)] = host().system.time;
+    return xbr::kOk;
+}
+
+xbr::Result FakeFileSystem::getFiles(xbr::Text folder, xbr::IFileList** out) noexcept {
+    auto list = xbr::make<FileList>();
+    for (const auto& [url, bytes] : files) {
+        if (url.starts_with(xbr::toString(folder) + "/")) {
+            list->add(url, bytes.size(), modified[url]);
+        }
+    }
+    *out = list.detach();
     return xbr::kOk;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/abi/filestore.h"
 #include "framework/abi/filesystem.h"
 #include "framework/abi/package.h"
 #include "framework/support/object.h"
@@ -11,7 +12,7 @@
 namespace fakehost {
 
 /// Files in memory, by URL. Folders exist as long as they hold a file.
-class FakeFileSystem final : public xbr::Object<xbr::IFileSystem> {
+class FakeFileSystem final : public xbr::Object<xbr::IFileSystem, xbr::IFileStore> {
 public:
     xbr::Result openForReading(xbr::Text url, xbr::IStream** out) noexcept override;
     xbr::Result createFile(xbr::Text url, xbr::IStream** out) noexcept override;
@@ -23,7 +24,13 @@ public:
     xbr::Result registerResources(xbr::Text name, const void* bytes, std::uint64_t size) noexcept override;
     xbr::Result unregisterResources(xbr::Text name) noexcept override;
 
+    xbr::Result getCacheFolder(xbr::IString** out) noexcept override;
+    xbr::Result replaceFile(xbr::Text url, const void* bytes, std::uint64_t size) noexcept override;
+    xbr::Result getFiles(xbr::Text folder, xbr::IFileList** out) noexcept override;
+
     std::map<std::string, std::string> files;
+    std::map<std::string, std::int64_t> modified; ///< of files that were replaced
+    bool hasCacheFolder = true;
     std::set<std::string> unreadable; ///< files that exist and cannot be opened
 };
 

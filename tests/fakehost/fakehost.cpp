@@ -31,6 +31,9 @@ xbr::ISignalHandler* XBRGetSignalHandler() noexcept {
 xbr::IWebService* XBRGetWebService() noexcept {
     return &host().web;
 }
+xbr::IGraphicsHelper* XBRGetGraphicsHelper() noexcept {
+    return &host().graphics;
+}
 xbr::IFileSystem* XBRGetFileSystem() noexcept {
     return &host().files;
 }

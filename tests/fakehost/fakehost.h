@@ -1,6 +1,9 @@
 #pragma once
 
+#include "tests/fakehost/fakedownloads.h"
+#include "tests/fakehost/fakefeeds.h"
 #include "tests/fakehost/fakefiles.h"
+#include "tests/fakehost/fakegraphics.h"
 #include "tests/fakehost/fakeobjects.h"
 #include "tests/fakehost/fakesignalhandler.h"
 #include "tests/fakehost/fakesystem.h"
@@ -13,6 +16,9 @@ namespace fakehost {
 struct FakeHost {
     FakeSignalHandler signals;
     FakeWebService web;
+    FakeDownloads downloads;
+    FakeFeeds feeds;
+    FakeGraphicsHelper graphics;
     FakeFileSystem files;
     FakePackageHandler packages;
     FakeSystem system;

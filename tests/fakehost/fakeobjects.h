@@ -18,13 +18,20 @@ class FakePlugInManager final : public xbr::Object<xbr::IPlugInManager> {
 public:
     xbr::Result createInstance(const xbr::Uid& classUid, const xbr::Uid& interfaceUid,
                                void** out) noexcept override;
-    xbr::Result addFactory(xbr::IClassFactory*) noexcept override { return xbr::kOk; }
-    xbr::Result removeFactory(xbr::IClassFactory*) noexcept override { return xbr::kOk; }
+    xbr::Result addFactory(xbr::IClassFactory* factory) noexcept override {
+        factories.push_back(factory);
+        return xbr::kOk;
+    }
+    xbr::Result removeFactory(xbr::IClassFactory* factory) noexcept override {
+        return std::erase(factories, factory) > 0 ? xbr::kOk : xbr::kFalse;
+    }
     std::int32_t countClasses(xbr::Text) const noexcept override { return 0; }
     const xbr::ClassDescription* classAt(xbr::Text, std::int32_t,
                                          const xbr::IAttributes**) const noexcept override {
         return nullptr;
     }
+
+    std::vector<xbr::IClassFactory*> factories; ///< those that were added
 
     bool joinTokenAllowed = false;
     bool hasJoinTokenPermission = false;

@@ -3,6 +3,7 @@
 #include "framework/support/text.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace fakehost {
 
@@ -83,6 +84,22 @@ xbr::Result FakeFileTypeRegistry::getTypeByMimeType(xbr::Text mimeType, xbr::IFi
                                     [&](const auto& type) { return type.second == xbr::view(mimeType); });
     *out = known == mimeTypes.end() ? nullptr : xbr::make<FileType>(known->first, known->second).detach();
     return *out ? xbr::kOk : xbr::kFalse;
+}
+
+xbr::Result FakeLocaleManager::getLocalDate(std::int64_t time, xbr::Date* out) noexcept {
+    const auto day =
+        std::chrono::floor<std::chrono::days>(std::chrono::sys_seconds(std::chrono::seconds(time)));
+    const std::chrono::year_month_day date(day);
+    *out = {static_cast<int>(date.year()), static_cast<std::int32_t>(static_cast<unsigned>(date.month())),
+            static_cast<std::int32_t>(static_cast<unsigned>(date.day()))};
+    return xbr::kOk;
+}
+
+xbr::Result FakeLocaleManager::formatDate(const xbr::Date& date, std::int32_t format,
+                                          xbr::IString** out) noexcept {
+    const std::string text = std::to_string(date.year) + "-" + std::to_string(date.month) + "-" +
+                             std::to_string(date.day) + "/" + std::to_string(format);
+    return xbr::giveText(text, out);
 }
 
 xbr::Result FakeFileTypeRegistry::createType(xbr::Text extension, xbr::IFileType** out) noexcept {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/abi/credentials.h"
+#include "framework/abi/dates.h"
 #include "framework/abi/filetype.h"
 #include "framework/abi/locale.h"
 #include "framework/abi/system.h"
@@ -64,12 +65,15 @@ public:
     std::map<std::string, std::string> mimeTypes; ///< of the known types, by extension
 };
 
-class FakeLocaleManager final : public xbr::Object<xbr::ILocaleManager> {
+/// Writes dates as "year-month-day/format"; the user lives at Greenwich.
+class FakeLocaleManager final : public xbr::Object<xbr::ILocaleManager, xbr::IDateFormats> {
 public:
     xbr::Result getTable(xbr::Text, xbr::ITranslationTable** out) noexcept override {
         *out = nullptr;
         return xbr::kFalse;
     }
+    xbr::Result getLocalDate(std::int64_t time, xbr::Date* out) noexcept override;
+    xbr::Result formatDate(const xbr::Date& date, std::int32_t format, xbr::IString** out) noexcept override;
 };
 
 } // namespace fakehost

@@ -115,6 +115,14 @@ xbr::Result FakeWebService::createRequest(xbr::IWebRequest** out) noexcept {
     return xbr::kOk;
 }
 
+xbr::Result FakeWebService::createTask(xbr::Text url, xbr::IDownloadTask** out) noexcept {
+    return host().downloads.createTask(xbr::toString(url), out);
+}
+
+xbr::Result FakeWebService::readFeed(xbr::IStream* stream, xbr::Text, xbr::Text, xbr::IFeed** out) noexcept {
+    return host().feeds.readFeed(*stream, out);
+}
+
 void FakeWebService::answer(std::int32_t status, std::string body) {
     const auto request = xbr::Ref<FakeWebRequest>::share(m_inFlight);
     request->reply(status, body);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/abi/download.h"
+#include "framework/abi/feed.h"
 #include "framework/abi/webservice.h"
 #include "framework/support/object.h"
 
@@ -21,10 +23,13 @@ struct SentRequest {
 class FakeWebRequest;
 
 /// Keeps every request; tests answer them.
-class FakeWebService final : public xbr::Object<xbr::IWebService> {
+class FakeWebService final : public xbr::Object<xbr::IWebService, xbr::IDownloadService, xbr::IFeedReader> {
 public:
     xbr::Result createCredentials(xbr::IWebCredentials** out) noexcept override;
     xbr::Result createRequest(xbr::IWebRequest** out) noexcept override;
+    xbr::Result createTask(xbr::Text url, xbr::IDownloadTask** out) noexcept override;
+    xbr::Result readFeed(xbr::IStream* stream, xbr::Text location, xbr::Text mimeType,
+                         xbr::IFeed** out) noexcept override;
 
     /// Completes the request in flight with "onloadend" and runs what follows from it.
     void answer(std::int32_t status, std::string body = {});

@@ -1,0 +1,60 @@
+#include "module/componentclasses.h"
+
+#include "framework/abi/pluginmanager.h"
+#include "framework/support/text.h"
+#include "module/modulegate.h"
+#include "ui/feedelement.h"
+#include "ui/feedlistcomponent.h"
+#include "ui/imageelement.h"
+#include "ui/persistentimagecache.h"
+
+namespace brindlex {
+
+namespace {
+
+xbr::ClassDescription component(const xbr::Uid& uid, std::string_view name) {
+    return {0, uid, xbr::toText("Component"), xbr::toText(name), xbr::toText(""), xbr::toText("")};
+}
+
+template <class T>
+void add(xbr::ClassFactory& classes, const xbr::ClassDescription& description) {
+    classes.add(description, xbr::creatorOf<T>());
+}
+
+xbr::Ref<xbr::ClassFactory> makeClasses() {
+    static const auto kFeedElement =
+        component(xbr::uid("02eb5f3d-b585-4e16-be6d-1c7e3f2c7fec"), "FeedElement");
+    static const auto kFeedListComponent =
+        component(xbr::uid("d1dd7f5a-bd71-41e1-8d79-82b9003aa462"), "FeedListComponent");
+    static const auto kImageElement =
+        component(xbr::uid("ff8bd1c9-430d-4a97-a500-14fc25c55790"), "ImageElement");
+    static const auto kImageElementCache =
+        component(xbr::uid("5e3e1d4e-1d70-42fb-90b5-ed1aaf90bb36"), "ImageElementCache");
+    static const auto kPersistentImageCache =
+        component(xbr::uid("28215e6b-5ecf-4af6-a24b-72bea1aae77e"), "PersistentImageCache");
+    auto classes = xbr::make<xbr::ClassFactory>(&isModuleLoaded);
+    add<FeedElement>(*classes, kFeedElement);
+    add<FeedListComponent>(*classes, kFeedListComponent);
+    add<ImageElement>(*classes, kImageElement);
+    add<ImageElementCache>(*classes, kImageElementCache);
+    add<PersistentImageCache>(*classes, kPersistentImageCache);
+    return classes;
+}
+
+} // namespace
+
+xbr::ClassFactory& componentClasses() {
+    static const auto classes = makeClasses();
+    return *classes;
+}
+
+bool addComponentClasses(void*, void*) {
+    XBRGetPlugInManager()->addFactory(&componentClasses());
+    return true;
+}
+
+void removeComponentClasses(void*) {
+    XBRGetPlugInManager()->removeFactory(&componentClasses());
+}
+
+} // namespace brindlex

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "framework/support/classfactory.h"
+
+namespace brindlex {
+
+/// The components that forms create by class name (category "Component"): "FeedElement", "FeedListComponent",
+/// "ImageElement", "ImageElementCache", "PersistentImageCache".
+xbr::ClassFactory& componentClasses();
+
+/// Offers them to the host, and takes them back. For the module's initialise and terminate functions.
+bool addComponentClasses(void*, void*);
+void removeComponentClasses(void*);
+
+} // namespace brindlex

@@ -1,0 +1,60 @@
+#include "tests/fakehost/fakegraphics.h"
+
+#include "framework/support/memorystream.h"
+#include "framework/support/text.h"
+#include "tests/fakehost/fakehost.h"
+
+#include <sstream>
+
+namespace fakehost {
+
+namespace {
+
+struct Size {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+};
+
+class Image final : public xbr::Object<xbr::IImage> {
+public:
+    Image(Size size, Size pixels) : m_size(size), m_pixels(pixels) {}
+    std::int32_t width() const noexcept override { return m_size.width; }
+    std::int32_t height() const noexcept override { return m_size.height; }
+    std::int32_t pixelWidth() const noexcept override { return m_pixels.width; }
+    std::int32_t pixelHeight() const noexcept override { return m_pixels.height; }
+
+private:
+    Size m_size;
+    Size m_pixels;
+};
+
+xbr::Result decode(const std::string& bytes, xbr::IImage** out) {
+    std::istringstream text(bytes);
+    Size size;
+    char times = '\0';
+    text >> size.width >> times >> size.height;
+    *out = text && times == 'x' ? xbr::make<Image>(size, size).detach() : nullptr;
+    return *out ? xbr::kOk : xbr::kInvalidArgument;
+}
+
+} // namespace
+
+xbr::Result FakeGraphicsHelper::decodeImage(xbr::IStream* stream, xbr::IFileType* type,
+                                            xbr::IImage** out) noexcept {
+    decoded.push_back(type ? xbr::toString(type->extension()) : "(none)");
+    return decode(xbr::readAll(*stream), out);
+}
+
+xbr::Result FakeGraphicsHelper::loadImage(xbr::Text url, xbr::IImage** out) noexcept {
+    const auto found = host().files.files.find(xbr::toString(url));
+    *out = nullptr;
+    return found == host().files.files.end() ? xbr::kFalse : decode(found->second, out);
+}
+
+xbr::Result FakeGraphicsHelper::createHighResolutionImage(xbr::IImage* image, std::int32_t width,
+                                                          std::int32_t height, xbr::IImage** out) noexcept {
+    *out = xbr::make<Image>(Size{width, height}, Size{image->pixelWidth(), image->pixelHeight()}).detach();
+    return xbr::kOk;
+}
+
+} // namespace fakehost

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "framework/support/modulecomponent.h"
+#include "framework/support/text.h"
+#include "tests/fakehost/fakehost.h"
+#include "ui/feedelement.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace brindlex {
+
+using fakehost::FakeEntry;
+using fakehost::host;
+
+/// Writes down what a subject sends.
+class FeedObserver final : public xbr::Object<xbr::IObserver> {
+public:
+    explicit FeedObserver(xbr::ISubject& subject) { XBRGetSignalHandler()->addObserver(&subject, this); }
+    ~FeedObserver() override { XBRGetSignalHandler()->forgetObserver(this); }
+
+    void notify(xbr::ISubject*, xbr::IMessage* message) noexcept override {
+        heard.push_back(xbr::toString(message->name()));
+        if (hook) {
+            hook();
+        }
+    }
+
+    std::vector<std::string> heard;
+    std::function<void()> hook;
+};
+
+inline const std::string kFeed = "https://news.example/feed.atom";
+
+/// The module's news in a started module.
+class FeedFixture : public testing::Test {
+protected:
+    FeedFixture() {
+        fakehost::resetHost();
+        module = xbr::make<xbr::ModuleComponent>("brindlex", "Kestrova", "Brindlex Support", "");
+        module->loadTheme("");
+        feed = xbr::make<FeedElement>();
+        feed->setLocation(kFeed);
+    }
+    ~FeedFixture() override {
+        feed.reset();
+        EXPECT_EQ(host().signals.remaining(), 0U);
+        EXPECT_EQ(host().downloads.running(), 0U);
+    }
+
+    static void post(xbr::IObserver& element, const char* message) {
+        xbr::post(element, message);
+        host().signals.pump();
+    }
+
+    /// Makes the feed show these entries.
+    void show(const std::vector<FakeEntry>& entries) {
+        host().feeds.documents["document"] = entries;
+        post(*feed, "restartDownload");
+        ASSERT_TRUE(host().downloads.complete(kFeed, "document"));
+    }
+
+    static xbr::Value property(xbr::IPropertySource& source, const std::string& name,
+                               xbr::Result expected = xbr::kOk) {
+        xbr::Value value{};
+        EXPECT_EQ(source.getProperty(xbr::toText(name), &value), expected) << name;
+        return value;
+    }
+    std::int64_t number(const std::string& name) { return xbr::integerOf(property(*feed, name), -1); }
+
+    /// All parameters as "name=value" lines.
+    std::string parameters() {
+        std::string text;
+        for (std::int32_t i = 0; i < feed->countParameters(); ++i) {
+            auto* parameter = feed->parameterAt(i);
+            EXPECT_EQ(parameter->tag(), 100 + i);
+            text +=
+                xbr::toString(parameter->name()) + "=" + std::string(xbr::textOf(parameter->value())) + "\n";
+        }
+        return text;
+    }
+
+    xbr::Ref<xbr::IController> child(const std::string& name) {
+        return xbr::query<xbr::IController>(feed->findObject(xbr::toText(name)));
+    }
+
+    /// The size of a child's picture, "(none)" without one.
+    std::string picture(const std::string& name) {
+        const auto source = xbr::query<xbr::IImageSource>(child(name).get());
+        xbr::Ref<xbr::IImage> image;
+        return source && source->getImage(image.out()) == xbr::kOk
+                   ? std::to_string(image->width()) + "x" + std::to_string(image->height())
+                   : "(none)";
+    }
+
+    xbr::Ref<xbr::ModuleComponent> module;
+    xbr::Ref<FeedElement> feed;
+};
+
+} // namespace brindlex

@@ -1,0 +1,295 @@
+#include "tests/ui/feedfixture.h"
+#include "ui/persistentimagecache.h"
+#include "ui/picturechoice.h"
+#include "ui/picturefile.h"
+
+namespace brindlex {
+
+namespace {
+
+const std::string kPicture = "https://p.example/a.png?sig=a%2Fb";
+
+class ImageElementTest : public FeedFixture {
+protected:
+    ImageElementTest() {
+        host().fileTypes.mimeTypes = {{"png", "image/png"}, {"jpg", "image/jpeg"}};
+        cache = xbr::make<PersistentImageCache>();
+        image = newImage();
+    }
+
+    xbr::Ref<ImageElement> newImage(double scale = 1.0) {
+        auto made = xbr::make<ImageElement>("image0");
+        made->setLocation(kPicture);
+        made->setCache(cache);
+        made->setScale(scale);
+        return made;
+    }
+
+    /// As after a start of the program: nothing in memory.
+    void startAgain() {
+        cache = xbr::make<PersistentImageCache>();
+        image = newImage();
+        host().downloads.started.clear();
+    }
+
+    static std::string sizeOf(ImageElement& element) {
+        xbr::Ref<xbr::IImage> found;
+        return element.getImage(found.out()) == xbr::kOk
+                   ? std::to_string(found->width()) + "x" + std::to_string(found->height())
+                   : "(none)";
+    }
+
+    void fetch(const std::string& data, const fakehost::FakeTerms& terms = {}) {
+        post(*image, "startDownload");
+        ASSERT_TRUE(host().downloads.complete(kPicture, data, terms));
+    }
+
+    static std::string storedFile() {
+        const std::string name = "file:///cache/brindlex/pictures/" + pictureFileName(kPicture);
+        return host().files.files.contains(name) ? name : std::string();
+    }
+
+    xbr::Ref<PersistentImageCache> cache;
+    xbr::Ref<ImageElement> image;
+};
+
+TEST_F(ImageElementTest, DecodesAsTheTypeThatIsDeclared) {
+    struct {
+        const char* mimeType;
+        const char* location;
+        const char* decodedAs;
+    } const cases[] = {
+        {"image/jpeg", "https://p.example/a.png", "jpg"},    {"", "https://p.example/a.PNG?x=.jpg", "png"},
+        {"image/unheard", "https://p.example/a.png", "png"}, {"", "https://p.example/picture", "(none)"},
+        {"", "https://p.example/a.xyz", "(none)"},
+    };
+    image->setCache({});
+    for (const auto& one : cases) {
+        host().graphics.decoded.clear();
+        image->setMimeType(one.mimeType);
+        image->setLocation(one.location);
+        post(*image, "restartDownload");
+        host().downloads.complete(one.location, "2x2");
+        EXPECT_EQ(host().graphics.decoded, std::vector<std::string>{one.decodedAs}) << one.location;
+        EXPECT_EQ(sizeOf(*image), "2x2");
+    }
+}
+
+TEST_F(ImageElementTest, GivesUpTheOldPictureForAnotherLocation) {
+    fetch("8x6");
+    EXPECT_EQ(image->setProperty(xbr::toText("url"), xbr::textValue("https://p.example/b.png")), xbr::kOk);
+    EXPECT_EQ(sizeOf(*image), "(none)");
+    post(*image, "startDownload");
+    image->setLocation(kPicture);
+    EXPECT_EQ(host().downloads.running(), 0U);
+    EXPECT_EQ(image->downloadState(), xbr::DownloadState::kIdle);
+    post(*image, "startDownload");
+    EXPECT_EQ(sizeOf(*image), "8x6") << "it was kept";
+}
+
+TEST_F(ImageElementTest, RoundsItsSizeInPointsUp) {
+    struct {
+        std::int32_t pixels;
+        double scale;
+        std::int32_t points;
+    } const cases[] = {{201, 2.0, 101},   {200, 2.0, 100},    {0, 2.0, 0},     {1, 2.0, 1},
+                       {-201, 2.0, -101}, {-200, 2.0, -100},  {401, 4.0, 101}, {1000, 999.0, 1},
+                       {1002, 1000.0, 2}, {-1002, 1000.0, -2}};
+    for (const auto& one : cases) {
+        EXPECT_EQ(logicalSize(one.pixels, one.scale), one.points) << one.pixels << "/" << one.scale;
+    }
+}
+
+TEST_F(ImageElementTest, HasNoImageOfEmptyOrDamagedData) {
+    const auto observer = xbr::make<FeedObserver>(*image);
+    for (const char* data : {"", "damaged"}) {
+        fetch("4x4");
+        EXPECT_TRUE(property(*image, "hasImage").boolean);
+        EXPECT_FALSE(storedFile().empty());
+        post(*image, "restartDownload");
+        EXPECT_EQ(xbr::integerOf(property(*image, "downloadState")), 1);
+        EXPECT_EQ(sizeOf(*image), "4x4");
+        host().downloads.complete(kPicture, data);
+        EXPECT_FALSE(property(*image, "hasImage").boolean);
+        EXPECT_EQ(xbr::integerOf(property(*image, "downloadState")), 2) << "the document is there";
+        EXPECT_TRUE(storedFile().empty());
+        startAgain();
+    }
+    EXPECT_FALSE(observer->heard.empty());
+}
+
+TEST_F(ImageElementTest, LoadsAFileAsItIs) {
+    host().files.files["file:///news/a.png"] = "10x6";
+    image = newImage(2.0);
+    image->setLocation("file:///news/a.png");
+    post(*image, "startDownload");
+    host().downloads.complete("file:///news/a.png", "99x99");
+    EXPECT_EQ(sizeOf(*image), "10x6") << "from the file, in its own size";
+    EXPECT_EQ(host().files.files.size(), 1U) << "a file need not be stored once more";
+}
+
+TEST_F(ImageElementTest, AsksMemoryFirst) {
+    fetch("8x6", {.lifetime = 0});
+    const auto second = newImage();
+    const auto high = newImage(2.0);
+    post(*second, "startDownload");
+    EXPECT_EQ(sizeOf(*second), "8x6");
+    EXPECT_EQ(second->downloadState(), xbr::DownloadState::kComplete);
+    EXPECT_EQ(host().downloads.started.size(), 1U);
+    post(*high, "startDownload");
+    EXPECT_EQ(host().downloads.started.size(), 2U) << "the other scale is another image";
+}
+
+TEST_F(ImageElementTest, AsksTheServerWhenTheCopyIsNoLongerGood) {
+    const std::int64_t start = host().system.time;
+    struct {
+        std::int64_t lifetime;
+        std::int64_t later;
+        bool asks;
+    } const cases[] = {{60, 59, false},
+                       {60, 60, true},
+                       {0, 0, true},
+                       {-1, 3599, false},
+                       {-1, 3600, true},
+                       {1'000'000'000, 604'799, false},
+                       {1'000'000'000, 604'800, true}};
+    for (const auto& one : cases) {
+        host().files.files.clear();
+        host().system.time = start;
+        startAgain();
+        fetch("8x6", {.entityTag = "\"1\"", .lastModified = "Monday", .lifetime = one.lifetime});
+        host().system.time = start + one.later;
+        startAgain();
+        post(*image, "startDownload");
+        ASSERT_EQ(host().downloads.started.size(), one.asks ? 1U : 0U) << one.lifetime << " " << one.later;
+        if (one.asks) {
+            EXPECT_EQ(host().downloads.started[0].entityTag, "\"1\"");
+            EXPECT_EQ(host().downloads.started[0].lastModified, "Monday");
+            EXPECT_TRUE(host().downloads.unchanged(kPicture, {.entityTag = "\"2\"", .lifetime = 60}));
+        }
+        EXPECT_EQ(sizeOf(*image), "8x6");
+        EXPECT_EQ(cache->load(kPicture)->entityTag, one.asks ? "\"2\"" : "\"1\"");
+        EXPECT_EQ(cache->load(kPicture)->lastModified, "Monday") << "not repeated, not forgotten";
+    }
+}
+
+TEST_F(ImageElementTest, ReloadsEvenWhatIsGood) {
+    fetch("8x6", {.entityTag = "\"1\"", .lifetime = 600});
+    post(*image, "restartDownload");
+    ASSERT_EQ(host().downloads.started.size(), 2U);
+    EXPECT_EQ(host().downloads.started[1].entityTag, "\"1\"");
+    host().downloads.complete(kPicture, "9x7");
+    EXPECT_EQ(sizeOf(*image), "9x7");
+}
+
+TEST_F(ImageElementTest, ShowsTheCopyWhenTheServerIsOutOfReach) {
+    fetch("8x6", {.lifetime = 0});
+    startAgain();
+    post(*image, "startDownload");
+    host().downloads.fail(kPicture);
+    EXPECT_EQ(sizeOf(*image), "8x6");
+    EXPECT_EQ(image->downloadState(), xbr::DownloadState::kFailed);
+}
+
+TEST_F(ImageElementTest, FetchesAgainWhenTheCopyWentOrIsDamaged) {
+    fetch("8x6", {.entityTag = "\"1\"", .lifetime = 600});
+    const std::string file = storedFile();
+    const std::string whole = host().files.files[file];
+    for (const auto& damaged :
+         {whole.substr(0, whole.size() - 1), whole + "x", std::string(), std::string("x"),
+          whole.substr(0, 20), std::string("brindlex picture 1\n\n\n\n\n")}) {
+        host().files.files[file] = damaged;
+        startAgain();
+        fetch("8x6");
+        EXPECT_EQ(host().downloads.started[0].entityTag, "") << "nothing is known";
+        EXPECT_TRUE(cache->load(kPicture)) << "replaced";
+    }
+    startAgain();
+    host().system.time += 100'000;
+    host().files.files[file] = whole;
+    post(*image, "startDownload");
+    host().files.files.clear();
+    EXPECT_TRUE(host().downloads.unchanged(kPicture));
+    ASSERT_EQ(host().downloads.started.size(), 2U);
+    EXPECT_EQ(host().downloads.started[1].entityTag, "");
+    EXPECT_TRUE(host().downloads.complete(kPicture, "5x5"));
+    EXPECT_EQ(sizeOf(*image), "5x5");
+}
+
+TEST_F(ImageElementTest, StoresNothingThatMustNotBeKeptOrHasNoPlace) {
+    fetch("8x6", {.lifetime = 600, .mayBeKept = false});
+    EXPECT_TRUE(host().files.files.empty());
+    host().files.hasCacheFolder = false;
+    startAgain();
+    fetch("8x6");
+    EXPECT_TRUE(host().files.files.empty());
+    EXPECT_EQ(sizeOf(*image), "8x6");
+}
+
+TEST_F(ImageElementTest, TellsLocationsOfOneNameApart) {
+    fetch("8x6", {.lifetime = 600});
+    auto stored = *cache->load(kPicture);
+    stored.location = "https://p.example/other.png";
+    host().files.files[storedFile()] = writePicture(stored);
+    EXPECT_FALSE(cache->load(kPicture));
+}
+
+TEST_F(ImageElementTest, KeepsTheFolderWithinItsLimits) {
+    const auto add = [&](const std::string& location, std::size_t size) {
+        cache->store(location, {{}, {}, 0, true}, std::string(size, 'x'));
+        host().system.time += 60;
+    };
+    constexpr std::size_t kMegabyte = std::size_t{1} << 20U;
+    const std::string old = "file:///cache/brindlex/pictures/.xbr-1-1.part";
+    host().files.files[old] = "left behind by a process that died";
+    host().files.modified[old] = host().system.time - PersistentImageCache::kKeepSeconds - 1;
+    for (int i = 0; i < 20; ++i) {
+        add("https://p.example/" + std::to_string(i), 4 * kMegabyte);
+    }
+    std::size_t bytes = 0;
+    for (const auto& [name, file] : host().files.files) {
+        bytes += file.size();
+    }
+    EXPECT_LE(bytes, PersistentImageCache::kMaximumBytes);
+    EXPECT_GE(bytes, PersistentImageCache::kMaximumBytes / 2);
+    EXPECT_FALSE(host().files.files.contains(old));
+    EXPECT_FALSE(cache->load("https://p.example/0")) << "the oldest goes first";
+    EXPECT_TRUE(cache->load("https://p.example/19"));
+}
+
+TEST_F(ImageElementTest, KeepsMemoryWithinItsLimits) {
+    const auto load = [&](const std::string& location, const std::string& size) {
+        image->setLocation(location);
+        post(*image, "restartDownload");
+        host().downloads.complete(location, size);
+    };
+    load("https://p.example/1", "2000x2000");
+    load("https://p.example/2", "2000x2000");
+    EXPECT_TRUE(cache->find("https://p.example/1", 1.0)) << "wanted last now";
+    load("https://p.example/3", "2000x2000");
+    EXPECT_TRUE(cache->find("https://p.example/1", 1.0));
+    EXPECT_FALSE(cache->find("https://p.example/2", 1.0));
+    load("https://p.example/4", "4000x4000");
+    EXPECT_FALSE(cache->find("https://p.example/4", 1.0)) << "larger than all the room";
+    EXPECT_TRUE(cache->find("https://p.example/3", 1.0));
+    load("https://p.example/3", "damaged");
+    EXPECT_FALSE(cache->find("https://p.example/3", 1.0));
+}
+
+TEST_F(ImageElementTest, TakesACacheFromAForm) {
+    const auto object = xbr::query<xbr::IObject>(cache.get());
+    image->setCache({});
+    EXPECT_EQ(image->setProperty(xbr::toText("cache"), xbr::objectValue(object.get())), xbr::kOk);
+    fetch("8x6");
+    EXPECT_FALSE(storedFile().empty());
+    const auto other = xbr::query<xbr::IObject>(image.get());
+    EXPECT_EQ(image->setProperty(xbr::toText("cache"), xbr::objectValue(other.get())), xbr::kOk)
+        << "no cache";
+    post(*image, "restartDownload");
+    EXPECT_EQ(host().downloads.started.back().entityTag, "");
+    host().downloads.fail(kPicture);
+}
+
+} // namespace
+
+} // namespace brindlex
