@@ -79,7 +79,11 @@ private:
         if (reader.name() == u"Form") {
             return readForm(attributes.value(QStringLiteral("name")).toString().toStdString(), file);
         }
-        return reader.name() != u"Style" || readStyleSheet(file);
+        if (reader.name() == u"Image") {
+            return readImage(file);
+        }
+        return reader.name() != u"Style" ||
+               readStyleSheet(attributes.value(QStringLiteral("appearance")), file);
     }
 
     bool readForm(const std::string& name, const std::string& file) {
@@ -90,13 +94,30 @@ private:
         return m_skin->forms.emplace(name, std::move(*form)).second;
     }
 
-    bool readStyleSheet(const std::string& file) {
-        const auto sheet = read(file);
-        if (!sheet || !isUtf8(*sheet)) {
+    bool readImage(const std::string& file) {
+        auto image = read(file);
+        return image && isXmlDocument(*image, "svg") &&
+               m_skin->images.emplace(file, std::move(*image)).second;
+    }
+
+    bool readStyleSheet(QStringView appearance, const std::string& file) {
+        std::string* const sheet = styleSheetFor(appearance);
+        const auto read = this->read(file);
+        if (!sheet || !read || !isUtf8(*read)) {
             return false;
         }
-        m_skin->styleSheet += *sheet;
+        *sheet += *read;
         return true;
+    }
+
+    std::string* styleSheetFor(QStringView appearance) {
+        if (appearance.isEmpty()) {
+            return &m_skin->styleSheet;
+        }
+        if (appearance == u"light") {
+            return &m_skin->lightStyleSheet;
+        }
+        return appearance == u"dark" ? &m_skin->darkStyleSheet : nullptr;
     }
 
     std::optional<std::string> read(const std::string& file) const {
@@ -106,6 +127,16 @@ private:
     std::string m_folder;
     Skin* m_skin;
 };
+
+/// "brindlex" of "resource://brindlex/skin".
+std::string moduleOf(std::string_view folder) {
+    static constexpr std::string_view kResources = "resource://";
+    if (!folder.starts_with(kResources)) {
+        return {};
+    }
+    folder.remove_prefix(kResources.size());
+    return std::string(folder.substr(0, folder.find('/')));
+}
 
 } // namespace
 
@@ -122,6 +153,7 @@ SkinResult readSkin(std::string_view folder, Skin& skin) {
     if (!manifest || !SkinReader(folder, found).readManifest(*manifest)) {
         return SkinResult::kUnreadable;
     }
+    found.module = moduleOf(folder);
     skin = std::move(found);
     return SkinResult::kRead;
 }

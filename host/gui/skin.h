@@ -9,8 +9,14 @@ namespace xbr::host {
 
 /// What a skin's folder holds (docs/skin.md).
 struct Skin {
-    std::map<std::string, std::string, std::less<>> forms; ///< Designer descriptions by form name
-    std::string styleSheet;                                ///< UTF-8; empty when the skin has none
+    using Files = std::map<std::string, std::string, std::less<>>;
+
+    Files forms;                 ///< Designer descriptions by form name
+    Files images;                ///< SVG documents by their path in the skin
+    std::string styleSheet;      ///< UTF-8; empty when the skin has none
+    std::string lightStyleSheet; ///< follows the other on a light palette
+    std::string darkStyleSheet;  ///< follows the other on a dark palette
+    std::string module;          ///< whose resources the skin was read from; empty for other places
 };
 
 enum class SkinResult : std::uint8_t {

@@ -6,8 +6,10 @@
 namespace xbr::host {
 
 Result Theme::load(Text folder) noexcept {
-    switch (readSkin(view(folder), m_skin)) {
+    Skin skin;
+    switch (readSkin(view(folder), skin)) {
     case SkinResult::kRead:
+        m_skin = std::make_shared<const Skin>(std::move(skin));
         return kOk;
     case SkinResult::kMissing:
         return kFalse;
@@ -18,7 +20,7 @@ Result Theme::load(Text folder) noexcept {
 }
 
 bool Theme::hasForm(Text name) const noexcept {
-    return m_skin.forms.find(view(name)) != m_skin.forms.end();
+    return m_skin->forms.find(view(name)) != m_skin->forms.end();
 }
 
 Result Theme::createView(Text form, IController* controller, IView** out) noexcept {
@@ -26,11 +28,10 @@ Result Theme::createView(Text form, IController* controller, IView** out) noexce
     if (!controller) {
         return kInvalidArgument;
     }
-    const auto found = m_skin.forms.find(view(form));
-    if (found == m_skin.forms.end()) {
+    if (!hasForm(form)) {
         return kFalse;
     }
-    *out = make<FormView>(found->first, found->second, Ref<IController>::share(controller)).detach();
+    *out = make<FormView>(m_skin, toString(form), Ref<IController>::share(controller)).detach();
     return kOk;
 }
 

@@ -4,6 +4,8 @@
 #include "framework/support/object.h"
 #include "host/gui/skin.h"
 
+#include <memory>
+
 namespace xbr::host {
 
 /// The skin of a module.
@@ -13,11 +15,8 @@ public:
     bool hasForm(Text name) const noexcept override;
     Result createView(Text form, IController* controller, IView** out) noexcept override;
 
-    /// For the windows that show the views; empty when the skin has none.
-    const std::string& styleSheet() const { return m_skin.styleSheet; }
-
 private:
-    Skin m_skin;
+    std::shared_ptr<const Skin> m_skin = std::make_shared<Skin>(); ///< shared with the views
 };
 
 } // namespace xbr::host

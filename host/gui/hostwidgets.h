@@ -1,0 +1,43 @@
+#pragma once
+
+#include "framework/abi/view.h"
+
+#include <cstdint>
+#include <functional>
+
+class QPalette;
+class QWidget;
+
+/// What a front end with windows uses of this library. Needs a QApplication; main thread. Modules never use
+/// it.
+namespace xbr::host {
+
+/// Builds the widget that shows a view: the form of a skin, styled by the skin, in the user's language and
+/// bound to the view's controller.
+///
+/// The view must have been made by an ITheme of this library; null for any other, and when the form cannot be
+/// built (a debug warning says why). A skin is loaded once more with a theme of the front end's own: the one
+/// that a gadget's description names "brindlex" is at "resource://brindlex/skin".
+///
+/// The widget belongs to `parent`, or to the caller when that is null. It keeps the view, and with it the
+/// controller: delete it (not with deleteLater) before the module of the controller is unloaded. It may be
+/// deleted at any time but while Qt handles an event of one of its fields or lists; while a command of its
+/// buttons runs, it may. The controller's children, parameters and list models may go before it does.
+///
+/// The widget's `windowTitle` is the form's, its `minimumSizeHint` what the form needs in the user's language
+/// and font. Light or dark follows the palette that the widget inherits, at any time.
+[[gnu::visibility("default")]] QWidget* createViewWidget(IView& view, QWidget* parent);
+
+/// What brings a widget made by `createViewWidget` to the user's sight when its module asks for that (IShow):
+/// opening a dock, say. Without one its window is raised.
+[[gnu::visibility("default")]] void setShowAction(QWidget& viewWidget, std::function<void()> show);
+
+enum class Appearance : std::uint8_t { kLight, kDark };
+
+/// A palette for a whole program, which skins go well with.
+[[gnu::visibility("default")]] QPalette hostPalette(Appearance appearance);
+
+/// Light when text is darker than what it stands on.
+[[gnu::visibility("default")]] Appearance appearanceOf(const QPalette& palette);
+
+} // namespace xbr::host
