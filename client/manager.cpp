@@ -104,6 +104,14 @@ void Manager::runConnectDialog() {
     m_client->getAuthorizationCode();
     dialog->runModal(view.get(), kDialogStyle);
     m_dialog = previous;
+    if (!isSignInPending()) {
+        closeDialog(); // one that was open before asks for the same sign-in
+    }
+}
+
+bool Manager::isSignInPending() const {
+    return m_client->state() == ClientState::kAwaitingCode ||
+           m_client->state() == ClientState::kRequestingToken;
 }
 
 void Manager::closeDialog() {

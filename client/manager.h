@@ -43,6 +43,7 @@ protected:
 private:
     void loadConfiguration();
     void runConnectDialog();
+    bool isSignInPending() const;
     void closeDialog();
     void clientNotified(const xbr::IMessage& message);
     void onAuthorizationCompleted();

@@ -62,16 +62,6 @@ TEST_F(ManagerTest, NoDialogMeansNoAuthorization) {
     EXPECT_EQ(manager->client().state(), ClientState::kIdle);
 }
 
-TEST_F(ManagerTest, MayGoAwayWhileTheDialogRuns) {
-    host().objects.onModalRun = [&] {
-        manager.reset();
-        host().signals.pump();
-    };
-    perform("connect");
-    EXPECT_EQ(Manager::current(), nullptr);
-    EXPECT_EQ(host().signals.remaining(), 0U);
-}
-
 TEST_F(ManagerTest, LoadsTheConfigurationOncePerClient) {
     host().objects.configurationResult = xbr::kFalse;
     perform("connect");

@@ -94,7 +94,7 @@ class PublishTest(unittest.TestCase):
         faults = [
             ({"status": 500}, 1, "failed"),
             ({"status": 422, "body": missing}, 7, "missing"),
-            ({"status": 401, "early": True}, 1, "failed"),
+            ({"status": 401, "early": True}, 10, "the sign-in has expired"),
             ({"reset_after": 1000}, 1, "failed"),
             ({"truncate": True}, 1, "failed"),
             ({"redirect": "http://127.0.0.1:9/"}, 1, "failed"),
@@ -121,11 +121,31 @@ class PublishTest(unittest.TestCase):
         data = song.read_bytes()
         end = data.index(b"data") + 8 + int.from_bytes(data[data.index(b"data") + 4:][:4], "little")
         song.write_bytes(data[:4] + (end - 8).to_bytes(4, "little") + data[8:end])  # without its tags
-        for songs in ([song], [*self.songs, song]):
-            result = self.publish(*songs)
-            self.assertEqual(result.returncode, 7, result.stderr_text)
-            self.assertIn("genre", result.stderr_text.lower())
-        self.assertEqual(self.stage.releases(), [], "nothing goes out with another song's genre")
+        result = self.publish(song)
+        self.assertEqual(result.returncode, 7, result.stderr_text)
+        self.assertIn("'untagged.wav': missing album title, album artist, genre", result.stderr_text)
+        self.assertEqual(self.stage.releases(), [])
+        result = self.publish(*self.songs, song, "--title", "New", "--artist", "Ann")
+        self.assertEqual(result.returncode, 1, result.stderr_text)
+        self.assertIn("'New': missing genre", result.stderr_text)
+        self.assertEqual(len(self.stage.releases()), 3, "nothing goes out with another song's genre")
+        result = self.publish(self.songs[0], song, "--genre", "world", "--title", "New", "--artist", "Ann")
+        self.assertEqual(result.returncode, 0, result.stderr_text)
+        documents = [document for document, _ in self.stage.releases()]
+        self.assertEqual([(each["title"], each["primary_genre"]) for each in documents[-2:]],
+                         [("Café del Último", "World"), ("New", "World")])
+
+    def test_expired_sign_in_is_told_and_renewed(self):
+        account = {"path": "/api/frontstage/account", "status": 401, "body": ""}
+        self.stage.control("POST", "fault", account)
+        result = self.publish(self.songs[0])
+        self.assertEqual(result.returncode, 10, result.stderr_text)
+        self.assertIn("the sign-in has expired", result.stderr_text)
+        self.assertEqual(self.stage.log(INGESTION), [], "nothing is sent in vain")
+        self.stage.control("POST", "fault", account)
+        result = self.stage.run("sign-in")
+        self.assertEqual(result.returncode, 0, result.stderr_text)
+        self.assertEqual(len(self.stage.log("/oauth/token")), 3, "the browser was asked again")
 
     def test_interrupted_while_waiting_for_the_browser(self):
         process = self.stage.start("publish", self.songs[0], BROWSER="/bin/true")

@@ -90,7 +90,7 @@ class SecretsTest(unittest.TestCase):
         self.serve("/api/frontstage/release_ingestion", status=401, delay_ms=300, times=len(songs),
                    body={"errors": f"the token {TOKENS['access_token']} is not known"})
         code, told = self.publish(*songs)
-        self.assertEqual(code, 1, told)
+        self.assertEqual(code, 10, told)
         self.assert_kept_secret(told)
 
 

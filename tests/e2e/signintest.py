@@ -53,13 +53,13 @@ class Browser:
 
 
 def desktop_environment(stage):
-    """A desktop where links of the service are the host's, as packaging/xbrhost.desktop says."""
+    """A desktop where links of the service are the host's, as packaging/xbrhost-open-url.desktop says."""
     data = pathlib.Path(stage.environment["XDG_DATA_HOME"]) / "applications"
     data.mkdir(parents=True)
     shutil.copy(DESKTOP_FILE, data)
     config = pathlib.Path(stage.environment["XDG_CONFIG_HOME"])
     config.mkdir(parents=True)
-    (config / "mimeapps.list").write_text("[Default Applications]\nx-scheme-handler/brindlex=xbrhost.desktop\n")
+    (config / "mimeapps.list").write_text("[Default Applications]\nx-scheme-handler/brindlex=xbrhost-open-url.desktop\n")
     # xdg-open asks for the handler only where it believes in a display; nothing is drawn there.
     return {**stage.environment, "DISPLAY": ":no-screen", "PATH": f"{BIN}:{stage.environment['PATH']}"}
 
@@ -127,6 +127,20 @@ class SignInTest(unittest.TestCase):
             self.assertEqual(result.returncode, 0, result.stderr_text)
             self.assertNotIn("remembered", result.stdout_text + result.stderr_text)
         self.assertEqual(len(self.stage.log("/oauth/token")), 1)
+
+    def test_expired_sign_in_is_told_and_renewed(self):
+        self.assertEqual(self.stage.run("sign-in").returncode, 0)
+        expired = {"path": "/api/frontstage/account", "status": 401, "body": ""}
+        for command in (["status"], ["publish", self.stage.make_songs()[0]]):
+            self.stage.control("POST", "fault", expired)
+            result = self.stage.run(*command)
+            self.assertEqual(result.returncode, 10, result.stderr_text)
+            self.assertIn("the sign-in has expired", result.stderr_text)
+        self.stage.control("POST", "fault", expired)
+        renewed = self.stage.run("sign-in")
+        self.assertEqual(renewed.returncode, 0, renewed.stderr_text)
+        self.assertEqual(len(self.stage.log("/oauth/token")), 2, "the browser was asked again")
+        self.assertEqual(self.stage.run("status").returncode, 0)
 
 
 if __name__ == "__main__":

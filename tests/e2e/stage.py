@@ -73,6 +73,12 @@ class Stage:
         subprocess.run([BIN / "brindlex-songs", songs, "1"], check=True)
         return sorted(songs.iterdir())
 
+    def make_foreign_songs(self):
+        """Two tagged songs that have to be rendered: AIFF and OGG."""
+        songs = self.folder / "foreign"
+        subprocess.run([BIN / "brindlex-songs", songs, "1", "foreign"], check=True)
+        return sorted(songs.iterdir())
+
     def start(self, *arguments, **environment):
         return subprocess.Popen([BIN / "xbrhost", *arguments], env={**self.environment, **environment},
                                 stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
@@ -86,6 +92,10 @@ class Stage:
             process.kill()
             raise AssertionError(f"xbrhost {arguments} hangs: {process.communicate()}") from None
         return process
+
+    def visit(self, page):
+        """Signs in on a page, as a person with a browser."""
+        subprocess.run([BIN / "brindlex-browser", page], env=self.environment, timeout=20, check=True)
 
     def releases(self):
         """What was accepted: folder, document and audio of each release, in order."""

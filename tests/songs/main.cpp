@@ -11,7 +11,9 @@
 #include <iostream>
 #include <numbers>
 #include <random>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -29,12 +31,19 @@ struct Song {
     double root; ///< Hz
 };
 
+/// What the service takes as it is.
 constexpr Song kSongs[] = {
     {"Opening.wav", SF_FORMAT_WAV | SF_FORMAT_PCM_24, "Opening", "The Lamps", "Electronica", "1", 110.0},
     {"Night Drive.flac", SF_FORMAT_FLAC | SF_FORMAT_PCM_24, "Night Drive", "The Lamps", "Electronica", "2",
      146.83},
     {"Café del Último.mp3", SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III, "Café del Último",
      "The Lamps feat. Axé", "Ambient", "3", 164.81},
+};
+
+/// What a host has to render first.
+constexpr Song kForeignSongs[] = {
+    {"Harbour.aiff", SF_FORMAT_AIFF | SF_FORMAT_PCM_24, "Harbour", "The Lamps", "Electronica", "4", 130.81},
+    {"Tide.ogg", SF_FORMAT_OGG | SF_FORMAT_VORBIS, "Tide", "The Lamps", "Ambient", "5", 98.0},
 };
 
 /// Plucked chords with a little room noise: neither silence nor noise, so that it compresses as music does.
@@ -94,8 +103,9 @@ bool tag(const std::filesystem::path& path, const Song& song) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 2 || argc > 3) {
-        std::cerr << "usage: brindlex-songs FOLDER [SECONDS]\n";
+    const bool isForeign = argc == 4 && std::string_view(argv[3]) == "foreign";
+    if (argc < 2 || argc > 4 || (argc == 4 && !isForeign)) {
+        std::cerr << "usage: brindlex-songs FOLDER [SECONDS [foreign]]\n";
         return 2;
     }
     const std::filesystem::path folder = argv[1];
@@ -105,7 +115,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     std::filesystem::create_directories(folder);
-    for (const Song& song : kSongs) {
+    for (const Song& song :
+         isForeign ? std::span<const Song>(kForeignSongs) : std::span<const Song>(kSongs)) {
         const auto path = folder / song.fileName;
         if (!write(path, song, seconds) || !tag(path, song)) {
             std::cerr << "brindlex-songs: cannot write " << path << '\n';

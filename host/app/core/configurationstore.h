@@ -20,9 +20,15 @@ struct ConfigurationReport {
     std::string title; ///< for people
     std::string serverUrl;
     std::vector<std::string> missingKeys; ///< keys that a sign-in needs
+    std::vector<std::string> wrongKeys;   ///< keys whose value is no address of the kind that is needed
 
-    bool isComplete() const { return result == ConfigurationResult::kRead && missingKeys.empty(); }
+    bool isComplete() const {
+        return result == ConfigurationResult::kRead && missingKeys.empty() && wrongKeys.empty();
+    }
 };
+
+/// What to tell the user about settings that are missing, wrong or cannot be read, in one line.
+std::string describeProblem(const ConfigurationReport& report);
 
 /// Reads the settings of a module from the user's configuration file.
 class ConfigurationStore final : public Object<IConfigurationStore> {

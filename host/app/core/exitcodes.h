@@ -16,6 +16,7 @@ enum class ExitCode : std::uint8_t {
     kInformationMissing = 7, ///< nothing was sent: no track has all the information that a release needs
     kNoHost = 8,             ///< no running host takes the URL
     kNotConfigured = 9,      ///< the settings of the service are missing or incomplete
+    kSignInExpired = 10,     ///< the service does not accept the stored sign-in any more
     kInterrupted = 130,      ///< ended by the user (Ctrl-C) or by a signal
 };
 

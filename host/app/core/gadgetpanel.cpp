@@ -17,18 +17,6 @@ Ref<Interface> create(const Uid& classUid) {
     return Ref<Interface>::adopt(static_cast<Interface*>(created));
 }
 
-/// The form of a gadget, from the description that its class points to; empty when it has none.
-std::string formOf(const IAttributes* attributes) {
-    Value metaClass{};
-    Uid uid{};
-    if (!attributes || attributes->get(toText(kMetaClassAttribute), &metaClass) != kOk ||
-        !parseUid(textOf(metaClass), uid)) {
-        return {};
-    }
-    const auto description = create<IGadgetDescription>(uid);
-    return description ? toString(description->attribute(toText("formName"))) : std::string();
-}
-
 } // namespace
 
 /// What the module sees of the panel. Does not keep the controller: the panel does.
@@ -61,18 +49,22 @@ private:
 };
 
 std::unique_ptr<GadgetPanel> GadgetPanel::open(std::function<void()> show, std::string& error) {
-    const IAttributes* attributes = nullptr;
-    const ClassDescription* description = XBRGetPlugInManager()->classAt(toText("Gadget"), 0, &attributes);
-    if (!description) {
+    const auto gadgets = findGadgets();
+    if (gadgets.empty()) {
         error = "the module has no panel";
         return nullptr;
     }
-    auto controller = create<IController>(description->uid);
+    return open(gadgets.front(), std::move(show), error);
+}
+
+std::unique_ptr<GadgetPanel> GadgetPanel::open(const GadgetClass& gadget, std::function<void()> show,
+                                               std::string& error) {
+    auto controller = create<IController>(gadget.uid);
     if (!controller) {
-        error = "the panel '" + toString(description->name) + "' cannot be made";
+        error = "the panel '" + gadget.name + "' cannot be made";
         return nullptr;
     }
-    auto panelView = make<View>(formOf(attributes), *controller, std::move(show));
+    auto panelView = make<View>(gadget.formName, *controller, std::move(show));
     return std::unique_ptr<GadgetPanel>(new GadgetPanel(std::move(controller), std::move(panelView)));
 }
 

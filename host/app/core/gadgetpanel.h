@@ -4,6 +4,7 @@
 #include "framework/abi/listmodel.h"
 #include "framework/abi/publisher.h"
 #include "framework/support/object.h"
+#include "host/app/core/gadgetclass.h"
 
 #include <functional>
 #include <memory>
@@ -20,6 +21,10 @@ public:
     /// Makes the panel of the first gadget that the plug-in manager knows. `show` is called when a module
     /// wants the panel to be seen. Null, with the reason in `error`, when there is none.
     static std::unique_ptr<GadgetPanel> open(std::function<void()> show, std::string& error);
+
+    /// Makes the panel of one gadget, in the same way.
+    static std::unique_ptr<GadgetPanel> open(const GadgetClass& gadget, std::function<void()> show,
+                                             std::string& error);
 
     GadgetPanel(const GadgetPanel&) = delete;
     GadgetPanel& operator=(const GadgetPanel&) = delete;

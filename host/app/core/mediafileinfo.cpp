@@ -17,13 +17,7 @@ Result MediaFileInfo::open(Text url) noexcept {
     if (!tags) {
         return kUnexpected;
     }
-    m_attributes = make<Attributes>();
-    for (const auto& [name, text] : tags->texts) {
-        m_attributes->set(name, text);
-    }
-    if (tags->trackIndex > 0) {
-        m_attributes->set("Media:TrackIndex", integerValue(tags->trackIndex));
-    }
+    m_attributes = attributesOf(*tags);
     return kOk;
 }
 

@@ -1,6 +1,9 @@
 #include "host/app/core/mediasignature.h"
 
-#include <array>
+#include "host/app/core/id3bounds.h"
+#include "host/app/core/riffchunks.h"
+
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
@@ -9,57 +12,18 @@ namespace xbr::host {
 
 namespace {
 
-/// More chunks than this before the audio are no recording, but an attempt to keep us busy.
-constexpr int kMaximumChunks = 1000;
-
 /// Some programs leave a gap before the first MPEG frame.
 constexpr std::size_t kMp3Search = std::size_t{64} << 10U;
 
-std::uint32_t littleEndian(const char* bytes) {
-    std::uint32_t value = 0;
-    for (int i = 3; i >= 0; --i) {
-        value = value << 8U | static_cast<unsigned char>(bytes[i]);
-    }
-    return value;
-}
-
 /// A format and a data chunk, in this order. The length of the data chunk does not matter: it is 0 or the
-/// largest number where a recording was never finished properly, or is longer than 4 GiB.
-bool hasWavChunks(std::ifstream& file) {
-    bool hasFormat = false;
-    std::array<char, 8> header{};
-    file.seekg(12);
-    for (int i = 0; i < kMaximumChunks && file.read(header.data(), header.size()); ++i) {
-        const std::string_view id(header.data(), 4);
-        if (id == "data") {
-            return hasFormat;
-        }
-        hasFormat = hasFormat || id == "fmt ";
-        const std::uint64_t size = littleEndian(header.data() + 4);
-        file.seekg(static_cast<std::streamoff>(size + size % 2), std::ios::cur);
-    }
-    return false;
-}
-
-bool isWav(std::ifstream& file, std::string_view start) {
-    if (start.size() < 12) {
-        return false;
-    }
-    const auto form = start.substr(0, 4);
-    return (form == "RIFF" || form == "RF64" || form == "BW64") && start.substr(8, 4) == "WAVE" &&
-           hasWavChunks(file);
-}
-
-/// Length of an ID3v2 tag at the start of a file, from its header (ID3v2.4.0, 3.1); 0 when there is none.
-std::size_t id3Length(std::string_view start) {
-    if (start.size() < 10 || start.substr(0, 3) != "ID3") {
-        return 0;
-    }
-    std::size_t length = 0;
-    for (std::size_t i = 6; i < 10; ++i) {
-        length = length << 7U | (static_cast<unsigned char>(start[i]) & 0x7FU);
-    }
-    return length + 10;
+/// largest number where a recording was never finished properly.
+bool isWav(std::ifstream& file) {
+    const auto chunks = readWaveChunks(file);
+    const auto named = [](std::string_view id) {
+        return [id](const RiffChunk& chunk) { return chunk.id == id; };
+    };
+    const auto data = std::find_if(chunks.begin(), chunks.end(), named("data"));
+    return data != chunks.end() && std::any_of(chunks.begin(), data, named("fmt "));
 }
 
 /// A frame header with neither a reserved version or layer nor a forbidden rate (ISO/IEC 11172-3, 2.4.1.3).
@@ -71,7 +35,7 @@ bool isMpegFrame(std::string_view bytes) {
            (at(1) & 0x06U) != 0 && (at(2) & 0xF0U) != 0xF0 && (at(2) & 0x0CU) != 0x0C;
 }
 
-std::string readAt(std::ifstream& file, std::size_t position, std::size_t size) {
+std::string readAt(std::ifstream& file, std::uint64_t position, std::size_t size) {
     std::string bytes(size, '\0');
     file.clear();
     file.seekg(static_cast<std::streamoff>(position));
@@ -106,10 +70,10 @@ MediaKind recognise(const std::string& path) {
         return MediaKind::kUnreadable;
     }
     const std::string start = readAt(file, 0, 12);
-    if (isWav(file, start)) {
+    if (isWav(file)) {
         return MediaKind::kWav;
     }
-    const std::size_t tagLength = id3Length(start);
+    const auto tagLength = id3Length(start);
     const std::string audio = readAt(file, tagLength, kMp3Search);
     if (audio.starts_with("fLaC")) {
         return MediaKind::kFlac;

@@ -2,7 +2,10 @@
 
 #include "framework/support/text.h"
 #include "host/app/core/mediasignature.h"
+#include "host/app/core/tagbounds.h"
 
+#include <sndfile.h>
+#include <taglib/fileref.h>
 #include <taglib/flacfile.h>
 #include <taglib/id3v2tag.h>
 #include <taglib/infotag.h>
@@ -92,7 +95,66 @@ std::int64_t trackNumber(const std::string& text) {
     return number;
 }
 
+MediaTags tagsOf(const TagLib::PropertyMap& properties) {
+    MediaTags tags;
+    for (const Field& field : kTexts) {
+        std::string text = textOf(properties, field.property);
+        if (!text.empty()) {
+            tags.texts.emplace_back(field.attribute, std::move(text));
+        }
+    }
+    tags.trackIndex = trackNumber(textOf(properties, "TRACKNUMBER"));
+    return tags;
+}
+
+/// What a file says in the way of its format, for example in the name chunk of an AIFF file.
+TagLib::PropertyMap formatProperties(const std::string& path) {
+    static constexpr std::pair<int, const char*> kStrings[] = {{SF_STR_TITLE, "TITLE"},
+                                                               {SF_STR_ARTIST, "ARTIST"},
+                                                               {SF_STR_ALBUM, "ALBUM"},
+                                                               {SF_STR_GENRE, "GENRE"},
+                                                               {SF_STR_TRACKNUMBER, "TRACKNUMBER"}};
+    TagLib::PropertyMap properties;
+    SF_INFO info{};
+    SNDFILE* file = sf_open(path.c_str(), SFM_READ, &info);
+    for (const auto& [kind, name] : kStrings) {
+        const char* text = file ? sf_get_string(file, kind) : nullptr;
+        if (text && *text) {
+            properties.insert(name, TagLib::StringList(TagLib::String(text, TagLib::String::UTF8)));
+        }
+    }
+    if (file) {
+        sf_close(file);
+    }
+    return properties;
+}
+
 } // namespace
+
+MediaTags readForeignTags(const std::string& path) {
+    const TagLib::FileRef file(path.c_str(), false);
+    TagLib::PropertyMap properties;
+    if (!file.isNull()) {
+        properties = file.file()->properties();
+    }
+    for (const auto& [name, values] : formatProperties(path)) {
+        if (!properties.contains(name)) {
+            properties.insert(name, values);
+        }
+    }
+    return tagsOf(properties);
+}
+
+Ref<Attributes> attributesOf(const MediaTags& tags) {
+    auto attributes = make<Attributes>();
+    for (const auto& [name, text] : tags.texts) {
+        attributes->set(name, text);
+    }
+    if (tags.trackIndex > 0) {
+        attributes->set("Media:TrackIndex", integerValue(tags.trackIndex));
+    }
+    return attributes;
+}
 
 std::optional<MediaTags> readTags(const std::string& path) {
     [[maybe_unused]] static const bool isHandlerSet = [] {
@@ -103,16 +165,7 @@ std::optional<MediaTags> readTags(const std::string& path) {
     if (kind == MediaKind::kUnreadable || kind == MediaKind::kUnknown) {
         return std::nullopt;
     }
-    const TagLib::PropertyMap properties = propertiesOf(path, kind);
-    MediaTags tags;
-    for (const Field& field : kTexts) {
-        std::string text = textOf(properties, field.property);
-        if (!text.empty()) {
-            tags.texts.emplace_back(field.attribute, std::move(text));
-        }
-    }
-    tags.trackIndex = trackNumber(textOf(properties, "TRACKNUMBER"));
-    return tags;
+    return areTagsBounded(path, kind) ? tagsOf(propertiesOf(path, kind)) : MediaTags{};
 }
 
 } // namespace xbr::host

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/support/attributes.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -14,7 +16,14 @@ struct MediaTags {
     std::int64_t trackIndex = 0;                            ///< from 1; 0 when unknown
 };
 
-/// Reads the tags of a file; nothing when it cannot be read or is no audio.
+/// Reads the tags of a file that modules take as it is (WAV, FLAC, MP3); nothing when it cannot be read or is
+/// none.
 std::optional<MediaTags> readTags(const std::string& path);
+
+/// Reads the tags of any other audio: what TagLib and libsndfile find in it.
+MediaTags readForeignTags(const std::string& path);
+
+/// The tags as modules are given them.
+Ref<Attributes> attributesOf(const MediaTags& tags);
 
 } // namespace xbr::host

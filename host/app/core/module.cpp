@@ -89,6 +89,7 @@ std::string Module::startServices(IHostContext& context) {
 
 std::string Module::startService(const ClassDescription& description, IHostContext& context) {
     const std::string name = "'" + toString(description.name) + "'";
+    m_name = m_name.empty() ? toString(description.name) : m_name;
     void* created = nullptr;
     if (m_factory->createInstance(description.uid, IProgramService::kUid, &created) != kOk) {
         return "cannot make its service " + name;

@@ -23,6 +23,12 @@ public:
 
     const std::string& path() const { return m_path; }
 
+    /// What the module calls itself: the name of its first service.
+    const std::string& name() const { return m_name; }
+
+    /// The version of the border that it was built with.
+    std::uint32_t borderVersion() const { return m_factory->borderVersion(); }
+
 private:
     struct Service {
         Ref<IProgramService> service;
@@ -37,6 +43,7 @@ private:
     void stopServices() noexcept;
 
     std::string m_path;
+    std::string m_name;
     void* m_library = nullptr;
     decltype(&XBRModuleMain) m_main = nullptr;
     decltype(&XBRGetClassFactory) m_getFactory = nullptr;

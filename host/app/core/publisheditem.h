@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/abi/filetype.h"
-#include "framework/abi/hostclasses.h"
 #include "framework/abi/publisher.h"
+#include "framework/support/attributes.h"
 #include "framework/support/object.h"
 
 #include <string>
@@ -10,32 +10,25 @@
 
 namespace xbr::host {
 
-/// A song that the user chose to publish: where it is and what its tags say.
+/// A song that is handed to a publish entry: where it is and what is known about it.
 class PublishedItem final : public Object<IUrlSource, IMediaAttributes> {
 public:
-    PublishedItem(std::string url, Ref<IMediaFileInfo> info)
+    PublishedItem(std::string url, Ref<Attributes> media)
         : m_url(std::move(url)),
-          m_info(std::move(info)) {}
+          m_media(std::move(media)) {}
 
     Result getUrl(IString** out) noexcept override;
     Result getMediaAttributes(IAttributes* out) noexcept override;
 
 private:
     std::string m_url;
-    Ref<IMediaFileInfo> m_info;
+    Ref<Attributes> m_media;
 };
 
 /// Gives published items one after the other.
 class PublishedItems final : public Object<IObjectIterator> {
 public:
-    /// Checks a file and appends it. False, with the reason in `error`, when it is no regular file, cannot be
-    /// read or is no audio. `path` is relative to the working folder, as bytes.
-    bool add(const std::string& path, std::string& error);
-
-    bool isEmpty() const { return m_items.empty(); }
-
-    /// True when the tags of the item added last tell its genre.
-    bool hasLastGenre() const;
+    void add(std::string url, Ref<Attributes> media);
 
     Result next(IObject** out) noexcept override;
 
@@ -44,7 +37,12 @@ private:
     std::size_t m_next = 0;
 };
 
-/// The type of a file by its extension, known to the registry or not; empty for a name without extension.
+/// Why a file cannot be published, in words that follow its name; empty when it is a regular file that can be
+/// read.
+std::string problemOfFile(const std::string& path);
+
+/// The type of a file by its extension, known to the registry or not; of a name without one, that of some
+/// audio.
 Ref<IFileType> fileTypeOf(const std::string& path);
 
 } // namespace xbr::host

@@ -1,22 +1,14 @@
 #include "host/app/core/publishsession.h"
 
-#include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "host/app/core/preparationproblem.h"
+#include "host/net/hostnet.h"
+#include "host/system/hostsystem.h"
 
 #include <algorithm>
 
 namespace xbr::host {
 
 namespace {
-
-Ref<IPublisher> createPublisher() {
-    const ClassDescription* description = XBRGetPlugInManager()->classAt(toText("Publisher"), 0, nullptr);
-    void* created = nullptr;
-    if (description) {
-        XBRGetPlugInManager()->createInstance(description->uid, IPublisher::kUid, &created);
-    }
-    return Ref<IPublisher>::adopt(static_cast<IPublisher*>(created));
-}
 
 bool hasState(const std::vector<TrackReport>& tracks, TrackState state) {
     return std::any_of(tracks.begin(), tracks.end(),
@@ -43,15 +35,15 @@ PublishSession::PublishSession(GadgetPanel& panel, const ConfigurationReport& re
       m_report(&report),
       m_activity(&activity),
       m_listener(&listener),
+      m_intake(panel),
       m_signIn(panel, report),
       m_settling([this] { return isIdle(); }, [this] { rested(); }) {
     m_start.setSingleShot(true);
     QObject::connect(&m_start, &QTimer::timeout, &m_start, [this] { publish(); });
 }
 
-void PublishSession::start(std::vector<std::string> files, ReleaseMode mode) {
-    m_files = std::move(files);
-    m_mode = mode;
+void PublishSession::start(ReleasePlan plan) {
+    m_plan = std::move(plan);
     m_start.start(0);
 }
 
@@ -62,64 +54,41 @@ void PublishSession::cancel() {
     }
 }
 
-bool PublishSession::isAccepted(IPublisher& publisher, const std::string& file) {
-    const auto offered = fileTypeOf(file);
-    if (!offered) {
-        return false;
+bool PublishSession::takeSongs() {
+    ++m_calls;
+    const ReleaseIntake::Outcome outcome = m_intake.take(m_plan);
+    --m_calls;
+    if (m_isCancelled) {
+        finish(PublishResult::kCancelled);
+    } else if (outcome.result != PublishResult::kDone) {
+        finish(outcome.result, outcome.detail);
     }
-    IFileType* type = Ref<IFileType>(offered).detach();
-    const Result result = publisher.acceptFileType(&type);
-    const auto answered = Ref<IFileType>::adopt(type);
-    return result == kOk;
-}
-
-bool PublishSession::collect(PublishedItems& items) {
-    const auto publisher = createPublisher();
-    if (!publisher || !m_panel->tracks()) {
-        finish(PublishResult::kNoPublisher, "the module has no publish entry, or no list of tracks");
-        return false;
-    }
-    for (const std::string& file : m_files) {
-        std::string error;
-        if (!items.add(file, error)) {
-            finish(PublishResult::kFileProblem, error);
-            return false;
-        }
-        if (!isAccepted(*publisher, file)) {
-            finish(PublishResult::kFileProblem,
-                   "'" + file + "' is of a kind that cannot be published (wav, flac or mp3 can)");
-            return false;
-        }
-        // Several files make the module think of an album first, where all take the first one's genre; what
-        // has none of its own would keep that one as a single.
-        if (m_mode == ReleaseMode::kSingles && m_files.size() > 1 && !items.hasLastGenre()) {
-            finish(PublishResult::kInformationMissing, "'" + file + "' has no genre in its tags");
-            return false;
-        }
-    }
-    const bool isTaken = publisher->publish(&items) == kOk &&
-                         m_panel->tracks()->countRows() == static_cast<std::int32_t>(m_files.size());
-    if (!isTaken) {
-        finish(PublishResult::kNoPublisher, "the module does not take the files");
-    }
-    return isTaken;
+    return !m_isFinished;
 }
 
 void PublishSession::publish() {
-    if (m_isFinished) {
+    if (m_isFinished || !takeSongs()) {
         return;
     }
-    const auto items = make<PublishedItems>();
-    if (!collect(*items)) {
-        return;
-    }
-    // Several files make the module think of an album.
-    m_panel->set("TrackList/albumUpload", m_mode == ReleaseMode::kAlbum ? 1 : 0);
+    follow();
+    signIn();
+}
+
+void PublishSession::follow() {
     m_follower = std::make_unique<TrackFollower>(
         m_panel->tracks(), [this] { m_settling.touch(); },
-        [this](const TrackReport& track) { m_listener->trackChanged(track); });
-    m_listener->tracksKnown(m_follower->reports());
-    signIn();
+        [this](const TrackReport& track) { m_listener->trackChanged(named(track)); });
+    std::vector<TrackReport> known;
+    for (const TrackReport& report : m_follower->reports()) {
+        known.push_back(named(report));
+    }
+    m_listener->tracksKnown(known);
+}
+
+/// The user knows a song by the file that it came from, not by what was rendered from it.
+TrackReport PublishSession::named(TrackReport report) const {
+    report.file = m_intake.sourceOf(report.file);
+    return report;
 }
 
 void PublishSession::signIn() {
@@ -139,6 +108,9 @@ void PublishSession::signedIn(SignInResult result, const std::string& detail) {
     case SignInResult::kSignedIn:
         upload();
         break;
+    case SignInResult::kExpired:
+        finish(PublishResult::kSignInExpired, detail);
+        break;
     case SignInResult::kNotConfigured:
         finish(PublishResult::kNotConfigured);
         break;
@@ -156,6 +128,8 @@ void PublishSession::upload() {
         finish(PublishResult::kInformationMissing);
         return;
     }
+    m_refusals = countRefusedCredentials();
+    takeFileProblem(); // of earlier work
     m_settling.start();
     ++m_calls;
     m_panel->set("upload", 1);
@@ -175,12 +149,25 @@ void PublishSession::rested() {
         return;
     }
     const PublishResult result = resultOf(m_follower->reports());
-    if (!hasState(m_follower->reports(), TrackState::kFailed)) {
+    if (result == PublishResult::kDone || result == PublishResult::kInformationMissing) {
         finish(result);
+    } else if (countRefusedCredentials() != m_refusals) {
+        finish(PublishResult::kSignInExpired, kExpiredAdvice);
+    } else {
+        tellFailure(result);
+    }
+}
+
+void PublishSession::tellFailure(PublishResult result) {
+    const bool isPrepared = !hasState(m_follower->reports(), TrackState::kNone);
+    const std::string problem =
+        isPrepared ? takeFileProblem() : findPreparationProblem(m_follower->reports());
+    if (!problem.empty() || !hasState(m_follower->reports(), TrackState::kFailed)) {
+        finish(result, problem);
         return;
     }
-    m_reachability.check(m_report->serverUrl, [this, result](const std::string& problem) {
-        finish(problem.empty() ? result : PublishResult::kUnreachable, problem);
+    m_reachability.check(m_report->serverUrl, [this, result](const std::string& unreachable) {
+        finish(unreachable.empty() ? result : PublishResult::kUnreachable, unreachable);
     });
 }
 
@@ -191,7 +178,9 @@ void PublishSession::finish(PublishResult result, const std::string& detail) {
     m_isFinished = true;
     PublishOutcome outcome{result, detail, {}, {}};
     if (m_follower) {
-        outcome.tracks = m_follower->reports();
+        for (const TrackReport& report : m_follower->reports()) {
+            outcome.tracks.push_back(named(report));
+        }
     }
     if (result == PublishResult::kInformationMissing || result == PublishResult::kNotAllDone) {
         outcome.incomplete = findIncompleteTracks(*m_panel);

@@ -15,16 +15,17 @@ struct SignInOutcome {
 };
 
 /// Runs "connect" of the panel until it is over, or the user ends it.
-SignInOutcome connect(HeadlessHost& host) {
+SignInOutcome connect(HeadlessHost& host, Expired expired) {
     ConsoleContext& context = host.context();
     SignInOutcome outcome;
     QEventLoop loop;
     SignIn signIn(host.panel(), *context.configuration);
     const auto interrupted = context.interruption.subscribe([&loop] { loop.quit(); });
-    signIn.start([&](SignInResult result, const std::string& detail) {
+    const auto done = [&](SignInResult result, const std::string& detail) {
         outcome = {result, detail};
         loop.quit();
-    });
+    };
+    signIn.start(done, expired);
     if (!context.interruption.isInterrupted()) {
         loop.exec();
     }
@@ -35,6 +36,8 @@ ExitCode exitCodeOf(SignInResult result) {
     switch (result) {
     case SignInResult::kSignedIn:
         return ExitCode::kDone;
+    case SignInResult::kExpired:
+        return ExitCode::kSignInExpired;
     case SignInResult::kNotConfigured:
         return ExitCode::kNotConfigured;
     case SignInResult::kUnreachable:
@@ -48,6 +51,8 @@ ExitCode exitCodeOf(SignInResult result) {
 void tellProblem(ExitCode code, const std::string& detail, const ConfigurationReport& report) {
     if (code == ExitCode::kNotConfigured) {
         printError(describeProblem(report));
+    } else if (code == ExitCode::kSignInExpired) {
+        printError(detail + kRenewHint);
     } else if (code == ExitCode::kInterrupted) {
         printError("interrupted");
     } else if (!detail.empty()) {
@@ -56,12 +61,12 @@ void tellProblem(ExitCode code, const std::string& detail, const ConfigurationRe
 }
 
 /// Connects and tells who is signed in afterwards.
-ExitCode connectAndTell(HeadlessHost& host) {
-    const SignInOutcome outcome = connect(host);
+ExitCode connectAndTell(HeadlessHost& host, Expired expired) {
+    const SignInOutcome outcome = connect(host, expired);
     ConsoleContext& context = host.context();
     const ExitCode code =
         context.interruption.isInterrupted() ? ExitCode::kInterrupted : exitCodeOf(outcome.result);
-    if (code == ExitCode::kDone || code == ExitCode::kNotSignedIn) {
+    if (code == ExitCode::kDone || code == ExitCode::kNotSignedIn || code == ExitCode::kSignInExpired) {
         context.output->account(code == ExitCode::kDone, host.panel().text("userName"));
     }
     context.output->finished(code);
@@ -88,7 +93,7 @@ ExitCode runSignIn(const CommandLine& commandLine) {
         return started;
     }
     host.listenForCallbacks();
-    return connectAndTell(host);
+    return connectAndTell(host, Expired::kRenew);
 }
 
 ExitCode runSignOut(const CommandLine& commandLine) {
@@ -114,7 +119,7 @@ ExitCode runStatus(const CommandLine& commandLine) {
     // Without a dialog "connect" uses a stored sign-in or gives up; no browser is opened.
     HeadlessHost host(commandLine, Dialogs::kNone);
     const ExitCode started = start(host);
-    return started == ExitCode::kDone ? connectAndTell(host) : started;
+    return started == ExitCode::kDone ? connectAndTell(host, Expired::kTell) : started;
 }
 
 } // namespace xbr::host

@@ -19,44 +19,84 @@ constexpr Name kCommands[] = {
 
 /// Options that belong to a command; --module and --json to all that load the module.
 bool isOptionOf(Command command, const std::string& option) {
-    if (option == "--album") {
+    if (option == "--album" || option == "--dry-run" || isPublishValue(option)) {
         return command == Command::kPublish;
     }
     return (option == "--json" || option == "--module") && command != Command::kOpenUrl &&
            command != Command::kHelp && command != Command::kVersion;
 }
 
-/// Takes the option at `next`; `next` is behind it then.
-bool takeOption(const std::vector<std::string>& arguments, std::size_t& next, CommandLine& commandLine,
-                std::string& error) {
-    const std::string& option = arguments[next++];
-    if (option == "--help" || option == "-h") {
-        commandLine.command = Command::kHelp;
-    } else if (!isOptionOf(commandLine.command, option)) {
-        error = "there is no option '" + option + "' here";
-    } else if (option == "--json") {
-        commandLine.isJson = true;
-    } else if (option == "--album") {
-        commandLine.isAlbum = true;
-    } else if (next == arguments.size()) {
-        error = "a path is missing after --module";
-    } else {
-        commandLine.module = arguments[next++];
-    }
-    return error.empty();
-}
+/// Walks through the arguments and fills a command line.
+class Parser {
+public:
+    Parser(const std::vector<std::string>& arguments, CommandLine& commandLine, std::string& error)
+        : m_arguments(&arguments),
+          m_commandLine(&commandLine),
+          m_error(&error) {}
 
-std::string checkArguments(const CommandLine& commandLine) {
-    const std::size_t count = commandLine.arguments.size();
+    bool parse() {
+        bool areOptionsOver = false;
+        while (m_next < m_arguments->size()) {
+            const std::string& argument = (*m_arguments)[m_next++];
+            if (areOptionsOver || argument.size() < 2 || argument.front() != '-') {
+                takeArgument(argument);
+            } else if (argument == "--") {
+                areOptionsOver = true;
+            } else {
+                takeOption(argument);
+            }
+            if (!m_error->empty()) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+private:
+    void takeArgument(const std::string& argument) {
+        if (m_commandLine->command == Command::kPublish) {
+            m_commandLine->publish.plan.songs.push_back({argument, {}, {}, {}, 0});
+        } else if (m_commandLine->command == Command::kOpenUrl && m_commandLine->url.empty()) {
+            m_commandLine->url = argument;
+        } else if (m_commandLine->command != Command::kHelp) {
+            *m_error = "'" + argument + "' is one argument too many";
+        }
+    }
+
+    void takeOption(const std::string& option) {
+        if (option == "--help" || option == "-h") {
+            m_commandLine->command = Command::kHelp;
+        } else if (!isOptionOf(m_commandLine->command, option)) {
+            *m_error = "there is no option '" + option + "' here";
+        } else if (option == "--json") {
+            m_commandLine->isJson = true;
+        } else if (option == "--album") {
+            m_commandLine->publish.plan.mode = ReleaseMode::kAlbum;
+        } else if (option == "--dry-run") {
+            m_commandLine->publish.isDryRun = true;
+        } else if (m_next == m_arguments->size()) {
+            *m_error = "something is missing after " + option;
+        } else if (option == "--module") {
+            m_commandLine->module = (*m_arguments)[m_next++];
+        } else {
+            takePublishValue(option, (*m_arguments)[m_next++], m_commandLine->publish, *m_error);
+        }
+    }
+
+    const std::vector<std::string>* m_arguments;
+    CommandLine* m_commandLine;
+    std::string* m_error;
+    std::size_t m_next = 1; ///< behind the command
+};
+
+std::string check(const CommandLine& commandLine) {
     switch (commandLine.command) {
     case Command::kPublish:
-        return count > 0 ? "" : "publish needs at least one file";
+        return checkPublishOptions(commandLine.publish);
     case Command::kOpenUrl:
-        return count == 1 ? "" : "open-url needs one URL";
-    case Command::kHelp:
-        return "";
+        return commandLine.url.empty() ? "open-url needs one URL" : "";
     default:
-        return count == 0 ? "" : "'" + commandLine.arguments.front() + "' is one argument too many";
+        return "";
     }
 }
 
@@ -75,20 +115,9 @@ bool parseCommandLine(const std::vector<std::string>& arguments, CommandLine& co
         return false;
     }
     commandLine.command = found->command;
-    bool areOptionsOver = false;
-    for (std::size_t next = 1; next < arguments.size();) {
-        const std::string& argument = arguments[next];
-        if (areOptionsOver || argument.size() < 2 || argument.front() != '-') {
-            commandLine.arguments.push_back(argument);
-            ++next;
-        } else if (argument == "--") {
-            areOptionsOver = true;
-            ++next;
-        } else if (!takeOption(arguments, next, commandLine, error)) {
-            return false;
-        }
+    if (Parser(arguments, commandLine, error).parse()) {
+        error = check(commandLine);
     }
-    error = checkArguments(commandLine);
     return error.empty();
 }
 
@@ -96,14 +125,27 @@ std::string helpText() {
     return R"(Usage: xbrhost COMMAND [OPTION]... [ARGUMENT]...
 
 Commands:
-  publish [--album] FILE...   publish songs (wav, flac, mp3); signs in when needed
+  publish [--album] FILE...   publish songs; signs in when needed
+  publish --release FILE      publish what a release file says (see xbrhost(1))
   sign-in                     sign in through the browser
   sign-out                    forget the sign-in
   status                      tell whether somebody is signed in
   open-url URL                hand a callback URL to the running hosts
 
+WAV, FLAC and MP3 go as they are; AIFF, OGG and whatever else libsndfile reads
+is rendered to WAV first.
+
+Options of publish, which win over what the tags of the files say:
+  --album              all files are one release; otherwise each is one of its own
+  --album-title TEXT   title of the album
+  --album-artist TEXT  artist of the album
+  --genre NAME         genre of all releases
+  --title TEXT         title of the song before it: publish a.wav --title Night
+  --artist TEXT        artist of the song before it
+  --track-number N     number of the song before it
+  --dry-run            show what would be sent and what is missing; send nothing
+
 Options:
-  --album        all files are one release; otherwise each file is one of its own
   --json         tell what happens as one JSON object per line
   --module PATH  the module to use
   --help         this text
@@ -115,12 +157,13 @@ Environment:
   XBRHOST_MODULE_PATH  modules: files and folders, separated by ":"
 
 Exit codes:
-  0  all done                      6  the service cannot be reached
-  1  some track was not taken      7  information is missing, nothing was taken
-  2  wrong usage                   8  no running host takes the URL
-  3  a file cannot be published    9  the settings are missing or incomplete
+  0  all done                      7  information is missing, nothing was taken
+  1  some track was not taken      8  no running host takes the URL
+  2  wrong usage                   9  the settings are missing, wrong or incomplete
+  3  a file cannot be published    10  the sign-in has expired
   4  the module cannot be used     130  interrupted
   5  not signed in
+  6  the service cannot be reached
 )";
 }
 

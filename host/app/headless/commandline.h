@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/app/headless/publishoptions.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -11,9 +13,9 @@ enum class Command : std::uint8_t { kHelp, kVersion, kPublish, kOpenUrl, kSignIn
 struct CommandLine {
     Command command = Command::kHelp;
     bool isJson = false;
-    bool isAlbum = false;
-    std::string module;                 ///< path; empty for the usual one
-    std::vector<std::string> arguments; ///< files or the URL, as bytes
+    std::string module; ///< path; empty for the usual one
+    std::string url;    ///< of open-url, as bytes
+    PublishOptions publish;
 };
 
 /// Reads the arguments behind the program's name. False, with the reason in `error`, when they make no sense.

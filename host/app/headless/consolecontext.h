@@ -3,7 +3,7 @@
 #include "host/app/core/activity.h"
 #include "host/app/core/callbackserver.h"
 #include "host/app/core/configurationstore.h"
-#include "host/app/headless/interruption.h"
+#include "host/app/core/interruption.h"
 #include "host/app/headless/output.h"
 
 #include <memory>

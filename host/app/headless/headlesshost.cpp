@@ -48,7 +48,6 @@ HeadlessHost::~HeadlessHost() {
     setStoreInterruption(nullptr);
     setBrowserAnnouncer({});
     unregisterGuiClasses();
-    removeTemporaryFolder();
 }
 
 bool HeadlessHost::start(std::string& error) {
@@ -69,19 +68,6 @@ void HeadlessHost::listenForCallbacks() {
     if (!m_context.callbacks.start(error)) {
         printError("the browser's answer to a sign-in cannot be received: " + error);
     }
-}
-
-std::string describeProblem(const ConfigurationReport& report) {
-    const std::string where = "'" + report.path + "', section [" + report.id + "]";
-    if (report.result == ConfigurationResult::kUnreadable) {
-        return "the settings of " + report.title + " cannot be read from " + where;
-    }
-    std::string keys;
-    for (const std::string& key : report.missingKeys) {
-        keys += keys.empty() ? key : ", " + key;
-    }
-    return "settings of " + report.title + " are missing: put " + keys +
-           " (one \"key = value\" a line) into " + where;
 }
 
 } // namespace xbr::host

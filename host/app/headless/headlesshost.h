@@ -5,6 +5,7 @@
 #include "host/app/core/gadgetpanel.h"
 #include "host/app/core/hostcontext.h"
 #include "host/app/core/module.h"
+#include "host/app/core/temporarytenancy.h"
 #include "host/app/headless/commandline.h"
 #include "host/app/headless/consoleclasses.h"
 #include "host/app/headless/consolecontext.h"
@@ -35,6 +36,7 @@ public:
 
 private:
     std::string m_modulePath;
+    TemporaryTenancy m_tenancy;
     ConsoleContext m_context;
     CoreClasses m_coreClasses;
     ConsoleClasses m_consoleClasses;
@@ -42,8 +44,5 @@ private:
     std::unique_ptr<Module> m_module;
     std::unique_ptr<GadgetPanel> m_panel;
 };
-
-/// What to tell the user about settings that are missing or cannot be read.
-std::string describeProblem(const ConfigurationReport& report);
 
 } // namespace xbr::host

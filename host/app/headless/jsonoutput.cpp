@@ -43,6 +43,27 @@ public:
                {"progress", track.progress}});
     }
 
+    void draft(const ReleaseDraft& release, std::size_t index, std::size_t) override {
+        Json songs = Json::array();
+        for (const SongDraft& song : release.songs) {
+            songs.push_back({{"title", song.title},
+                             {"artist", song.artist},
+                             {"trackNumber", song.trackNumber},
+                             {"source", song.source},
+                             {"fileName", song.fileName},
+                             {"rendered", song.isRendered},
+                             {"missing", song.missing}});
+        }
+        write({{"event", "draft"},
+               {"index", index},
+               {"title", release.title},
+               {"artist", release.artist},
+               {"genre", release.genre},
+               {"songs", std::move(songs)},
+               {"missing", release.missing},
+               {"problem", release.genreProblem}});
+    }
+
     void finished(ExitCode code) override {
         write({{"event", "finished"}, {"exitCode", static_cast<int>(code)}});
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/app/core/exitcodes.h"
+#include "host/app/core/releasedraft.h"
 #include "host/app/core/trackfollower.h"
 
 #include <memory>
@@ -29,12 +30,18 @@ public:
     /// A track looks different from before.
     virtual void track(const TrackReport& track, std::size_t count) = 0;
 
+    /// A release that would be sent, number `index` (from 0) of `count`.
+    virtual void draft(const ReleaseDraft& release, std::size_t index, std::size_t count) = 0;
+
     /// The end; nothing follows.
     virtual void finished(ExitCode code) = 0;
 };
 
 std::unique_ptr<Output> makeTextOutput();
 std::unique_ptr<Output> makeJsonOutput();
+
+/// How a user of the command line signs in again.
+constexpr char kRenewHint[] = " (xbrhost sign-in)";
 
 /// Writes "xbrhost: <text>" to standard error.
 void printError(std::string_view text);

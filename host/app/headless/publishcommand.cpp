@@ -1,6 +1,8 @@
 #include "host/app/headless/publishcommand.h"
 
 #include "host/app/core/publishsession.h"
+#include "host/app/core/releasefile.h"
+#include "host/app/headless/fieldnames.h"
 #include "host/app/headless/headlesshost.h"
 
 #include <QEventLoop>
@@ -15,6 +17,8 @@ ExitCode exitCodeOf(PublishResult result) {
         return ExitCode::kDone;
     case PublishResult::kNotAllDone:
         return ExitCode::kNotAllDone;
+    case PublishResult::kWrongPlan:
+        return ExitCode::kUsage;
     case PublishResult::kFileProblem:
         return ExitCode::kFileProblem;
     case PublishResult::kNoPublisher:
@@ -23,6 +27,8 @@ ExitCode exitCodeOf(PublishResult result) {
         return ExitCode::kNotConfigured;
     case PublishResult::kNotSignedIn:
         return ExitCode::kNotSignedIn;
+    case PublishResult::kSignInExpired:
+        return ExitCode::kSignInExpired;
     case PublishResult::kUnreachable:
         return ExitCode::kUnreachable;
     case PublishResult::kInformationMissing:
@@ -33,32 +39,9 @@ ExitCode exitCodeOf(PublishResult result) {
     return ExitCode::kInterrupted;
 }
 
-struct FieldName {
-    std::string_view field;
-    const char* name;
-};
-
-constexpr FieldName kFieldNames[] = {{"albumTitle", "album title"},
-                                     {"albumArtist", "album artist"},
-                                     {"primaryGenre", "genre"},
-                                     {"songTitle", "song title"},
-                                     {"songArtist", "song artist"}};
-
-std::string nameOf(const std::string& field) {
-    for (const FieldName& known : kFieldNames) {
-        if (known.field == field) {
-            return known.name;
-        }
-    }
-    return field;
-}
-
 std::string describe(const IncompleteTrack& track, const TrackReport& report) {
-    std::string fields;
-    for (const std::string& field : track.fields) {
-        fields += (fields.empty() ? "" : ", ") + nameOf(field);
-    }
-    return "track " + std::to_string(track.index + 1) + " '" + labelOf(report) + "': missing " + fields;
+    return "track " + std::to_string(track.index + 1) + " '" + labelOf(report) + "': missing " +
+           describeFields(track.fields);
 }
 
 /// Shows a session on the output and remembers how it ended.
@@ -94,6 +77,8 @@ void tellProblem(const PublishOutcome& outcome, const ConfigurationReport& repor
         printError("not signed in: nothing was sent");
     } else if (outcome.result == PublishResult::kCancelled) {
         printError("interrupted");
+    } else if (outcome.result == PublishResult::kSignInExpired) {
+        printError(outcome.detail + kRenewHint);
     } else if (!outcome.detail.empty()) {
         printError(outcome.detail);
     }
@@ -116,13 +101,13 @@ void tellTracks(const PublishOutcome& outcome) {
     }
 }
 
-ExitCode runSession(HeadlessHost& host, const CommandLine& commandLine) {
+ExitCode runSession(HeadlessHost& host, ReleasePlan plan) {
     ConsoleContext& context = host.context();
     QEventLoop loop;
     PublishView view(*context.output, loop);
     PublishSession session(host.panel(), *context.configuration, context.activity, view);
     const auto interrupted = context.interruption.subscribe([&session] { session.cancel(); });
-    session.start(commandLine.arguments, commandLine.isAlbum ? ReleaseMode::kAlbum : ReleaseMode::kSingles);
+    session.start(std::move(plan));
     loop.exec();
     const ExitCode code = exitCodeOf(view.outcome().result);
     context.output->finished(code);
@@ -131,18 +116,68 @@ ExitCode runSession(HeadlessHost& host, const CommandLine& commandLine) {
     return code;
 }
 
+void tellMissing(const ReleaseDraft& release, std::size_t index) {
+    const std::string where = "release " + std::to_string(index + 1);
+    if (!release.missing.empty()) {
+        printError(where + ": missing " + describeFields(release.missing));
+    }
+    if (!release.genreProblem.empty()) {
+        printError(where + ": " + release.genreProblem);
+    }
+    for (const SongDraft& song : release.songs) {
+        if (!song.missing.empty()) {
+            printError(where + ", '" + song.source + "': missing " + describeFields(song.missing));
+        }
+    }
+}
+
+/// Shows what the module would send of the songs that it took.
+ExitCode showDrafts(HeadlessHost& host, const ReleasePlan& plan, const ReleaseIntake& intake) {
+    const auto releases = readDrafts(host.panel(), intake, plan.mode);
+    bool isComplete = true;
+    for (std::size_t i = 0; i < releases.size(); ++i) {
+        host.context().output->draft(releases[i], i, releases.size());
+        isComplete = isComplete && releases[i].isComplete();
+    }
+    host.context().output->finished(isComplete ? ExitCode::kDone : ExitCode::kInformationMissing);
+    for (std::size_t i = 0; i < releases.size(); ++i) {
+        tellMissing(releases[i], i);
+    }
+    return isComplete ? ExitCode::kDone : ExitCode::kInformationMissing;
+}
+
+ExitCode runDry(HeadlessHost& host, const ReleasePlan& plan) {
+    ReleaseIntake intake(host.panel(), Rendering::kPretend);
+    const ReleaseIntake::Outcome outcome = intake.take(plan);
+    if (outcome.result == PublishResult::kDone) {
+        return showDrafts(host, plan, intake);
+    }
+    const ExitCode code = exitCodeOf(outcome.result);
+    host.context().output->finished(code);
+    printError(outcome.detail);
+    return code;
+}
+
 } // namespace
 
 ExitCode runPublish(const CommandLine& commandLine) {
-    HeadlessHost host(commandLine, Dialogs::kOffered);
+    ReleasePlan plan = commandLine.publish.plan;
+    const std::string& releaseFile = commandLine.publish.releaseFile;
+    const bool isDryRun = commandLine.publish.isDryRun;
+    HeadlessHost host(commandLine, isDryRun ? Dialogs::kNone : Dialogs::kOffered);
     std::string error;
-    if (!host.start(error)) {
-        host.context().output->finished(ExitCode::kModuleProblem);
+    const bool isPlanned = releaseFile.empty() || readReleaseFile(releaseFile, plan, error);
+    if (!isPlanned || !host.start(error)) {
+        const ExitCode code = isPlanned ? ExitCode::kModuleProblem : ExitCode::kUsage;
+        host.context().output->finished(code);
         printError(error);
-        return ExitCode::kModuleProblem;
+        return code;
+    }
+    if (isDryRun) {
+        return runDry(host, plan);
     }
     host.listenForCallbacks();
-    return runSession(host, commandLine);
+    return runSession(host, std::move(plan));
 }
 
 } // namespace xbr::host

@@ -1,3 +1,4 @@
+#include "host/app/headless/drafttext.h"
 #include "host/app/headless/output.h"
 
 #include <iostream>
@@ -82,6 +83,12 @@ public:
             status(start + " " + std::to_string(percent(track.progress)) + "%");
         } else if (isNews) {
             line(start);
+        }
+    }
+
+    void draft(const ReleaseDraft& release, std::size_t index, std::size_t count) override {
+        for (const std::string& text : describeDraft(release, index, count)) {
+            line(plainText(text));
         }
     }
 

@@ -10,6 +10,7 @@ namespace xbr::host {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::Pair;
 
 class Configuration : public testing::Test {
@@ -78,6 +79,37 @@ TEST_F(Configuration, storeTellsModuleAndUser) {
 
     m_folder.write("services.ini", "[brindlex]\nServerURL=\xFF\n");
     EXPECT_EQ(load("brindlex"), std::pair(kUnexpected, std::string()));
+    EXPECT_THAT(describeProblem(*report), HasSubstr("cannot be read from '" + report->path));
+}
+
+TEST_F(Configuration, wrongAddressesAreTold) {
+    const struct {
+        const char* server;
+        const char* callback;
+        const char* words;
+    } cases[] = {
+        {"https://service.example/api", "brindlex://authorize", ""},
+        {"http://127.0.0.1:8080", "brindlex:x", ""},
+        {"", "brindlex:x", "put ServerURL (one"},
+        {"", "", "put ServerURL, CallbackURL (one"},
+        {"service.example", "brindlex:x", "ServerURL is no web address"},
+        {"ftp://service.example", "brindlex:x", "ServerURL is no web address"},
+        {"https://", "brindlex:x", "ServerURL is no web address"},
+        {"https://a b/", "authorize", "ServerURL, CallbackURL are no web address"},
+    };
+    const auto report = std::make_shared<ConfigurationReport>();
+    const auto store = make<ConfigurationStore>(report);
+    const TestVariable path("XBRHOST_CONFIG", m_folder.path("services.ini"));
+    for (const auto& one : cases) {
+        m_folder.write("services.ini", "[brindlex]\nConsumerKey=k\nConsumerSecret=s\nServerURL=" +
+                                           std::string(one.server) + "\nCallbackURL=" + one.callback + "\n");
+        store->load(make<Attributes>().get(), toText("brindlex"), toText("Client"), 0, 1);
+        EXPECT_EQ(report->isComplete(), *one.words == 0) << one.server;
+        if (!report->isComplete()) {
+            EXPECT_THAT(describeProblem(*report), HasSubstr(one.words)) << one.server;
+            EXPECT_THAT(describeProblem(*report), HasSubstr("services.ini', section [brindlex]"));
+        }
+    }
 }
 
 TEST_F(Configuration, pathFollowsTheEnvironment) {

@@ -1,6 +1,7 @@
 #include "tests/host/app/fakepanel.h"
 
 #include "framework/abi/pluginmanager.h"
+#include "framework/support/attributes.h"
 #include "framework/support/text.h"
 
 #include <QCoreApplication>
@@ -21,6 +22,7 @@ struct FakeTrack final : Object<IPropertySource> {
     Result getProperty(Text name, Value* out) noexcept override {
         const std::pair<std::string_view, Value> properties[] = {
             {"title", textValue(title)},
+            {"file", textValue(file)},
             {"state", integerValue(static_cast<std::int64_t>(state))},
             {"uploading", boolValue(isUploading)},
             {"progress", floatValue(isUploading ? 0.5 : 0.0)},
@@ -33,6 +35,7 @@ struct FakeTrack final : Object<IPropertySource> {
     Result setProperty(Text, const Value&) noexcept override { return kFalse; }
 
     std::string title;
+    std::string file;
     TrackState state = TrackState::kNone;
     bool isUploading = false;
 };
@@ -58,6 +61,9 @@ public:
             const bool isMissing =
                 std::find(script.missing.begin(), script.missing.end(), name) != script.missing.end();
             addParameter(ParameterKind::kText, tag++, name).set(textValue(isMissing ? "" : "set"));
+        }
+        if (!script.genres.empty()) {
+            addParameter(ParameterKind::kList, tag, "primaryGenre").setChoices(script.genres);
         }
     }
 };
@@ -107,9 +113,17 @@ public:
     }
     ~FakePanel() override { current = nullptr; }
 
-    void addTrack(const std::string& title) {
+    void addTrack(IObject& song) {
+        Ref<IString> url;
+        query<IUrlSource>(&song)->getUrl(url.out());
+        const auto media = make<Attributes>();
+        query<IMediaAttributes>(&song)->getMediaAttributes(media.get());
         auto track = make<FakeTrack>();
-        track->title = title;
+        track->file = take(url);
+        track->title = track->file.substr(track->file.rfind('/') + 1);
+        m_script->published.push_back(track->title + "|" + media->getString("Media:Title") + "|" +
+                                      media->getString("Media:Artist") + "|" +
+                                      media->getString("Media:Genre"));
         m_tracks.push_back(track);
         m_list->model().append(query<IObject>(track.get()));
         m_list->model().signalChanged();
@@ -135,6 +149,9 @@ protected:
         if (parameter.tag() == kConnect) {
             connect();
         } else if (parameter.tag() == kUpload) {
+            if (m_script->duringUpload) {
+                m_script->duringUpload();
+            }
             uploadNext();
         }
     }
@@ -190,15 +207,17 @@ private:
 class FakePublisher final : public Object<IPublisher> {
 public:
     Result acceptFileType(IFileType** type) noexcept override {
-        return view((*type)->extension()) == "wav" ? kOk : kInvalidArgument;
+        if (view((*type)->extension()) == "wav") {
+            return kOk;
+        }
+        (*type)->release();
+        XBRGetFileTypeRegistry()->createType(toText("wav"), type);
+        return kInvalidArgument;
     }
     Result publish(IObjectIterator* items) noexcept override {
         Ref<IObject> item;
         while (items->next(item.out()) == kOk) {
-            Ref<IString> url;
-            query<IUrlSource>(item.get())->getUrl(url.out());
-            const std::string text = take(url);
-            FakePanel::current->addTrack(text.substr(text.rfind('/') + 1));
+            FakePanel::current->addTrack(*item);
         }
         return kOk;
     }

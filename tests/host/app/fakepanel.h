@@ -22,10 +22,13 @@ struct FakeScript {
     bool isUploadEnabled = true;
     bool preparesNothing = false;            ///< "upload" comes to nothing
     std::function<void()> duringConnect;     ///< as in the dialog
+    std::function<void()> duringUpload;      ///< when "upload" is performed
     std::function<void()> duringPreparation; ///< as under the progress indicator
     Activity activity;
-    int uploads = 0;               ///< requests that were sent
-    std::int64_t albumUpload = -1; ///< as it was set last
+    std::vector<std::string> genres;    ///< of the editor's menu; none: it has no such menu
+    std::vector<std::string> published; ///< what was handed over: file name, title, artist, genre
+    int uploads = 0;                    ///< requests that were sent
+    std::int64_t albumUpload = -1;      ///< as it was set last
     bool isBusy = false;
     bool isAuthorized = false;
 };

@@ -97,6 +97,13 @@ TEST_F(Media, tagsCutShortDoNoHarm) {
     }
 }
 
+TEST_F(Media, endlessTagsLeaveTheFileWithoutAny) {
+    const std::string frame("\xFF\xFB\x90\x64", 4);
+    const std::string bomb = compressedText(32U << 20U);
+    EXPECT_EQ(attributesOf("a.mp3", id3Tag({{"TIT2", "Song"}}) + frame), "Song|||||0");
+    EXPECT_EQ(attributesOf("b.mp3", id3Tag({{"TIT2", "Song"}, {"TXXX", bomb, '\x80'}}) + frame), "|||||0");
+}
+
 TEST_F(Media, whatIsNoFileIsRefusedAtOnce) {
     const std::string pipe = m_folder.path("pipe.wav");
     ASSERT_EQ(mkfifo(pipe.c_str(), S_IRWXU), 0);

@@ -4,6 +4,10 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <regex>
+#include <sstream>
+
 namespace xbr::host {
 
 namespace {
@@ -36,6 +40,18 @@ TEST(Program, everyErrorHasItsExitCodeAndOneLine) {
         {{"publish"}, 2},
         {{"publish", "--unknown", "a.wav"}, 2},
         {{"publish", "a.wav", "--module"}, 2},
+        {{"publish", "--title", "x", "a.wav"}, 2},
+        {{"publish", "a.wav", "--title"}, 2},
+        {{"publish", "a.wav", "--title", ""}, 2},
+        {{"publish", "a.wav", "--title", "x", "--title", "y"}, 2},
+        {{"publish", "a.wav", "--track-number", "0"}, 2},
+        {{"publish", "a.wav", "--track-number", "2x"}, 2},
+        {{"publish", "a.wav", "--album-title", "x"}, 2},
+        {{"publish", "a.wav", "--genre", "Pop", "--genre", "Pop"}, 2},
+        {{"publish", "--release", "r.json", "a.wav"}, 2},
+        {{"publish", "--release", "r.json", "--album"}, 2},
+        {{"publish", "--release", "/none.json"}, 2},
+        {{"sign-in", "--genre", "Pop"}, 2},
         {{"open-url"}, 2},
         {{"open-url", "--json", "a:b"}, 2},
         {{"open-url", "a:b", "c:d"}, 2},
@@ -52,6 +68,23 @@ TEST(Program, everyErrorHasItsExitCodeAndOneLine) {
         EXPECT_EQ(result.output, "");
         EXPECT_EQ(result.errors.find("xbrhost: "), 0U);
         EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << result.errors;
+    }
+}
+
+TEST(Program, manualTellsEveryOptionAndExitCode) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(TEST_MANUAL).rdbuf();
+    const std::string manual = bytes.str();
+    const std::string help = run({"--help"}).output;
+    const std::regex option("--[a-z-]+");
+    for (std::sregex_iterator found(help.begin(), help.end(), option), end; found != end; ++found) {
+        const std::string escaped = std::regex_replace(found->str(), std::regex("-"), "\\-");
+        EXPECT_NE(manual.find(escaped), std::string::npos) << found->str();
+    }
+    const std::string codes = help.substr(help.find("Exit codes:"));
+    const std::regex code("(^|  )([0-9]+)  [a-z]");
+    for (std::sregex_iterator found(codes.begin(), codes.end(), code), end; found != end; ++found) {
+        EXPECT_NE(manual.find(".B " + found->str(2) + "\n"), std::string::npos) << found->str(2);
     }
 }
 

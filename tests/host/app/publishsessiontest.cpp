@@ -1,12 +1,17 @@
 #include "host/app/core/publishsession.h"
 
+#include "framework/abi/filesystem.h"
+#include "framework/support/text.h"
 #include "host/app/core/coreclasses.h"
 #include "tests/host/app/fakepanel.h"
+#include "tests/host/app/soundfiles.h"
 #include "tests/host/app/testfolder.h"
 #include "tests/host/app/wavefile.h"
 
 #include <QTimer>
 #include <gmock/gmock.h>
+
+#include <filesystem>
 
 namespace xbr::host {
 
@@ -22,7 +27,7 @@ constexpr char kNowhere[] = "http://127.0.0.1:1/"; // nothing listens on this po
 class Publishing : public testing::Test, protected PublishListener {
 protected:
     Publishing() {
-        *m_report = {true, ConfigurationResult::kRead, {}, {}, {}, kNowhere, {}};
+        *m_report = {true, ConfigurationResult::kRead, {}, {}, {}, kNowhere, {}, {}};
         for (const char* name : {"a.wav", "b.wav", "c.wav"}) {
             m_files.push_back(m_folder.write(name, waveFile(infoChunk({{"IGNR", "Rock"}}))));
         }
@@ -35,7 +40,10 @@ protected:
         const auto panel = GadgetPanel::open({}, error);
         PublishSession session(*panel, *m_report, m_script.activity, *this);
         m_session = &session;
-        session.start(m_files, m_mode);
+        for (const std::string& file : m_files) {
+            m_plan.songs.push_back({file, {}, {}, {}, 0});
+        }
+        session.start(std::exchange(m_plan, {}));
         if (act) {
             act(session);
         }
@@ -57,7 +65,7 @@ protected:
     CoreClasses m_classes{m_report};
     FakeScript m_script;
     std::vector<std::string> m_files;
-    ReleaseMode m_mode = ReleaseMode::kSingles;
+    ReleasePlan m_plan; ///< what is said beside the files
     PublishSession* m_session = nullptr;
     std::size_t m_known = 0;
     int m_changes = 0;
@@ -79,7 +87,7 @@ TEST_F(Publishing, everyTrackIsFollowedToItsEnd) {
 }
 
 TEST_F(Publishing, albumModeIsLeftOn) {
-    m_mode = ReleaseMode::kAlbum;
+    m_plan.mode = ReleaseMode::kAlbum;
     EXPECT_EQ(publish().result, PublishResult::kDone);
     EXPECT_NE(m_script.albumUpload, 0);
 }
@@ -129,7 +137,9 @@ TEST_F(Publishing, whatIsMissingIsNamedPerTrack) {
 }
 
 TEST_F(Publishing, problemsBeforeTheUpload) {
-    const std::string other = m_folder.write("song.aiff", waveFile());
+    const std::string other = m_folder.write("song.aiff", "FORM");
+    m_folder.write("more/a.wav", waveFile());
+    m_script.genres = {" ", "Pop", "Rock"};
     const struct {
         std::function<void()> arrange;
         PublishResult result;
@@ -142,7 +152,13 @@ TEST_F(Publishing, problemsBeforeTheUpload) {
         {[&] { m_files = {m_folder.path()}; }, PublishResult::kFileProblem, "is not a file"},
         {[&] { m_files = {m_folder.write("text.wav", "text")}; }, PublishResult::kFileProblem,
          "not an audio file"},
-        {[&] { m_files = {other}; }, PublishResult::kFileProblem, "song.aiff' is of a kind"},
+        {[&] { m_files = {other}; }, PublishResult::kFileProblem, "song.aiff' is not audio"},
+        {[&] {
+             m_files = {m_files.front(), m_folder.path("more/a.wav")};
+             m_plan.mode = ReleaseMode::kAlbum;
+         },
+         PublishResult::kFileProblem, "have the same file name"},
+        {[&] { m_plan.genre = "Rocl"; }, PublishResult::kWrongPlan, "did you mean 'Rock'?"},
         {[&] { m_script.signsIn = false; }, PublishResult::kUnreachable,
          "http://127.0.0.1:1 cannot be reached"},
         {[&] { m_report->serverUrl.clear(); }, PublishResult::kNotSignedIn, ""},
@@ -158,6 +174,45 @@ TEST_F(Publishing, problemsBeforeTheUpload) {
         EXPECT_THAT(outcome.detail, HasSubstr(one.detail));
         EXPECT_EQ(m_script.uploads, 0);
     }
+}
+
+TEST_F(Publishing, whatTheUserSaysWinsOverTheTags) {
+    m_script.genres = {" ", "Pop", "Rock"};
+    m_plan.genre = "pOP";
+    m_plan.songs = {
+        {m_folder.write("d.wav", waveFile(infoChunk({{"INAM", "Tag"}, {"IART", "Ann"}}))), "Said", {}, {}, 0},
+        {m_files.front(), {}, "Bob", "rock", 0}};
+    m_files.clear();
+    EXPECT_EQ(publish().result, PublishResult::kDone);
+    EXPECT_THAT(m_script.published, ElementsAre("d.wav|Said|Ann|Pop", "a.wav||Bob|Rock"));
+}
+
+TEST_F(Publishing, songsThatAreRenderedKeepTheirNames) {
+    const std::string song = m_folder.path("a.aiff");
+    writeSound(song, SF_FORMAT_AIFF | SF_FORMAT_PCM_16);
+    m_files = {m_files.front(), song};
+    const PublishOutcome outcome = publish();
+    EXPECT_EQ(outcome.result, PublishResult::kDone) << outcome.detail;
+    EXPECT_THAT(m_script.published, ElementsAre("a.wav|||Rock", "a%20(2).wav|||"));
+    EXPECT_EQ(outcome.tracks[1].file, "file://" + song);
+}
+
+TEST_F(Publishing, tellsWhyNothingWasPrepared) {
+    m_script.preparesNothing = true;
+    const auto upload = [&](std::function<void()> meanwhile) {
+        m_isFinished = false;
+        m_script.duringConnect = std::move(meanwhile);
+        return publish().detail;
+    };
+    EXPECT_EQ(upload({}), "");
+    EXPECT_THAT(upload([&] { std::filesystem::remove(m_files[1]); }),
+                HasSubstr("b.wav' is not there any more"));
+    m_folder.write("b.wav", waveFile());
+    m_script.duringUpload = [&] {
+        const std::string target = "file://" + m_folder.path("a.wav/x.wav"); // below a file
+        XBRGetFileSystem()->copyFile(toText("file://" + m_files[0]), toText(target));
+    };
+    EXPECT_THAT(upload({}), HasSubstr("a.wav' cannot be copied: Not a directory"));
 }
 
 TEST_F(Publishing, cancellingEndsItAtEveryStage) {

@@ -1,5 +1,7 @@
 #include "tests/host/app/wavefile.h"
 
+#include <zlib.h>
+
 namespace xbr::host {
 
 namespace {
@@ -32,19 +34,30 @@ std::string infoChunk(const std::vector<std::pair<std::string, std::string>>& fi
     return chunk("LIST", list);
 }
 
-std::string id3Tag(const std::vector<std::pair<std::string, std::string>>& frames) {
+std::string id3Tag(const std::vector<Id3Frame>& frames) {
     std::string body;
-    for (const auto& [id, text] : frames) {
+    for (const auto& [id, text, flags] : frames) {
+        const std::string content = flags == '\0' ? '\0' + text : text; // Latin-1, when it is not compressed
         body += id;
-        body += bigEndian(static_cast<std::uint32_t>(text.size() + 1));
-        body += std::string(3, '\0'); // flags, and Latin-1 as the encoding
-        body += text;
+        body += bigEndian(static_cast<std::uint32_t>(content.size()));
+        body += '\0';
+        body += flags;
+        body += content;
     }
     std::string size;
     for (int shift = 21; shift >= 0; shift -= 7) { // seven bits a byte
         size += static_cast<char>(body.size() >> shift & 0x7FU);
     }
     return std::string("ID3\x03\0\0", 6) + size + body;
+}
+
+std::string compressedText(std::size_t size) {
+    const std::string text(size, '\0');
+    std::string compressed(size / 500 + 100, '\0');
+    auto length = static_cast<uLongf>(compressed.size());
+    compress(reinterpret_cast<Bytef*>(compressed.data()), &length,
+             reinterpret_cast<const Bytef*>(text.data()), static_cast<uLong>(text.size()));
+    return bigEndian(static_cast<std::uint32_t>(size)) + compressed.substr(0, length);
 }
 
 std::string waveFile(std::string_view furtherChunks) {

@@ -1,3 +1,5 @@
+#include "host/app/headless/command.h"
+
 #include "host/app/core/callbackclient.h"
 #include "host/app/headless/accountcommands.h"
 #include "host/app/headless/commandline.h"
@@ -8,9 +10,9 @@
 
 #include <iostream>
 
-namespace {
+namespace xbr::host {
 
-using namespace xbr::host;
+namespace {
 
 ExitCode openUrl(const std::string& url) {
     switch (handOverUrl(url)) {
@@ -37,7 +39,7 @@ ExitCode run(const CommandLine& commandLine) {
     case Command::kPublish:
         return runPublish(commandLine);
     case Command::kOpenUrl:
-        return openUrl(commandLine.arguments.front());
+        return openUrl(commandLine.url);
     case Command::kSignIn:
         return runSignIn(commandLine);
     case Command::kSignOut:
@@ -50,15 +52,15 @@ ExitCode run(const CommandLine& commandLine) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-    // Taken before Qt converts them: names of files are bytes.
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
+ExitCode runCommand(int& argc, char** argv, const std::vector<std::string>& arguments) {
     const QCoreApplication application(argc, argv);
     CommandLine commandLine;
     std::string error;
     if (!parseCommandLine(arguments, commandLine, error)) {
         printError(error + " (see xbrhost --help)");
-        return static_cast<int>(ExitCode::kUsage);
+        return ExitCode::kUsage;
     }
-    return static_cast<int>(run(commandLine));
+    return run(commandLine);
 }
+
+} // namespace xbr::host

@@ -1,4 +1,4 @@
-#include "host/app/headless/interruption.h"
+#include "host/app/core/interruption.h"
 
 #include <atomic>
 #include <cerrno>

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+enum class ReleaseMode : std::uint8_t {
+    kSingles, ///< each track is a release of its own
+    kAlbum,   ///< all tracks are one release
+};
+
+/// A song to publish, with what the user says about it. Empty texts and a number of 0 leave it to the file's
+/// tags.
+struct SongPlan {
+    std::string file; ///< path as bytes, relative to the working folder
+    std::string title;
+    std::string artist;
+    std::string genre;            ///< of a single; an album's is the release's
+    std::int32_t trackNumber = 0; ///< from 1
+};
+
+/// What the user wants to publish. Texts are UTF-8; empty ones leave it to the files' tags.
+struct ReleasePlan {
+    ReleaseMode mode = ReleaseMode::kSingles;
+    std::string albumTitle;  ///< of an album; a single bears the title of its song
+    std::string albumArtist; ///< of an album; a single is by the artist of its song
+    std::string genre;       ///< of every release that has none of its own
+    std::vector<SongPlan> songs;
+};
+
+/// The greatest number of a track that can be said.
+constexpr std::int32_t kMaximumTrackNumber = 9999;
+
+/// Why a text cannot be part of a release; empty when it can be. `name` is what the message calls it.
+std::string problemOfText(const std::string& name, const std::string& text);
+
+} // namespace xbr::host

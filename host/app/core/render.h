@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace xbr::host {
+
+enum class RenderResult : std::uint8_t {
+    kDone,
+    kGivenUp, ///< by `goOn`
+    kFailed,  ///< the song cannot be read to its end, or the file cannot be written
+};
+
+/// Is told the fraction that is done, some times a second; false gives the work up. May run the event loop.
+using RenderProgress = std::function<bool(double fraction)>;
+
+/// Writes the audio of `from`, which may be anything that libsndfile reads, as a WAV file `to`, with the same
+/// rate, channels and depth; no tags. When it does not come to its end no file is left; `error` says why, in
+/// words that follow the name of the song.
+RenderResult renderToWav(const std::string& from, const std::string& to, const RenderProgress& goOn,
+                         std::string& error);
+
+} // namespace xbr::host
