@@ -2,6 +2,7 @@
 
 option(XBR_ASAN "Build with the address and undefined-behaviour sanitizers" OFF)
 option(XBR_TSAN "Build with the thread sanitizer" OFF)
+option(XBR_FUZZ "Build the fuzz targets; needs Clang" OFF)
 
 add_library(xbr_options INTERFACE)
 target_compile_options(xbr_options INTERFACE
@@ -21,6 +22,10 @@ if(XBR_ASAN)
     target_compile_options(xbr_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
         -fno-omit-frame-pointer)
     target_link_options(xbr_options INTERFACE -fsanitize=address,undefined)
+elseif(XBR_FUZZ)
+    target_compile_options(xbr_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+        -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(xbr_options INTERFACE -fsanitize=address,undefined)
 elseif(XBR_TSAN)
     target_compile_options(xbr_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
     target_link_options(xbr_options INTERFACE -fsanitize=thread)
@@ -36,7 +41,9 @@ function(xbr_room name)
         add_executable(${name} ${ROOM_SOURCES})
     elseif(ROOM_SHARED)
         add_library(${name} SHARED ${ROOM_SOURCES})
-        target_link_options(${name} PRIVATE -Wl,-z,defs)
+        if(NOT XBR_FUZZ) # there the program brings what Clang's sanitizers need
+            target_link_options(${name} PRIVATE -Wl,-z,defs)
+        endif()
     else()
         add_library(${name} STATIC ${ROOM_SOURCES})
     endif()

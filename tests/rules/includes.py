@@ -21,6 +21,8 @@ ALLOWED = {
     "host/security": ["framework/abi", "framework/support"],
     "host/app/core": ["framework/abi", "framework/support"],
     "host/app/headless": ["framework/abi", "framework/support", "host/app/core"],
+    "host/app/window": ["framework/abi", "framework/support", "host/app/core"],
+    "host/app": ["host/app/core", "host/app/headless", "host/app/window"],
     "sandbox": [],
 }
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/gui/hostwidgets.h"
+
+#include <QDBusVariant>
+#include <QObject>
+
+#include <optional>
+
+namespace xbr::host {
+
+/// Whether the desktop wants programs to be light or dark (the setting "color-scheme" of the namespace
+/// "org.freedesktop.appearance" in XDG Desktop Portal's interface Settings).
+class DesktopScheme final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit DesktopScheme(QObject* parent);
+
+    /// Nothing when the desktop does not say.
+    std::optional<Appearance> appearance() const { return m_appearance; }
+
+signals:
+    void changed();
+
+private slots:
+    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    void take(const QVariant& value);
+
+    std::optional<Appearance> m_appearance;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,29 @@
+#!/usr/bin/env python3
+"""Brings the translation files into line with the texts of the window.
+
+    update.py [FOLDER]    FOLDER holds the .ts files; without one they are those beside this script
+
+English has plural forms only. Needs lupdate (qt6-l10n-tools)."""
+
+import pathlib
+import subprocess
+import sys
+
+HERE = pathlib.Path(__file__).resolve().parent
+ROOT = HERE.parents[3]
+LUPDATE = "/usr/lib/qt6/bin/lupdate"
+
+
+def main():
+    folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else HERE
+    sources = [str(path) for suffix in ("h", "cpp") for path in sorted(HERE.parent.glob("*." + suffix))]
+    for path in sorted(folder.glob("*.ts")):
+        plurals = ["-pluralonly"] if path.stem == "en" else []
+        command = [LUPDATE, "-silent", "-locations", "none", "-no-obsolete", "-I", str(ROOT), *plurals, *sources, "-ts", str(path)]
+        if subprocess.run(command, check=False).returncode != 0:
+            return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

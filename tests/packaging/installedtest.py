@@ -1,0 +1,93 @@
+"""Installs the build, makes a package of it, and runs what was installed, away from the build."""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import time
+import unittest
+
+BUILD = pathlib.Path(os.environ["BUILD_FOLDER"])
+SESSION = ["DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XBRHOST_MODULE_PATH", "LD_LIBRARY_PATH"]
+
+FILES = {
+    "bin/xbrhost",
+    "lib/xbrhost/libxbrgui.so", "lib/xbrhost/libxbrnet.so", "lib/xbrhost/libxbrsecurity.so",
+    "lib/xbrhost/libxbrsystem.so", "lib/xbrhost/libxbrtext.so",
+    "lib/xbrhost/modules/libbrindlex.so",
+    "share/applications/xbrhost.desktop", "share/applications/xbrhost-open-url.desktop",
+    "share/icons/hicolor/scalable/apps/xbrhost.svg",
+    "share/man/man1/xbrhost.1",
+    "share/metainfo/com.kestrova.xbrhost.metainfo.xml",
+}
+
+
+def files_below(folder):
+    return {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file()}
+
+
+def output_of(*command, **options):
+    return subprocess.run(command, check=True, capture_output=True, text=True, **options).stdout
+
+
+class InstalledTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="brindlex-installed-"))
+        self.addCleanup(shutil.rmtree, self.folder)
+        for name in ("home", "run", "tmp"):
+            (self.folder / name).mkdir(mode=0o700)
+        self.environment = {key: value for key, value in os.environ.items() if key not in SESSION}
+        self.environment.update(HOME=str(self.folder / "home"), XDG_RUNTIME_DIR=str(self.folder / "run"),
+                                XDG_CONFIG_HOME=str(self.folder / "home"), TMPDIR=str(self.folder / "tmp"),
+                                QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
+
+    def use(self, prefix):
+        """Looks at an installation and runs it."""
+        self.assertEqual(files_below(prefix), FILES)
+        for name in FILES:
+            if name.startswith(("bin/", "lib/")):
+                paths = re.findall(r"R(?:UN)?PATH.*\[(.*)\]", output_of("readelf", "-d", str(prefix / name)))
+                self.assertEqual([path.startswith("$ORIGIN") for path in paths], [True], (name, paths))
+        program = prefix / "bin/xbrhost"
+        status = subprocess.run([program, "status"], env=self.environment, capture_output=True, text=True, check=False)
+        self.assertEqual(status.returncode, 9, "the module is found, and asks for settings that are missing: " +
+                         status.stderr)
+        window = subprocess.Popen([program, "window"], env=self.environment)
+        try:
+            self.assertTrue(self.answers(program), "the window opens")
+        finally:
+            window.terminate()
+        self.assertEqual(window.wait(20), 0)
+
+    def answers(self, program):
+        end = time.monotonic() + 20
+        while time.monotonic() < end:
+            if subprocess.run([program, "open-url", "xbrhost:window"], env=self.environment, capture_output=True,
+                              check=False).returncode == 0:
+                return True
+            time.sleep(0.05)
+        return False
+
+    def test_an_installation_runs_wherever_it_is(self):
+        prefix = self.folder / "installed"
+        output_of(os.environ["CMAKE"], "--install", str(BUILD), "--prefix", str(prefix))
+        moved = self.folder / "moved elsewhere"
+        prefix.rename(moved)
+        self.use(moved)
+
+    def test_a_package_names_what_it_needs(self):
+        output_of(os.environ["CPACK"], "-G", "DEB", "-B", str(self.folder / "package"), "--config",
+                  str(BUILD / "CPackConfig.cmake"), cwd=self.folder)
+        package, = (self.folder / "package").glob("*.deb")
+        depends = output_of("dpkg-deb", "--field", str(package), "Depends")
+        for needed in ("libqt6widgets6", "libqt6svg6", "libcurl4", "libzip4", "libsecret-1-0", "libtag1v5",
+                       "libsndfile1", "xdg-utils", "shared-mime-info"):
+            self.assertRegex(depends, rf"\b{needed}\b")
+        output_of("dpkg-deb", "--extract", str(package), str(self.folder / "root"))
+        self.use(self.folder / "root/usr")
+
+
+if __name__ == "__main__":
+    unittest.main()

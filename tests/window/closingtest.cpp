@@ -1,0 +1,150 @@
+// The window is closed, or the module goes, in moments that suit nobody.
+
+#include "host/app/window/progresssheet.h"
+#include "host/app/window/viewdialogframe.h"
+#include "tests/window/fixture.h"
+
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QTest>
+
+#include <filesystem>
+#include <fstream>
+
+namespace xbr::host::tests {
+
+namespace {
+
+/// Presses a button of the message box that comes up.
+std::unique_ptr<QTimer> answer(const QString& button) {
+    return whenever([button] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) {
+            return false;
+        }
+        for (QAbstractButton* each : box->buttons()) {
+            if (each->text().remove('&') == button) {
+                QTest::mouseClick(each, Qt::LeftButton);
+                return true;
+            }
+        }
+        return false;
+    });
+}
+
+} // namespace
+
+TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
+    openReady(stage.songs());
+    stage.service().addFault(
+        R"({"path":"/api/frontstage/release_ingestion","delay_ms":1500,"times":9})");
+    makeAlbum();
+    click(window(), "upload");
+    ASSERT_TRUE(statusSays("Uploading"));
+
+    const auto keeping = answer("Keep Uploading");
+    EXPECT_FALSE(window().close());
+    EXPECT_TRUE(window().isVisible());
+    ASSERT_TRUE(waitFor([&] { return states() == "Done|Done|Done"; })) << states();
+
+    click(window(), "publish");
+    makeAlbum();
+    click(window(), "upload");
+    ASSERT_TRUE(statusSays("Uploading"));
+    const auto stopping = answer("Stop and Quit");
+    EXPECT_TRUE(window().close());
+    stage.close();
+    QTest::qWait(100);
+    EXPECT_EQ(stage.arrived(), 1U) << "what was stopped did not arrive";
+}
+
+TEST_F(WindowTest, closingInsideTheConnectDialogEndsItFirst) {
+    qputenv("BROWSER", "/bin/true"); // never comes back
+    open(stage.songs());
+    bool wasInDialog = false;
+    const auto act = whenever([&] {
+        if (!qobject_cast<ViewDialogFrame*>(QApplication::activeModalWidget())) {
+            return false;
+        }
+        wasInDialog = true;
+        window().end();
+        return true;
+    });
+    click(window(), "connect");
+    EXPECT_TRUE(wasInDialog);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_TRUE(stage.host().context().modalRuns.isEmpty());
+    stage.close();
+}
+
+TEST_F(WindowTest, closingWhileSongsArePackedCancelsThat) {
+    auto songs = stage.songs();
+    songs.push_back(stage.untaggedSong("Long.wav", 1U << 30U));
+    openReady(songs);
+    makeAlbum();
+    bool wasPacking = false;
+    const auto act = whenever([&] {
+        auto* sheet = qobject_cast<ProgressSheet*>(QApplication::activeModalWidget());
+        wasPacking = sheet != nullptr;
+        if (sheet) {
+            window().end();
+        }
+        return wasPacking;
+    });
+    click(window(), "upload");
+    EXPECT_TRUE(wasPacking);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_TRUE(stage.host().context().modalRuns.isEmpty());
+    stage.close();
+    EXPECT_TRUE(std::filesystem::is_empty(stage.path("tmp")));
+}
+
+TEST_F(WindowTest, theDialogsFrameAndKeysCloseItAndConnectWorksAgain) {
+    qputenv("BROWSER", "/bin/true");
+    open({});
+    const auto act = whenever([] {
+        auto* frame = qobject_cast<ViewDialogFrame*>(QApplication::activeModalWidget());
+        if (frame) {
+            QTest::keyClick(frame, Qt::Key_Escape);
+        }
+        return frame != nullptr;
+    });
+    click(window(), "connect");
+    EXPECT_TRUE(statusSays("Not connected yet"));
+    qputenv("BROWSER", TEST_BROWSER);
+    signIn();
+}
+
+TEST_F(WindowTest, itOpensAgainAndAgainInOneProcess) {
+    for (int i = 0; i < 5; ++i) {
+        open(stage.songs());
+        click(window(), "publish");
+        EXPECT_TRUE(window().close());
+        stage.close();
+    }
+}
+
+TEST_F(WindowTest, theLayoutIsRememberedAndHoldsNoSecret) {
+    open({});
+    window().resize(1111, 666);
+    window().docks().front()->hide();
+    EXPECT_TRUE(choose(window(), "Dark"));
+    EXPECT_TRUE(window().close());
+    stage.close();
+    open({});
+    EXPECT_EQ(window().size(), QSize(1111, 666));
+    EXPECT_FALSE(window().docks().front()->isVisible());
+    EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+    EXPECT_TRUE(choose(window(), "Light"));
+    EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+    EXPECT_TRUE(choose(window(), "Reset Layout"));
+    EXPECT_TRUE(window().docks().front()->isVisible());
+    for (const char* file : {"home/config/xbrhost/window.ini"}) {
+        std::ifstream stream(stage.path(file));
+        const std::string all((std::istreambuf_iterator<char>(stream)), {});
+        EXPECT_NE(all.find("appearance"), std::string::npos);
+        EXPECT_EQ(all.find("secret"), std::string::npos);
+    }
+}
+
+} // namespace xbr::host::tests

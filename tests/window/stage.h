@@ -1,0 +1,81 @@
+#pragma once
+
+#include "host/app/window/windowhost.h"
+#include "tests/sandbox/runningservice.h"
+
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace xbr::host::tests {
+
+/// Where a test of the window plays: a service, songs, and folders of its own in the place of the user's. The
+/// program's own library, extension and callback program are the built ones.
+class Stage {
+public:
+    /// `seconds` is the length of the songs.
+    explicit Stage(int seconds = 1);
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    ~Stage();
+
+    RunningService& service() { return *m_service; }
+
+    /// The service is gone from now on.
+    void stopService() { m_service.reset(); }
+
+    /// A file or folder of this stage.
+    std::string path(const std::string& name) const;
+
+    /// Three songs with all the information that a release needs: MP3, FLAC, WAV by name.
+    const std::vector<std::string>& songs() const { return m_songs; }
+
+    /// A song of silence without any tags; it takes no room on the disk, however long it is.
+    std::string untaggedSong(const std::string& name, std::uint32_t bytes = 1024) const;
+
+    /// A song of a kind that has to be rendered.
+    std::string renderedSong(const std::string& name) const;
+
+    /// Settings of the service; an empty address leaves them out.
+    void configure(const std::string& server) const;
+
+    /// Starts the window. `module` is the built extension unless something else is named.
+    WindowHost& open(const std::vector<std::string>& files = {}, const std::string& module = {});
+    WindowHost& host() { return *m_host; }
+    MainWindow& window() { return m_host->window(); }
+
+    /// Gives the window the keyboard, as a desktop does when a dialog closes.
+    void activate();
+
+    /// Takes the window down, as the end of the program does.
+    void close() { m_host.reset(); }
+
+    /// What the status line says.
+    std::string status();
+
+    /// The releases that arrived.
+    std::size_t arrived() const;
+
+private:
+    void setVariable(const char* name, const std::string& value);
+    void makeSongs(int seconds);
+
+    std::vector<std::pair<const char*, QByteArray>> m_variables; ///< of the environment, as they were
+    QTemporaryDir m_folder;
+    std::unique_ptr<RunningService> m_service;
+    std::vector<std::string> m_songs;
+    std::unique_ptr<WindowHost> m_host;
+};
+
+/// Runs the event loop until the condition holds; false when that takes too long.
+bool waitFor(const std::function<bool()>& condition, int milliseconds = 20000);
+
+/// Calls a function again and again, in whatever event loop runs, until it answers true or the handle dies.
+[[nodiscard]] std::unique_ptr<QTimer> whenever(const std::function<bool()>& act);
+
+} // namespace xbr::host::tests
