@@ -47,7 +47,8 @@ private:
 };
 
 std::string environment(const char* name) {
-    const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe): nothing in the host sets variables
+    const char* value =
+        std::getenv(name); // NOLINT(concurrency-mt-unsafe): nothing in the host sets variables
     return value ? value : std::string();
 }
 

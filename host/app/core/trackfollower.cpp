@@ -53,16 +53,32 @@ TrackFollower::TrackFollower(Ref<IListViewModel> tracks, std::function<void()> t
           if (isNamed(message, "itemChanged")) {
               readRow(static_cast<std::int32_t>(integerOf(message.argument(0), -1)));
           } else if (isNamed(message, "changed")) {
-              readAll();
+              m_later.start();
           }
       }) {
+    m_later.setSingleShot(true);
+    m_later.setInterval(0);
+    m_later.callOnTimeout([this] { readAll(); });
     for (std::int32_t row = 0; row < m_tracks->countRows(); ++row) {
         m_reports.push_back(read(*m_tracks, row));
     }
     m_listener.listen(query<ISubject>(m_tracks.get()));
 }
 
-bool TrackFollower::isUploading() const {
+const std::vector<TrackReport>& TrackFollower::reports() {
+    catchUp();
+    return m_reports;
+}
+
+void TrackFollower::catchUp() {
+    if (m_later.isActive()) {
+        m_later.stop();
+        readAll();
+    }
+}
+
+bool TrackFollower::isUploading() {
+    catchUp();
     return std::any_of(m_reports.begin(), m_reports.end(),
                        [](const TrackReport& report) { return report.isUploading; });
 }

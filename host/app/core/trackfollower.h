@@ -4,6 +4,8 @@
 #include "framework/support/object.h"
 #include "host/app/core/signallistener.h"
 
+#include <QTimer>
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -33,7 +35,8 @@ struct TrackReport {
 /// What to call a track: its title, or the name of its file when it has none.
 std::string labelOf(const TrackReport& track);
 
-/// Reads a list of tracks and tells what changes in it.
+/// Reads a list of tracks and tells what changes in it. A list that says "changed" is read with the next turn
+/// of the event loop, or when somebody asks: an album of many tracks says so for each of them.
 class TrackFollower {
 public:
     using Changed = std::function<void(const TrackReport& track)>;
@@ -42,10 +45,12 @@ public:
     /// different from before.
     TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed);
 
-    const std::vector<TrackReport>& reports() const { return m_reports; }
-    bool isUploading() const;
+    /// The tracks as they are now. May call `changed`.
+    const std::vector<TrackReport>& reports();
+    bool isUploading();
 
 private:
+    void catchUp();
     void readAll();
     void readRow(std::int32_t row);
 
@@ -53,6 +58,7 @@ private:
     std::function<void()> m_touched;
     Changed m_changed;
     std::vector<TrackReport> m_reports;
+    QTimer m_later; ///< runs while the list has changed and was not read since
     SignalListener m_listener;
 };
 
