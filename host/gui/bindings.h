@@ -35,8 +35,12 @@ bool bindParameter(QWidget& widget, std::unique_ptr<ValueSource> source);
 /// A combo box for a list parameter; an editable one finds entries by what is typed.
 bool bindChoice(QWidget& widget, std::unique_ptr<ValueSource> source);
 
-/// The value as text of a label or button, cut off with dots where the width is not the widget's to choose.
+/// The value as text of a label or button, cut off with dots where the width is not the widget's to choose, and
+/// after `xbrMaximumLength` characters.
 bool bindText(QWidget& widget, std::unique_ptr<ValueSource> source);
+
+/// The value as the name for screen readers.
+bool bindName(QWidget& widget, std::unique_ptr<ValueSource> source);
 
 /// A button that opens an address in the browser.
 bool bindLink(QWidget& widget, std::unique_ptr<ValueSource> source);
@@ -50,6 +54,12 @@ bool bindStyle(QWidget& widget, std::unique_ptr<ValueSource> source, const std::
 
 /// A list for a list model.
 bool bindList(QWidget& widget, IController& scope, const std::string& path);
+
+/// The picture of an image source, instead of a label's text.
+bool bindImage(QWidget& widget, IController& scope, const std::string& path);
+
+/// A button for a command of the scope's ICommandList, by its number there.
+bool bindCommand(QWidget& widget, IController& scope, const std::string& number);
 
 /// A picture of the skin, on a button or instead of a label's text.
 bool bindIcon(QWidget& widget, const Skin& skin, const std::string& file);

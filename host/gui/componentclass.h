@@ -7,8 +7,8 @@
 
 namespace xbr::host {
 
-/// Creates a controller of the class of that name (category "Component" of the plug-in manager); empty when
-/// there is none.
-Ref<IController> createComponentByName(std::string_view name);
+/// Creates a controller of the class of that name (category "Component" of the plug-in manager) for a form of
+/// `module`, with the properties that the host program has for it; empty when there is none.
+Ref<IController> createComponentByName(std::string_view name, std::string_view module);
 
 } // namespace xbr::host

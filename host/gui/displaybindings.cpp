@@ -49,6 +49,16 @@ void showPage(QStackedWidget& pages, std::int64_t number) {
     QAccessible::updateAccessibility(&alert);
 }
 
+/// Cuts a text off after so many characters, between words where there are any; 0 for any length.
+QString shortened(const QString& text, int limit) {
+    if (limit <= 0 || text.size() <= limit) {
+        return text;
+    }
+    const QString start = text.left(limit);
+    const auto space = start.lastIndexOf(QLatin1Char(' '));
+    return start.left(space > limit / 2 ? space : limit).trimmed() + QChar(0x2026);
+}
+
 /// Gives a widget the style of its form, or its usual one, in looks and in words.
 void setStyled(QWidget& widget, bool isStyled) {
     const QVariant style = isStyled ? widget.property("xbrStyleName") : QVariant(QString());
@@ -78,8 +88,16 @@ bool bindText(QWidget& widget, std::unique_ptr<ValueSource> source) {
         return false;
     }
     auto* text = new ElidedText(widget);
+    const int limit = widget.property("xbrMaximumLength").toInt();
+    new ValueBinding(widget, std::move(source), [text, limit](const ValueSource& value) {
+        text->set(shortened(value.text(), limit));
+    });
+    return true;
+}
+
+bool bindName(QWidget& widget, std::unique_ptr<ValueSource> source) {
     new ValueBinding(widget, std::move(source),
-                     [text](const ValueSource& value) { text->set(value.text()); });
+                     [&widget](const ValueSource& value) { widget.setAccessibleName(value.text()); });
     return true;
 }
 

@@ -10,8 +10,11 @@
 #include "host/gui/formloader.h"
 #include "host/gui/formtranslation.h"
 #include "host/gui/hostwidgets.h"
+#include "host/gui/rowlist.h"
 
 #include <QBuffer>
+#include <QEvent>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <QVariant>
 #include <QWidget>
@@ -33,6 +36,41 @@ void fill(QWidget& widget, QWidget& content) {
     layout->addWidget(&content);
 }
 
+/// Puts a view into a widget when that is shown for the first time.
+class LaterView final : public QObject {
+public:
+    LaterView(QWidget& widget, Ref<IController> scope, std::string name)
+        : QObject(&widget),
+          m_widget(&widget),
+          m_scope(std::move(scope)),
+          m_name(std::move(name)) {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Show) {
+            m_widget->removeEventFilter(this);
+            if (QWidget* content = makeView(*m_scope, m_name, *m_widget)) {
+                fill(*m_widget, *content);
+                content->show();
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+    /// Null when the controller makes no such view.
+    static QWidget* makeView(IController& scope, const std::string& name, QWidget& parent) {
+        Ref<IView> view;
+        const bool isMade = scope.createView(toText(name), view.out()) == kOk && view;
+        return isMade ? createViewWidget(*view, &parent) : nullptr;
+    }
+
+private:
+    QWidget* m_widget;
+    Ref<IController> m_scope;
+    std::string m_name;
+};
+
 /// Fonts of a form are said in relation to the user's.
 void scaleFont(QWidget& widget) {
     bool isNumber = false;
@@ -52,8 +90,20 @@ struct ValueKindOfBinding {
 constexpr ValueKindOfBinding kValues[] = {
     {"xbrParameter", bindParameter},
     {"xbrText", bindText},
+    {"xbrAccessibleName", bindName},
     {"xbrLink", bindLink},
     {"xbrPageSwitch", bindPages},
+};
+
+/// Ways that need something of the scope other than a value.
+struct ScopeBinding {
+    const char* property;
+    bool (*bind)(QWidget& widget, IController& scope, const std::string& path);
+};
+constexpr ScopeBinding kObjects[] = {
+    {"xbrListModel", bindList},
+    {"xbrImage", bindImage},
+    {"xbrCommand", bindCommand},
 };
 
 /// Ways that put a condition on it.
@@ -68,7 +118,9 @@ constexpr Conditional kConditions[] = {
 
 } // namespace
 
-FormBuilder::FormBuilder(const Skin& skin) : m_skin(skin) {
+FormBuilder::FormBuilder(const Skin& skin, std::vector<std::string> forms)
+    : m_skin(skin),
+      m_forms(std::move(forms)) {
     XBRGetLocaleManager()->getTable(toText(skin.module), m_translations.out());
 }
 
@@ -117,8 +169,9 @@ bool FormBuilder::createComponent(QWidget& widget, Ref<IController>& scope) {
     if (className.empty()) {
         return true;
     }
-    scope = createComponentByName(className);
+    scope = createComponentByName(className, m_skin.module);
     if (!scope) {
+        widget.hide(); // it would show nothing but its empty frame
         warn(className, "there is no such class of components");
         return false;
     }
@@ -129,12 +182,15 @@ bool FormBuilder::createComponent(QWidget& widget, Ref<IController>& scope) {
 void FormBuilder::bindWidget(QWidget& widget, IController& scope) {
     scaleFont(widget);
     bindValues(widget, scope);
-    if (const auto path = propertyOf(widget, "xbrListModel"); !path.empty()) {
-        check(bindList(widget, scope, path), widget, path);
+    for (const auto& [property, bind] : kObjects) {
+        if (const auto path = propertyOf(widget, property); !path.empty()) {
+            check(bind(widget, scope, path), widget, path);
+        }
     }
     if (const auto file = propertyOf(widget, "xbrIcon"); !file.empty()) {
         check(bindIcon(widget, m_skin, file), widget, file);
     }
+    repeatForm(widget, scope);
     embedForm(widget, scope);
     embedView(widget, scope);
 }
@@ -155,16 +211,37 @@ void FormBuilder::bindValues(QWidget& widget, IController& scope) {
     }
 }
 
-void FormBuilder::embedForm(QWidget& widget, IController& scope) {
-    const std::string form = propertyOf(widget, "xbrForm");
-    if (form.empty()) {
-        return;
-    }
+bool FormBuilder::canEmbed(const std::string& form) {
     if (std::find(m_forms.begin(), m_forms.end(), form) != m_forms.end()) {
         warn(form, "the form would hold itself");
-    } else if (!m_skin.forms.contains(form)) {
+        return false;
+    }
+    if (!m_skin.forms.contains(form)) {
         warn(form, "there is no such form");
-    } else if (QWidget* content = build(form, scope, &widget)) {
+        return false;
+    }
+    return true;
+}
+
+void FormBuilder::repeatForm(QWidget& widget, IController& scope) {
+    const std::string form = propertyOf(widget, "xbrRows");
+    if (form.empty() || !canEmbed(form)) {
+        return;
+    }
+    const bool isPossible = RowList::fits(widget);
+    check(isPossible, widget, form);
+    if (isPossible) {
+        new RowList(static_cast<QScrollArea&>(widget), Ref<IController>::share(&scope),
+                    propertyOf(widget, "xbrRowsOf"), form, FormBuilder(m_skin, m_forms));
+    }
+}
+
+void FormBuilder::embedForm(QWidget& widget, IController& scope) {
+    const std::string form = propertyOf(widget, "xbrForm");
+    if (form.empty() || !canEmbed(form)) {
+        return;
+    }
+    if (QWidget* content = build(form, scope, &widget)) {
         fill(widget, *content);
     }
 }
@@ -174,11 +251,11 @@ void FormBuilder::embedView(QWidget& widget, IController& scope) {
     if (name.empty()) {
         return;
     }
-    Ref<IView> view;
-    QWidget* content = scope.createView(toText(name), view.out()) == kOk && view
-                           ? createViewWidget(*view, &widget)
-                           : nullptr;
-    if (content) {
+    const bool isHidden =
+        widget.testAttribute(Qt::WA_WState_ExplicitShowHide) && widget.testAttribute(Qt::WA_WState_Hidden);
+    if (isHidden) {
+        new LaterView(widget, Ref<IController>::share(&scope), name);
+    } else if (QWidget* content = LaterView::makeView(scope, name, widget)) {
         fill(widget, *content);
     } else {
         warn(name, "the controller makes no such view");

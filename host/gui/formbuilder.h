@@ -21,8 +21,8 @@ namespace xbr::host {
 /// What cannot be bound is told once, with the form and the path, to developers; the rest of the form works.
 class FormBuilder {
 public:
-    /// The skin must live as long as this builder.
-    explicit FormBuilder(const Skin& skin);
+    /// The skin must live as long as this builder. `forms` are those that enclose what is built.
+    explicit FormBuilder(const Skin& skin, std::vector<std::string> forms = {});
 
     /// `form` is one of the skin's. Null when it cannot be made; a warning says why.
     QWidget* build(const std::string& form, IController& controller, QWidget* parent);
@@ -36,8 +36,12 @@ private:
     bool createComponent(QWidget& widget, Ref<IController>& scope);
     void bindWidget(QWidget& widget, IController& scope);
     void bindValues(QWidget& widget, IController& scope);
+    void repeatForm(QWidget& widget, IController& scope);
     void embedForm(QWidget& widget, IController& scope);
     void embedView(QWidget& widget, IController& scope);
+
+    /// False, with a warning, for a form that the skin does not have, or that is being built.
+    bool canEmbed(const std::string& form);
 
     /// The source behind a path; null with a warning when there is none.
     std::unique_ptr<ValueSource> find(IController& scope, const std::string& path);

@@ -1,12 +1,20 @@
 #include "host/system/filestream.h"
 
 #include "host/system/fileproblem.h"
+#include "host/system/workprogress.h"
 
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 
 namespace xbr::host {
+
+namespace {
+
+/// Who reads pieces of this size reads a whole song or archive.
+constexpr std::uint64_t kLongRead = std::uint64_t{256} << 10U;
+
+} // namespace
 
 FileDescriptor openRegularFile(const std::string& path, int flags) {
     FileDescriptor file(::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666));
@@ -68,6 +76,10 @@ std::optional<std::int64_t> soughtPosition(std::int64_t offset, SeekOrigin origi
 }
 
 Result FileStream::read(void* buffer, std::uint64_t size, std::uint64_t* done) noexcept {
+    *done = 0;
+    if (size >= kLongRead && !keepIndicatorAlive()) {
+        return kUnexpected; // what was prepared is not wanted any more
+    }
     const auto came = readAt(m_file.get(), buffer, size, m_position);
     *done = came.value_or(0);
     m_position += static_cast<std::int64_t>(*done);

@@ -7,6 +7,7 @@
 #include "host/system/filestream.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/mainthread.h"
+#include "host/system/workprogress.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -32,6 +33,10 @@ bool makeParents(const std::string& path) {
         errno = error.value(); // as the calls that follow would tell
     }
     return !error;
+}
+
+std::string_view nameOf(std::string_view path) {
+    return path.substr(path.rfind('/') + 1);
 }
 
 bool isOfKind(const std::string& path, mode_t kind) {
@@ -103,13 +108,18 @@ Result FileSystem::copyFile(Text from, Text to) noexcept {
     if (!source || !target) {
         return kInvalidArgument;
     }
-    errno = 0;
-    const bool isCopied =
-        isOfKind(*source, S_IFREG) && makeParents(*target) && host::copyFile(*source, *target);
-    if (!isCopied) {
-        noteFileProblem("'" + *source + "' cannot be copied", errno);
+    int error = 0;
+    const Result result = runForIndicator(nameOf(*source), [&](const std::stop_token& stop) {
+        errno = 0;
+        const bool isCopied =
+            isOfKind(*source, S_IFREG) && makeParents(*target) && host::copyFile(*source, *target, stop);
+        error = errno;
+        return isCopied ? kOk : stop.stop_requested() ? kFalse : kUnexpected;
+    });
+    if (result == kUnexpected) {
+        noteFileProblem("'" + *source + "' cannot be copied", error);
     }
-    return isCopied ? kOk : kUnexpected;
+    return result == kOk ? kOk : kUnexpected;
 }
 
 bool FileSystem::fileExists(Text url) noexcept {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/abi/progress.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
@@ -17,6 +19,11 @@ using BrowserAnnouncer = std::function<bool(std::string_view url)>;
 /// Drops every message that is posted and not delivered yet. Main thread; to be called before a module's
 /// library is closed, because messages that it made are code and data of that library.
 [[gnu::visibility("default")]] void dropPostedMessages() noexcept;
+
+/// Names the indicator that the front end shows now, or none (null); not kept. Work that the border gives no
+/// progress for, such as copying a file, tells it what is done and ends when the user cancels there. Main
+/// thread.
+[[gnu::visibility("default")]] void setWorkProgress(IProgress* progress);
 
 /// Removes the temporary folder with everything in it, if this process made one. Happens by itself when the
 /// process ends through exit(); a next request for the folder makes a new one. Main thread.

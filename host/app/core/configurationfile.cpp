@@ -5,6 +5,7 @@
 #include <QByteArrayView>
 #include <QStandardPaths>
 #include <QStringDecoder>
+#include <QUrl>
 
 #include <algorithm>
 #include <cstdlib>
@@ -50,6 +51,17 @@ void setValue(Settings& settings, std::string_view key, std::string_view value) 
 }
 
 } // namespace
+
+std::string valueOf(const Settings& settings, std::string_view key) {
+    const auto found =
+        std::find_if(settings.begin(), settings.end(), [&](const auto& pair) { return pair.first == key; });
+    return found == settings.end() ? std::string() : found->second;
+}
+
+bool isWebAddress(const std::string& value) {
+    const QUrl url(QString::fromStdString(value), QUrl::StrictMode);
+    return url.isValid() && (url.scheme() == "http" || url.scheme() == "https") && !url.host().isEmpty();
+}
 
 std::string configurationPath() {
     // The environment is read on the main thread, and nothing in the host writes it.

@@ -27,4 +27,10 @@ std::string configurationPath();
 /// repeats the last value counts.
 ConfigurationResult readConfiguration(const std::string& path, std::string_view section, Settings& settings);
 
+/// The value of a key; empty when there is none.
+std::string valueOf(const Settings& settings, std::string_view key);
+
+/// Whether a value is an http or https address with a host.
+bool isWebAddress(const std::string& value);
+
 } // namespace xbr::host

@@ -5,8 +5,6 @@
 
 #include <QUrl>
 
-#include <algorithm>
-
 namespace xbr::host {
 
 namespace {
@@ -14,17 +12,6 @@ namespace {
 constexpr std::string_view kServerKey = "ServerURL";
 constexpr std::string_view kCallbackKey = "CallbackURL";
 constexpr std::string_view kNeededKeys[] = {kServerKey, "ConsumerKey", "ConsumerSecret", kCallbackKey};
-
-std::string valueOf(const Settings& settings, std::string_view key) {
-    const auto found =
-        std::find_if(settings.begin(), settings.end(), [&](const auto& pair) { return pair.first == key; });
-    return found == settings.end() ? std::string() : found->second;
-}
-
-bool isWebAddress(const std::string& value) {
-    const QUrl url(QString::fromStdString(value), QUrl::StrictMode);
-    return url.isValid() && (url.scheme() == "http" || url.scheme() == "https") && !url.host().isEmpty();
-}
 
 /// The browser comes back to any scheme that the desktop hands to us.
 bool isAddress(const std::string& value) {

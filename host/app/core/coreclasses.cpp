@@ -2,6 +2,7 @@
 
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/text.h"
+#include "host/app/core/componentproperties.h"
 #include "host/app/core/mediafileinfo.h"
 
 namespace xbr::host {
@@ -23,9 +24,11 @@ CoreClasses::CoreClasses(const std::shared_ptr<ConfigurationReport>& report)
     });
     m_classes->add(kMediaFileInfo, creatorOf<MediaFileInfo>());
     XBRGetPlugInManager()->addFactory(m_classes.get());
+    setComponentSettings(&configuredProperties);
 }
 
 CoreClasses::~CoreClasses() {
+    setComponentSettings({});
     XBRGetPlugInManager()->removeFactory(m_classes.get());
 }
 

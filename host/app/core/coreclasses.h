@@ -8,7 +8,8 @@
 namespace xbr::host {
 
 /// The classes that the program offers whatever its front end is: IConfigurationStore and IMediaFileInfo.
-/// They are with the plug-in manager as long as this object lives.
+/// They are with the plug-in manager as long as this object lives, and components of forms get what the
+/// configuration file says for them.
 class CoreClasses {
 public:
     explicit CoreClasses(const std::shared_ptr<ConfigurationReport>& report);

@@ -122,9 +122,10 @@ bool parseCommandLine(const std::vector<std::string>& arguments, CommandLine& co
 }
 
 std::string helpText() {
-    return R"(Usage: xbrhost COMMAND [OPTION]... [ARGUMENT]...
+    return R"(Usage: xbrhost [COMMAND] [OPTION]... [ARGUMENT]...
 
 Commands:
+  window [FILE...]            open the window, with songs; also without a command
   publish [--album] FILE...   publish songs; signs in when needed
   publish --release FILE      publish what a release file says (see xbrhost(1))
   sign-in                     sign in through the browser

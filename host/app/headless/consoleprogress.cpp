@@ -22,7 +22,7 @@ void ConsoleProgress::setOption(std::int32_t option) noexcept {
 }
 
 void ConsoleProgress::begin() noexcept {
-    m_scope = std::make_unique<IndicatorScope>(m_context->activity);
+    m_scope = std::make_unique<IndicatorScope>(m_context->activity, *this);
     m_told.invalidate();
 }
 

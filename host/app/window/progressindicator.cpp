@@ -17,8 +17,9 @@ QString toQString(Text text) {
 
 } // namespace
 
-ProgressIndicator::Work::Work(WindowContext& context, const QString& title, bool isCancellable)
-    : scope(context.activity),
+ProgressIndicator::Work::Work(ProgressIndicator& indicator, WindowContext& context, const QString& title,
+                              bool isCancellable)
+    : scope(context.activity, indicator),
       sheet(new ProgressSheet(context.window, title, isCancellable)),
       run(context.modalRuns, [this] {
           if (sheet) {
@@ -39,7 +40,7 @@ void ProgressIndicator::setOption(std::int32_t option) noexcept {
 void ProgressIndicator::begin() noexcept {
     if (!m_work) {
         m_wasCancelled = false;
-        m_work = std::make_unique<Work>(*m_context, m_title, m_isCancellable);
+        m_work = std::make_unique<Work>(*this, *m_context, m_title, m_isCancellable);
     }
 }
 

@@ -29,7 +29,7 @@ public:
 private:
     /// What there is between `begin` and `end`.
     struct Work {
-        Work(WindowContext& context, const QString& title, bool isCancellable);
+        Work(ProgressIndicator& indicator, WindowContext& context, const QString& title, bool isCancellable);
 
         IndicatorScope scope;
         QPointer<ProgressSheet> sheet;

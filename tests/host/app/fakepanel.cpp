@@ -12,6 +12,12 @@ namespace xbr::host {
 
 namespace {
 
+class QuietProgress final : public Object<IProgress> {
+public:
+    void update(double, Text) noexcept override {}
+    bool isCancelled() noexcept override { return false; }
+};
+
 constexpr Uid kPanel = uid("b1d7e6a4-0d51-4f6c-9f0e-6f6bd1a10001");
 constexpr Uid kPublisher = uid("b1d7e6a4-0d51-4f6c-9f0e-6f6bd1a10002");
 constexpr int kConnect = 100;
@@ -175,7 +181,8 @@ private:
             return;
         }
         {
-            const IndicatorScope indicator(m_script->activity);
+            const auto progress = make<QuietProgress>();
+            const IndicatorScope indicator(m_script->activity, *progress);
             if (m_script->duringPreparation) {
                 m_script->duringPreparation();
             }

@@ -35,7 +35,6 @@ TEST(Program, everyErrorHasItsExitCodeAndOneLine) {
         QStringList arguments;
         int exitCode;
     } cases[] = {
-        {{}, 2},
         {{"unknown"}, 2},
         {{"publish"}, 2},
         {{"publish", "--unknown", "a.wav"}, 2},

@@ -3,12 +3,16 @@
 #include "framework/support/memorystream.h"
 #include "framework/support/text.h"
 #include "host/system/hostfileurl.h"
+#include "host/system/hostsystem.h"
+#include "tests/host/system/packagefixture.h"
 #include "tests/host/system/testfiles.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <optional>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace xbr::host::tests {
@@ -59,6 +63,30 @@ protected:
     TestFolder folder;
     Ref<IStream> stream;
 };
+
+TEST_F(FileSystemTest, LongWorkIsShownAndCanBeCancelled) {
+    writeFile(at("song.wav"), std::string(5U << 20U, 's'));
+    const auto indicator = make<RecordingProgress>();
+    setWorkProgress(indicator.get());
+    EXPECT_EQ(copy("song.wav", "copy"), kOk);
+    EXPECT_EQ(indicator->names, std::vector<std::string>{"song.wav"});
+    ASSERT_EQ(open("copy"), kOk);
+    EXPECT_EQ(readAll(*stream).size(), 5U << 20U);
+
+    indicator->cancelled = true;
+    EXPECT_EQ(copy("song.wav", "other"), kUnexpected);
+    EXPECT_FALSE(fs::exists(at("other")));
+    std::vector<char> piece(1U << 20U);
+    std::uint64_t done = 0;
+    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // it looks some times a second
+    ASSERT_EQ(stream->seek(0, SeekOrigin::kStart, nullptr), kOk);
+    EXPECT_EQ(stream->read(piece.data(), piece.size(), &done), kUnexpected);
+    EXPECT_EQ(takeFileProblem(), "") << "the user knows";
+
+    setWorkProgress(nullptr);
+    EXPECT_EQ(copy("song.wav", "other"), kOk);
+    EXPECT_EQ(stream->read(piece.data(), piece.size(), &done), kOk);
+}
 
 TEST_F(FileSystemTest, OpensRegularFilesOnly) {
     writeFile(at("plain"), "bytes");
