@@ -41,7 +41,6 @@ void writeDocument(xbr::Attributes& release, xbr::IAttributeQueue& songs) {
 xbr::Ref<IngestionRequest> buildAlbumPayload(const std::vector<xbr::Ref<TrackMetadata>>& records,
                                              const std::vector<xbr::Url>& files, std::string_view clientId,
                                              xbr::IProgress& progress) {
-    cleanupPayload(); // what an aborted transfer or a failed build left would travel with this release
     const auto release = xbr::make<xbr::Attributes>();
     const auto songs = xbr::make<xbr::AttributeQueue>();
     for (std::size_t i = 0; i < records.size(); ++i) {
@@ -61,7 +60,6 @@ xbr::Ref<IngestionRequest> buildAlbumPayload(const std::vector<xbr::Ref<TrackMet
 
 xbr::Ref<IngestionRequest> buildTrackPayload(const TrackMetadata& record, const xbr::Url& file,
                                              std::string_view clientId, xbr::IProgress& progress) {
-    cleanupPayload(); // what an aborted transfer or a failed build left would travel with this release
     const auto audio = openAudio(file);
     if (!audio) {
         return {};

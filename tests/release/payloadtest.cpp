@@ -88,16 +88,6 @@ TEST_F(PayloadTest, AlbumTakesTheReleaseFromItsFirstTrack) {
     EXPECT_THAT(archive, HasSubstr("assets/b.mp3=ID3;"));
 }
 
-TEST_F(PayloadTest, NothingOfAnEarlierBuildTravelsAlong) {
-    const xbr::Url songs[] = {xbr::Url("file:///music/b.mp3"), xbr::Url("file:///music/My%20Song.wav")};
-    for (const xbr::Url& song : songs) {
-        ASSERT_TRUE(brindlex::buildTrackPayload(*record("S"), song, "key", *progress));
-    }
-    EXPECT_THAT(host().files.files.at(kArchive), testing::Not(HasSubstr("b.mp3")));
-    ASSERT_TRUE(brindlex::buildAlbumPayload({record("A")}, {songs[0]}, "key", *progress));
-    EXPECT_THAT(host().files.files.at(kArchive), testing::Not(HasSubstr("My%20Song.wav")));
-}
-
 TEST_F(PayloadTest, FileThatCannotBeOpenedFailsTheBuild) {
     host().files.unreadable.insert("file:///music/b.mp3");
     const std::vector records{record("A"), record("B")};
