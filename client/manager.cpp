@@ -52,9 +52,7 @@ Manager::~Manager() {
     XBRGetSignalHandler()->forgetObserver(this);
     // A view may hold the client longer than we live; its handlers are ours.
     m_client->cancel();
-    if (m_trackList->currentUploadItem()) {
-        cleanupPayload(); // nobody else will, now that the reply has no one to come to
-    }
+    m_queue.giveUp();
     if (g_current == this) {
         g_current = nullptr;
     }

@@ -42,6 +42,12 @@ void UploadQueue::restart() {
     startUpload();
 }
 
+void UploadQueue::giveUp() {
+    if (m_tracks.currentUploadItem() && !g_preparing) {
+        cleanupPayload();
+    }
+}
+
 void UploadQueue::startUpload() {
     if (!m_client.isReady() || m_tracks.currentUploadItem()) {
         return;

@@ -20,6 +20,9 @@ public:
     /// Begins again at the first track ("upload").
     void restart();
 
+    /// The panel goes: removes the files of a transfer whose reply will have nobody to come to.
+    void giveUp();
+
     /// Sends the next track, or the album ("uploadNext"). Nothing happens while the client is not ready, a
     /// transfer or its preparation is under way, or no track qualifies.
     void startUpload();

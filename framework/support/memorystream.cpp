@@ -69,7 +69,11 @@ Result MemoryStream::write(const void* buffer, std::uint64_t size, std::uint64_t
 
 bool MemoryStream::writeFrom(IStream& source, std::uint64_t size) noexcept {
     const auto before = m_size;
-    grow(m_position + size);
+    try {
+        grow(m_position + size);
+    } catch (const std::bad_alloc&) {
+        return false; // an archive can be larger than the machine's memory
+    }
     bool isWhole = true;
     std::uint64_t came = 0;
     forEachPiece(m_position, size, [&](std::size_t chunk, std::uint64_t offset, std::uint64_t piece) {

@@ -23,7 +23,7 @@ public:
     void write(std::string_view bytes);
 
     /// Reads exactly `size` bytes from the source's position into this stream's own memory, without a copy in
-    /// between; false when fewer came.
+    /// between; false when fewer came, or there is no memory for them.
     bool writeFrom(IStream& source, std::uint64_t size) noexcept;
 
     std::uint64_t size() const noexcept { return m_size; }

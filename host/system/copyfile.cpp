@@ -55,8 +55,11 @@ bool copyFile(const std::string& from, const std::string& to, const std::stop_to
     }
     const auto before = identityOf(source.get());
     const auto position = copyInSystem(source.get(), target->descriptor(), stop);
-    return copyByHand(source.get(), target->descriptor(), position, stop) &&
-           identityOf(source.get()) == before && target->commit();
+    if (!copyByHand(source.get(), target->descriptor(), position, stop)) {
+        return false;
+    }
+    errno = 0; // the system has no complaint when the file was changed
+    return identityOf(source.get()) == before && target->commit();
 }
 
 } // namespace xbr::host

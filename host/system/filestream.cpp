@@ -77,7 +77,7 @@ std::optional<std::int64_t> soughtPosition(std::int64_t offset, SeekOrigin origi
 
 Result FileStream::read(void* buffer, std::uint64_t size, std::uint64_t* done) noexcept {
     *done = 0;
-    if (size >= kLongRead && !keepIndicatorAlive()) {
+    if (m_isShown && size >= kLongRead && !keepIndicatorAlive()) {
         return kUnexpected; // what was prepared is not wanted any more
     }
     const auto came = readAt(m_file.get(), buffer, size, m_position);

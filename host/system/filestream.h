@@ -31,6 +31,9 @@ class FileStream final : public Object<IStream> {
 public:
     FileStream(FileDescriptor file, StreamAccess access) : m_file(std::move(file)), m_access(access) {}
 
+    /// Long reads tell the front end's indicator, and fail when the user has cancelled there.
+    void showReading() { m_isShown = true; }
+
     Result read(void* buffer, std::uint64_t size, std::uint64_t* done) noexcept override;
     Result write(const void* buffer, std::uint64_t size, std::uint64_t* done) noexcept override;
     Result seek(std::int64_t offset, SeekOrigin origin, std::int64_t* position) noexcept override;
@@ -38,6 +41,7 @@ public:
 private:
     FileDescriptor m_file;
     StreamAccess m_access;
+    bool m_isShown = false;
     std::int64_t m_position = 0;
 };
 

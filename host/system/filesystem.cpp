@@ -7,6 +7,7 @@
 #include "host/system/filestream.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/mainthread.h"
+#include "host/system/temporaryfolder.h"
 #include "host/system/workprogress.h"
 
 #include <cerrno>
@@ -81,7 +82,11 @@ Result FileSystem::openForReading(Text url, IStream** out) noexcept {
     if (!file.isOpen()) {
         return kFalse;
     }
-    *out = make<FileStream>(std::move(file), StreamAccess::kRead).detach();
+    auto stream = make<FileStream>(std::move(file), StreamAccess::kRead);
+    if (path->starts_with(temporaryFolder() + '/')) {
+        stream->showReading(); // something that was prepared is read back
+    }
+    *out = stream.detach();
     return kOk;
 }
 

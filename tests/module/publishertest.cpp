@@ -42,6 +42,12 @@ public:
     int shown = 0;
 };
 
+class Ear final : public xbr::Object<xbr::IObserver> {
+public:
+    void notify(xbr::ISubject*, xbr::IMessage*) noexcept override { ++heard; }
+    int heard = 0;
+};
+
 class PublisherTest : public ModuleFixture {
 protected:
     xbr::Result publish(std::initializer_list<const char*> urls) {
@@ -88,8 +94,14 @@ TEST_F(PublisherTest, FillsTheListAndShowsThePanel) {
     EXPECT_EQ(list.mode(), UploadMode::kSingles);
     EXPECT_EQ(window->shown, 1);
 
+    auto* const albumUpload = list.findParameter(xbr::toText("albumUpload"));
+    const auto ear = xbr::make<Ear>();
+    XBRGetSignalHandler()->addObserver(xbr::query<xbr::ISubject>(albumUpload).get(), ear.get());
     EXPECT_EQ(publish({"file:///a.wav", "file:///x.aiff", "", "file:///b.mp3"}), xbr::kOk);
     EXPECT_EQ(list.mode(), UploadMode::kAlbum);
+    EXPECT_EQ(xbr::integerOf(albumUpload->value()), 1);
+    EXPECT_EQ(ear->heard, 0) << "nobody switched it";
+    XBRGetSignalHandler()->forgetObserver(ear.get());
     ASSERT_EQ(list.model().countRows(), 2) << "the earlier song is gone";
     const TrackMetadata& record = *trackAt(list.model(), 1).metadata;
     EXPECT_EQ(record.songTitle, "Title");

@@ -27,9 +27,9 @@ struct Depth {
 };
 
 constexpr Depth kDepths[] = {
-    {SF_FORMAT_PCM_S8, 8},  {SF_FORMAT_PCM_U8, 8},  {SF_FORMAT_PCM_16, 16}, {SF_FORMAT_PCM_24, 24},
-    {SF_FORMAT_PCM_32, 32}, {SF_FORMAT_FLOAT, 32},  {SF_FORMAT_DOUBLE, 64}, {SF_FORMAT_ALAC_16, 16},
-    {SF_FORMAT_ALAC_24, 24},
+    {SF_FORMAT_PCM_S8, 8},  {SF_FORMAT_PCM_U8, 8},   {SF_FORMAT_PCM_16, 16},
+    {SF_FORMAT_PCM_24, 24}, {SF_FORMAT_PCM_32, 32},  {SF_FORMAT_FLOAT, 32},
+    {SF_FORMAT_DOUBLE, 64}, {SF_FORMAT_ALAC_16, 16}, {SF_FORMAT_ALAC_24, 24},
 };
 
 std::string nameOf(int format) {

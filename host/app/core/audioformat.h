@@ -8,7 +8,7 @@ namespace xbr::host {
 
 /// What audio is made of, for people. What a file does not tell is 0.
 struct AudioFormat {
-    std::string name;             ///< "WAV", "AIFF", "FLAC", "MP3", "Ogg"
+    std::string name; ///< "WAV", "AIFF", "FLAC", "MP3", "Ogg"
     std::int64_t milliseconds = 0;
     int sampleRate = 0; ///< Hz
     int bits = 0;       ///< per sample; 0 where it was compressed with loss

@@ -18,7 +18,7 @@ constexpr std::size_t kMp3Search = std::size_t{64} << 10U;
 /// A format and a data chunk, in this order. The length of the data chunk does not matter: it is 0 or the
 /// largest number where a recording was never finished properly.
 bool isWav(std::ifstream& file) {
-    const auto chunks = readWaveChunks(file);
+    const auto chunks = readChunks(file);
     const auto named = [](std::string_view id) {
         return [id](const RiffChunk& chunk) { return chunk.id == id; };
     };

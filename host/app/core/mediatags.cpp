@@ -14,6 +14,7 @@
 #include <taglib/wavfile.h>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace xbr::host {
 
@@ -92,7 +93,7 @@ std::int64_t trackNumber(const std::string& text) {
         }
         number = number * 10 + (c - '0');
     }
-    return number;
+    return number > 9999 ? 0 : number;
 }
 
 MediaTags tagsOf(const TagLib::PropertyMap& properties) {
@@ -132,10 +133,10 @@ TagLib::PropertyMap formatProperties(const std::string& path) {
 } // namespace
 
 MediaTags readForeignTags(const std::string& path) {
-    const TagLib::FileRef file(path.c_str(), false);
     TagLib::PropertyMap properties;
-    if (!file.isNull()) {
-        properties = file.file()->properties();
+    if (areForeignTagsBounded(path)) {
+        const TagLib::FileRef file(path.c_str(), false);
+        properties = file.isNull() ? properties : file.file()->properties();
     }
     for (const auto& [name, values] : formatProperties(path)) {
         if (!properties.contains(name)) {
@@ -143,6 +144,31 @@ MediaTags readForeignTags(const std::string& path) {
         }
     }
     return tagsOf(properties);
+}
+
+void writeWavTags(const std::string& path, const MediaTags& tags) {
+    static constexpr std::uintmax_t kLongestRiff =
+        0xFFFF0000; // with room for the tags; RF64 files stay without
+    std::error_code unknown;
+    if (std::filesystem::file_size(path, unknown) > kLongestRiff || unknown) {
+        return;
+    }
+    TagLib::PropertyMap properties;
+    for (const Field& field : kTexts) {
+        for (const auto& [name, text] : tags.texts) {
+            if (name == field.attribute) {
+                properties.insert(field.property, TagLib::String(text, TagLib::String::UTF8));
+            }
+        }
+    }
+    if (tags.trackIndex > 0) {
+        properties.insert("TRACKNUMBER", TagLib::String::number(static_cast<int>(tags.trackIndex)));
+    }
+    TagLib::RIFF::WAV::File file(path.c_str(), false);
+    if (file.isValid() && !properties.isEmpty()) {
+        file.setProperties(properties);
+        file.save();
+    }
 }
 
 Ref<Attributes> attributesOf(const MediaTags& tags) {

@@ -23,6 +23,10 @@ std::optional<MediaTags> readTags(const std::string& path);
 /// Reads the tags of any other audio: what TagLib and libsndfile find in it.
 MediaTags readForeignTags(const std::string& path);
 
+/// Writes tags into a WAV file that was rendered, as far as its format has room for them; without them it is
+/// as good.
+void writeWavTags(const std::string& path, const MediaTags& tags);
+
 /// The tags as modules are given them.
 Ref<Attributes> attributesOf(const MediaTags& tags);
 

@@ -149,8 +149,12 @@ void PublishSession::rested() {
         return;
     }
     const PublishResult result = resultOf(m_follower->reports());
-    if (result == PublishResult::kDone || result == PublishResult::kInformationMissing) {
-        finish(result);
+    if (result == PublishResult::kDone) {
+        // A song that could not be copied is not in the archive, whatever the service makes of that.
+        const std::string problem = takeFileProblem();
+        finish(problem.empty() ? result : PublishResult::kNotAllDone, problem);
+    } else if (result == PublishResult::kInformationMissing) {
+        finish(result, takeFileProblem());
     } else if (countRefusedCredentials() != m_refusals) {
         finish(PublishResult::kSignInExpired, kExpiredAdvice);
     } else {

@@ -3,9 +3,13 @@
 #include "framework/abi/hostclasses.h"
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/text.h"
+#include "host/app/core/mediasignature.h"
 #include "host/app/core/mediatags.h"
 #include "host/app/core/soundfile.h"
 #include "host/system/hostfileurl.h"
+
+#include <QString>
+#include <QStringDecoder>
 
 #include <filesystem>
 #include <map>
@@ -38,6 +42,27 @@ std::string wantedInstead(IPublisher& publisher, const std::string& file) {
 
 std::string fileNameOf(const std::string& path) {
     return fs::path(path).filename().string();
+}
+
+bool isWhatItsNameSays(const std::string& path) {
+    const std::string extension =
+        QString::fromStdString(fs::path(path).extension().string()).toLower().toStdString();
+    switch (recognise(path)) {
+    case MediaKind::kWav:
+        return extension == ".wav";
+    case MediaKind::kFlac:
+        return extension == ".flac";
+    case MediaKind::kMp3:
+        return extension == ".mp3";
+    default:
+        return false;
+    }
+}
+
+bool isUtf8(const std::string& text) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    [[maybe_unused]] const QString decoded = decoder(QByteArrayView(text));
+    return !decoder.hasError();
 }
 
 /// Two songs whose files have the same name; empty when there are none. In one release a song is found by
@@ -105,8 +130,12 @@ std::string ReleaseIntake::look(IPublisher& publisher, TakenSong& song) const {
         return problem;
     }
     const std::string wanted = wantedInstead(publisher, song.source);
+    if (!isUtf8(fileNameOf(song.source))) {
+        return "has a name that is not UTF-8, which an archive cannot hold; rename it";
+    }
     if (wanted.empty()) {
-        return readTags(song.source) ? "" : "is not an audio file, or not of the kind that its name says";
+        return isWhatItsNameSays(song.source) ? ""
+                                              : "is not an audio file, or not of the kind that its name says";
     }
     if (wanted != "wav") {
         return "would have to be rendered to " + wanted + ", which this host cannot";
@@ -136,6 +165,9 @@ ReleaseIntake::Outcome ReleaseIntake::render() {
         std::string error;
         switch (song.isRendered ? m_rendered.render(song.source, song.file, error) : RenderResult::kDone) {
         case RenderResult::kDone:
+            if (song.isRendered) {
+                writeWavTags(song.file, readForeignTags(song.source));
+            }
             break;
         case RenderResult::kGivenUp:
             return {PublishResult::kCancelled, {}};

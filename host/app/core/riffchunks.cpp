@@ -16,6 +16,14 @@ std::uint64_t littleEndian(std::string_view bytes) {
     return value;
 }
 
+std::uint64_t bigEndian(std::string_view bytes) {
+    return littleEndian(std::string(bytes.rbegin(), bytes.rend()));
+}
+
+bool isAiff(std::string_view start) {
+    return start.starts_with("FORM") && start.substr(8, 3) == "AIF";
+}
+
 bool isWave(std::string_view start) {
     const auto form = start.substr(0, 4);
     return (form == "RIFF" || form == "RF64" || form == "BW64") && start.substr(8) == "WAVE";
@@ -33,19 +41,21 @@ std::array<char, size> readAt(std::ifstream& file, std::uint64_t position) {
 
 } // namespace
 
-std::vector<RiffChunk> readWaveChunks(std::ifstream& file) {
+std::vector<RiffChunk> readChunks(std::ifstream& file) {
     file.clear();
     file.seekg(0, std::ios::end);
     const auto end = static_cast<std::uint64_t>(std::max<std::streamoff>(file.tellg(), 0));
     const auto start = readAt<12>(file, 0);
     std::vector<RiffChunk> chunks;
-    if (!isWave({start.data(), start.size()})) {
+    const std::string_view head(start.data(), start.size());
+    if (!isWave(head) && !isAiff(head)) {
         return chunks;
     }
+    const auto number = isAiff(head) ? bigEndian : littleEndian;
     std::uint64_t longDataSize = 0;
     for (std::uint64_t position = 12; position + 8 <= end && chunks.size() < kMaximumChunks;) {
         const auto header = readAt<8>(file, position);
-        RiffChunk chunk{{header.data(), 4}, position + 8, littleEndian({header.data() + 4, 4})};
+        RiffChunk chunk{{header.data(), 4}, position + 8, number({header.data() + 4, 4})};
         if (chunk.id == "ds64") {
             const auto sizes = readAt<16>(file, chunk.position);
             longDataSize = littleEndian({sizes.data() + 8, 8});

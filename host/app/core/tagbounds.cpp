@@ -62,8 +62,8 @@ bool isId3AtBounded(TagFile& file, std::uint64_t position) {
     return length <= kMostTags && (length == 0 || isId3Bounded(file.read(position, length)));
 }
 
-bool isWavBounded(TagFile& file) {
-    const auto chunks = readWaveChunks(file.stream());
+bool areChunksBounded(TagFile& file) {
+    const auto chunks = readChunks(file.stream());
     if (chunks.size() >= kMaximumChunks) {
         return false;
     }
@@ -123,11 +123,19 @@ bool isMp3Bounded(TagFile& file) {
 
 } // namespace
 
+bool areForeignTagsBounded(const std::string& path) {
+    TagFile file(path);
+    if (file.read(0, 4) == "OggS") {
+        return file.size() <= kMostSearched; // its tags may go on as long as the file does
+    }
+    return !readChunks(file.stream()).empty() && areChunksBounded(file);
+}
+
 bool areTagsBounded(const std::string& path, MediaKind kind) {
     TagFile file(path);
     switch (kind) {
     case MediaKind::kWav:
-        return isWavBounded(file);
+        return areChunksBounded(file);
     case MediaKind::kFlac:
         return isFlacBounded(file);
     case MediaKind::kMp3:

@@ -11,4 +11,7 @@ namespace xbr::host {
 /// Takes bounded time and memory itself.
 bool areTagsBounded(const std::string& path, MediaKind kind);
 
+/// The same for AIFF and Ogg files; false for any other.
+bool areForeignTagsBounded(const std::string& path);
+
 } // namespace xbr::host

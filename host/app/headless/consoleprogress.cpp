@@ -9,7 +9,7 @@ namespace xbr::host {
 
 namespace {
 
-constexpr qint64 kTellEvery = 100; ///< milliseconds
+constexpr qint64 kTellEvery = 50; ///< milliseconds
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "framework/abi/filesystem.h"
 
+#include "framework/abi/system.h"
 #include "framework/support/memorystream.h"
 #include "framework/support/text.h"
 #include "host/system/hostfileurl.h"
@@ -68,9 +69,12 @@ TEST_F(FileSystemTest, LongWorkIsShownAndCanBeCancelled) {
     writeFile(at("song.wav"), std::string(5U << 20U, 's'));
     const auto indicator = make<RecordingProgress>();
     setWorkProgress(indicator.get());
-    EXPECT_EQ(copy("song.wav", "copy"), kOk);
+    Ref<IString> temporary;
+    ASSERT_EQ(XBRGetSystem()->getTemporaryFolder(temporary.out()), kOk);
+    const std::string prepared = take(temporary) + "/prepared.wav";
+    EXPECT_EQ(files.copyFile(toText(folder.url("song.wav")), toText(prepared)), kOk);
     EXPECT_EQ(indicator->names, std::vector<std::string>{"song.wav"});
-    ASSERT_EQ(open("copy"), kOk);
+    ASSERT_EQ(files.openForReading(toText(prepared), stream.out()), kOk);
     EXPECT_EQ(readAll(*stream).size(), 5U << 20U);
 
     indicator->cancelled = true;
