@@ -115,6 +115,7 @@ const std::vector<std::pair<std::string, Setter>>& setters() {
          }},
         {"stall_ms", [](Fault& f, const Json& v) { f.stall = timeOf(v); }},
         {"stall_after", [](Fault& f, const Json& v) { f.stallAfter = bytesOf(v); }},
+        {"read_rate", [](Fault& f, const Json& v) { f.readRate = bytesOf(v); }},
         {"reset_after", [](Fault& f, const Json& v) { f.resetAfter = bytesOf(v); }},
         {"reply_stall_ms", [](Fault& f, const Json& v) { f.replyStall = timeOf(v); }},
         {"truncate", [](Fault& f, const Json& v) { f.truncate = flagOf(v); }},
@@ -126,16 +127,22 @@ bool knowsKey(const std::string& key) {
     return std::any_of(setters().begin(), setters().end(), [&](const auto& s) { return s.first == key; });
 }
 
-// The endpoint's view of a connection that stalls while the body comes in.
+// The endpoint's view of a connection that stalls, or is slow, while the body comes in.
 class StallingExchange : public ForwardingExchange {
 public:
     StallingExchange(Exchange& inner, const Fault& fault) : ForwardingExchange(inner), m_fault(fault) {}
 
     bool readBody(const BodySink& sink) override {
-        return stall() && inner().readBody([&](std::string_view bytes) { return stall() && sink(bytes); });
+        return stall() && inner().readBody([&](std::string_view bytes) {
+            return stall() && keepPace(bytes.size()) && sink(bytes);
+        });
     }
 
 private:
+    bool keepPace(std::size_t bytes) {
+        return m_fault.readRate == 0 || pause(std::chrono::milliseconds(bytes * 1000 / m_fault.readRate));
+    }
+
     bool stall() {
         if (m_stalled || m_fault.stall.count() == 0 || bodyBytes() < m_fault.stallAfter) {
             return true;

@@ -31,6 +31,7 @@ struct Fault {
 
     std::chrono::milliseconds stall{0}; // nothing is read for so long once `stallAfter` bytes are in
     std::uint64_t stallAfter = 0;
+    std::uint64_t readRate = 0;              // bytes of the body a second; 0: as fast as they come
     std::optional<std::uint64_t> resetAfter; // the connection is reset once so many bytes are in
 
     std::chrono::milliseconds replyStall{0}; // silence in the middle of the reply's body

@@ -19,6 +19,7 @@ FAULTS = [
     ({"reset_after": 0.5}, FAILED),
     ({"reset_after": 0.99}, FAILED),
     ({"stall_after": 0.5, "stall_ms": 700}, DONE),
+    ({"read_rate": 4_000_000}, DONE),
     ({"delay_ms": 500}, DONE),
     ({"reply_stall_ms": 700}, DONE),
     ({"early": True, "status": 413}, FAILED),
