@@ -93,7 +93,7 @@ void tellTracks(const PublishOutcome& outcome) {
     for (const TrackReport& track : outcome.tracks) {
         open += track.state == TrackState::kDone ? 0 : 1;
     }
-    if (outcome.result == PublishResult::kNotAllDone) {
+    if (outcome.result == PublishResult::kNotAllDone && open > 0) {
         printError(std::to_string(open) + " of " + std::to_string(outcome.tracks.size()) +
                    " tracks were not taken by the service");
     } else if (outcome.result == PublishResult::kInformationMissing) {
