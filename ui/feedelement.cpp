@@ -22,6 +22,7 @@ namespace {
 constexpr std::string_view kName = "NewsFeed";
 constexpr std::string_view kView = "FeedView";
 constexpr std::string_view kImage = "image";
+constexpr std::string_view kEntry = "entry";
 constexpr std::string_view kCategoryTerm = "categoryTerm";
 constexpr std::int32_t kFirstTag = 100;
 
@@ -39,6 +40,14 @@ std::optional<std::int64_t> leadingNumber(std::string_view text) {
         return text.front() == '-' ? Limits::min() : Limits::max();
     }
     return error == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+/// Which child of so many a name of the form "image0" means.
+std::optional<std::size_t> indexOfChild(std::string_view name, std::string_view kind, std::size_t count) {
+    const auto index = name.starts_with(kind) ? leadingNumber(name.substr(kind.size())) : std::nullopt;
+    const bool isThere = index && *index >= 0 && *index < static_cast<std::int64_t>(count) &&
+                         name == std::string(kind) + std::to_string(*index);
+    return isThere ? std::optional(static_cast<std::size_t>(*index)) : std::nullopt;
 }
 
 /// The target of the entry's first link to the entry itself.
@@ -108,6 +117,11 @@ xbr::Ref<xbr::IFeed> FeedElement::readFeed(xbr::IDownloadTask& task) const {
 }
 
 void FeedElement::clearEntries() {
+    for (const auto& entry : std::exchange(m_entries, {})) {
+        if (entry) {
+            entry->setOwner(nullptr);
+        }
+    }
     for (const auto& parameter : std::exchange(m_parameters, {})) {
         parameter->detach(); // a view may hold it longer
     }
@@ -158,7 +172,8 @@ void FeedElement::reloadAll() {
     for (const auto& image : m_images) {
         xbr::post(*image, "restartDownload");
     }
-    if (downloadState() == xbr::DownloadState::kFailed) {
+    const bool isWithout = downloadState() == xbr::DownloadState::kComplete && !m_feed;
+    if (isWithout || downloadState() == xbr::DownloadState::kFailed) {
         xbr::post(*this, "restartDownload");
     }
 }
@@ -181,13 +196,27 @@ xbr::IParameter* FeedElement::findParameter(xbr::Text name) noexcept {
 
 xbr::IObject* FeedElement::findObject(xbr::Text name) noexcept {
     const auto wanted = xbr::view(name);
-    const auto index =
-        wanted.starts_with(kImage) ? leadingNumber(wanted.substr(kImage.size())) : std::nullopt;
-    if (index && *index >= 0 && *index < static_cast<std::int64_t>(m_images.size())) {
-        auto* image = m_images[static_cast<std::size_t>(*index)].get();
-        return xbr::view(image->name()) == wanted ? static_cast<xbr::IController*>(image) : nullptr;
+    if (const auto index = indexOfChild(wanted, kImage, m_images.size())) {
+        return static_cast<xbr::IController*>(m_images[*index].get());
+    }
+    if (const auto index = indexOfChild(wanted, kEntry, m_images.size())) {
+        return static_cast<xbr::IController*>(entryAt(*index));
     }
     return Implements::findObject(name);
+}
+
+FeedEntry* FeedElement::entryAt(std::size_t index) {
+    m_entries.resize(m_images.size());
+    auto& entry = m_entries[index];
+    if (!entry) {
+        const auto first =
+            m_parameters.begin() + static_cast<std::ptrdiff_t>(index) * std::ptrdiff_t{kParametersOfEntry};
+        entry =
+            xbr::make<FeedEntry>(std::string(kEntry) + std::to_string(index),
+                                 FeedEntry::Parameters(first, first + kParametersOfEntry), m_images[index]);
+        entry->setOwner(this);
+    }
+    return entry.get();
 }
 
 xbr::Result FeedElement::createView(xbr::Text name, xbr::IView** out) noexcept {

@@ -3,6 +3,7 @@
 #include "framework/abi/feed.h"
 #include "framework/abi/listmodel.h"
 #include "ui/element.h"
+#include "ui/feedentry.h"
 #include "ui/imageelement.h"
 
 #include <cstdint>
@@ -14,7 +15,8 @@ namespace brindlex {
 /// The service's news, "NewsFeed": downloads a feed and offers its entries to forms.
 ///
 /// Parameters of each entry, in the order of the feed: "title", "summary", "content", "link", "date"; the
-/// tags are 100 + 5 n for entry n and so on. Its picture is the child "image" followed by n.
+/// tags are 100 + 5 n for entry n and so on. Its picture is the child "image" followed by n. The same by
+/// itself is the child "entry" followed by n: that entry's parameters, and its picture as "image".
 ///
 /// Properties beside the Element's: "itemCount"; "maximumEntryCount", which may be set; "categoryTerm"
 /// followed by n. View: "FeedView". Command: "Reload All" of category "Feed".
@@ -36,7 +38,7 @@ public:
     /// Number of entries in use; 0 without a feed.
     std::int32_t itemCount() const;
 
-    /// Fetches every picture again; the feed only when there is none.
+    /// Fetches every picture again; the feed only when that failed, or there is none.
     void reloadAll();
 
     std::int32_t countParameters() const noexcept override;
@@ -63,6 +65,7 @@ private:
     void clearEntries();
     void buildEntries();
     void addText(std::string_view name, xbr::Text text);
+    FeedEntry* entryAt(std::size_t index);
     void addPicture(const xbr::IFeedEntry& entry, std::int32_t index);
     xbr::Text categoryTerm(std::int64_t index) const;
 
@@ -71,6 +74,7 @@ private:
     std::string m_feedLocation; ///< where it was found in the end
     std::vector<xbr::Ref<xbr::Parameter>> m_parameters;
     std::vector<xbr::Ref<ImageElement>> m_images;
+    std::vector<xbr::Ref<FeedEntry>> m_entries; ///< made when they are asked for; null before
     xbr::Ref<ImageElementCache> m_cache;
     std::string m_category;
     std::string m_command;

@@ -35,8 +35,8 @@ bool bindParameter(QWidget& widget, std::unique_ptr<ValueSource> source);
 /// A combo box for a list parameter; an editable one finds entries by what is typed.
 bool bindChoice(QWidget& widget, std::unique_ptr<ValueSource> source);
 
-/// The value as text of a label or button, cut off with dots where the width is not the widget's to choose, and
-/// after `xbrMaximumLength` characters.
+/// The value as text of a label or button, cut off with dots where the width is not the widget's to choose,
+/// and after `xbrMaximumLength` characters.
 bool bindText(QWidget& widget, std::unique_ptr<ValueSource> source);
 
 /// The value as the name for screen readers.

@@ -89,9 +89,8 @@ bool bindText(QWidget& widget, std::unique_ptr<ValueSource> source) {
     }
     auto* text = new ElidedText(widget);
     const int limit = widget.property("xbrMaximumLength").toInt();
-    new ValueBinding(widget, std::move(source), [text, limit](const ValueSource& value) {
-        text->set(shortened(value.text(), limit));
-    });
+    new ValueBinding(widget, std::move(source),
+                     [text, limit](const ValueSource& value) { text->set(shortened(value.text(), limit)); });
     return true;
 }
 

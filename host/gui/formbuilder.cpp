@@ -11,6 +11,7 @@
 #include "host/gui/formtranslation.h"
 #include "host/gui/hostwidgets.h"
 #include "host/gui/rowlist.h"
+#include "host/gui/taborder.h"
 
 #include <QBuffer>
 #include <QEvent>
@@ -34,6 +35,7 @@ void fill(QWidget& widget, QWidget& content) {
     auto* layout = new QVBoxLayout(&widget);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(&content);
+    placeInTabOrder(widget, content);
 }
 
 /// Puts a view into a widget when that is shown for the first time.
@@ -88,11 +90,8 @@ struct ValueKindOfBinding {
     bool (*bind)(QWidget& widget, std::unique_ptr<ValueSource> source);
 };
 constexpr ValueKindOfBinding kValues[] = {
-    {"xbrParameter", bindParameter},
-    {"xbrText", bindText},
-    {"xbrAccessibleName", bindName},
-    {"xbrLink", bindLink},
-    {"xbrPageSwitch", bindPages},
+    {"xbrParameter", bindParameter}, {"xbrText", bindText},        {"xbrAccessibleName", bindName},
+    {"xbrLink", bindLink},           {"xbrPageSwitch", bindPages},
 };
 
 /// Ways that need something of the scope other than a value.

@@ -2,6 +2,7 @@
 
 #include "framework/support/message.h"
 #include "framework/support/path.h"
+#include "host/gui/taborder.h"
 
 #include <QEvent>
 #include <QScrollArea>
@@ -28,6 +29,7 @@ RowList::RowList(QScrollArea& area, Ref<IController> controller, std::string chi
       m_children(std::move(children)),
       m_form(std::move(form)),
       m_builder(std::move(builder)),
+      m_lastStop(&area),
       m_listener([this](const IMessage& message) {
           if (isNamed(message, "changed")) {
               m_rebuilding.start(0); // once for several, and not within a call of the module
@@ -73,6 +75,7 @@ void RowList::removeRows() {
         delete item->widget(); // takes its place in the layout with it
     }
     m_builder.takeComponents(); // the rows needed them
+    m_lastStop = m_area;
     m_count = 0;
     m_isComplete = false;
 }
@@ -100,6 +103,7 @@ bool RowList::addRow() {
         return false;
     }
     rowsOf(*m_area)->addWidget(row);
+    m_lastStop = &placeInTabOrder(*m_lastStop, *row);
     row->show();
     ++m_count;
     return true;

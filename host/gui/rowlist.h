@@ -40,6 +40,7 @@ private:
     std::string m_children;
     std::string m_form;
     FormBuilder m_builder;
+    QWidget* m_lastStop; ///< of the Tab key, in the rows or before them
     int m_count = 0;
     bool m_isComplete = false;
     QTimer m_filling;

@@ -42,6 +42,43 @@ TEST_F(FeedTest, OffersTheTextsOfEachEntryInOrder) {
     EXPECT_EQ(xbr::view(feed->name()), "NewsFeed");
 }
 
+TEST_F(FeedTest, OffersEachEntryByItself) {
+    show(manyEntries(3));
+    const auto entry = child("entry1");
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry.get(), child("entry1").get());
+    EXPECT_EQ(entry->parent(), feed.get());
+    EXPECT_EQ(entry->countParameters(), 5);
+    EXPECT_EQ(entry->parameterAt(4), feed->parameterAt(9));
+    EXPECT_EQ(entry->parameterAt(5), nullptr);
+    EXPECT_EQ(entry->findParameter(xbr::toText("link")), feed->parameterAt(8));
+    EXPECT_EQ(xbr::query<xbr::IController>(entry->findObject(xbr::toText("image"))).get(),
+              child("image1").get());
+    show({{.title = "New"}});
+    EXPECT_EQ(entry->parent(), nullptr);
+    EXPECT_EQ(xbr::textOf(child("entry0")->findParameter(xbr::toText("title"))->value()), "New");
+    for (const char* name : {"entry", "entry1", "entry-1", "entry00", "entry0x"}) {
+        EXPECT_FALSE(child(name)) << name;
+    }
+}
+
+TEST_F(FeedTest, ReloadsTheFeedWhenThereIsNone) {
+    post(*feed, "startDownload");
+    for (const bool isComplete : {false, true, false}) {
+        isComplete ? host().downloads.complete(kFeed, "no feed") : host().downloads.fail(kFeed);
+        host().downloads.started.clear();
+        feed->reloadAll();
+        feed->reloadAll();
+        host().signals.pump();
+        EXPECT_EQ(host().downloads.running(), 1U) << isComplete;
+    }
+    host().feeds.documents["document"] = manyEntries(1);
+    ASSERT_TRUE(host().downloads.complete(kFeed, "document"));
+    feed->reloadAll();
+    host().signals.pump();
+    EXPECT_EQ(host().downloads.running(), 0U) << "it is there";
+}
+
 TEST_F(FeedTest, UsesAsManyEntriesAsItMay) {
     const std::pair<int, int> cases[] = {{-1, 30}, {0, 30}, {-7, 30}, {10, 10}, {30, 30}, {31, 30}, {1, 1}};
     for (const auto& [maximum, used] : cases) {

@@ -231,5 +231,45 @@
         <source>Reload All</source>
         <translation>Alles neu laden</translation>
     </message>
+    <message>
+        <source>Pub&amp;lish</source>
+        <translation>Ve&amp;röffentlichen</translation>
+    </message>
+    <message>
+        <source>Shows the songs that you publish</source>
+        <translation>Zeigt die Songs, die Sie veröffentlichen</translation>
+    </message>
+    <message>
+        <source>Ne&amp;ws</source>
+        <translation>Ne&amp;uigkeiten</translation>
+    </message>
+    <message>
+        <source>Shows the news of Brindlex</source>
+        <translation>Zeigt Neuigkeiten von Brindlex</translation>
+    </message>
+    <message>
+        <source>Read more</source>
+        <translation>Weiterlesen</translation>
+    </message>
+    <message>
+        <source>Opens the whole article in the web browser</source>
+        <translation>Öffnet den ganzen Artikel im Webbrowser</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Neuigkeiten</translation>
+    </message>
+    <message>
+        <source>Loading the news...</source>
+        <translation>Neuigkeiten werden geladen...</translation>
+    </message>
+    <message>
+        <source>There is no news at the moment.</source>
+        <translation>Zurzeit gibt es keine Neuigkeiten.</translation>
+    </message>
+    <message>
+        <source>The news could not be loaded. Check your internet connection, then try again.</source>
+        <translation>Die Neuigkeiten konnten nicht geladen werden. Prüfen Sie Ihre Internetverbindung und versuchen Sie es dann erneut.</translation>
+    </message>
 </context>
 </TS>

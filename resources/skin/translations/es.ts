@@ -231,5 +231,45 @@
         <source>Reload All</source>
         <translation>Recargar todo</translation>
     </message>
+    <message>
+        <source>Pub&amp;lish</source>
+        <translation>Publica&amp;r</translation>
+    </message>
+    <message>
+        <source>Shows the songs that you publish</source>
+        <translation>Muestra las canciones que publica</translation>
+    </message>
+    <message>
+        <source>Ne&amp;ws</source>
+        <translation>N&amp;oticias</translation>
+    </message>
+    <message>
+        <source>Shows the news of Brindlex</source>
+        <translation>Muestra las noticias de Brindlex</translation>
+    </message>
+    <message>
+        <source>Read more</source>
+        <translation>Leer más</translation>
+    </message>
+    <message>
+        <source>Opens the whole article in the web browser</source>
+        <translation>Abre el artículo completo en el navegador</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Noticias</translation>
+    </message>
+    <message>
+        <source>Loading the news...</source>
+        <translation>Cargando las noticias...</translation>
+    </message>
+    <message>
+        <source>There is no news at the moment.</source>
+        <translation>No hay noticias en este momento.</translation>
+    </message>
+    <message>
+        <source>The news could not be loaded. Check your internet connection, then try again.</source>
+        <translation>No se han podido cargar las noticias. Compruebe su conexión a Internet y vuelva a intentarlo.</translation>
+    </message>
 </context>
 </TS>

@@ -231,5 +231,45 @@
         <source>Reload All</source>
         <translation>Tout recharger</translation>
     </message>
+    <message>
+        <source>Pub&amp;lish</source>
+        <translation>Publie&amp;r</translation>
+    </message>
+    <message>
+        <source>Shows the songs that you publish</source>
+        <translation>Affiche les morceaux que vous publiez</translation>
+    </message>
+    <message>
+        <source>Ne&amp;ws</source>
+        <translation>Act&amp;ualités</translation>
+    </message>
+    <message>
+        <source>Shows the news of Brindlex</source>
+        <translation>Affiche les actualités de Brindlex</translation>
+    </message>
+    <message>
+        <source>Read more</source>
+        <translation>Lire la suite</translation>
+    </message>
+    <message>
+        <source>Opens the whole article in the web browser</source>
+        <translation>Ouvre l’article entier dans le navigateur Web</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Actualités</translation>
+    </message>
+    <message>
+        <source>Loading the news...</source>
+        <translation>Chargement des actualités...</translation>
+    </message>
+    <message>
+        <source>There is no news at the moment.</source>
+        <translation>Il n’y a pas d’actualités pour le moment.</translation>
+    </message>
+    <message>
+        <source>The news could not be loaded. Check your internet connection, then try again.</source>
+        <translation>Les actualités n’ont pas pu être chargées. Vérifiez votre connexion Internet, puis réessayez.</translation>
+    </message>
 </context>
 </TS>

@@ -231,5 +231,45 @@
         <source>Reload All</source>
         <translation>すべて再読み込み</translation>
     </message>
+    <message>
+        <source>Pub&amp;lish</source>
+        <translation>公開(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Shows the songs that you publish</source>
+        <translation>公開する曲を表示します</translation>
+    </message>
+    <message>
+        <source>Ne&amp;ws</source>
+        <translation>ニュース(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Shows the news of Brindlex</source>
+        <translation>Brindlex のニュースを表示します</translation>
+    </message>
+    <message>
+        <source>Read more</source>
+        <translation>続きを読む</translation>
+    </message>
+    <message>
+        <source>Opens the whole article in the web browser</source>
+        <translation>記事の全文を Web ブラウザーで開きます</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>ニュース</translation>
+    </message>
+    <message>
+        <source>Loading the news...</source>
+        <translation>ニュースを読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>There is no news at the moment.</source>
+        <translation>現在ニュースはありません。</translation>
+    </message>
+    <message>
+        <source>The news could not be loaded. Check your internet connection, then try again.</source>
+        <translation>ニュースを読み込めませんでした。インターネット接続を確認してから、もう一度お試しください。</translation>
+    </message>
 </context>
 </TS>

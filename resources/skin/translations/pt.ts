@@ -231,5 +231,45 @@
         <source>Reload All</source>
         <translation>Recarregar tudo</translation>
     </message>
+    <message>
+        <source>Pub&amp;lish</source>
+        <translation>P&amp;ublicar</translation>
+    </message>
+    <message>
+        <source>Shows the songs that you publish</source>
+        <translation>Mostra as músicas que publica</translation>
+    </message>
+    <message>
+        <source>Ne&amp;ws</source>
+        <translation>N&amp;otícias</translation>
+    </message>
+    <message>
+        <source>Shows the news of Brindlex</source>
+        <translation>Mostra as notícias do Brindlex</translation>
+    </message>
+    <message>
+        <source>Read more</source>
+        <translation>Ler mais</translation>
+    </message>
+    <message>
+        <source>Opens the whole article in the web browser</source>
+        <translation>Abre o artigo completo no navegador</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Notícias</translation>
+    </message>
+    <message>
+        <source>Loading the news...</source>
+        <translation>A carregar as notícias...</translation>
+    </message>
+    <message>
+        <source>There is no news at the moment.</source>
+        <translation>De momento não há notícias.</translation>
+    </message>
+    <message>
+        <source>The news could not be loaded. Check your internet connection, then try again.</source>
+        <translation>Não foi possível carregar as notícias. Verifique a ligação à Internet e tente de novo.</translation>
+    </message>
 </context>
 </TS>

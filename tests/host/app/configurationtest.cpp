@@ -1,5 +1,6 @@
 #include "framework/support/attributes.h"
 #include "framework/support/text.h"
+#include "host/app/core/componentproperties.h"
 #include "host/app/core/configurationstore.h"
 #include "tests/host/app/testfolder.h"
 
@@ -80,6 +81,33 @@ TEST_F(Configuration, storeTellsModuleAndUser) {
     m_folder.write("services.ini", "[brindlex]\nServerURL=\xFF\n");
     EXPECT_EQ(load("brindlex"), std::pair(kUnexpected, std::string()));
     EXPECT_THAT(describeProblem(*report), HasSubstr("cannot be read from '" + report->path));
+}
+
+TEST_F(Configuration, newsComeFromAnAddressOfTheWebOnly) {
+    const struct {
+        const char* bytes;
+        const char* className;
+        const char* url; ///< empty for no news
+    } cases[] = {
+        {"[brindlex]\nFeedURL=https://service.example/a?b#c\n", "FeedElement",
+         "https://service.example/a?b#c"},
+        {"[brindlex]\nFeedURL=https://service.example/\n", "ImageElement", ""},
+        {"[brindlex]\nServerURL=https://service.example/\n", "FeedElement", ""},
+        {"[other]\nFeedURL=https://service.example/\n", "FeedElement", ""},
+        {"[brindlex]\nFeedURL=file:///etc/passwd\n", "FeedElement", ""},
+        {"[brindlex]\nFeedURL=service.example\n", "FeedElement", ""},
+        {"[brindlex]\nFeedURL=\xFF\n", "FeedElement", ""},
+    };
+    const TestVariable path("XBRHOST_CONFIG", m_folder.path("services.ini"));
+    for (const auto& one : cases) {
+        m_folder.write("services.ini", one.bytes);
+        const auto properties = configuredProperties("brindlex", one.className);
+        ASSERT_EQ(properties.size(), *one.url == 0 ? 0U : 1U) << one.bytes;
+        if (*one.url != 0) {
+            EXPECT_EQ(properties[0].name, "url");
+            EXPECT_EQ(properties[0].value, one.url);
+        }
+    }
 }
 
 TEST_F(Configuration, wrongAddressesAreTold) {

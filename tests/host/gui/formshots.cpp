@@ -3,10 +3,12 @@
 #include "host/gui/hostwidgets.h"
 #include "tests/host/gui/panel.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QDragEnterEvent>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QStyleFactory>
@@ -17,16 +19,19 @@
 
 /// Writes pictures of the panel's forms in their main states, for a look at them.
 ///
-///     formshots ARCHIVE FOLDER [LANGUAGE]      QT_SCALE_FACTOR=2 for 200 %
+///     formshots ARCHIVE FOLDER [LANGUAGE [NEWS]]      QT_SCALE_FACTOR=2 for 200 %
+///
+/// NEWS is the address of a feed.
 
 namespace xbr::host::tests {
 namespace {
 
 class Shots {
 public:
-    Shots(const std::string& archive, std::string folder, std::string language)
+    Shots(const std::string& archive, std::string folder, std::string language, std::string news)
         : m_folder(std::move(folder)),
           m_language(std::move(language)),
+          m_news(std::move(news)),
           m_module("brindlex", "Kestrova", "Brindlex Support", "1"),
           m_skin(archive, m_language) {}
 
@@ -36,6 +41,7 @@ public:
             m_suffix = appearance == Appearance::kDark ? "-dark" : "-light";
             takePanel();
             takeDialog();
+            takeNews();
         }
     }
 
@@ -96,6 +102,30 @@ private:
         }
     }
 
+    void takeNews() {
+        for (const auto& [name, url] : {std::pair("news", m_news), {"news-offline", "http://127.0.0.1:9/"}}) {
+            if (m_news.empty()) {
+                return;
+            }
+            ModuleComponent& module = m_module;
+            module.loadTheme("resource://brindlex/skin");
+            PanelSkin::setNews(url);
+            const auto panel = make<Panel>();
+            const auto widget = m_skin.widget("BrindlexManager", *panel);
+            panel->signIn("Marisol Quintanilla-Featherstonehaugh", "https://example.org/account");
+            widget->resize(480, 640);
+            widget->show();
+            save(*widget, std::string(name) + "-closed");
+            widget->findChild<QAbstractButton*>("showNews")->click();
+            QElapsedTimer clock;
+            for (clock.start(); clock.elapsed() < 1500;) {
+                QApplication::processEvents(QEventLoop::AllEvents, 20);
+            }
+            save(*widget, name);
+            PanelSkin::setNews({});
+        }
+    }
+
     void save(QWidget& widget, const std::string& name) {
         for (int i = 0; i < 5; ++i) {
             QApplication::processEvents();
@@ -107,6 +137,7 @@ private:
 
     std::string m_folder;
     std::string m_language;
+    std::string m_news;
     std::string m_suffix;
     ModuleComponent m_module;
     PanelSkin m_skin;
@@ -119,9 +150,9 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     if (argc < 3) {
-        std::cerr << "usage: formshots ARCHIVE FOLDER [LANGUAGE]\n";
+        std::cerr << "usage: formshots ARCHIVE FOLDER [LANGUAGE [NEWS]]\n";
         return 2;
     }
-    xbr::host::tests::Shots(argv[1], argv[2], argc > 3 ? argv[3] : "en").take();
+    xbr::host::tests::Shots(argv[1], argv[2], argc > 3 ? argv[3] : "en", argc > 4 ? argv[4] : "").take();
     return 0;
 }

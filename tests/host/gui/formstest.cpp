@@ -34,7 +34,9 @@ class FormState {
 public:
     explicit FormState(const std::string& language = "en")
         : m_module("brindlex", "Kestrova", "Brindlex Support", "1"),
-          m_skin(PANEL_ARCHIVE, language) {}
+          m_skin(PANEL_ARCHIVE, language) {
+        m_module.loadTheme("resource://brindlex/skin");
+    }
 
     QWidget& open(const char* form) {
         panel = make<Panel>();
@@ -51,6 +53,9 @@ public:
         settle();
         return form;
     }
+    /// Panels opened from now on have news, which nobody serves.
+    static void offerNews() { PanelSkin::setNews("http://127.0.0.1:9/feed.atom"); }
+
     void focus(std::int32_t row) const {
         panel->tracks().model().setSelection(&row, 1);
         panel->tracks().model().setFocus(row);
@@ -72,8 +77,12 @@ private:
 /// Calls `look(name)` in each state that the forms have.
 template <class Look>
 void forEachState(FormState& state, const Look& look) {
+    FormState::offerNews();
     state.open("BrindlexManager");
     look("login");
+    state.at<QAbstractButton>("showNews").click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state.at<QWidget>("failed").isVisible(); }));
+    look("news");
     state.openTracks(0);
     look("no tracks");
     state.openTracks(3);
@@ -165,13 +174,14 @@ TEST(Forms, showAllTextAtTheirSmallestSize) {
 
 TEST(Forms, theTabKeyGoesThroughTheUploadPageInReadingOrder) {
     FormState state;
+    FormState::offerNews();
     QWidget& form = state.openTracks(3);
     state.focus(1);
     state.panel->named("upload").setEnabled(true);
     settle();
     const std::vector<std::string> order = {
         "user",       "disconnect",  "singles",    "tracks",      "addTracks",    "removeAll", "songTitle",
-        "songArtist", "trackNumber", "albumTitle", "albumArtist", "primaryGenre", "upload"};
+        "songArtist", "trackNumber", "albumTitle", "albumArtist", "primaryGenre", "upload",    "showPublish"};
     state.at<QWidget>("user").setFocus();
     for (const std::string& name : order) {
         ASSERT_NE(form.focusWidget(), nullptr);

@@ -1,14 +1,17 @@
 #include "tests/host/gui/panel.h"
 
 #include "framework/abi/filesystem.h"
+#include "framework/abi/pluginmanager.h"
 #include "framework/support/hostobject.h"
 #include "framework/support/message.h"
 #include "framework/support/modulecomponent.h"
 #include "framework/support/objectlist.h"
 #include "framework/support/text.h"
+#include "host/gui/hostcomponents.h"
 #include "host/gui/hostgui.h"
 #include "host/gui/hostwidgets.h"
 #include "release/genrecatalogue.h"
+#include "ui/feedelement.h"
 
 #include <QFile>
 #include <QWidget>
@@ -102,6 +105,11 @@ PanelSkin::PanelSkin(const std::string& archive, const std::string& language) : 
     qputenv("LC_ALL", "en_US.UTF-8");
     qputenv("LANGUAGE", QByteArray::fromStdString(language));
     registerGuiClasses();
+    static const ClassDescription kFeed{
+        0, uid("02eb5f3d-b585-4e16-be6d-1c7e3f2c7fec"), toText("Component"), toText("FeedElement"), {}, {}};
+    m_classes = make<ClassFactory>();
+    m_classes->add(kFeed, creatorOf<brindlex::FeedElement>());
+    XBRGetPlugInManager()->addFactory(m_classes.get());
     XBRGetFileSystem()->registerResources(toText("brindlex"), m_bytes.data(), m_bytes.size());
     m_theme = createHostObject<ITheme>();
     m_theme->load(toText("resource://brindlex/skin"));
@@ -110,7 +118,15 @@ PanelSkin::PanelSkin(const std::string& archive, const std::string& language) : 
 PanelSkin::~PanelSkin() {
     m_theme.reset();
     XBRGetFileSystem()->unregisterResources(toText("brindlex"));
+    XBRGetPlugInManager()->removeFactory(m_classes.get());
+    setComponentSettings({});
     unregisterGuiClasses();
+}
+
+void PanelSkin::setNews(const std::string& url) {
+    setComponentSettings([url](std::string_view, std::string_view) {
+        return std::vector<ComponentProperty>{{"url", url}};
+    });
 }
 
 Ref<IView> PanelSkin::view(std::string_view form, IController& controller) const {

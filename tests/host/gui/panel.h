@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/abi/view.h"
+#include "framework/support/classfactory.h"
 #include "framework/support/component.h"
 #include "ui/tracklistcomponent.h"
 
@@ -54,7 +55,8 @@ private:
     Ref<brindlex::TrackListComponent> m_tracks;
 };
 
-/// The extension's resources, registered as the module would, in the language "LANGUAGE" names.
+/// The extension's resources and the component of its news, registered as the module would, in the language
+/// "LANGUAGE" names.
 class PanelSkin {
 public:
     explicit PanelSkin(const std::string& archive, const std::string& language = "en");
@@ -62,11 +64,15 @@ public:
     PanelSkin& operator=(const PanelSkin&) = delete;
     ~PanelSkin();
 
+    /// Panels made from now on show these news; an empty address for none.
+    static void setNews(const std::string& url);
+
     Ref<IView> view(std::string_view form, IController& controller) const;
     std::unique_ptr<QWidget> widget(std::string_view form, IController& controller) const;
 
 private:
     std::string m_bytes;
+    Ref<ClassFactory> m_classes;
     Ref<ITheme> m_theme;
 };
 
