@@ -15,15 +15,18 @@ namespace {
 
 bool isControl(QAccessible::Role role) {
     static const std::set<QAccessible::Role> kControls{
-        QAccessible::Button,      QAccessible::ButtonMenu, QAccessible::ButtonDropDown, QAccessible::CheckBox,
-        QAccessible::ComboBox,    QAccessible::EditableText, QAccessible::Link,         QAccessible::List,
-        QAccessible::MenuItem,    QAccessible::PageTab,    QAccessible::ProgressBar,    QAccessible::RadioButton,
-        QAccessible::ColumnHeader, QAccessible::SpinBox,   QAccessible::Table,          QAccessible::Tree};
+        QAccessible::Button,       QAccessible::ButtonMenu,  QAccessible::ButtonDropDown,
+        QAccessible::CheckBox,     QAccessible::ComboBox,    QAccessible::EditableText,
+        QAccessible::Link,         QAccessible::List,        QAccessible::MenuItem,
+        QAccessible::PageTab,      QAccessible::ProgressBar, QAccessible::RadioButton,
+        QAccessible::ColumnHeader, QAccessible::SpinBox,     QAccessible::Table,
+        QAccessible::Tree};
     return kControls.count(role) > 0;
 }
 
 /// Goes through everything that a screen reader reaches, and tells what cannot be told.
-void walk(QAccessibleInterface& item, const std::string& way, std::vector<std::string>& faults, int& controls) {
+void walk(QAccessibleInterface& item, const std::string& way, std::vector<std::string>& faults,
+          int& controls) {
     const QAccessible::State state = item.state();
     if (state.invisible) {
         return;
@@ -99,9 +102,9 @@ TEST_F(WindowTest, theTabulatorReachesEverything) {
     selectRows(trackList(), {0});
     const auto order = tabOrder(window(), songList());
     ASSERT_GT(order.size(), 10U);
-    for (const char* name : {"songs", "publish", "dismiss", "user", "disconnect", "singles", "tracks", "addTracks",
-                             "removeAll", "songTitle", "songArtist", "trackNumber", "albumTitle",
-                             "albumArtist", "primaryGenre", "upload"}) {
+    for (const char* name :
+         {"songs", "publish", "dismiss", "user", "disconnect", "singles", "tracks", "addTracks", "removeAll",
+          "songTitle", "songArtist", "trackNumber", "albumTitle", "albumArtist", "primaryGenre", "upload"}) {
         const bool isReached = std::any_of(order.begin(), order.end(), [name](const QWidget* widget) {
             return widget->objectName() == name || widget->parentWidget()->objectName() == name;
         });

@@ -36,8 +36,7 @@ std::unique_ptr<QTimer> answer(const QString& button) {
 
 TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
     openReady(stage.songs());
-    stage.service().addFault(
-        R"({"path":"/api/frontstage/release_ingestion","delay_ms":1500,"times":9})");
+    stage.service().addFault(R"({"path":"/api/frontstage/release_ingestion","delay_ms":1500,"times":9})");
     makeAlbum();
     click(window(), "upload");
     ASSERT_TRUE(statusSays("Uploading"));
@@ -59,7 +58,7 @@ TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
 }
 
 TEST_F(WindowTest, closingInsideTheConnectDialogEndsItFirst) {
-    qputenv("BROWSER", "/bin/true"); // never comes back
+    stage.setVisit(Stage::Visit::kGoAway);
     open(stage.songs());
     bool wasInDialog = false;
     const auto act = whenever([&] {
@@ -100,7 +99,7 @@ TEST_F(WindowTest, closingWhileSongsArePackedCancelsThat) {
 }
 
 TEST_F(WindowTest, theDialogsFrameAndKeysCloseItAndConnectWorksAgain) {
-    qputenv("BROWSER", "/bin/true");
+    stage.setVisit(Stage::Visit::kGoAway);
     open({});
     const auto act = whenever([] {
         auto* frame = qobject_cast<ViewDialogFrame*>(QApplication::activeModalWidget());
@@ -111,7 +110,7 @@ TEST_F(WindowTest, theDialogsFrameAndKeysCloseItAndConnectWorksAgain) {
     });
     click(window(), "connect");
     EXPECT_TRUE(statusSays("Not connected yet"));
-    qputenv("BROWSER", TEST_BROWSER);
+    stage.setVisit(Stage::Visit::kAllow);
     signIn();
 }
 

@@ -24,7 +24,7 @@ namespace xbr::host::tests {
 
 TEST(SongTexts, lengthsAndFormatsAreForPeople) {
     const std::pair<std::int64_t, const char*> lengths[] = {
-        {0, ""},         {-5, ""},        {400, "0:00"},        {999, "0:01"},
+        {0, ""},         {-5, ""},         {400, "0:00"},        {999, "0:01"},
         {59500, "1:00"}, {187000, "3:07"}, {3599600, "1:00:00"}, {7325000, "2:02:05"}};
     for (const auto& [milliseconds, text] : lengths) {
         EXPECT_EQ(lengthText(milliseconds).toStdString(), text) << milliseconds;
@@ -82,7 +82,8 @@ TEST_F(WindowTest, foldersAreSearchedAndForeignPlacesLeftOut) {
     EXPECT_FALSE(drop(*find(window(), "emptyState"), {}));
     EXPECT_TRUE(drop(*find(window(), "emptyState"), {stage.path("album"), stage.path("none.wav")}));
     EXPECT_EQ(songList().model()->rowCount(), 4);
-    EXPECT_TRUE(waitFor([&] { return cell(songList(), 3, SongListModel::kFormat) == "The file cannot be read."; }));
+    EXPECT_TRUE(
+        waitFor([&] { return cell(songList(), 3, SongListModel::kFormat) == "The file cannot be read."; }));
     EXPECT_TRUE(choose(window(), "Upload to Brindlex"));
     EXPECT_TRUE(statusSays("cannot be read")) << stage.status();
 }
@@ -100,7 +101,8 @@ TEST_F(WindowTest, aFileSelectorGivesWhatTheUserChose) {
             if (dialog) {
                 EXPECT_EQ(dialog->nameFilters().front().toStdString().find("wav ("), std::string::npos);
                 dialog->findChild<QLineEdit*>()->setText(QString::fromStdString(stage.songs().back()));
-                QTest::keyClick(dialog->findChild<QLineEdit*>(), isConfirmed ? Qt::Key_Return : Qt::Key_Escape);
+                QTest::keyClick(dialog->findChild<QLineEdit*>(),
+                                isConfirmed ? Qt::Key_Return : Qt::Key_Escape);
             }
             return dialog != nullptr;
         });
@@ -150,9 +152,9 @@ TEST(Status, goodNewsDoNotHideAWarning) {
     const struct {
         Notice notice;
         const char* shown;
-    } steps[] = {{{NoticeKind::kDone, "good"}, "good"},      {{NoticeKind::kWarning, "careful"}, "careful"},
-                 {{NoticeKind::kDone, "good"}, "careful"},   {{NoticeKind::kError, "worse"}, "worse"},
-                 {{NoticeKind::kBusy, "anew"}, "anew"},      {{NoticeKind::kDone, "good"}, "good"}};
+    } steps[] = {{{NoticeKind::kDone, "good"}, "good"},    {{NoticeKind::kWarning, "careful"}, "careful"},
+                 {{NoticeKind::kDone, "good"}, "careful"}, {{NoticeKind::kError, "worse"}, "worse"},
+                 {{NoticeKind::kBusy, "anew"}, "anew"},    {{NoticeKind::kDone, "good"}, "good"}};
     for (const auto& step : steps) {
         line.showNotice(step.notice);
         EXPECT_EQ(line.notice().text, step.shown);

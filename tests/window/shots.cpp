@@ -14,8 +14,8 @@
 #include <QTest>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstdio>
+#include <cstdlib>
 
 /// Writes pictures of the window in its main states.
 ///
@@ -34,11 +34,11 @@ public:
 
     void take(const std::string& state) {
         static const std::pair<const char*, void (Shots::*)()> kStates[] = {
-            {"empty", &Shots::empty},         {"sign-in", &Shots::signIn},
+            {"empty", &Shots::empty},           {"sign-in", &Shots::signIn},
             {"connecting", &Shots::connecting}, {"connect-failed", &Shots::connectFailed},
-            {"tracks", &Shots::tracks},       {"album", &Shots::album},
-            {"preparing", &Shots::preparing}, {"uploading", &Shots::uploading},
-            {"missing", &Shots::missing},     {"done", &Shots::done},
+            {"tracks", &Shots::tracks},         {"album", &Shots::album},
+            {"preparing", &Shots::preparing},   {"uploading", &Shots::uploading},
+            {"missing", &Shots::missing},       {"done", &Shots::done},
             {"about", &Shots::about},
         };
         for (const auto& [name, shoot] : kStates) {
@@ -56,6 +56,9 @@ public:
 private:
     MainWindow& window() { return m_stage->window(); }
 
+    /// In the order of the album.
+    std::vector<std::string> songs() const { return {m_stage->songs().rbegin(), m_stage->songs().rend()}; }
+
     void open(const std::vector<std::string>& files) {
         m_stage->open(files);
         if (m_suffix.startsWith("-dark")) {
@@ -63,7 +66,8 @@ private:
         }
         window().resize(kSize);
         auto* songs = window().findChild<SongView*>();
-        waitFor([&] { return files.empty() || cell(*songs, static_cast<int>(files.size()) - 1, 7).size() > 10; });
+        waitFor(
+            [&] { return files.empty() || cell(*songs, static_cast<int>(files.size()) - 1, 7).size() > 10; });
     }
 
     void publish() {
@@ -79,7 +83,7 @@ private:
     }
 
     void openReady(bool isAlbum) {
-        open(m_stage->songs());
+        open(songs());
         publish();
         connectPanel();
         click(window(), isAlbum ? "album" : "singles");
@@ -97,19 +101,19 @@ private:
     }
 
     void signIn() {
-        open(m_stage->songs());
+        open(songs());
         save();
     }
 
     void connecting() {
-        qputenv("BROWSER", "/bin/true");
-        open(m_stage->songs());
+        m_stage->setVisit(Stage::Visit::kGoAway);
+        open(songs());
         shootDialog();
     }
 
     void connectFailed() {
         m_stage->service().addFault(R"({"path":"/oauth/token","status":500,"times":9})");
-        open(m_stage->songs());
+        open(songs());
         click(window(), "connect");
         const auto* line = window().findChild<StatusLine*>();
         waitFor([line] { return line->notice().kind == NoticeKind::kError; });
@@ -146,9 +150,9 @@ private:
     }
 
     void preparing() {
-        auto songs = m_stage->songs();
-        songs.push_back(m_stage->untaggedSong("Long.wav", 1U << 30U));
-        open(songs);
+        auto files = songs();
+        files.push_back(m_stage->untaggedSong("Live at the Lighthouse.wav", 1U << 30U));
+        open(files);
         publish();
         connectPanel();
         click(window(), "album");
@@ -182,7 +186,7 @@ private:
         m_stage->service().addFault(
             R"({"path":"/api/frontstage/release_ingestion","status":422,"body":{"errors":"The object did not contain a required property of 'primary_genre'"}})");
         const std::string demo = m_stage->untaggedSong("Demo take 4.wav");
-        auto files = m_stage->songs();
+        auto files = songs();
         files.push_back(demo);
         open(files);
         publish();
@@ -206,7 +210,7 @@ private:
     }
 
     void about() {
-        open(m_stage->songs());
+        open(songs());
         window().findChild<QAction*>("about")->trigger();
         QTest::qWait(200);
         save();

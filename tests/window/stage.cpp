@@ -26,17 +26,16 @@ Stage::Stage(int seconds) : m_service(std::make_unique<RunningService>()) {
     for (const char* variable : {"DBUS_SESSION_BUS_ADDRESS", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION"}) {
         qunsetenv(variable);
     }
-    const std::pair<const char*, const char*> folders[] = {{"HOME", "home"},
-                                                           {"XDG_CONFIG_HOME", "home/config"},
-                                                           {"XDG_RUNTIME_DIR", "run"},
-                                                           {"TMPDIR", "tmp"}};
+    const std::pair<const char*, const char*> folders[] = {
+        {"HOME", "home"}, {"XDG_CONFIG_HOME", "home/config"}, {"XDG_RUNTIME_DIR", "run"}, {"TMPDIR", "tmp"}};
     for (const auto& [variable, name] : folders) {
         fs::create_directories(path(name));
         fs::permissions(path(name), fs::perms::owner_all);
         setVariable(variable, path(name));
     }
     setVariable("XBRHOST_CONFIG", path("services.ini"));
-    setVariable("BROWSER", TEST_BROWSER);
+    setVariable("BROWSER", path("browser"));
+    setVisit(Visit::kAllow);
     setVariable("BRINDLEX_CALLBACK_PROGRAM", TEST_PROGRAM);
     configure(m_service->origin());
     makeSongs(seconds);
@@ -59,7 +58,8 @@ std::string Stage::path(const std::string& name) const {
 }
 
 void Stage::makeSongs(int seconds) {
-    EXPECT_EQ(QProcess::execute(TEST_SONGS, {QString::fromStdString(path("songs")), QString::number(seconds)}), 0);
+    EXPECT_EQ(
+        QProcess::execute(TEST_SONGS, {QString::fromStdString(path("songs")), QString::number(seconds)}), 0);
     for (const auto& entry : fs::directory_iterator(path("songs"))) {
         m_songs.push_back(entry.path().string());
     }
@@ -68,7 +68,8 @@ void Stage::makeSongs(int seconds) {
 
 std::string Stage::untaggedSong(const std::string& name, std::uint32_t bytes) const {
     static constexpr std::size_t kHeaderSize = 44;
-    std::string header("RIFF....WAVEfmt \x10\0\0\0\1\0\1\0\x80\xBB\0\0\0\x77\1\0\2\0\x10\0data....", kHeaderSize);
+    std::string header("RIFF....WAVEfmt \x10\0\0\0\1\0\1\0\x80\xBB\0\0\0\x77\1\0\2\0\x10\0data....",
+                       kHeaderSize);
     for (const auto& [place, value] : {std::pair(4, bytes + 36), std::pair(40, bytes)}) {
         for (int i = 0; i < 4; ++i) {
             header[static_cast<std::size_t>(place + i)] = static_cast<char>(value >> (8 * i));
@@ -90,6 +91,13 @@ std::string Stage::renderedSong(const std::string& name) const {
     sf_writef_short(file, samples.data(), kRate);
     sf_close(file);
     return path(name);
+}
+
+void Stage::setVisit(Visit visit) const {
+    static constexpr const char* kCommands[] = {"exec " TEST_BROWSER " \"$1\"",
+                                                "exec " TEST_BROWSER " --deny \"$1\"", "exit 0"};
+    std::ofstream(path("browser")) << "#!/bin/sh\n" << kCommands[static_cast<int>(visit)] << '\n';
+    fs::permissions(path("browser"), fs::perms::owner_all);
 }
 
 void Stage::configure(const std::string& server) const {

@@ -41,6 +41,10 @@ public:
     /// A song of a kind that has to be rendered.
     std::string renderedSong(const std::string& name) const;
 
+    /// What the person with the browser does with the next sign-in page.
+    enum class Visit { kAllow, kDeny, kGoAway };
+    void setVisit(Visit visit) const;
+
     /// Settings of the service; an empty address leaves them out.
     void configure(const std::string& server) const;
 

@@ -44,7 +44,8 @@ TEST_F(WindowTest, aReleaseIsMadeFromDroppedFilesToTheService) {
 
     // The third has no artist: the service says so, and the panel shows where.
     click(window(), "upload");
-    ASSERT_TRUE(waitFor([&] { return states().find("Missing Information") != std::string::npos; })) << states();
+    ASSERT_TRUE(waitFor([&] { return states().find("Missing Information") != std::string::npos; }))
+        << states();
     EXPECT_TRUE(statusSays("needs more information"));
     selectRows(trackList(), {2});
     EXPECT_TRUE(find(window(), "songArtistMark"));
@@ -124,6 +125,8 @@ TEST_F(WindowTest, whatTheModuleKeepsSilentAboutIsTold) {
     EXPECT_EQ(stage.arrived(), 0U);
 
     click(window(), "disconnect");
+    EXPECT_TRUE(statusSays("Disconnected"));
+    QTest::qWait(50); // the panel tells itself, too
     stage.stopService();
     bool isTold = false;
     const auto act = whenever([&] {
@@ -135,7 +138,7 @@ TEST_F(WindowTest, whatTheModuleKeepsSilentAboutIsTold) {
         }
         return isTold;
     });
-    qputenv("BROWSER", "/bin/true");
+    stage.setVisit(Stage::Visit::kGoAway);
     click(window(), "connect");
     EXPECT_TRUE(isTold);
 }
@@ -146,8 +149,9 @@ TEST_F(WindowTest, aSignInThatComesToNothingSaysWhy) {
     click(window(), "connect");
     EXPECT_TRUE(statusSays("did not accept the sign-in"));
 
+    QTest::qWait(50);
     // Who denies may think better of it: the dialog stays.
-    qputenv("BROWSER", TEST_DENYING_BROWSER);
+    stage.setVisit(Stage::Visit::kDeny);
     bool isTold = false;
     const auto act = whenever([&] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());

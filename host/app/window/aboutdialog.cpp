@@ -27,10 +27,13 @@ QLabel* makeLabel(const QString& text, const char* name, QWidget* parent) {
 std::vector<VersionLine> allLines(const std::vector<VersionLine>& modules) {
     std::vector<VersionLine> lines{{"xbrhost", XBR_HOST_VERSION}};
     lines.insert(lines.end(), modules.begin(), modules.end());
-    const std::vector<VersionLine> libraries{
-        {"Qt", qVersion()},           {"libcurl", XBR_CURL_VERSION},     {"libzip", XBR_ZIP_VERSION},
-        {"ISA-L", XBR_ISAL_VERSION},  {"libsecret", XBR_SECRET_VERSION}, {"TagLib", XBR_TAGLIB_VERSION},
-        {"libsndfile", XBR_SNDFILE_VERSION}};
+    const std::vector<VersionLine> libraries{{"Qt", qVersion()},
+                                             {"libcurl", XBR_CURL_VERSION},
+                                             {"libzip", XBR_ZIP_VERSION},
+                                             {"ISA-L", XBR_ISAL_VERSION},
+                                             {"libsecret", XBR_SECRET_VERSION},
+                                             {"TagLib", XBR_TAGLIB_VERSION},
+                                             {"libsndfile", XBR_SNDFILE_VERSION}};
     lines.insert(lines.end(), libraries.begin(), libraries.end());
     return lines;
 }
@@ -46,12 +49,14 @@ AboutDialog::AboutDialog(const std::vector<VersionLine>& modules, QWidget* paren
     layout->setContentsMargins(28, 24, 28, 20);
     layout->setSpacing(6);
     auto* picture = new QLabel(this);
-    picture->setPixmap(QIcon(":/xbrhost/icons/app.svg").pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
+    picture->setPixmap(
+        QIcon(":/xbrhost/icons/app.svg").pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
     layout->addWidget(picture);
     auto* title = makeLabel("xbrhost", "aboutTitle", this);
     title->setFont(scaledFont(1.5, QFont::DemiBold));
     layout->addWidget(title);
-    layout->addWidget(makeLabel(tr("Publishes finished songs through the modules of a workstation."), "aboutQuiet", this));
+    layout->addWidget(
+        makeLabel(tr("Publishes finished songs through the modules of a workstation."), "aboutQuiet", this));
     layout->addSpacing(12);
 
     auto* table = new QGridLayout;

@@ -46,8 +46,7 @@ void DesktopScheme::take(const QVariant& value) {
     static constexpr uint kPrefersDark = 1;
     static constexpr uint kPrefersLight = 2;
     // The portal wraps the value twice.
-    const QVariant inner =
-        value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+    const QVariant inner = value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
     std::optional<Appearance> wanted;
     if (inner.toUInt() == kPrefersDark) {
         wanted = Appearance::kDark;

@@ -24,9 +24,7 @@ QLabel* addLine(QVBoxLayout& layout, const char* name, const QString& text) {
 
 } // namespace
 
-EmptyState::EmptyState(QWidget* parent)
-    : QFrame(parent),
-      m_button(new QPushButton(tr("&Add Songs…"), this)) {
+EmptyState::EmptyState(QWidget* parent) : QFrame(parent), m_button(new QPushButton(tr("&Add Songs…"), this)) {
     setObjectName("emptyState");
     m_button->setObjectName("addFirst");
     auto* layout = new QVBoxLayout(this);
@@ -36,7 +34,8 @@ EmptyState::EmptyState(QWidget* parent)
     auto* picture = new IconLabel("waveform", kIconSize, this);
     layout->addWidget(picture, 0, Qt::AlignHCenter);
     layout->addSpacing(8);
-    addLine(*layout, "emptyTitle", tr("Drop your finished songs here"))->setFont(scaledFont(1.25, QFont::DemiBold));
+    addLine(*layout, "emptyTitle", tr("Drop your finished songs here"))
+        ->setFont(scaledFont(1.25, QFont::DemiBold));
     addLine(*layout, "emptyText", tr("WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder"));
     layout->addSpacing(12);
     layout->addWidget(m_button, 0, Qt::AlignHCenter);

@@ -23,8 +23,7 @@ QFileDialog::FileMode modeOf(const FileQuestion& question) {
 } // namespace
 
 QStringList askForFiles(WindowContext& context, const FileQuestion& question) {
-    const QPointer<QFileDialog> dialog =
-        new QFileDialog(context.window, question.title, lastFolder());
+    const QPointer<QFileDialog> dialog = new QFileDialog(context.window, question.title, lastFolder());
     dialog->setFileMode(modeOf(question));
     dialog->setAcceptMode(question.isSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setNameFilters(question.filters);

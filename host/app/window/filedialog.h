@@ -13,8 +13,8 @@ struct FileQuestion {
     bool isForSeveral = false;
 };
 
-/// Asks the user for files, beginning in the folder where they were last; empty when the user thinks better of
-/// it, or when the program is to end meanwhile. Runs the event loop.
+/// Asks the user for files, beginning in the folder where they were last; empty when the user thinks better
+/// of it, or when the program is to end meanwhile. Runs the event loop.
 QStringList askForFiles(WindowContext& context, const FileQuestion& question);
 
 } // namespace xbr::host

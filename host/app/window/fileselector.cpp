@@ -39,8 +39,7 @@ QStringList FileSelector::nameFilters() const {
     QStringList filters;
     for (const Filter& filter : m_filters) {
         const QString pattern = patternOf(filter.extension);
-        const QString name =
-            filter.description.isEmpty() ? filter.extension.toUpper() : filter.description;
+        const QString name = filter.description.isEmpty() ? filter.extension.toUpper() : filter.description;
         patterns.append(pattern);
         filters.append(QString("%1 (%2)").arg(name, pattern));
     }

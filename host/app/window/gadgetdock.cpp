@@ -38,7 +38,8 @@ GadgetDock::GadgetDock(const GadgetClass& gadget, const WindowContext& context, 
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     setTitleBarWidget(new DockTitle(*this));
     std::string error;
-    m_panel = GadgetPanel::open(gadget, [this] { bringToFront(); }, error);
+    m_panel = GadgetPanel::open(
+        gadget, [this] { bringToFront(); }, error);
     if (!m_panel) {
         showProblem(sentence(error));
         return;

@@ -81,7 +81,8 @@ void IconLabel::setIcon(const QString& name, const QColor& color) {
 
 void IconLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    drawSymbol(painter, m_name, rect(), m_color.isValid() ? m_color : palette().color(QPalette::PlaceholderText));
+    drawSymbol(painter, m_name, rect(),
+               m_color.isValid() ? m_color : palette().color(QPalette::PlaceholderText));
 }
 
 } // namespace xbr::host

@@ -217,8 +217,9 @@ void MainWindow::publish(const PublishEntry& entry) {
     const bool isReading =
         std::any_of(songs.begin(), songs.end(), [](const Song& song) { return song.isBeingRead; });
     if (songs.empty() || isReading) {
-        showNotice({NoticeKind::kInfo, isReading ? tr("Some songs are still being read; try again in a moment.")
-                                                 : tr("Add songs first.")});
+        showNotice({NoticeKind::kInfo, isReading
+                                           ? tr("Some songs are still being read; try again in a moment.")
+                                           : tr("Add songs first.")});
     } else if (isUploading()) {
         showNotice({NoticeKind::kWarning, tr("Wait until the upload that runs has ended.")});
     } else {
@@ -227,9 +228,8 @@ void MainWindow::publish(const PublishEntry& entry) {
 }
 
 bool MainWindow::isUploading() const {
-    return std::any_of(m_docks.begin(), m_docks.end(), [](const GadgetDock* dock) {
-        return dock->watch() && dock->watch()->isUploading();
-    });
+    return std::any_of(m_docks.begin(), m_docks.end(),
+                       [](const GadgetDock* dock) { return dock->watch() && dock->watch()->isUploading(); });
 }
 
 void MainWindow::focusNextArea() {
@@ -245,7 +245,8 @@ void MainWindow::focusNextArea() {
     });
     const auto next = present == areas.end() || present + 1 == areas.end() ? areas.begin() : present + 1;
     QWidget* first = (*next)->focusPolicy() == Qt::NoFocus ? (*next)->nextInFocusChain() : *next;
-    for (int tries = 0; tries < 100 && !(first->isVisible() && (first->focusPolicy() & Qt::TabFocus)); ++tries) {
+    for (int tries = 0; tries < 100 && !(first->isVisible() && (first->focusPolicy() & Qt::TabFocus));
+         ++tries) {
         first = first->nextInFocusChain();
     }
     first->setFocus(Qt::ShortcutFocusReason);
@@ -263,7 +264,8 @@ void MainWindow::resetLayout() {
 bool MainWindow::askWhetherToStop() {
     QMessageBox question(QMessageBox::Warning, tr("Stop the Upload?"), tr("An upload is running."),
                          QMessageBox::NoButton, this);
-    question.setInformativeText(tr("When you quit now, it is stopped; songs that have not arrived are not published."));
+    question.setInformativeText(
+        tr("When you quit now, it is stopped; songs that have not arrived are not published."));
     auto* stop = question.addButton(tr("&Stop and Quit"), QMessageBox::DestructiveRole);
     auto* goOn = question.addButton(tr("&Keep Uploading"), QMessageBox::RejectRole);
     question.setDefaultButton(goOn);

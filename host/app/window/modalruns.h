@@ -5,8 +5,8 @@
 
 namespace xbr::host {
 
-/// The dialogs and progress indicators that run the event loop inside a call of a module. While there are any,
-/// code of the module is on the stack: it may not be unloaded.
+/// The dialogs and progress indicators that run the event loop inside a call of a module. While there are
+/// any, code of the module is on the stack: it may not be unloaded.
 class ModalRuns {
 public:
     /// One run; it is over when this object dies.

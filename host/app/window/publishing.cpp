@@ -113,9 +113,8 @@ Notice Publishing::handOver(const PublishEntry& entry, const std::vector<Song>& 
         return {NoticeKind::kError, Texts::tr("“%1” does not take the songs.").arg(entry.name)};
     }
     m_rendered = std::move(rendered); // the former ones are no longer in the module's list
-    return {NoticeKind::kInfo,
-            Texts::tr("%n song(s) handed over. Complete the information, then upload.", nullptr,
-                      static_cast<int>(songs.size()))};
+    return {NoticeKind::kInfo, Texts::tr("%n song(s) handed over. Complete the information, then upload.",
+                                         nullptr, static_cast<int>(songs.size()))};
 }
 
 } // namespace xbr::host

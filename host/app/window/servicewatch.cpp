@@ -57,7 +57,8 @@ void ServiceWatch::tellInDialog(const QString& text) {
 
 void ServiceWatch::callbackArrived() {
     if (clientStateOf(*m_panel) == kAwaitingCode) {
-        tellInDialog(tr("The browser came back without a permission. Allow the access there, or cancel here."));
+        tellInDialog(
+            tr("The browser came back without a permission. Allow the access there, or cancel here."));
     }
 }
 
@@ -134,7 +135,8 @@ void ServiceWatch::trackChanged(const TrackReport& track) {
 }
 
 bool ServiceWatch::isIdle() const {
-    return m_context->activity.openIndicators == 0 && !m_panel->isClient("isBusy") && !(m_follower && m_follower->isUploading());
+    return m_context->activity.openIndicators == 0 && !m_panel->isClient("isBusy") &&
+           !(m_follower && m_follower->isUploading());
 }
 
 void ServiceWatch::rested() {
@@ -152,7 +154,8 @@ bool ServiceWatch::tellExpired() {
     const bool isNews = refusals != m_refusals;
     m_refusals = refusals;
     if (isNews) {
-        tell(NoticeKind::kWarning, tr("Your sign-in has expired or was withdrawn. Disconnect, then connect again."));
+        tell(NoticeKind::kWarning,
+             tr("Your sign-in has expired or was withdrawn. Disconnect, then connect again."));
     }
     return isNews;
 }
@@ -166,9 +169,9 @@ void ServiceWatch::judgeSignIn() {
     } else if (m_hasSignInFailed) {
         m_hasSignInFailed = false;
         m_reachability.check(m_context->configuration->serverUrl, [this](const std::string& problem) {
-            tell(NoticeKind::kError,
-                 problem.empty() ? tr("The service did not accept the sign-in. Try to connect again.")
-                                 : sentence(problem));
+            tell(NoticeKind::kError, problem.empty()
+                                         ? tr("The service did not accept the sign-in. Try to connect again.")
+                                         : sentence(problem));
         });
     } else if (m_state == kAwaitingCode && m_context->dialog) {
         m_settling.start(); // until somebody closes it
@@ -203,9 +206,9 @@ void ServiceWatch::judgeFailure(const std::vector<TrackReport>& tracks, bool was
     }
     const int open = static_cast<int>(tracks.size() - countOf(tracks, TrackState::kDone));
     m_reachability.check(m_context->configuration->serverUrl, [this, open](const std::string& unreachable) {
-        tell(NoticeKind::kError, unreachable.empty()
-                                     ? tr("The service did not take %n song(s). Try again later.", nullptr, open)
-                                     : sentence(unreachable));
+        tell(NoticeKind::kError,
+             unreachable.empty() ? tr("The service did not take %n song(s). Try again later.", nullptr, open)
+                                 : sentence(unreachable));
     });
 }
 

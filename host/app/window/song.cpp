@@ -26,8 +26,8 @@ struct Field {
 };
 
 constexpr Field kFields[] = {
-    {"Media:Title", &Song::title},   {"Media:Artist", &Song::artist},
-    {"Media:Album", &Song::album},   {"Media:AlbumArtist", &Song::albumArtist},
+    {"Media:Title", &Song::title}, {"Media:Artist", &Song::artist},
+    {"Media:Album", &Song::album}, {"Media:AlbumArtist", &Song::albumArtist},
     {"Media:Genre", &Song::genre},
 };
 
@@ -56,9 +56,10 @@ QString lengthText(std::int64_t milliseconds) {
     const std::int64_t minutes = seconds / kSecondsOfMinute;
     const auto twoDigits = [](std::int64_t number) { return QString("%1").arg(number, 2, 10, QChar('0')); };
     const QString end = ":" + twoDigits(seconds % kSecondsOfMinute);
-    return minutes < kSecondsOfMinute
-               ? QString::number(minutes) + end
-               : QString("%1:%2%3").arg(minutes / kSecondsOfMinute).arg(twoDigits(minutes % kSecondsOfMinute), end);
+    return minutes < kSecondsOfMinute ? QString::number(minutes) + end
+                                      : QString("%1:%2%3")
+                                            .arg(minutes / kSecondsOfMinute)
+                                            .arg(twoDigits(minutes % kSecondsOfMinute), end);
 }
 
 QString formatText(const AudioFormat& format) {
@@ -70,7 +71,8 @@ QString formatText(const AudioFormat& format) {
         parts.append(Texts::tr("%1 kbit/s").arg(format.bitRate));
     }
     if (format.sampleRate > 0) {
-        parts.append(Texts::tr("%1 kHz").arg(QLocale().toString(static_cast<double>(format.sampleRate) / kHertz, 'g', 4)));
+        parts.append(Texts::tr("%1 kHz").arg(
+            QLocale().toString(static_cast<double>(format.sampleRate) / kHertz, 'g', 4)));
     }
     return parts.join(QString::fromUtf8(" · "));
 }
@@ -94,9 +96,8 @@ Song readSong(const std::string& path) {
     const std::string problem = problemOfFile(path);
     const auto format = problem.empty() ? readAudioFormat(path) : std::nullopt;
     if (!format) {
-        song.problem = problem.empty()
-                           ? Texts::tr("This is no audio that can be read.")
-                           : Texts::tr("The file cannot be read.");
+        song.problem = problem.empty() ? Texts::tr("This is no audio that can be read.")
+                                       : Texts::tr("The file cannot be read.");
         song.title = fileNameOf(song);
         return song;
     }

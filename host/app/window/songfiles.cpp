@@ -40,7 +40,8 @@ QString songFileFilter() {
     for (const QString& pattern : patterns()) {
         all << pattern << pattern.toUpper();
     }
-    return QString("%1 (%2)").arg(QCoreApplication::translate("xbr::host::Song", "Audio files"), all.join(' '));
+    return QString("%1 (%2)").arg(QCoreApplication::translate("xbr::host::Song", "Audio files"),
+                                  all.join(' '));
 }
 
 std::vector<std::string> songFilesOf(const QList<QUrl>& locations) {

@@ -103,28 +103,30 @@ void SongView::editCurrent() {
 int SongView::neededWidth(int column) const {
     static constexpr int kPadding = 24;
     const QString widest[] = {"9999", {}, {}, {}, {}, {}, "0:00:00", widestFormat()};
-    return std::max(fontMetrics().horizontalAdvance(widest[column]) + kPadding, header()->sectionSizeHint(column));
+    return std::max(fontMetrics().horizontalAdvance(widest[column]) + kPadding,
+                    header()->sectionSizeHint(column));
 }
 
 /// The columns fill the view: those of numbers take what they need, the others share the rest in the
-/// proportions that the user gave them.
+/// proportions that the user gave them, and the title takes what is left.
 void SongView::fitColumns() {
-    int wanted = viewport()->width() - neededWidth(SongListModel::kFormat);
+    int rest = viewport()->width() - neededWidth(SongListModel::kFormat);
     int present = 0;
     for (int column = 0; column < SongListModel::kFormat; ++column) {
+        present += isFixed(column) ? 0 : header()->sectionSize(column);
+        rest -= isFixed(column) ? neededWidth(column) : 0;
+    }
+    const int shared = rest;
+    for (int column = 0; column < SongListModel::kFormat && present > 0; ++column) {
         if (isFixed(column)) {
             header()->resizeSection(column, neededWidth(column));
-            wanted -= header()->sectionSize(column);
-        } else {
-            present += header()->sectionSize(column);
+        } else if (column != SongListModel::kTitle) {
+            const int share = header()->sectionSize(column) * shared / present;
+            header()->resizeSection(column, std::max(share, header()->sectionSizeHint(column)));
+            rest -= header()->sectionSize(column);
         }
     }
-    for (int column = 0; column < SongListModel::kFormat && present > 0; ++column) {
-        if (!isFixed(column)) {
-            const int width = header()->sectionSize(column) * wanted / present;
-            header()->resizeSection(column, std::max(width, kLeastWidth));
-        }
-    }
+    header()->resizeSection(SongListModel::kTitle, std::max(rest, kLeastWidth));
 }
 
 void SongView::resizeEvent(QResizeEvent* event) {

@@ -8,6 +8,15 @@
 
 namespace xbr::host {
 
+namespace {
+
+/// Belongs to the window, which may take it along when it goes.
+QPointer<ViewDialogFrame> makeFrame(QWidget* window, std::int32_t styleFlags) {
+    return new ViewDialogFrame(window, styleFlags);
+}
+
+} // namespace
+
 Result ViewDialog::setTheme(ITheme* theme) noexcept {
     m_theme = Ref<ITheme>::share(theme);
     return kOk;
@@ -35,8 +44,7 @@ Result ViewDialog::runModal(IView* view, std::int32_t styleFlags) noexcept {
     }
     const auto self = Ref<ViewDialog>::share(this); // whoever made it may let go of it meanwhile
     const auto shown = Ref<IView>::share(view);
-    // The window may take its children along when it goes.
-    const QPointer<ViewDialogFrame> frame = new ViewDialogFrame(m_context->window, styleFlags);
+    const auto frame = makeFrame(m_context->window, styleFlags);
     if (!frame->showView(*view)) {
         delete frame;
         return kInvalidArgument;

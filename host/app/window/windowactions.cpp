@@ -82,7 +82,8 @@ void WindowActions::makeViewMenu(QMainWindow& window) {
     nextArea = makeAction(window, "nextArea", Texts::tr("&Next Area"), QKeySequence(Qt::Key_F6));
     panelMenu->addAction(nextArea);
     m_appearanceMenu = panelMenu->addMenu(Texts::tr("&Appearance"));
-    resetLayout = makeAction(window, "resetLayout", Texts::tr("&Reset Layout"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
+    resetLayout = makeAction(window, "resetLayout", Texts::tr("&Reset Layout"),
+                             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
     panelMenu->addAction(resetLayout);
 }
 
@@ -93,9 +94,10 @@ void WindowActions::setAppearance(AppearanceChoice choice,
         const char* name;
         QString text;
         int key;
-    } entries[] = {{AppearanceChoice::kDesktop, "appearanceDesktop", Texts::tr("As the &Desktop"), Qt::Key_F9},
-                   {AppearanceChoice::kLight, "appearanceLight", Texts::tr("&Light"), Qt::Key_F10},
-                   {AppearanceChoice::kDark, "appearanceDark", Texts::tr("Da&rk"), Qt::Key_F11}};
+    } entries[] = {
+        {AppearanceChoice::kDesktop, "appearanceDesktop", Texts::tr("As the &Desktop"), Qt::Key_F9},
+        {AppearanceChoice::kLight, "appearanceLight", Texts::tr("&Light"), Qt::Key_F10},
+        {AppearanceChoice::kDark, "appearanceDark", Texts::tr("Da&rk"), Qt::Key_F11}};
     auto* group = new QActionGroup(m_appearanceMenu);
     for (const auto& entry : entries) {
         QAction* action = m_appearanceMenu->addAction(entry.text);

@@ -13,8 +13,8 @@ namespace {
 const ClassDescription kDialog{0, IDialog::kClassUid, toText("Host"), toText("Dialog"), {}, {}};
 const ClassDescription kProgress{
     0, IProgressIndicator::kClassUid, toText("Host"), toText("Progress Indicator"), {}, {}};
-const ClassDescription kSelector{
-    0, IFileSelector::kClassUid, toText("Host"), toText("File Selector"), {}, {}};
+const ClassDescription kSelector{0, IFileSelector::kClassUid, toText("Host"), toText("File Selector"), {},
+                                 {}};
 
 template <class T>
 ClassFactory::Creator creatorFor(WindowContext& context) {

@@ -30,10 +30,8 @@ std::vector<std::string> modulesToLoad(const std::string& wanted) {
 VersionLine lineOf(const Module& module) {
     const std::uint32_t version = module.borderVersion();
     const QString name = QString::fromStdString(module.path().substr(module.path().rfind('/') + 1));
-    return {QString::fromStdString(module.name()), Texts::tr("%1, border %2.%3")
-                                                       .arg(name)
-                                                       .arg(borderMajor(version))
-                                                       .arg(version & 0xFFFFU)};
+    return {QString::fromStdString(module.name()),
+            Texts::tr("%1, border %2.%3").arg(name).arg(borderMajor(version)).arg(version & 0xFFFFU)};
 }
 
 } // namespace
@@ -50,7 +48,10 @@ WindowHost::WindowHost()
     setStoreProblemListener([this](const std::string& words) {
         // Later: it is told from within a call of a module.
         QMetaObject::invokeMethod(
-            m_window.get(), [this, words] { m_window->showNotice({NoticeKind::kWarning, sentence(words)}); },
+            m_window.get(),
+            [this, words] {
+                m_window->showNotice({NoticeKind::kWarning, sentence(words)});
+            },
             Qt::QueuedConnection);
     });
 }
@@ -91,10 +92,11 @@ void WindowHost::start(const WindowOptions& options) {
     }
     m_window->showModules(std::move(versions));
     if (!m_problems.empty()) {
-        m_window->showNotice({NoticeKind::kError, Texts::tr("Songs cannot be published: %1")
-                                                      .arg(sentence(m_problems.front()))});
+        m_window->showNotice({NoticeKind::kError,
+                              Texts::tr("Songs cannot be published: %1").arg(sentence(m_problems.front()))});
     } else if (m_modules.empty()) {
-        m_window->showNotice({NoticeKind::kWarning, Texts::tr("Songs cannot be published: no module was found.")});
+        m_window->showNotice(
+            {NoticeKind::kWarning, Texts::tr("Songs cannot be published: no module was found.")});
     }
     listen();
     m_window->addSongs(options.files);
@@ -104,9 +106,9 @@ void WindowHost::start(const WindowOptions& options) {
 void WindowHost::listen() {
     std::string error;
     if (!m_context.callbacks.start(error)) {
-        m_window->showNotice({NoticeKind::kWarning,
-                              Texts::tr("The browser's answer to a sign-in cannot be received: %1")
-                                  .arg(sentence(error))});
+        m_window->showNotice(
+            {NoticeKind::kWarning,
+             Texts::tr("The browser's answer to a sign-in cannot be received: %1").arg(sentence(error))});
     }
     m_context.callbacks.setUrlListener([this] { callbackArrived(); });
 }

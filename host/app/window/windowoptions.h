@@ -15,7 +15,8 @@ struct WindowOptions {
 /// "window".
 bool isForWindow(const std::vector<std::string>& arguments);
 
-/// Reads "window [--module PATH] [--] [FILE]...". False, with the reason in `error`, when that makes no sense.
+/// Reads "window [--module PATH] [--] [FILE]...". False, with the reason in `error`, when that makes no
+/// sense.
 bool parseWindowOptions(const std::vector<std::string>& arguments, WindowOptions& options,
                         std::string& error);
 
