@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
@@ -16,6 +17,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 
 /// Writes pictures of the window in its main states.
 ///
@@ -39,7 +41,7 @@ public:
             {"tracks", &Shots::tracks},         {"album", &Shots::album},
             {"preparing", &Shots::preparing},   {"uploading", &Shots::uploading},
             {"missing", &Shots::missing},       {"done", &Shots::done},
-            {"about", &Shots::about},
+            {"about", &Shots::about},           {"news", &Shots::news},
         };
         for (const auto& [name, shoot] : kStates) {
             if (state == name) {
@@ -117,6 +119,19 @@ private:
         click(window(), "connect");
         const auto* line = window().findChild<StatusLine*>();
         waitFor([line] { return line->notice().kind == NoticeKind::kError; });
+        save();
+    }
+
+    void news() {
+        std::ofstream(m_stage->path("services.ini"), std::ios::app)
+            << "FeedURL=" << m_stage->service().origin() << "/feed.atom\n";
+        openReady(false);
+        click(window(), "showNews");
+        waitFor([this] {
+            const auto* picture = window().findChild<QLabel*>("picture");
+            return picture && picture->isVisible();
+        });
+        QTest::qWait(500); // for the pictures
         save();
     }
 

@@ -26,8 +26,11 @@ Stage::Stage(int seconds) : m_service(std::make_unique<RunningService>()) {
     for (const char* variable : {"DBUS_SESSION_BUS_ADDRESS", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION"}) {
         qunsetenv(variable);
     }
-    const std::pair<const char*, const char*> folders[] = {
-        {"HOME", "home"}, {"XDG_CONFIG_HOME", "home/config"}, {"XDG_RUNTIME_DIR", "run"}, {"TMPDIR", "tmp"}};
+    const std::pair<const char*, const char*> folders[] = {{"HOME", "home"},
+                                                           {"XDG_CONFIG_HOME", "home/config"},
+                                                           {"XDG_CACHE_HOME", "home/cache"},
+                                                           {"XDG_RUNTIME_DIR", "run"},
+                                                           {"TMPDIR", "tmp"}};
     for (const auto& [variable, name] : folders) {
         fs::create_directories(path(name));
         fs::permissions(path(name), fs::perms::owner_all);
