@@ -1,8 +1,8 @@
 #pragma once
 
 #include "auth/serviceconfiguration.h"
-#include "framework/support/formencoding.h"
-#include "framework/support/url.h"
+#include "framework/support/data/formencoding.h"
+#include "framework/support/data/url.h"
 
 #include <string>
 #include <string_view>

@@ -4,9 +4,9 @@
 #include "auth/tokenstore.h"
 #include "framework/abi/hostclasses.h"
 #include "framework/abi/system.h"
-#include "framework/support/hostobject.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/text.h"
 
 #include <cassert>
 

@@ -3,8 +3,8 @@
 #include "auth/oauth2tokens.h"
 #include "auth/serviceconfiguration.h"
 #include "auth/servicerequest.h"
-#include "framework/support/formencoding.h"
-#include "framework/support/xhrclient.h"
+#include "framework/support/data/formencoding.h"
+#include "framework/support/parts/xhrclient.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/support/url.h"
+#include "framework/support/data/url.h"
 
 #include <string>
 

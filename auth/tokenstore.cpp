@@ -1,7 +1,7 @@
 #include "auth/tokenstore.h"
 
 #include "framework/abi/credentials.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 namespace brindlex {
 

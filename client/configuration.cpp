@@ -1,9 +1,9 @@
 #include "client/configuration.h"
 
 #include "framework/abi/hostclasses.h"
-#include "framework/support/hostobject.h"
-#include "framework/support/modulecomponent.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/modulecomponent.h"
 
 namespace brindlex {
 

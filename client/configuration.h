@@ -1,7 +1,7 @@
 #pragma once
 
 #include "auth/serviceconfiguration.h"
-#include "framework/support/attributes.h"
+#include "framework/support/data/attributes.h"
 
 #include <optional>
 

@@ -1,11 +1,11 @@
 #include "client/manager.h"
 
 #include "client/configuration.h"
-#include "framework/support/hostobject.h"
-#include "framework/support/modulecomponent.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/modulecomponent.h"
 #include "release/genrecatalogue.h"
-#include "ui/tracks.h"
+#include "ui/tracks/tracks.h"
 
 namespace brindlex {
 

@@ -3,9 +3,9 @@
 #include "auth/oauth2client.h"
 #include "client/uploadqueue.h"
 #include "framework/abi/view.h"
-#include "framework/support/component.h"
+#include "framework/support/parts/component.h"
 #include "release/account.h"
-#include "ui/tracklistcomponent.h"
+#include "ui/tracks/tracklistcomponent.h"
 
 #include <string_view>
 

@@ -3,7 +3,7 @@
 #include "auth/oauth2client.h"
 #include "framework/abi/progress.h"
 #include "release/payload.h"
-#include "ui/tracklistcomponent.h"
+#include "ui/tracks/tracklistcomponent.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,8 +1,8 @@
 #include "client/uploadreply.h"
 
-#include "framework/support/jsonarchive.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/xhrclient.h"
+#include "framework/support/data/jsonarchive.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/parts/xhrclient.h"
 
 namespace brindlex {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/webservice.h"
-#include "ui/trackitem.h"
+#include "ui/tracks/trackitem.h"
 
 namespace brindlex {
 

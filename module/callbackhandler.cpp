@@ -1,7 +1,7 @@
 #include "module/callbackhandler.h"
 
 #include "client/manager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 namespace brindlex {
 

@@ -1,6 +1,6 @@
 #include "module/classtable.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 namespace brindlex {
 

@@ -1,12 +1,12 @@
 #include "module/componentclasses.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "module/modulegate.h"
-#include "ui/feedelement.h"
-#include "ui/feedlistcomponent.h"
-#include "ui/imageelement.h"
-#include "ui/persistentimagecache.h"
+#include "ui/news/feedlistcomponent.h"
+#include "ui/news/newsfeed.h"
+#include "ui/pictures/imageelement.h"
+#include "ui/pictures/persistentimagecache.h"
 
 namespace brindlex {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/abi/publisher.h"
-#include "framework/support/formencoding.h"
-#include "framework/support/object.h"
+#include "framework/support/data/formencoding.h"
+#include "framework/support/objects/object.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/message.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,5 +1,5 @@
 #include "framework/abi/filesystem.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "module/modulekernel.h"
 
 // The archive that the build packs from resources/, see resourcedata.S.

@@ -4,7 +4,7 @@
 #include "framework/abi/filetype.h"
 #include "framework/abi/publisher.h"
 #include "framework/abi/system.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "module/callbackhandler.h"
 #include "module/classtable.h"
 #include "module/gadgetdescription.h"

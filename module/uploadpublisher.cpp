@@ -1,11 +1,11 @@
 #include "module/uploadpublisher.h"
 
 #include "client/manager.h"
-#include "framework/support/attributes.h"
-#include "framework/support/objectlist.h"
-#include "framework/support/text.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/objectlist.h"
+#include "framework/support/objects/text.h"
 #include "release/audiofile.h"
-#include "ui/trackfactory.h"
+#include "ui/tracks/tracksources.h"
 
 #include <algorithm>
 #include <limits>

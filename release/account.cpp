@@ -1,8 +1,8 @@
 #include "release/account.h"
 
-#include "framework/support/jsonarchive.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/jsonarchive.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 
 namespace brindlex {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/stream.h"
-#include "framework/support/attributes.h"
+#include "framework/support/data/attributes.h"
 
 #include <cstdint>
 #include <string>

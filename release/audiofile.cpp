@@ -2,7 +2,7 @@
 
 #include "framework/abi/filesystem.h"
 #include "framework/abi/filetype.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "framework/abi/filesystem.h"
 #include "framework/abi/textformats.h"
-#include "framework/support/casefolding.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/casefolding.h"
+#include "framework/support/objects/text.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/support/parameter.h"
+#include "framework/support/parts/parameter.h"
 
 #include <string>
 #include <string_view>

@@ -3,8 +3,8 @@
 #include "framework/abi/filesystem.h"
 #include "framework/abi/package.h"
 #include "framework/abi/system.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 #include "release/multipartbody.h"
 
 #include <cstdlib>

@@ -2,7 +2,7 @@
 
 #include "auth/servicerequest.h"
 #include "framework/abi/progress.h"
-#include "framework/support/url.h"
+#include "framework/support/data/url.h"
 
 namespace brindlex {
 

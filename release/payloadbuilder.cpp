@@ -1,8 +1,8 @@
 #include "release/payloadbuilder.h"
 
 #include "framework/abi/filesystem.h"
-#include "framework/support/jsonarchive.h"
-#include "framework/support/text.h"
+#include "framework/support/data/jsonarchive.h"
+#include "framework/support/objects/text.h"
 #include "release/releasedocument.h"
 
 namespace brindlex {

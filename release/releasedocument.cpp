@@ -1,7 +1,7 @@
 #include "release/releasedocument.h"
 
-#include "framework/support/casefolding.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/casefolding.h"
+#include "framework/support/objects/text.h"
 
 namespace brindlex {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #include "sandbox/commandline.h"
 #include "sandbox/launcher.h"
-#include "sandbox/settings.h"
+#include "sandbox/pages/settings.h"
 #include "sandbox/visitor.h"
 
 #include <cstdlib>

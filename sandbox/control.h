@@ -1,10 +1,10 @@
 #pragma once
 
-#include "sandbox/exchange.h"
-#include "sandbox/faults.h"
-#include "sandbox/grants.h"
-#include "sandbox/inbox.h"
-#include "sandbox/requestlog.h"
+#include "sandbox/http/exchange.h"
+#include "sandbox/http/faults.h"
+#include "sandbox/http/requestlog.h"
+#include "sandbox/pages/grants.h"
+#include "sandbox/upload/inbox.h"
 
 namespace sandbox {
 

@@ -1,6 +1,6 @@
 #include "sandbox/htmlform.h"
 
-#include "sandbox/text.h"
+#include "sandbox/http/text.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,5 +1,5 @@
 #include "sandbox/commandline.h"
-#include "sandbox/server.h"
+#include "sandbox/http/server.h"
 #include "sandbox/service.h"
 
 #include <csignal>

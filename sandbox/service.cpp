@@ -1,6 +1,6 @@
 #include "sandbox/service.h"
 
-#include "sandbox/pages.h"
+#include "sandbox/pages/pages.h"
 
 #include <nlohmann/json.hpp>
 

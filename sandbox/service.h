@@ -1,15 +1,15 @@
 #pragma once
 
-#include "sandbox/authorization.h"
 #include "sandbox/control.h"
-#include "sandbox/exchange.h"
-#include "sandbox/faults.h"
-#include "sandbox/grants.h"
-#include "sandbox/inbox.h"
-#include "sandbox/ingestion.h"
-#include "sandbox/news.h"
-#include "sandbox/requestlog.h"
-#include "sandbox/settings.h"
+#include "sandbox/http/exchange.h"
+#include "sandbox/http/faults.h"
+#include "sandbox/http/requestlog.h"
+#include "sandbox/pages/authorization.h"
+#include "sandbox/pages/grants.h"
+#include "sandbox/pages/news.h"
+#include "sandbox/pages/settings.h"
+#include "sandbox/upload/inbox.h"
+#include "sandbox/upload/ingestion.h"
 
 #include <filesystem>
 #include <string>

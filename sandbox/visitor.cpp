@@ -1,6 +1,6 @@
 #include "sandbox/visitor.h"
 
-#include "sandbox/text.h"
+#include "sandbox/http/text.h"
 #include "sandbox/webpage.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "sandbox/webpage.h"
 
-#include "sandbox/text.h"
+#include "sandbox/http/text.h"
 
 #include <curl/curl.h>
 

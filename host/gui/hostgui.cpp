@@ -1,9 +1,9 @@
 #include "host/gui/hostgui.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/classfactory.h"
-#include "framework/support/text.h"
-#include "host/gui/theme.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/classfactory.h"
+#include "host/gui/skin/theme.h"
 
 namespace xbr::host {
 

@@ -1,7 +1,7 @@
 #include "host/gui/hostwidgets.h"
 
-#include "host/gui/formview.h"
-#include "host/gui/viewwidget.h"
+#include "host/gui/build/viewwidget.h"
+#include "host/gui/skin/formview.h"
 
 namespace xbr::host {
 

@@ -1,9 +1,9 @@
 #include "host/net/hostnet.h"
 
-#include "host/net/downloadqueue.h"
-#include "host/net/transfer.h"
-#include "host/net/transferloop.h"
-#include "host/net/webrequest.h"
+#include "host/net/download/downloadqueue.h"
+#include "host/net/http/transfer.h"
+#include "host/net/http/transferloop.h"
+#include "host/net/http/webrequest.h"
 
 namespace xbr::host {
 

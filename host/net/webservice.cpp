@@ -1,10 +1,10 @@
 #include "host/net/webservice.h"
 
-#include "framework/support/text.h"
-#include "host/net/downloadtask.h"
-#include "host/net/feedreader.h"
-#include "host/net/webcredentials.h"
-#include "host/net/webrequest.h"
+#include "framework/support/objects/text.h"
+#include "host/net/download/downloadtask.h"
+#include "host/net/feed/feedreader.h"
+#include "host/net/http/webcredentials.h"
+#include "host/net/http/webrequest.h"
 
 namespace xbr::host {
 

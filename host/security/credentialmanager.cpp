@@ -1,5 +1,5 @@
 #include "framework/abi/credentials.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/security/secretservice.h"
 #include "host/security/storeproblem.h"
 

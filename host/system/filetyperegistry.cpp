@@ -1,6 +1,6 @@
 #include "host/system/filetyperegistry.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/system/mainthread.h"
 
 #include <QMimeType>

@@ -1,9 +1,9 @@
 #include "host/system/system.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "host/system/files/temporaryfolder.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/mainthread.h"
-#include "host/system/temporaryfolder.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/system.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 namespace xbr::host {
 

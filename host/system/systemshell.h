@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/system.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 #include "host/system/hostsystem.h"
 
 namespace xbr::host {

@@ -1,6 +1,6 @@
 #include "host/text/dateformats.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <QDateTime>
 #include <QLocale>

@@ -1,5 +1,5 @@
 #include "framework/abi/textformats.h"
-#include "framework/support/attributes.h"
+#include "framework/support/data/attributes.h"
 #include "host/text/json.h"
 #include "host/text/streams.h"
 

@@ -1,6 +1,6 @@
 #include "framework/abi/textformats.h"
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 #include "host/text/json.h"
 
 #include <nlohmann/json.hpp>

@@ -1,7 +1,7 @@
 #include "host/text/localemanager.h"
 
 #include "framework/abi/filesystem.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/text/dateformats.h"
 #include "host/text/streams.h"
 

@@ -2,7 +2,7 @@
 
 #include "framework/abi/dates.h"
 #include "framework/abi/locale.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 namespace xbr::host {
 

@@ -1,5 +1,5 @@
 #include "framework/abi/textformats.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/text/streams.h"
 #include "host/text/xmltags.h"
 

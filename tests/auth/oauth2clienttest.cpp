@@ -1,6 +1,6 @@
 #include "auth/oauth2client.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/abi/module.h"
-#include "framework/support/object.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/object.h"
+#include "framework/support/objects/text.h"
 
 #include <gtest/gtest.h>
 

@@ -5,8 +5,8 @@
 #include "framework/abi/pluginmanager.h"
 #include "framework/abi/publisher.h"
 #include "framework/abi/view.h"
-#include "framework/support/path.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/path.h"
 #include "host/gui/hostgui.h"
 #include "tests/e2e/builtmodule.h"
 

@@ -2,7 +2,7 @@
 
 #include "framework/abi/download.h"
 #include "framework/abi/message.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 #include <cstdint>
 #include <string>

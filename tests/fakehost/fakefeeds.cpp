@@ -1,7 +1,7 @@
 #include "tests/fakehost/fakefeeds.h"
 
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 
 namespace fakehost {
 

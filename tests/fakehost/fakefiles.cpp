@@ -1,7 +1,7 @@
 #include "tests/fakehost/fakefiles.h"
 
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
 
 namespace fakehost {

@@ -3,7 +3,7 @@
 #include "framework/abi/filestore.h"
 #include "framework/abi/filesystem.h"
 #include "framework/abi/package.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 #include <map>
 #include <set>

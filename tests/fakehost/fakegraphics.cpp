@@ -1,7 +1,7 @@
 #include "tests/fakehost/fakegraphics.h"
 
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
 
 #include <sstream>

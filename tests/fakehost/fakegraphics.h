@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/graphics.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 #include <string>
 #include <vector>

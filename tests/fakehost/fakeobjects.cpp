@@ -1,7 +1,7 @@
 #include "tests/fakehost/fakeobjects.h"
 
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 #include "tests/fakehost/fakehost.h"
 
 namespace fakehost {

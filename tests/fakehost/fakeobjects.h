@@ -4,7 +4,7 @@
 #include "framework/abi/pluginmanager.h"
 #include "framework/abi/progress.h"
 #include "framework/abi/view.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 #include <functional>
 #include <map>

@@ -1,6 +1,6 @@
 #include "tests/fakehost/fakesignalhandler.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 namespace fakehost {
 

@@ -1,6 +1,6 @@
 #include "tests/fakehost/fakesystem.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <algorithm>
 #include <chrono>

@@ -5,7 +5,7 @@
 #include "framework/abi/filetype.h"
 #include "framework/abi/locale.h"
 #include "framework/abi/system.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 #include <map>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "framework/abi/textformats.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,8 +1,8 @@
 #include "tests/fakehost/fakeweb.h"
 
-#include "framework/support/memorystream.h"
-#include "framework/support/message.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
 
 namespace fakehost {

@@ -3,7 +3,7 @@
 #include "framework/abi/download.h"
 #include "framework/abi/feed.h"
 #include "framework/abi/webservice.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 
 #include <cstdint>
 #include <map>

@@ -1,10 +1,10 @@
 // The news as the panel shows them: the module's components, the host's libraries and the stand-in of the
 // service.
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/net/hostnet.h"
 #include "tests/sandbox/runningservice.h"
-#include "ui/feedelement.h"
+#include "ui/news/newsfeed.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

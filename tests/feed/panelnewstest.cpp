@@ -1,8 +1,8 @@
 // The news in the panel: its forms around the module's components, with the host's libraries and the stand-in
 // of the service.
 
-#include "framework/support/modulecomponent.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/modulecomponent.h"
 #include "host/system/hostsystem.h"
 #include "tests/host/gui/panel.h"
 #include "tests/sandbox/runningservice.h"

@@ -3,8 +3,8 @@
 
 #include "framework/abi/feed.h"
 #include "framework/abi/webservice.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 
 #include <cstdint>
 #include <cstdlib>

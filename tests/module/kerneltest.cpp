@@ -1,5 +1,5 @@
 #include "framework/abi/module.h"
-#include "framework/support/message.h"
+#include "framework/support/objects/message.h"
 #include "module/classtable.h"
 #include "module/modulekernel.h"
 #include "tests/fakehost/fakehost.h"

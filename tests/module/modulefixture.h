@@ -3,9 +3,9 @@
 #include "client/manager.h"
 #include "framework/abi/module.h"
 #include "framework/abi/publisher.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
-#include "ui/tracks.h"
+#include "ui/tracks/tracks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "framework/support/objectlist.h"
+#include "framework/support/objects/objectlist.h"
 #include "module/uploadpublisher.h"
 #include "tests/module/modulefixture.h"
 

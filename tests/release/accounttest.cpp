@@ -1,6 +1,6 @@
 #include "release/account.h"
 
-#include "framework/support/memorystream.h"
+#include "framework/support/data/memorystream.h"
 #include "tests/fakehost/fakehost.h"
 
 #include <gtest/gtest.h>

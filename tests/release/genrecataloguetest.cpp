@@ -1,6 +1,6 @@
 #include "release/genrecatalogue.h"
 
-#include "framework/support/component.h"
+#include "framework/support/parts/component.h"
 #include "tests/fakehost/fakehost.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "release/releasedocument.h"
 
-#include "framework/support/jsonarchive.h"
-#include "framework/support/memorystream.h"
+#include "framework/support/data/jsonarchive.h"
+#include "framework/support/data/memorystream.h"
 #include "tests/fakehost/fakehost.h"
 
 #include <gtest/gtest.h>

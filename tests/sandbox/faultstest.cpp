@@ -1,4 +1,4 @@
-#include "sandbox/faults.h"
+#include "sandbox/http/faults.h"
 
 #include <gtest/gtest.h>
 

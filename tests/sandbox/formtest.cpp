@@ -1,4 +1,4 @@
-#include "sandbox/form.h"
+#include "sandbox/http/form.h"
 
 #include <gtest/gtest.h>
 

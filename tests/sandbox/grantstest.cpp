@@ -1,4 +1,4 @@
-#include "sandbox/grants.h"
+#include "sandbox/pages/grants.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "sandbox/metadata.h"
+#include "sandbox/upload/metadata.h"
 
-#include "sandbox/refusal.h"
+#include "sandbox/upload/refusal.h"
 
 #include <gtest/gtest.h>
 

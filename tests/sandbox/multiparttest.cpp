@@ -1,6 +1,6 @@
-#include "sandbox/multipart.h"
+#include "sandbox/upload/multipart.h"
 
-#include "sandbox/refusal.h"
+#include "sandbox/upload/refusal.h"
 
 #include <gtest/gtest.h>
 

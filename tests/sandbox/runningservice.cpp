@@ -1,8 +1,8 @@
 #include "tests/sandbox/runningservice.h"
 
-#include "sandbox/form.h"
-#include "sandbox/settings.h"
-#include "sandbox/text.h"
+#include "sandbox/http/form.h"
+#include "sandbox/http/text.h"
+#include "sandbox/pages/settings.h"
 #include "sandbox/visitor.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sandbox/server.h"
+#include "sandbox/http/server.h"
 #include "sandbox/service.h"
 
 #include <httplib.h>

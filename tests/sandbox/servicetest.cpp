@@ -1,4 +1,4 @@
-#include "sandbox/text.h"
+#include "sandbox/http/text.h"
 #include "sandbox/visitor.h"
 #include "tests/sandbox/runningservice.h"
 

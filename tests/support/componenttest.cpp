@@ -1,7 +1,7 @@
-#include "framework/support/component.h"
+#include "framework/support/parts/component.h"
 
-#include "framework/support/path.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/path.h"
 #include "tests/fakehost/fakehost.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "framework/support/memorystream.h"
+#include "framework/support/data/memorystream.h"
 
 #include <gtest/gtest.h>
 

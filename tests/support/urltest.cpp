@@ -1,4 +1,4 @@
-#include "framework/support/url.h"
+#include "framework/support/data/url.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "framework/support/xhrclient.h"
+#include "framework/support/parts/xhrclient.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "framework/support/modulecomponent.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/modulecomponent.h"
 #include "tests/fakehost/fakehost.h"
-#include "ui/feedelement.h"
+#include "ui/news/newsfeed.h"
 
 #include <gtest/gtest.h>
 

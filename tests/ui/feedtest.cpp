@@ -1,5 +1,5 @@
 #include "tests/ui/feedfixture.h"
-#include "ui/feedlistcomponent.h"
+#include "ui/news/feedlistcomponent.h"
 
 #include <algorithm>
 

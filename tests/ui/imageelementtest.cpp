@@ -1,7 +1,7 @@
 #include "tests/ui/feedfixture.h"
-#include "ui/persistentimagecache.h"
-#include "ui/picturechoice.h"
-#include "ui/picturefile.h"
+#include "ui/pictures/persistentimagecache.h"
+#include "ui/pictures/picturechoice.h"
+#include "ui/pictures/picturefile.h"
 
 namespace brindlex {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "framework/support/objectlist.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/objectlist.h"
+#include "framework/support/objects/text.h"
 #include "release/genrecatalogue.h"
 #include "tests/fakehost/fakehost.h"
-#include "ui/tracklistcomponent.h"
-#include "ui/tracks.h"
+#include "ui/tracks/tracklistcomponent.h"
+#include "ui/tracks/tracks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // The window's parts on their own.
 
 #include "framework/abi/view.h"
-#include "framework/support/hostobject.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/text.h"
 #include "host/app/window/progressindicator.h"
 #include "host/app/window/song.h"
 #include "host/app/window/songfiles.h"

@@ -1,7 +1,7 @@
 #include "host/app/core/callbackserver.h"
 
 #include "framework/abi/filetype.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/callbackconnection.h"
 #include "host/app/core/privatefolder.h"
 

@@ -1,6 +1,6 @@
 #include "host/app/core/configurationfile.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <QByteArrayView>
 #include <QStandardPaths>

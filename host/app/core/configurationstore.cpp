@@ -1,7 +1,7 @@
 #include "host/app/core/configurationstore.h"
 
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 
 #include <QUrl>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/hostclasses.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 #include "host/app/core/configurationfile.h"
 
 #include <memory>

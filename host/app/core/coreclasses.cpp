@@ -1,7 +1,7 @@
 #include "host/app/core/coreclasses.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/componentproperties.h"
 #include "host/app/core/mediafileinfo.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/support/classfactory.h"
+#include "framework/support/parts/classfactory.h"
 #include "host/app/core/configurationstore.h"
 
 #include <memory>

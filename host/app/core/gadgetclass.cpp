@@ -2,8 +2,8 @@
 
 #include "framework/abi/pluginmanager.h"
 #include "framework/abi/publisher.h"
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 
 #include <algorithm>
 #include <charconv>

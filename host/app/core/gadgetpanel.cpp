@@ -2,9 +2,9 @@
 
 #include "framework/abi/pluginmanager.h"
 #include "framework/abi/view.h"
-#include "framework/support/path.h"
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
+#include "framework/support/parts/path.h"
 
 namespace xbr::host {
 

@@ -3,7 +3,7 @@
 #include "framework/abi/controller.h"
 #include "framework/abi/listmodel.h"
 #include "framework/abi/publisher.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 #include "host/app/core/gadgetclass.h"
 
 #include <functional>

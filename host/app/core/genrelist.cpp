@@ -1,8 +1,8 @@
 #include "host/app/core/genrelist.h"
 
 #include "framework/abi/textformats.h"
-#include "framework/support/path.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/path.h"
 
 #include <QString>
 

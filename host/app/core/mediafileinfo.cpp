@@ -1,7 +1,7 @@
 #include "host/app/core/mediafileinfo.h"
 
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 #include "host/app/core/mediatags.h"
 #include "host/system/hostfileurl.h"
 

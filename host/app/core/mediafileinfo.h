@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/abi/hostclasses.h"
-#include "framework/support/attributes.h"
-#include "framework/support/object.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/object.h"
 
 namespace xbr::host {
 

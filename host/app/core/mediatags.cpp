@@ -1,6 +1,6 @@
 #include "host/app/core/mediatags.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/mediasignature.h"
 #include "host/app/core/tagbounds.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/support/attributes.h"
+#include "framework/support/data/attributes.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "host/app/core/missinginformation.h"
 
-#include "framework/support/path.h"
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
+#include "framework/support/parts/path.h"
 
 namespace xbr::host {
 

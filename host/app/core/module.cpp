@@ -1,7 +1,7 @@
 #include "host/app/core/module.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/net/hostnet.h"
 #include "host/system/hostsystem.h"
 

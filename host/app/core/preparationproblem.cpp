@@ -1,7 +1,7 @@
 #include "host/app/core/preparationproblem.h"
 
 #include "framework/abi/system.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/publisheditem.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/hostsystem.h"

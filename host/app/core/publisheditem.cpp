@@ -1,6 +1,6 @@
 #include "host/app/core/publisheditem.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <filesystem>
 #include <unistd.h>

@@ -2,8 +2,8 @@
 
 #include "framework/abi/filetype.h"
 #include "framework/abi/publisher.h"
-#include "framework/support/attributes.h"
-#include "framework/support/object.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/object.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "host/app/core/reachability.h"
 
-#include "framework/support/message.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
 
 #include <QTimer>
 #include <QUrl>

@@ -2,7 +2,7 @@
 
 #include "framework/abi/hostclasses.h"
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/mediasignature.h"
 #include "host/app/core/mediatags.h"
 #include "host/app/core/soundfile.h"

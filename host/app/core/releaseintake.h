@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/support/attributes.h"
+#include "framework/support/data/attributes.h"
 #include "host/app/core/gadgetpanel.h"
 #include "host/app/core/genrelist.h"
 #include "host/app/core/publisheditem.h"

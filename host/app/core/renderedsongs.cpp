@@ -2,8 +2,8 @@
 
 #include "framework/abi/progress.h"
 #include "framework/abi/system.h"
-#include "framework/support/hostobject.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostfileurl.h"
 
 #include <chrono>

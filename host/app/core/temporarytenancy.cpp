@@ -1,7 +1,7 @@
 #include "host/app/core/temporarytenancy.h"
 
 #include "framework/abi/system.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/hostsystem.h"
 

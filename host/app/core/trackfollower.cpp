@@ -1,9 +1,9 @@
 #include "host/app/core/trackfollower.h"
 
 #include "framework/abi/controller.h"
-#include "framework/support/message.h"
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 #include "host/system/hostfileurl.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/listmodel.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 #include "host/app/core/signallistener.h"
 
 #include <QTimer>

@@ -1,7 +1,7 @@
 #include "host/app/headless/consoleclasses.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/headless/consoledialog.h"
 #include "host/app/headless/consoleprogress.h"
 

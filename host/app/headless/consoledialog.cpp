@@ -1,7 +1,7 @@
 #include "host/app/headless/consoledialog.h"
 
-#include "framework/support/path.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/value.h"
+#include "framework/support/parts/path.h"
 
 namespace xbr::host {
 

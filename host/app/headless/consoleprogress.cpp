@@ -1,6 +1,6 @@
 #include "host/app/headless/consoleprogress.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 #include "host/app/core/coreclasses.h"
 #include "host/app/core/gadgetpanel.h"
 #include "host/app/core/hostcontext.h"

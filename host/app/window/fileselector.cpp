@@ -1,6 +1,6 @@
 #include "host/app/window/fileselector.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/window/filedialog.h"
 #include "host/system/hostfileurl.h"
 

@@ -1,8 +1,8 @@
 #include "host/app/window/gadgetdock.h"
 
 #include "framework/abi/view.h"
-#include "framework/support/hostobject.h"
-#include "framework/support/path.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/parts/path.h"
 #include "host/app/window/docktitle.h"
 #include "host/app/window/raising.h"
 #include "host/app/window/wording.h"

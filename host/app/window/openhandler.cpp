@@ -1,6 +1,6 @@
 #include "host/app/window/openhandler.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostfileurl.h"
 
 namespace xbr::host {

@@ -1,6 +1,6 @@
 #include "host/app/window/progressindicator.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 #include "host/app/window/publishing.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/publisheditem.h"
 #include "host/app/window/wording.h"
 #include "host/system/hostfileurl.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/publisher.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 #include "host/app/core/renderedsongs.h"
 #include "host/app/window/notice.h"
 #include "host/app/window/song.h"

@@ -1,8 +1,8 @@
 #include "host/app/window/servicewatch.h"
 
-#include "framework/support/message.h"
-#include "framework/support/path.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/value.h"
+#include "framework/support/parts/path.h"
 #include "host/app/core/preparationproblem.h"
 #include "host/app/window/wording.h"
 #include "host/net/hostnet.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/support/attributes.h"
+#include "framework/support/data/attributes.h"
 #include "host/app/core/audioformat.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 #include "host/app/window/windowclasses.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/window/fileselector.h"
 #include "host/app/window/progressindicator.h"
 #include "host/app/window/viewdialog.h"

@@ -2,9 +2,9 @@
 #include "framework/abi/filesystem.h"
 #include "framework/abi/textformats.h"
 #include "framework/abi/webservice.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
-#include "ui/feedelement.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
+#include "ui/news/newsfeed.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

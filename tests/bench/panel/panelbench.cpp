@@ -1,6 +1,6 @@
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 #include "host/app/core/publisheditem.h"
 #include "host/app/window/programtexts.h"
 #include "host/app/window/windowhost.h"

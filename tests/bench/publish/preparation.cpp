@@ -1,8 +1,8 @@
 #include "tests/bench/publish/preparation.h"
 
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
-#include "framework/support/url.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/data/url.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostfileurl.h"
 #include "release/payloadbuilder.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/progress.h"
-#include "framework/support/object.h"
+#include "framework/support/objects/object.h"
 #include "release/payload.h"
 
 #include <chrono>

@@ -1,7 +1,7 @@
 #include "framework/abi/filesystem.h"
 #include "framework/abi/webservice.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostfileurl.h"
 #include "tests/bench/publish/preparation.h"
 

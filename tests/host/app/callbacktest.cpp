@@ -1,6 +1,6 @@
 #include "framework/abi/filetype.h"
-#include "framework/support/object.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/object.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/callbackclient.h"
 #include "host/app/core/callbackserver.h"
 #include "tests/host/app/testfolder.h"

@@ -1,5 +1,5 @@
-#include "framework/support/attributes.h"
-#include "framework/support/text.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/componentproperties.h"
 #include "host/app/core/configurationstore.h"
 #include "tests/host/app/testfolder.h"

@@ -1,8 +1,8 @@
 #include "tests/host/app/fakepanel.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/attributes.h"
-#include "framework/support/text.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/text.h"
 
 #include <QCoreApplication>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "framework/abi/publisher.h"
-#include "framework/support/classfactory.h"
-#include "framework/support/component.h"
-#include "framework/support/listviewmodel.h"
+#include "framework/support/parts/classfactory.h"
+#include "framework/support/parts/component.h"
+#include "framework/support/parts/listviewmodel.h"
 #include "host/app/core/activity.h"
 #include "host/app/core/trackfollower.h"
 

@@ -1,7 +1,7 @@
 #include "host/app/core/module.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/hostcontext.h"
 #include "host/app/core/modulesearch.h"
 #include "tests/host/app/testfolder.h"

@@ -1,7 +1,7 @@
 #include "host/app/core/publishsession.h"
 
 #include "framework/abi/filesystem.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/coreclasses.h"
 #include "tests/host/app/fakepanel.h"
 #include "tests/host/app/soundfiles.h"

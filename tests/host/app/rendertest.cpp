@@ -1,4 +1,4 @@
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/mediatags.h"
 #include "host/app/core/renderedsongs.h"
 #include "host/app/core/soundfile.h"

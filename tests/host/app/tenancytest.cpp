@@ -1,5 +1,5 @@
 #include "framework/abi/system.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/app/core/temporarytenancy.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/hostsystem.h"

@@ -1,7 +1,7 @@
 // A module for the tests of the loader. Each build of it is wrong in the way that its macro names.
 
-#include "framework/support/classfactory.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/classfactory.h"
 
 #ifdef TEST_MODULE_EMPTY
 

@@ -1,4 +1,4 @@
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "tests/host/gui/testskin.h"
 
 #include <QAbstractItemView>

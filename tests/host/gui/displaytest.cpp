@@ -1,6 +1,6 @@
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/classfactory.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/classfactory.h"
 #include "host/gui/hostwidgets.h"
 #include "host/system/hostsystem.h"
 #include "tests/host/gui/testskin.h"

@@ -1,5 +1,5 @@
-#include "framework/support/modulecomponent.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/modulecomponent.h"
 #include "host/gui/hostwidgets.h"
 #include "tests/host/gui/accessibletree.h"
 #include "tests/host/gui/panel.h"

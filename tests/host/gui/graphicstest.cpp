@@ -1,8 +1,8 @@
 #include "framework/abi/graphics.h"
 
 #include "framework/abi/filesystem.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 #include "host/gui/hostimages.h"
 #include "host/system/hostfileurl.h"
 

@@ -1,4 +1,4 @@
-#include "framework/support/message.h"
+#include "framework/support/objects/message.h"
 #include "tests/host/gui/testlist.h"
 #include "tests/host/gui/testskin.h"
 

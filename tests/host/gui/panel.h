@@ -1,9 +1,9 @@
 #pragma once
 
 #include "framework/abi/view.h"
-#include "framework/support/classfactory.h"
-#include "framework/support/component.h"
-#include "ui/tracklistcomponent.h"
+#include "framework/support/parts/classfactory.h"
+#include "framework/support/parts/component.h"
+#include "ui/tracks/tracklistcomponent.h"
 
 #include <memory>
 #include <string>

@@ -1,8 +1,8 @@
 #include "framework/abi/graphics.h"
 #include "framework/abi/listmodel.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/message.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
 #include "tests/host/gui/testskin.h"
 
 #include <QBuffer>

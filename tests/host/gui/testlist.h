@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/support/listviewmodel.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/parts/listviewmodel.h"
 
 #include <string>
 #include <vector>

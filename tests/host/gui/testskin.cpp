@@ -1,8 +1,8 @@
 #include "tests/host/gui/testskin.h"
 
-#include "framework/support/hostobject.h"
-#include "framework/support/message.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
 #include "host/gui/hostgui.h"
 #include "host/gui/hostwidgets.h"
 

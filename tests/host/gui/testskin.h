@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/view.h"
-#include "framework/support/component.h"
+#include "framework/support/parts/component.h"
 
 #include <QTemporaryDir>
 #include <QWidget>

@@ -1,8 +1,8 @@
 // Downloads: which end they take, what goes over the wire, and who hears of it.
 
 #include "framework/abi/download.h"
-#include "framework/support/message.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
 #include "host/net/hostnet.h"
 #include "tests/host/net/exchange.h"
 #include "tests/host/net/scriptedserver.h"

@@ -1,7 +1,7 @@
 #include "tests/host/net/exchange.h"
 
-#include "framework/support/text.h"
-#include "framework/support/value.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/abi/webservice.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/object.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/object.h"
 
 #include <functional>
 #include <optional>

@@ -1,6 +1,6 @@
 // Who may end a request when, and what is heard of it afterwards.
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/net/hostnet.h"
 #include "tests/host/net/exchange.h"
 #include "tests/host/net/scriptedserver.h"

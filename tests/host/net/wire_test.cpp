@@ -1,6 +1,6 @@
 // What goes out to the server, byte by byte.
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "tests/host/net/exchange.h"
 #include "tests/host/net/scriptedserver.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/credentials.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <string>
 #include <string_view>

@@ -1,8 +1,8 @@
 #include "framework/abi/filestore.h"
 
 #include "framework/abi/filesystem.h"
-#include "framework/support/ref.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/ref.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostfileurl.h"
 #include "tests/host/system/testfiles.h"
 

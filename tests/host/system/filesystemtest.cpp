@@ -1,8 +1,8 @@
 #include "framework/abi/filesystem.h"
 
 #include "framework/abi/system.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/hostsystem.h"
 #include "tests/host/system/packagefixture.h"

@@ -1,5 +1,5 @@
 #include "framework/abi/filetype.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 
 #include <gtest/gtest.h>
 

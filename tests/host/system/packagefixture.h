@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/package.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "tests/host/system/testfiles.h"
 
 #include <gtest/gtest.h>

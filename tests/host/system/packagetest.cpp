@@ -1,5 +1,5 @@
 #include "host/system/hostfileurl.h"
-#include "host/system/packagepipeline.h"
+#include "host/system/package/packagepipeline.h"
 #include "tests/host/system/packagefixture.h"
 
 #include <zip.h>

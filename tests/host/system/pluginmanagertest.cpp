@@ -1,7 +1,7 @@
 #include "framework/abi/pluginmanager.h"
 
-#include "framework/support/attributes.h"
-#include "framework/support/text.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "framework/abi/filesystem.h"
-#include "framework/support/memorystream.h"
-#include "framework/support/text.h"
+#include "framework/support/data/memorystream.h"
+#include "framework/support/objects/text.h"
 #include "tests/host/system/testfiles.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "framework/abi/message.h"
-#include "framework/support/message.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostsystem.h"
 
 #include <QCoreApplication>

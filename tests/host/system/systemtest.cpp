@@ -1,6 +1,6 @@
 #include "framework/abi/system.h"
 
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/hostsystem.h"
 #include "tests/host/system/testfiles.h"

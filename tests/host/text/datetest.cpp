@@ -1,7 +1,7 @@
 #include "framework/abi/dates.h"
 #include "framework/abi/locale.h"
-#include "framework/support/ref.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/ref.h"
+#include "framework/support/objects/text.h"
 
 #include <gtest/gtest.h>
 

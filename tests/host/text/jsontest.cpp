@@ -1,6 +1,6 @@
 #include "framework/abi/textformats.h"
-#include "framework/support/attributes.h"
-#include "framework/support/text.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/text.h"
 #include "tests/host/text/teststreams.h"
 
 #include <gtest/gtest.h>

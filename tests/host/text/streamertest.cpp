@@ -1,5 +1,5 @@
 #include "framework/abi/textformats.h"
-#include "framework/support/text.h"
+#include "framework/support/objects/text.h"
 #include "tests/host/text/teststreams.h"
 
 #include <gtest/gtest.h>

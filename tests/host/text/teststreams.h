@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/abi/stream.h"
-#include "framework/support/memorystream.h"
+#include "framework/support/data/memorystream.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,0 +1,83 @@
+#include "framework/support/objects/text.h"
+
+#include <algorithm>
+
+namespace xbr {
+
+std::string take(const Ref<IString>& text) {
+    return text ? toString(text->text()) : std::string();
+}
+
+Result giveText(std::string text, IString** out) {
+    *out = make<String>(std::move(text)).detach();
+    return kOk;
+}
+
+std::string toString(const Uid& uid) {
+    static constexpr char kDigits[] = "0123456789abcdef";
+    std::string text;
+    for (int i = 0; i < 16; ++i) {
+        if (i == 4 || i == 6 || i == 8 || i == 10) {
+            text += '-';
+        }
+        text += kDigits[uid.bytes[i] >> 4U];
+        text += kDigits[uid.bytes[i] & 15U];
+    }
+    return text;
+}
+
+bool parseUid(std::string_view text, Uid& uid) {
+    if (text.size() != 36) {
+        return false;
+    }
+    Uid parsed{};
+    int digits = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (i == 8 || i == 13 || i == 18 || i == 23) {
+            if (text[i] != '-') {
+                return false;
+            }
+            continue;
+        }
+        const int digit = detail::hexDigit(text[i]);
+        if (digit < 0) {
+            return false;
+        }
+        auto& byte = parsed.bytes[digits / 2];
+        byte = static_cast<std::uint8_t>(byte * 16 + digit);
+        ++digits;
+    }
+    uid = parsed;
+    return true;
+}
+
+std::string_view trim(std::string_view text) {
+    static constexpr std::string_view kWhiteSpace = " \t\r\n\v\f";
+    const auto first = text.find_first_not_of(kWhiteSpace);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(kWhiteSpace) - first + 1);
+}
+
+std::string asciiLower(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return lower;
+}
+
+std::string toAscii(std::string_view text) {
+    std::string ascii;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x80) {
+            ascii += c;
+        } else if ((byte & 0xC0U) != 0x80) { // not a continuation byte: a character begins here
+            ascii += '?';
+        }
+    }
+    return ascii;
+}
+
+} // namespace xbr

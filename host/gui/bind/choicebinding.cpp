@@ -1,0 +1,125 @@
+#include "framework/support/objects/text.h"
+#include "host/gui/bind/bindings.h"
+#include "host/gui/bind/parameterbinding.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QLineEdit>
+
+namespace xbr::host {
+
+namespace {
+
+/// A combo box over the choices of a list parameter.
+class ChoiceBinding final : public ParameterBinding {
+public:
+    ChoiceBinding(QComboBox& box, std::unique_ptr<ValueSource> source)
+        : ParameterBinding(box, std::move(source)),
+          m_box(&box) {
+        box.setFocusPolicy(Qt::StrongFocus);
+        box.installEventFilter(this);
+        connect(&box, &QComboBox::activated, this, [this](int index) { set(integerValue(index)); });
+        if (box.isEditable()) {
+            findByTyping();
+        }
+        start();
+    }
+
+private:
+    void findByTyping() {
+        m_box->setInsertPolicy(QComboBox::NoInsert);
+        auto* completer = new QCompleter(m_box->model(), m_box);
+        completer->setCaseSensitivity(Qt::CaseInsensitive);
+        completer->setFilterMode(Qt::MatchContains);
+        completer->setCompletionMode(QCompleter::PopupCompletion);
+        m_box->setCompleter(completer);
+        QLineEdit* edit = m_box->lineEdit();
+        edit->setPlaceholderText(m_box->placeholderText());
+        nameField(*m_box, *edit);
+        connect(edit, &QLineEdit::returnPressed, this, [this] { take(Match::kFirst); });
+        connect(edit, &QLineEdit::editingFinished, this, [this] { take(Match::kOnly); });
+    }
+
+    /// Which of several entries that hold the typed text is meant.
+    enum class Match { kFirst, kOnly };
+
+    void take(Match match) {
+        m_box->lineEdit()->setModified(false); // what was typed has been read
+        const QString text = m_box->currentText().trimmed();
+        const int index = text == shown(m_box->itemText(current())) ? current() : find(text, match);
+        if (index != current()) {
+            set(integerValue(index));
+        } else {
+            show();
+        }
+    }
+
+    /// The entry that the text names: itself without case, or else one that holds it; the present one when
+    /// there is none. No text names the blank entry.
+    int find(const QString& text, Match match) const {
+        int found = -1;
+        int count = 0;
+        for (int i = 0; i < m_box->count(); ++i) {
+            const QString entry = shown(m_box->itemText(i));
+            if (entry.compare(text, Qt::CaseInsensitive) == 0) {
+                return i;
+            }
+            if (!text.isEmpty() && entry.contains(text, Qt::CaseInsensitive)) {
+                found = count++ == 0 ? i : found;
+            }
+        }
+        return count == 1 || (count > 0 && match == Match::kFirst) ? found : current();
+    }
+
+    /// What the editor shows of an entry: a blank one is nothing, so that typing does not begin behind it.
+    static QString shown(const QString& entry) { return entry.trimmed(); }
+
+    int current() const { return static_cast<int>(source().integer()); }
+
+    void show() override {
+        showChoices();
+        if (m_box->currentIndex() != current()) {
+            m_box->setCurrentIndex(current());
+            showText();
+        } else if (m_box->isEditable() && !m_box->lineEdit()->isModified()) {
+            showText();
+        }
+    }
+
+    void showText() {
+        if (QLineEdit* edit = m_box->lineEdit()) {
+            const QString text = shown(m_box->itemText(current()));
+            if (edit->text() != text) {
+                edit->setText(text);
+            }
+        }
+    }
+
+    void showChoices() {
+        QStringList choices;
+        for (std::int32_t i = 0; i < parameter().countChoices(); ++i) {
+            choices.append(QString::fromStdString(toString(parameter().choiceAt(i))));
+        }
+        if (choices != m_choices) {
+            m_choices = choices;
+            m_box->clear();
+            m_box->addItems(choices);
+        }
+    }
+
+    QComboBox* m_box;
+    QStringList m_choices;
+};
+
+} // namespace
+
+bool bindChoice(QWidget& widget, std::unique_ptr<ValueSource> source) {
+    auto* box = qobject_cast<QComboBox*>(&widget);
+    if (!box || source->parameter()->kind() != ParameterKind::kList) {
+        return false;
+    }
+    new ChoiceBinding(*box, std::move(source));
+    return true;
+}
+
+} // namespace xbr::host

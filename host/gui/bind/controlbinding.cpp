@@ -1,0 +1,130 @@
+#include "host/gui/bind/bindings.h"
+#include "host/gui/bind/parameterbinding.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <algorithm>
+#include <limits>
+
+namespace xbr::host {
+
+namespace {
+
+class CommandBinding final : public ParameterBinding {
+public:
+    CommandBinding(QAbstractButton& button, std::unique_ptr<ValueSource> source)
+        : ParameterBinding(button, std::move(source)) {
+        connect(&button, &QAbstractButton::clicked, this, [this] { set(integerValue(1)); });
+        start();
+    }
+
+private:
+    void show() override {}
+};
+
+class ToggleBinding final : public ParameterBinding {
+public:
+    ToggleBinding(QAbstractButton& button, std::unique_ptr<ValueSource> source)
+        : ParameterBinding(button, std::move(source)),
+          m_button(&button),
+          m_isInverted(button.property("xbrInverted").toBool()) {
+        connect(&button, &QAbstractButton::clicked, this,
+                [this](bool checked) { set(integerValue(checked != m_isInverted ? 1 : 0)); });
+        start();
+    }
+
+private:
+    void show() override { m_button->setChecked((source().integer() != 0) != m_isInverted); }
+
+    QAbstractButton* m_button;
+    bool m_isInverted;
+};
+
+class LineEditBinding final : public ParameterBinding {
+public:
+    LineEditBinding(QLineEdit& edit, std::unique_ptr<ValueSource> source)
+        : ParameterBinding(edit, std::move(source)),
+          m_edit(&edit) {
+        connect(&edit, &QLineEdit::textEdited, this,
+                [this](const QString& text) { set(textValue(text.toStdString())); });
+        start();
+    }
+
+private:
+    void show() override {
+        const QString text = source().text();
+        if (m_edit->text() != text) {
+            // Someone may be typing here while the module corrects what is typed.
+            const int cursor = m_edit->hasFocus() || m_edit->isModified() ? m_edit->cursorPosition() : 0;
+            m_edit->setText(text);
+            m_edit->setCursorPosition(cursor);
+        }
+    }
+
+    QLineEdit* m_edit;
+};
+
+class SpinBoxBinding final : public ParameterBinding {
+public:
+    SpinBoxBinding(QSpinBox& box, std::unique_ptr<ValueSource> source)
+        : ParameterBinding(box, std::move(source)),
+          m_box(&box) {
+        box.setFocusPolicy(Qt::StrongFocus);
+        box.installEventFilter(this);
+        if (auto* field = box.findChild<QLineEdit*>()) {
+            nameField(box, *field);
+        }
+        connect(&box, &QSpinBox::valueChanged, this, [this](int value) { set(integerValue(value)); });
+        start();
+    }
+
+private:
+    static int toInt(std::int64_t value) {
+        return static_cast<int>(std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(),
+                                                         std::numeric_limits<int>::max()));
+    }
+
+    void show() override {
+        const QSignalBlocker blocker(m_box);
+        m_box->setRange(toInt(parameter().minimum()), toInt(parameter().maximum()));
+        if (m_box->value() != source().integer()) {
+            m_box->setValue(toInt(source().integer()));
+        }
+    }
+
+    QSpinBox* m_box;
+};
+
+bool bindButton(QAbstractButton& button, std::unique_ptr<ValueSource> source) {
+    if (button.isCheckable()) {
+        new ToggleBinding(button, std::move(source));
+    } else {
+        new CommandBinding(button, std::move(source));
+    }
+    return true;
+}
+
+} // namespace
+
+bool bindParameter(QWidget& widget, std::unique_ptr<ValueSource> source) {
+    if (!source->parameter()) {
+        return false;
+    }
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+        return bindButton(*button, std::move(source));
+    }
+    if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
+        new LineEditBinding(*edit, std::move(source));
+        return true;
+    }
+    if (auto* box = qobject_cast<QSpinBox*>(&widget)) {
+        new SpinBoxBinding(*box, std::move(source));
+        return true;
+    }
+    return bindChoice(widget, std::move(source));
+}
+
+} // namespace xbr::host

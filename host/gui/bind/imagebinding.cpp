@@ -1,0 +1,96 @@
+#include "framework/abi/graphics.h"
+#include "framework/support/parts/path.h"
+#include "host/gui/bind/bindings.h"
+#include "host/gui/hostimages.h"
+#include "host/gui/listener.h"
+
+#include <QEvent>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+#include <QStyle>
+
+namespace xbr::host {
+
+namespace {
+
+/// Paints the picture of an image source over a label's area: as a whole, never larger than it is, with every
+/// pixel that the screen has. The label is there while there is a picture.
+class SourcePicture final : public QObject {
+public:
+    SourcePicture(QLabel& label, Ref<IImageSource> source)
+        : QObject(&label),
+          m_label(&label),
+          m_source(std::move(source)),
+          m_listener([this](const auto&) { refresh(); }) {
+        label.installEventFilter(this);
+        m_listener.listen(query<ISubject>(m_source.get()));
+        refresh();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::Paint || m_pixels.isNull()) {
+            return QObject::eventFilter(watched, event);
+        }
+        paint();
+        return true;
+    }
+
+private:
+    void refresh() {
+        Ref<IImage> image;
+        const bool isThere = m_source->getImage(image.out()) == kOk && image;
+        m_pixels = isThere ? pixelsOf(*image) : QImage();
+        m_shown = QImage();
+        m_label->setVisible(!m_pixels.isNull());
+        m_label->update();
+    }
+
+    /// In points.
+    QSizeF size() const {
+        const QSizeF own = m_pixels.deviceIndependentSize();
+        const QSizeF area = m_label->contentsRect().size();
+        const bool fits = own.width() <= area.width() && own.height() <= area.height();
+        return fits ? own : own.scaled(area, Qt::KeepAspectRatio);
+    }
+
+    void paint() {
+        static constexpr double kCorner = 4.0;
+        const double ratio = m_label->devicePixelRatioF();
+        const QSize points = size().toSize().expandedTo(QSize(1, 1));
+        const QSize pixels = (QSizeF(points) * ratio).toSize();
+        if (m_shown.size() != pixels) {
+            m_shown = m_pixels.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            m_shown.setDevicePixelRatio(1.0);
+        }
+        const QRect place = QStyle::alignedRect(m_label->layoutDirection(), m_label->alignment(), points,
+                                                m_label->contentsRect());
+        QBrush brush(m_shown);
+        brush.setTransform(QTransform::fromTranslate(place.x(), place.y()).scale(1.0 / ratio, 1.0 / ratio));
+        QPainter painter(m_label);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(brush);
+        painter.drawRoundedRect(place, kCorner, kCorner);
+    }
+
+    QLabel* m_label;
+    Ref<IImageSource> m_source;
+    Listener m_listener;
+    QImage m_pixels;
+    QImage m_shown; ///< in the size of the moment; null when it has to be made
+};
+
+} // namespace
+
+bool bindImage(QWidget& widget, IController& scope, const std::string& path) {
+    auto* label = qobject_cast<QLabel*>(&widget);
+    auto source = findObject<IImageSource>(scope, path);
+    if (!label || !source) {
+        return false;
+    }
+    new SourcePicture(*label, std::move(source));
+    return true;
+}
+
+} // namespace xbr::host

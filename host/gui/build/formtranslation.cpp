@@ -1,0 +1,44 @@
+#include "host/gui/build/formtranslation.h"
+
+#include "framework/support/objects/text.h"
+
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+namespace xbr::host {
+
+namespace {
+
+QString translate(const QString& source, ITranslationTable& translations) {
+    const std::string text = source.toStdString();
+    Ref<IString> translated;
+    return translations.translate(toText(text), translated.out()) == kOk
+               ? QString::fromStdString(take(translated))
+               : source;
+}
+
+/// True for the start of a <string> element that a person reads.
+bool startsText(const QXmlStreamReader& reader) {
+    return reader.isStartElement() && reader.name() == u"string" &&
+           reader.attributes().value(QStringLiteral("notr")) != u"true";
+}
+
+} // namespace
+
+QByteArray translateForm(const std::string& form, ITranslationTable& translations) {
+    QByteArray translated;
+    QXmlStreamReader reader(QByteArray::fromRawData(form.data(), static_cast<qsizetype>(form.size())));
+    QXmlStreamWriter writer(&translated);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        writer.writeCurrentToken(reader);
+        if (startsText(reader)) {
+            const QString source = reader.readElementText();
+            writer.writeCharacters(source.isEmpty() ? source : translate(source, translations));
+            writer.writeEndElement();
+        }
+    }
+    return translated;
+}
+
+} // namespace xbr::host

@@ -1,0 +1,52 @@
+#include "host/gui/picture/image.h"
+
+#include "host/gui/hostimages.h"
+
+namespace xbr::host {
+
+namespace {
+
+std::int64_t g_alive = 0;
+
+std::int64_t countOf(const QImage& image) {
+    return std::int64_t{image.width()} * image.height();
+}
+
+} // namespace
+
+Pixels::Pixels(QImage image) : m_image(std::move(image)) {
+    g_alive += countOf(m_image);
+}
+
+Pixels::~Pixels() {
+    g_alive -= countOf(m_image);
+}
+
+bool Pixels::hasRoomFor(std::int64_t count) {
+    return g_alive + count <= kMaximumAlive;
+}
+
+Image* Image::from(IImage& image) {
+    void* found = nullptr;
+    if (image.queryInterface(kClassUid, &found) != kOk) {
+        return nullptr;
+    }
+    image.release(); // the caller's reference is enough
+    return static_cast<Image*>(found);
+}
+
+Result Image::queryInterface(const Uid& interfaceUid, void** out) noexcept {
+    return interfaceUid == kClassUid ? answer(this, out) : Object<IImage>::queryInterface(interfaceUid, out);
+}
+
+QImage pixelsOf(IImage& image) {
+    const Image* own = Image::from(image);
+    if (!own || own->width() < 1) {
+        return {};
+    }
+    QImage pixels = own->pixels()->image();
+    pixels.setDevicePixelRatio(static_cast<double>(own->pixelWidth()) / own->width());
+    return pixels;
+}
+
+} // namespace xbr::host

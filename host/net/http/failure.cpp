@@ -1,0 +1,90 @@
+#include "host/net/http/failure.h"
+
+namespace xbr::host {
+
+namespace {
+
+/// The text of a failure of the connection; %s stands for the host. Null for failures that need no own words.
+const char* connectionText(CURLcode code) {
+    switch (code) {
+    case CURLE_COULDNT_RESOLVE_HOST:
+        return "The server %s could not be found.";
+    case CURLE_COULDNT_RESOLVE_PROXY:
+        return "The proxy server on the way to %s could not be found.";
+    case CURLE_COULDNT_CONNECT:
+    case CURLE_PROXY:
+        return "No connection to %s could be made.";
+    case CURLE_OPERATION_TIMEDOUT:
+        return "The server %s did not answer in time.";
+    case CURLE_GOT_NOTHING:
+        return "The server %s closed the connection without an answer.";
+    case CURLE_SEND_ERROR:
+    case CURLE_RECV_ERROR:
+        return "The connection to %s was lost.";
+    case CURLE_PARTIAL_FILE:
+        return "The answer of %s was cut short.";
+    case CURLE_WEIRD_SERVER_REPLY:
+    case CURLE_UNSUPPORTED_PROTOCOL:
+    case CURLE_BAD_CONTENT_ENCODING:
+    case CURLE_OK: // an interim answer and nothing after it
+        return "The answer of %s could not be understood.";
+    default:
+        return nullptr;
+    }
+}
+
+const char* secureText(CURLcode code) {
+    switch (code) {
+    case CURLE_PEER_FAILED_VERIFICATION:
+        return "The certificate of %s is not trusted.";
+    case CURLE_SSL_CACERT_BADFILE:
+        return "The list of trusted certificates, needed for %s, could not be read.";
+    case CURLE_SSL_CONNECT_ERROR:
+    case CURLE_SSL_CERTPROBLEM:
+    case CURLE_SSL_CIPHER:
+    case CURLE_SSL_ISSUER_ERROR:
+        return "No secure connection to %s could be made.";
+    default:
+        return nullptr;
+    }
+}
+
+const char* endedText(Ended ended) {
+    switch (ended) {
+    case Ended::kReplyTooLarge:
+        return "The answer of %s is too large.";
+    case Ended::kBodyUnreadable:
+        return "The data to send to %s could not be read.";
+    case Ended::kStalled:
+        return "The connection to %s has stalled.";
+    case Ended::kNot:
+        break;
+    }
+    return nullptr;
+}
+
+std::string fillIn(std::string text, const std::string& host) {
+    if (const auto place = text.find("%s"); place != std::string::npos) {
+        text.replace(place, 2, host);
+    }
+    return text;
+}
+
+} // namespace
+
+std::string failureText(Ended ended, CURLcode code, const std::string& host) {
+    const char* text = endedText(ended);
+    if (!text) {
+        text = connectionText(code);
+    }
+    if (!text) {
+        text = secureText(code);
+    }
+    if (text) {
+        return fillIn(text, host);
+    }
+    // curl_easy_strerror has fixed texts: unlike the error buffer it never quotes the request.
+    return fillIn("The request to %s failed: ", host) + curl_easy_strerror(code) + ".";
+}
+
+} // namespace xbr::host

@@ -1,0 +1,78 @@
+#include "host/net/http/request.h"
+
+#include "host/net/http/secret.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <new>
+#include <string>
+#include <utility>
+
+namespace xbr::host {
+
+namespace {
+
+bool isTokenCharacter(char c) noexcept {
+    const bool alphanumeric = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+    return alphanumeric || (c != '\0' && std::strchr("!#$%&'*+-.^_`|~", c) != nullptr);
+}
+
+} // namespace
+
+bool isToken(std::string_view text) noexcept {
+    return !text.empty() && std::all_of(text.begin(), text.end(), isTokenCharacter);
+}
+
+bool hasControlCharacter(std::string_view text) noexcept {
+    return std::any_of(text.begin(), text.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte < 0x20 || byte == 0x7F;
+    });
+}
+
+bool isSameHeader(std::string_view left, std::string_view right) noexcept {
+    return left.size() == right.size() && strncasecmp(left.data(), right.data(), left.size()) == 0;
+}
+
+bool isTransportHeader(std::string_view name) noexcept {
+    static constexpr std::array<std::string_view, 9> kNames = {
+        "Connection", "Content-Length", "Expect",           "Host", "Keep-Alive", "TE",
+        "Trailer",    "Upgrade",        "Transfer-Encoding"};
+    return std::any_of(kNames.begin(), kNames.end(),
+                       [name](std::string_view known) { return isSameHeader(name, known); });
+}
+
+RequestHeaders::RequestHeaders(RequestHeaders&& other) noexcept
+    : m_list(std::exchange(other.m_list, nullptr)) {}
+
+RequestHeaders::~RequestHeaders() {
+    for (curl_slist* line = m_list; line; line = line->next) {
+        explicit_bzero(line->data, std::strlen(line->data));
+    }
+    curl_slist_free_all(m_list);
+}
+
+void RequestHeaders::append(std::string line) {
+    curl_slist* longer = curl_slist_append(m_list, line.c_str());
+    Secret::wipe(line);
+    if (!longer) {
+        throw std::bad_alloc();
+    }
+    m_list = longer;
+}
+
+void RequestHeaders::add(std::string_view name, std::string_view value) {
+    std::string line;
+    line.reserve(name.size() + value.size() + 2);
+    line.append(name);
+    // "Name;" is how libcurl writes a header without a value; "Name:" would remove it.
+    line.append(value.empty() ? ";" : ": ").append(value);
+    append(std::move(line));
+}
+
+void RequestHeaders::suppress(std::string_view name) {
+    append(std::string(name) + ":");
+}
+
+} // namespace xbr::host

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "framework/abi/webservice.h"
+#include "framework/support/objects/object.h"
+#include "host/net/http/transfer.h"
+#include "host/net/http/webcredentials.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace xbr::host {
+
+/// One HTTP request of a module. Its messages carry it as their subject.
+class WebRequest final : public Object<IWebRequest, ISubject>, private ITransferListener {
+public:
+    ~WebRequest() override;
+
+    /// kInvalidArgument: not a method's name, not an http or https URL, a URL with a user name or password
+    /// inside, or credentials that are not set or not of this library.
+    Result open(Text method, Text url, IWebCredentials* credentials) noexcept override;
+
+    /// kInvalidArgument also for the headers of the transport, Content-Length for example.
+    Result setHeader(Text name, Text value) noexcept override;
+
+    /// kInvalidArgument: the body cannot be measured by seeking, or comes with the method HEAD.
+    Result send(IStream* body, IObserver* handler) noexcept override;
+
+    Result abort() noexcept override;
+    bool isBusy() const noexcept override { return m_state == State::kInFlight; }
+    std::int32_t status() const noexcept override { return m_outcome.status; }
+    Result getResponseBody(IStream** out) noexcept override;
+    Result getErrorText(IString** out) noexcept override;
+
+    /// Ends all requests that still owe a message, without one.
+    static void endAll();
+
+    /// How many requests with credentials were answered 401.
+    static std::uint64_t countRefusedCredentials() noexcept;
+
+private:
+    enum class State {
+        kNew,
+        kOpened,
+        kInFlight, ///< owes "onloadend"
+        kAborted,  ///< owes "onabort"
+        kDone,
+    };
+
+    void setState(State state);
+    RequestHeaders buildHeaders() const;
+    void endTransfer();
+    void endSilently();
+    void deliverAbort();
+    void tell(IObserver* handler, IMessage& message);
+
+    void onSent(double fraction) override;
+    void onFinished(Outcome outcome) override;
+
+    State m_state = State::kNew;
+    std::string m_method;
+    std::string m_url;
+    std::string m_host;
+    std::vector<std::pair<std::string, std::string>> m_headers;
+    Ref<WebCredentials> m_credentials;
+    bool m_hadCredentials = false; ///< when it was sent
+    Ref<IObserver> m_handler;
+    std::unique_ptr<Transfer> m_transfer;
+    std::shared_ptr<WebRequest*> m_pendingAbort; ///< gone when the message is no longer owed
+    double m_lastSent = 0;
+    Outcome m_outcome;
+};
+
+} // namespace xbr::host

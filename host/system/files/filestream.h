@@ -1,0 +1,48 @@
+#pragma once
+
+#include "framework/abi/stream.h"
+#include "framework/support/objects/object.h"
+#include "host/system/filedescriptor.h"
+
+#include <optional>
+#include <string>
+
+namespace xbr::host {
+
+/// Opens a regular file; never waits on a pipe or a device. Not open when there is none or it may not be
+/// opened so. `flags` as for open(2).
+FileDescriptor openRegularFile(const std::string& path, int flags);
+
+/// Reads `size` bytes at `offset`, fewer only at the end of the file; nothing when reading fails before the
+/// first byte.
+std::optional<std::size_t> readAt(int descriptor, void* buffer, std::size_t size, std::int64_t offset);
+
+/// Writes all bytes at `offset`; answers how many went before the medium failed.
+std::size_t writeAt(int descriptor, const void* buffer, std::size_t size, std::int64_t offset);
+
+/// The position that a seek leads to; nothing when it lies before the start or out of range.
+std::optional<std::int64_t> soughtPosition(std::int64_t offset, SeekOrigin origin, std::int64_t current,
+                                           std::int64_t end);
+
+enum class StreamAccess { kRead, kReadWrite };
+
+/// A local file. It is not buffered: what `write` answered as done is with the system.
+class FileStream final : public Object<IStream> {
+public:
+    FileStream(FileDescriptor file, StreamAccess access) : m_file(std::move(file)), m_access(access) {}
+
+    /// Long reads tell the front end's indicator, and fail when the user has cancelled there.
+    void showReading() { m_isShown = true; }
+
+    Result read(void* buffer, std::uint64_t size, std::uint64_t* done) noexcept override;
+    Result write(const void* buffer, std::uint64_t size, std::uint64_t* done) noexcept override;
+    Result seek(std::int64_t offset, SeekOrigin origin, std::int64_t* position) noexcept override;
+
+private:
+    FileDescriptor m_file;
+    StreamAccess m_access;
+    bool m_isShown = false;
+    std::int64_t m_position = 0;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "framework/abi/result.h"
+#include "host/system/files/backgroundwork.h"
+#include "host/system/package/packageentries.h"
+
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+/// Why an archive did not come about, in plain words; `error` is a number of <cerrno>, 0 when there is none.
+struct PackageProblem {
+    std::string what;
+    int error = 0;
+};
+
+/// Writes a ZIP archive of `entries` in their order, deflating what gains by it, or storing all when
+/// `isCompressed` is false. It appears at `path` when all of it is written; until then, and after a failure,
+/// nothing is there. Runs on any thread.
+///
+/// kUnexpected when reading or writing failed, a file is not the one that was added, or there are no entries:
+/// `problem` says which; kFalse when stopped.
+Result writeArchive(const std::string& path, std::vector<PackageEntry> entries, bool isCompressed,
+                    PackageProgress& progress, const std::stop_token& stop, PackageProblem& problem);
+
+} // namespace xbr::host

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "framework/support/parts/component.h"
+#include "ui/pictures/imageelement.h"
+
+#include <vector>
+
+namespace brindlex {
+
+/// One entry of the news, for a form that shows it alone: the parameters of that entry, and its picture as
+/// the child "image".
+class FeedEntry final : public xbr::Component {
+public:
+    using Parameters = std::vector<xbr::Ref<xbr::Parameter>>;
+
+    FeedEntry(std::string_view name, Parameters parameters, const xbr::Ref<ImageElement>& image);
+
+    /// The news; null once they have other entries.
+    void setOwner(xbr::IController* owner) { m_owner = owner; }
+
+    xbr::IController* parent() noexcept override { return m_owner; }
+    std::int32_t countParameters() const noexcept override;
+    xbr::IParameter* parameterAt(std::int32_t index) noexcept override;
+    xbr::IParameter* findParameter(xbr::Text name) noexcept override;
+
+private:
+    xbr::IController* m_owner = nullptr;
+    Parameters m_parameters;
+};
+
+} // namespace brindlex

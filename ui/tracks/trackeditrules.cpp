@@ -1,0 +1,203 @@
+#include "ui/tracks/trackeditrules.h"
+
+#include "release/genrecatalogue.h"
+#include "ui/tracks/trackediting.h"
+#include "ui/tracks/tracks.h"
+
+#include <algorithm>
+
+namespace brindlex {
+
+TrackEditRules::TrackEditRules(TrackPropertyComponent& editor, const xbr::ListViewModel& tracks)
+    : m_editor(editor),
+      m_tracks(tracks) {
+    m_values.albumTitle = editor.parameter(kAlbumTitle)->string();
+    m_values.albumArtist = editor.parameter(kAlbumArtist)->string();
+    m_values.genre = getGenreText(*editor.parameter(kPrimaryGenre));
+    m_values.trackNumber = static_cast<std::int32_t>(editor.parameter(kTrackNumber)->integer());
+    m_values.songTitle = editor.parameter(kSongTitle)->string();
+    m_values.songArtist = editor.parameter(kSongArtist)->string();
+}
+
+const std::vector<TrackEditRules::Row>& TrackEditRules::singlesRows() {
+    static const std::vector<Row> rows{{kAlbumTitle, &TrackEditRules::singlesAlbumTitle},
+                                       {kAlbumArtist, &TrackEditRules::singlesAlbumArtist},
+                                       {kPrimaryGenre, &TrackEditRules::singlesGenre},
+                                       {kTrackNumber, &TrackEditRules::singlesTrackNumber},
+                                       {kAlbumTitleMissing, &TrackEditRules::showAlbumTitleMark},
+                                       {kAlbumArtistMissing, &TrackEditRules::showAlbumArtistMark},
+                                       {kPrimaryGenreMissing, &TrackEditRules::showGenreMark}};
+    return rows;
+}
+
+const std::vector<TrackEditRules::Row>& TrackEditRules::albumRows() {
+    static const std::vector<Row> rows{{kTrackNumber, &TrackEditRules::albumTrackNumber}};
+    return rows;
+}
+
+const std::vector<TrackEditRules::Row>& TrackEditRules::commonRows() {
+    static const std::vector<Row> rows{{kSongTitle, &TrackEditRules::songTitle},
+                                       {kSongArtist, &TrackEditRules::songArtist},
+                                       {kSongTitleMissing, &TrackEditRules::showSongTitleMark},
+                                       {kSongArtistMissing, &TrackEditRules::showSongArtistMark}};
+    return rows;
+}
+
+const std::vector<TrackEditRules::Row>& TrackEditRules::wholeAlbumRows() {
+    static const std::vector<Row> rows{{kAlbumTitle, &TrackEditRules::wholeAlbumTitle},
+                                       {kAlbumArtist, &TrackEditRules::wholeAlbumArtist},
+                                       {kPrimaryGenre, &TrackEditRules::wholeAlbumGenre},
+                                       {kAlbumTitleMissing, &TrackEditRules::showAlbumTitleMark},
+                                       {kAlbumArtistMissing, &TrackEditRules::showAlbumArtistMark},
+                                       {kPrimaryGenreMissing, &TrackEditRules::showGenreMark}};
+    return rows;
+}
+
+void TrackEditRules::run(const std::vector<Row>& rows, std::int32_t tag, TrackItem& track) {
+    const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row& each) { return each.tag == tag; });
+    if (row != rows.end()) {
+        row->rule(*this, track);
+    }
+}
+
+void TrackEditRules::apply(std::int32_t tag, const std::vector<xbr::Ref<TrackItem>>& targets) {
+    for (const auto& target : targets) {
+        run(isSingles() ? singlesRows() : albumRows(), tag, *target);
+        run(commonRows(), tag, *target);
+    }
+    if (!isSingles()) {
+        forEachTrack(m_tracks, [&](TrackItem& track) { run(wholeAlbumRows(), tag, track); });
+    }
+    for (const std::int32_t markTag : std::exchange(m_cleared, {})) {
+        apply(markTag, targets);
+    }
+}
+
+void TrackEditRules::set(std::int32_t tag, const std::string& value) {
+    m_editor.parameter(tag)->set(xbr::textValue(value));
+}
+
+void TrackEditRules::show(std::int32_t tag, bool missing) {
+    m_editor.parameter(tag)->set(xbr::integerValue(missing ? 1 : 0));
+}
+
+void TrackEditRules::clearMark(bool& missing, const std::string& value, std::int32_t markTag) {
+    if (!missing || value.empty()) {
+        return;
+    }
+    missing = false;
+    if (std::find(m_cleared.begin(), m_cleared.end(), markTag) == m_cleared.end()) {
+        m_cleared.push_back(markTag);
+    }
+}
+
+// A single is a release of one song: its album bears the song's title and artist, and it is always track 1.
+
+void TrackEditRules::singlesAlbumTitle(TrackItem& track) {
+    TrackMetadata& record = *track.metadata;
+    record.albumTitle = m_values.albumTitle;
+    clearMark(record.albumTitleMissing, m_values.albumTitle, kAlbumTitleMissing);
+    if (m_values.albumTitle != m_values.songTitle) {
+        record.songTitle = m_values.albumTitle;
+        set(kSongTitle, m_values.albumTitle);
+    }
+}
+
+void TrackEditRules::singlesAlbumArtist(TrackItem& track) {
+    TrackMetadata& record = *track.metadata;
+    record.albumArtist = m_values.albumArtist;
+    if (m_values.albumArtist != m_values.songArtist) {
+        const bool hadText = !record.songArtist.empty();
+        record.songArtist = m_values.albumArtist;
+        set(kSongArtist, m_values.albumArtist);
+        if (record.albumArtistMissing && hadText) {
+            record.songArtistMissing = false;
+            show(kSongArtistMissing, record.songArtistMissing);
+        }
+    }
+    clearMark(record.albumArtistMissing, m_values.albumArtist, kAlbumArtistMissing);
+}
+
+void TrackEditRules::singlesGenre(TrackItem& track) {
+    TrackMetadata& record = *track.metadata;
+    record.primaryGenre = m_values.genre;
+    record.singlesGenre = m_values.genre;
+    clearMark(record.primaryGenreMissing, m_values.genre, kPrimaryGenreMissing);
+}
+
+void TrackEditRules::singlesTrackNumber(TrackItem& track) {
+    track.metadata->trackNumber = 1;
+    m_editor.parameter(kTrackNumber)->set(xbr::integerValue(1));
+}
+
+void TrackEditRules::albumTrackNumber(TrackItem& track) const {
+    track.metadata->albumTrackNumber = m_values.trackNumber;
+    track.metadata->trackNumber = m_values.trackNumber;
+}
+
+void TrackEditRules::songTitle(TrackItem& track) {
+    TrackMetadata& record = *track.metadata;
+    record.songTitle = m_values.songTitle;
+    track.title = m_values.songTitle;
+    clearMark(record.songTitleMissing, m_values.songTitle, kSongTitleMissing);
+    if (isSingles() && m_values.songTitle != m_values.albumTitle) {
+        record.albumTitle = m_values.songTitle;
+        set(kAlbumTitle, m_values.songTitle);
+    }
+}
+
+void TrackEditRules::songArtist(TrackItem& track) {
+    TrackMetadata& record = *track.metadata;
+    record.songArtist = m_values.songArtist;
+    if (isSingles() && m_values.songArtist != m_values.albumArtist) {
+        record.albumArtist = m_values.songArtist;
+        set(kAlbumArtist, m_values.songArtist);
+        if (record.albumArtistMissing && !m_values.songArtist.empty()) {
+            record.albumArtistMissing = false;
+            // The song's mark is the one that goes here; the album artist's stays in sight until the track is
+            // loaded again, so that users look at the artist that was filled in for them.
+            show(kSongArtistMissing, record.albumArtistMissing);
+        }
+    }
+    clearMark(record.songArtistMissing, m_values.songArtist, kSongArtistMissing);
+}
+
+// What an album's tracks share is edited once for all of them.
+
+void TrackEditRules::wholeAlbumTitle(TrackItem& track) {
+    TrackMetadata& record = *track.metadata;
+    record.albumModeTitle = m_values.albumTitle;
+    record.albumTitle = m_values.albumTitle;
+    clearMark(record.albumTitleMissing, m_values.albumTitle, kAlbumTitleMissing);
+}
+
+void TrackEditRules::wholeAlbumArtist(TrackItem& track) {
+    TrackMetadata& record = *track.metadata;
+    record.albumArtist = m_values.albumArtist;
+    clearMark(record.albumArtistMissing, m_values.albumArtist, kAlbumArtistMissing);
+}
+
+void TrackEditRules::wholeAlbumGenre(TrackItem& track) {
+    TrackMetadata& record = *track.metadata;
+    record.albumGenre = m_values.genre;
+    record.primaryGenre = m_values.genre;
+    clearMark(record.primaryGenreMissing, m_values.genre, kPrimaryGenreMissing);
+}
+
+void TrackEditRules::showAlbumTitleMark(TrackItem& track) {
+    show(kAlbumTitleMissing, track.metadata->albumTitleMissing);
+}
+void TrackEditRules::showAlbumArtistMark(TrackItem& track) {
+    show(kAlbumArtistMissing, track.metadata->albumArtistMissing);
+}
+void TrackEditRules::showGenreMark(TrackItem& track) {
+    show(kPrimaryGenreMissing, track.metadata->primaryGenreMissing);
+}
+void TrackEditRules::showSongTitleMark(TrackItem& track) {
+    show(kSongTitleMissing, track.metadata->songTitleMissing);
+}
+void TrackEditRules::showSongArtistMark(TrackItem& track) {
+    show(kSongArtistMissing, track.metadata->songArtistMissing);
+}
+
+} // namespace brindlex

@@ -1,0 +1,59 @@
+#include "ui/tracks/tracksources.h"
+
+#include "framework/abi/hostclasses.h"
+#include "framework/abi/listmodel.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/text.h"
+#include "release/audiofile.h"
+
+namespace brindlex {
+
+namespace {
+
+xbr::Ref<xbr::Attributes> readTags(const xbr::Url& file) {
+    auto tags = xbr::make<xbr::Attributes>();
+    const auto info = xbr::createHostObject<xbr::IMediaFileInfo>();
+    if (info && info->open(xbr::toText(file.toString())) == xbr::kOk) {
+        info->getAttributes(tags.get());
+    }
+    return tags;
+}
+
+std::string stemOf(const std::string& fileName) {
+    const auto dot = fileName.rfind('.');
+    return dot == 0 ? fileName : fileName.substr(0, dot);
+}
+
+} // namespace
+
+xbr::Url audioLocationOf(xbr::IObject& object) {
+    xbr::Ref<xbr::IString> text;
+    const auto source = xbr::query<xbr::IUrlSource>(&object);
+    if (!source || source->getUrl(text.out()) != xbr::kOk) {
+        return {};
+    }
+    xbr::Url location(xbr::view(text->text()));
+    return isSupportedAudioFile(location) ? location : xbr::Url();
+}
+
+xbr::Ref<TrackItem> makeTrackFromFile(const xbr::Url& file, UploadMode mode) {
+    const auto tags = readTags(file);
+    std::string title = tags->getString("Media:Title");
+    if (title.empty()) {
+        title = stemOf(file.fileName());
+    }
+    const std::string genre = tags->getString("Media:Genre");
+    auto record = xbr::make<TrackMetadata>();
+    record->songTitle = title;
+    record->albumTitle = title;
+    record->primaryGenre = genre;
+    record->singlesGenre = genre;
+    record->albumGenre = genre;
+    if (mode == UploadMode::kAlbum) {
+        record->albumModeTitle = title;
+    }
+    return xbr::make<TrackItem>(title, file, std::move(record));
+}
+
+} // namespace brindlex
