@@ -1,5 +1,5 @@
 #include "host/app/headless/command.h"
-#include "host/app/window/window.h"
+#include "host/app/window/start/window.h"
 
 #include <iostream>
 

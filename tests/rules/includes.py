@@ -5,6 +5,11 @@ import pathlib
 import re
 import sys
 
+HOST_APP = ["framework/abi", "framework/support", "host/base"]
+APP_PARTS = ["host/app/process", "host/app/settings", "host/app/audio", "host/app/modules"]
+APP_CORE = APP_PARTS + ["host/app/session", "host/app/publishing"]
+WINDOW_PARTS = ["host/app/window/look", "host/app/window/songs", "host/app/window/dialogs", "host/app/window/panels"]
+
 # Which rooms a room may include, beside itself; a room stands for those in it. "tests" may include everything.
 ALLOWED = {
     "framework/abi": [],
@@ -34,10 +39,20 @@ ALLOWED = {
     "host/net/feed": ["framework/abi", "framework/support", "host/base"],
     "host/net": ["framework/abi", "framework/support", "host/base", "host/net"],
     "host/security": ["framework/abi", "framework/support", "host/base"],
-    "host/app/core": ["framework/abi", "framework/support", "host/base"],
-    "host/app/headless": ["framework/abi", "framework/support", "host/base", "host/app/core"],
-    "host/app/window": ["framework/abi", "framework/support", "host/base", "host/app/core"],
-    "host/app": ["host/app/core", "host/app/headless", "host/app/window"],
+    "host/app/process": HOST_APP,
+    "host/app/settings": HOST_APP,
+    "host/app/audio": HOST_APP,
+    "host/app/modules": HOST_APP,
+    "host/app/session": HOST_APP + APP_PARTS,
+    "host/app/publishing": HOST_APP + APP_PARTS + ["host/app/session"],
+    "host/app/headless": HOST_APP + APP_CORE,
+    "host/app/window/look": HOST_APP + APP_CORE,
+    "host/app/window/songs": HOST_APP + APP_CORE + ["host/app/window/look"],
+    "host/app/window/dialogs": HOST_APP + APP_CORE + ["host/app/window/look"],
+    "host/app/window/panels": HOST_APP + APP_CORE + ["host/app/window/look", "host/app/window/dialogs"],
+    "host/app/window/frame": HOST_APP + APP_CORE + WINDOW_PARTS,
+    "host/app/window/start": HOST_APP + APP_CORE + WINDOW_PARTS + ["host/app/window/frame"],
+    "host/app": ["host/app/headless", "host/app/window/start"],
     "sandbox/http": [],
     "sandbox/pages": ["sandbox/http"],
     "sandbox/upload": ["sandbox/http"],

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/window/songview.h"
+#include "host/app/window/songs/songview.h"
 #include "tests/window/person.h"
 #include "tests/window/stage.h"
 

@@ -3,11 +3,11 @@
 #include "framework/abi/view.h"
 #include "framework/support/objects/hostobject.h"
 #include "framework/support/objects/text.h"
-#include "host/app/window/progressindicator.h"
-#include "host/app/window/song.h"
-#include "host/app/window/songfiles.h"
-#include "host/app/window/songlistmodel.h"
-#include "host/app/window/statusline.h"
+#include "host/app/window/dialogs/progressindicator.h"
+#include "host/app/window/frame/statusline.h"
+#include "host/app/window/songs/song.h"
+#include "host/app/window/songs/songfiles.h"
+#include "host/app/window/songs/songlistmodel.h"
 #include "tests/window/fixture.h"
 
 #include <QFileDialog>

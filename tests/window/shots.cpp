@@ -1,7 +1,7 @@
-#include "host/app/window/programtexts.h"
-#include "host/app/window/progresssheet.h"
-#include "host/app/window/songview.h"
-#include "host/app/window/statusline.h"
+#include "host/app/window/dialogs/progresssheet.h"
+#include "host/app/window/frame/statusline.h"
+#include "host/app/window/songs/songview.h"
+#include "host/app/window/start/programtexts.h"
 #include "tests/window/person.h"
 #include "tests/window/stage.h"
 

@@ -1,6 +1,6 @@
 #include "tests/window/stage.h"
 
-#include "host/app/window/statusline.h"
+#include "host/app/window/frame/statusline.h"
 
 #include <QElapsedTimer>
 #include <QProcess>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/window/windowhost.h"
+#include "host/app/window/start/windowhost.h"
 #include "tests/sandbox/runningservice.h"
 
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #include "host/app/headless/accountcommands.h"
 
-#include "host/app/core/signin.h"
 #include "host/app/headless/headlesshost.h"
+#include "host/app/publishing/signin.h"
 
 #include <QEventLoop>
 

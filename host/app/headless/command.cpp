@@ -1,10 +1,10 @@
 #include "host/app/headless/command.h"
 
-#include "host/app/core/callbackclient.h"
 #include "host/app/headless/accountcommands.h"
 #include "host/app/headless/commandline.h"
 #include "host/app/headless/output.h"
 #include "host/app/headless/publishcommand.h"
+#include "host/app/process/callbackclient.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/core/exitcodes.h"
+#include "host/app/process/exitcodes.h"
 
 #include <string>
 #include <vector>

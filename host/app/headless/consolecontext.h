@@ -1,10 +1,10 @@
 #pragma once
 
-#include "host/app/core/activity.h"
-#include "host/app/core/callbackserver.h"
-#include "host/app/core/configurationstore.h"
-#include "host/app/core/interruption.h"
 #include "host/app/headless/output.h"
+#include "host/app/process/callbackserver.h"
+#include "host/app/process/interruption.h"
+#include "host/app/session/activity.h"
+#include "host/app/settings/configurationstore.h"
 
 #include <memory>
 

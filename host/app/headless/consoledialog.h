@@ -2,8 +2,8 @@
 
 #include "framework/abi/view.h"
 #include "framework/support/objects/object.h"
-#include "host/app/core/reachability.h"
 #include "host/app/headless/consolecontext.h"
+#include "host/app/publishing/reachability.h"
 
 #include <QEventLoop>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/core/releasedraft.h"
+#include "host/app/publishing/releasedraft.h"
 
 #include <cstddef>
 #include <string>

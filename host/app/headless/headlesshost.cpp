@@ -1,6 +1,6 @@
 #include "host/app/headless/headlesshost.h"
 
-#include "host/app/core/modulesearch.h"
+#include "host/app/modules/modulesearch.h"
 #include "host/gui/hostgui.h"
 #include "host/security/hostsecurity.h"
 #include "host/system/hostsystem.h"

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "framework/support/objects/object.h"
-#include "host/app/core/coreclasses.h"
-#include "host/app/core/gadgetpanel.h"
-#include "host/app/core/hostcontext.h"
-#include "host/app/core/module.h"
-#include "host/app/core/temporarytenancy.h"
 #include "host/app/headless/commandline.h"
 #include "host/app/headless/consoleclasses.h"
 #include "host/app/headless/consolecontext.h"
+#include "host/app/modules/gadgetpanel.h"
+#include "host/app/modules/module.h"
+#include "host/app/process/temporarytenancy.h"
+#include "host/app/session/coreclasses.h"
+#include "host/app/session/hostcontext.h"
 
 #include <memory>
 #include <string>

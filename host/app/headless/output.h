@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/app/core/exitcodes.h"
-#include "host/app/core/releasedraft.h"
-#include "host/app/core/trackfollower.h"
+#include "host/app/process/exitcodes.h"
+#include "host/app/publishing/releasedraft.h"
+#include "host/app/publishing/trackfollower.h"
 
 #include <memory>
 #include <string>

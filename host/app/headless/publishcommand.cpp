@@ -1,9 +1,9 @@
 #include "host/app/headless/publishcommand.h"
 
-#include "host/app/core/publishsession.h"
-#include "host/app/core/releasefile.h"
 #include "host/app/headless/fieldnames.h"
 #include "host/app/headless/headlesshost.h"
+#include "host/app/headless/releasefile.h"
+#include "host/app/publishing/publishsession.h"
 
 #include <QEventLoop>
 

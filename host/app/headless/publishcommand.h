@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/app/core/exitcodes.h"
 #include "host/app/headless/commandline.h"
+#include "host/app/process/exitcodes.h"
 
 namespace xbr::host {
 

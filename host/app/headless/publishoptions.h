@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/core/releaseplan.h"
+#include "host/app/publishing/releaseplan.h"
 
 #include <string>
 

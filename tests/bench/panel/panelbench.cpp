@@ -1,9 +1,9 @@
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
-#include "host/app/core/publisheditem.h"
-#include "host/app/window/programtexts.h"
-#include "host/app/window/windowhost.h"
+#include "host/app/modules/publisheditem.h"
+#include "host/app/window/start/programtexts.h"
+#include "host/app/window/start/windowhost.h"
 #include "host/gui/hostgui.h"
 
 #include <QApplication>

@@ -16,7 +16,7 @@ LUPDATE = "/usr/lib/qt6/bin/lupdate"
 
 def main():
     folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else HERE
-    sources = [str(path) for suffix in ("h", "cpp") for path in sorted(HERE.parent.glob("*." + suffix))]
+    sources = [str(path) for suffix in ("h", "cpp") for path in sorted(HERE.parent.rglob("*." + suffix))]
     for path in sorted(folder.glob("*.ts")):
         plurals = ["-pluralonly"] if path.stem == "en" else []
         command = [LUPDATE, "-silent", "-locations", "none", "-no-obsolete", "-I", str(ROOT), *plurals, *sources, "-ts", str(path)]

@@ -1,0 +1,114 @@
+#include "host/app/modules/gadgetpanel.h"
+
+#include "framework/abi/pluginmanager.h"
+#include "framework/abi/view.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
+#include "framework/support/parts/path.h"
+
+namespace xbr::host {
+
+namespace {
+
+template <class Interface>
+Ref<Interface> create(const Uid& classUid) {
+    void* created = nullptr;
+    XBRGetPlugInManager()->createInstance(classUid, Interface::kUid, &created);
+    return Ref<Interface>::adopt(static_cast<Interface*>(created));
+}
+
+} // namespace
+
+/// What the module sees of the panel. Does not keep the controller: the panel does.
+class GadgetPanel::View final : public Object<IView, IShow> {
+public:
+    View(std::string form, IController& controller, std::function<void()> show)
+        : m_form(std::move(form)),
+          m_controller(&controller),
+          m_show(std::move(show)) {}
+
+    Text formName() const noexcept override { return toText(m_form); }
+    IController* controller() noexcept override { return m_controller; }
+    Result show() noexcept override {
+        if (!m_show) {
+            return kFalse;
+        }
+        m_show();
+        return kOk;
+    }
+
+    void detach() {
+        m_controller = nullptr;
+        m_show = nullptr;
+    }
+
+private:
+    std::string m_form;
+    IController* m_controller;
+    std::function<void()> m_show;
+};
+
+std::unique_ptr<GadgetPanel> GadgetPanel::open(std::function<void()> show, std::string& error) {
+    const auto gadgets = findGadgets();
+    if (gadgets.empty()) {
+        error = "the module has no panel";
+        return nullptr;
+    }
+    return open(gadgets.front(), std::move(show), error);
+}
+
+std::unique_ptr<GadgetPanel> GadgetPanel::open(const GadgetClass& gadget, std::function<void()> show,
+                                               std::string& error) {
+    auto controller = create<IController>(gadget.uid);
+    if (!controller) {
+        error = "the panel '" + gadget.name + "' cannot be made";
+        return nullptr;
+    }
+    auto panelView = make<View>(gadget.formName, *controller, std::move(show));
+    return std::unique_ptr<GadgetPanel>(new GadgetPanel(std::move(controller), std::move(panelView)));
+}
+
+GadgetPanel::GadgetPanel(Ref<IController> controller, Ref<View> view)
+    : m_controller(std::move(controller)),
+      m_view(std::move(view)) {
+    m_controller->viewAttached(m_view.get());
+}
+
+GadgetPanel::~GadgetPanel() {
+    m_controller->viewDetached(m_view.get());
+    m_view->detach();
+}
+
+Ref<IListViewModel> GadgetPanel::tracks() const {
+    return findObject<IListViewModel>(*m_controller, "TrackList/tracks");
+}
+
+bool GadgetPanel::isClient(std::string_view property) const {
+    const auto client = findObject<IPropertySource>(*m_controller, "Client");
+    Value value{};
+    if (!client || client->getProperty(toText(property), &value) != kOk) {
+        return false;
+    }
+    return integerOf(value) != 0;
+}
+
+std::string GadgetPanel::text(std::string_view path) const {
+    const IParameter* parameter = findParameter(*m_controller, path);
+    return parameter ? std::string(textOf(parameter->value())) : std::string();
+}
+
+bool GadgetPanel::set(std::string_view path, std::int64_t value) {
+    const auto parameter = Ref<IParameter>::share(findParameter(*m_controller, path));
+    if (!parameter || !parameter->isEnabled()) {
+        return false;
+    }
+    parameter->setValue(integerValue(value));
+    return true;
+}
+
+bool GadgetPanel::isEnabled(std::string_view path) const {
+    const IParameter* parameter = findParameter(*m_controller, path);
+    return parameter && parameter->isEnabled();
+}
+
+} // namespace xbr::host

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "framework/abi/controller.h"
+#include "framework/abi/listmodel.h"
+#include "framework/abi/publisher.h"
+#include "framework/support/objects/object.h"
+#include "host/app/modules/gadgetclass.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace xbr::host {
+
+/// The panel of a module: the controller of its gadget, with the view that stands for it in this host.
+///
+/// The names below are those that the panel's forms bind to: the child "Client" with its properties, the list
+/// model "TrackList/tracks", and parameters by path.
+class GadgetPanel {
+public:
+    /// Makes the panel of the first gadget that the plug-in manager knows. `show` is called when a module
+    /// wants the panel to be seen. Null, with the reason in `error`, when there is none.
+    static std::unique_ptr<GadgetPanel> open(std::function<void()> show, std::string& error);
+
+    /// Makes the panel of one gadget, in the same way.
+    static std::unique_ptr<GadgetPanel> open(const GadgetClass& gadget, std::function<void()> show,
+                                             std::string& error);
+
+    GadgetPanel(const GadgetPanel&) = delete;
+    GadgetPanel& operator=(const GadgetPanel&) = delete;
+    ~GadgetPanel();
+
+    IController& controller() const { return *m_controller; }
+
+    /// The list of tracks; empty when the panel has none.
+    Ref<IListViewModel> tracks() const;
+
+    /// A true or false property of the child "Client"; false when it is missing.
+    bool isClient(std::string_view property) const;
+
+    /// The text of a parameter; empty when it is missing.
+    std::string text(std::string_view path) const;
+
+    /// Sets a parameter as a user does: performs a command with 1, switches a toggle. False when there is no
+    /// such parameter, or it is disabled. Returns when the panel has dealt with it, which may run the event
+    /// loop.
+    bool set(std::string_view path, std::int64_t value);
+
+    /// True when a user could perform the command.
+    bool isEnabled(std::string_view path) const;
+
+private:
+    class View;
+    GadgetPanel(Ref<IController> controller, Ref<View> view);
+
+    Ref<IController> m_controller;
+    Ref<View> m_view;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,135 @@
+#include "host/app/modules/module.h"
+
+#include "framework/abi/pluginmanager.h"
+#include "framework/support/objects/text.h"
+#include "host/net/hostnet.h"
+#include "host/system/hostsystem.h"
+
+#include <dlfcn.h>
+#include <filesystem>
+
+namespace xbr::host {
+
+namespace {
+
+constexpr std::string_view kServiceCategory = "ProgramService";
+
+std::string versionText(std::uint32_t version) {
+    return std::to_string(borderMajor(version)) + "." + std::to_string(version & 0xFFFFU);
+}
+
+template <class Function>
+Function lookUp(void* library, const char* name) {
+    return reinterpret_cast<Function>(dlsym(library, name));
+}
+
+} // namespace
+
+std::unique_ptr<Module> Module::load(const std::string& path, IHostContext& context, std::string& error) {
+    auto module = std::unique_ptr<Module>(new Module(path));
+    std::string problem = module->open();
+    if (problem.empty()) {
+        problem = module->start();
+    }
+    if (problem.empty()) {
+        problem = module->startServices(context);
+    }
+    if (!problem.empty()) {
+        error = "the module '" + path + "' " + problem;
+        return nullptr;
+    }
+    return module;
+}
+
+std::string Module::open() {
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(m_path, ignored)) {
+        return "is not there";
+    }
+    // A name without a slash would be searched for in the system's library folders.
+    m_library = dlopen(std::filesystem::absolute(m_path).c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!m_library) {
+        const char* reason = dlerror(); // NOLINT(concurrency-mt-unsafe): the C library keeps it per thread
+        return std::string("cannot be loaded: ") + (reason ? reason : "no reason was given");
+    }
+    m_main = lookUp<decltype(m_main)>(m_library, "XBRModuleMain");
+    m_getFactory = lookUp<decltype(m_getFactory)>(m_library, "XBRGetClassFactory");
+    return m_main && m_getFactory ? "" : "is a library, but no module";
+}
+
+std::string Module::start() {
+    if (m_main(m_library, static_cast<std::int32_t>(ModuleReason::kLoad)) == 0) {
+        return "refuses to work (a part of it is missing or damaged)";
+    }
+    m_isStarted = true;
+    m_factory = m_getFactory();
+    if (!m_factory) {
+        return "offers no classes";
+    }
+    const std::uint32_t version = m_factory->borderVersion();
+    if (borderMajor(version) != borderMajor(kBorderVersion)) {
+        return "is made for border version " + versionText(version) + ", this host for " +
+               versionText(kBorderVersion);
+    }
+    return {};
+}
+
+std::string Module::startServices(IHostContext& context) {
+    for (std::int32_t i = 0; i < m_factory->countClasses(); ++i) {
+        const ClassDescription* description = m_factory->classAt(i);
+        if (description && view(description->category) == kServiceCategory) {
+            std::string problem = startService(*description, context);
+            if (!problem.empty()) {
+                return problem;
+            }
+        }
+    }
+    return m_services.empty() ? "offers no service" : "";
+}
+
+std::string Module::startService(const ClassDescription& description, IHostContext& context) {
+    const std::string name = "'" + toString(description.name) + "'";
+    m_name = m_name.empty() ? toString(description.name) : m_name;
+    void* created = nullptr;
+    if (m_factory->createInstance(description.uid, IProgramService::kUid, &created) != kOk) {
+        return "cannot make its service " + name;
+    }
+    auto service = Ref<IProgramService>::adopt(static_cast<IProgramService*>(created));
+    if (!succeeded(service->initialise(&context))) {
+        return "cannot start its service " + name;
+    }
+    Ref<IClassFactory> classes;
+    service->getClasses(classes.out());
+    if (classes) {
+        XBRGetPlugInManager()->addFactory(classes.get());
+    }
+    m_services.push_back({std::move(service), std::move(classes)});
+    return {};
+}
+
+void Module::stopServices() noexcept {
+    while (!m_services.empty()) {
+        Service last = std::move(m_services.back());
+        m_services.pop_back();
+        if (last.classes) {
+            XBRGetPlugInManager()->removeFactory(last.classes.get());
+        }
+        last.classes.reset();
+        last.service->terminate();
+    }
+}
+
+Module::~Module() {
+    if (m_isStarted) {
+        // No answer and no message may reach code that is about to go.
+        abortAllRequests();
+        stopServices();
+        m_main(m_library, static_cast<std::int32_t>(ModuleReason::kUnload));
+        dropPostedMessages();
+    }
+    if (m_library) {
+        dlclose(m_library);
+    }
+}
+
+} // namespace xbr::host

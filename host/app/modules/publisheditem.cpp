@@ -1,0 +1,59 @@
+#include "host/app/modules/publisheditem.h"
+
+#include "framework/support/objects/text.h"
+
+#include <filesystem>
+#include <unistd.h>
+
+namespace xbr::host {
+
+namespace fs = std::filesystem;
+
+Result PublishedItem::getUrl(IString** out) noexcept {
+    return giveText(m_url, out);
+}
+
+Result PublishedItem::getMediaAttributes(IAttributes* out) noexcept {
+    for (std::int32_t i = 0; i < m_media->count(); ++i) {
+        const std::string name = toString(m_media->nameAt(i));
+        out->set(toText(name), m_media->get(name));
+    }
+    return kOk;
+}
+
+void PublishedItems::add(std::string url, Ref<Attributes> media) {
+    m_items.push_back(make<PublishedItem>(std::move(url), std::move(media)));
+}
+
+Result PublishedItems::next(IObject** out) noexcept {
+    *out = nullptr;
+    if (m_next == m_items.size()) {
+        return kFalse;
+    }
+    *out = query<IObject>(m_items[m_next++].get()).detach();
+    return kOk;
+}
+
+std::string problemOfFile(const std::string& path) {
+    std::error_code failed;
+    const auto status = fs::status(path, failed);
+    if (!fs::exists(status)) {
+        return "is not there";
+    }
+    if (!fs::is_regular_file(status)) {
+        return "is not a file";
+    }
+    return access(path.c_str(), R_OK) == 0 ? "" : "cannot be read";
+}
+
+Ref<IFileType> fileTypeOf(const std::string& path) {
+    const std::string extension = fs::path(path).extension().string();
+    const std::string name = extension.size() > 1 ? extension.substr(1) : "audio";
+    Ref<IFileType> type;
+    if (XBRGetFileTypeRegistry()->getTypeByExtension(toText(name), type.out()) != kOk) {
+        XBRGetFileTypeRegistry()->createType(toText(name), type.out());
+    }
+    return type;
+}
+
+} // namespace xbr::host

@@ -1,0 +1,39 @@
+#include "host/app/process/privatefolder.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace xbr::host {
+
+std::string callbackFolder() {
+    // The environment is read on the main thread, and nothing in the host writes it.
+    const char* runtime = std::getenv("XDG_RUNTIME_DIR"); // NOLINT(concurrency-mt-unsafe)
+    std::error_code ignored;
+    if (runtime && *runtime == '/' && std::filesystem::is_directory(runtime, ignored)) {
+        return std::string(runtime) + "/xbrhost";
+    }
+    return QFile::encodeName(QDir::tempPath()).toStdString() + "/xbrhost-" + std::to_string(geteuid());
+}
+
+bool makePrivateFolder(const std::string& path, std::string& error) {
+    if (mkdir(path.c_str(), S_IRWXU) != 0 && errno != EEXIST) {
+        error = "the folder '" + path + "' cannot be made: " + std::generic_category().message(errno);
+        return false;
+    }
+    struct stat status {};
+    const bool isOurs = lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+                        status.st_uid == geteuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+    if (!isOurs) {
+        error = "the folder '" + path + "' is not private to this user";
+    }
+    return isOurs;
+}
+
+} // namespace xbr::host

@@ -1,0 +1,63 @@
+#include "host/app/process/singleinstance.h"
+
+#include "host/app/process/callbackclient.h"
+#include "host/app/process/openhandler.h"
+#include "host/app/process/privatefolder.h"
+#include "host/system/hostfileurl.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <chrono>
+#include <filesystem>
+#include <thread>
+#include <unistd.h>
+
+namespace xbr::host {
+
+namespace {
+
+constexpr qint64 kPatience = 10000; ///< milliseconds that the other may take to get ready
+constexpr std::chrono::milliseconds kPause{100};
+
+/// The other may be just about to begin, or to end.
+bool handOver(const std::vector<std::string>& files) {
+    for (const std::string& file : files) {
+        std::error_code ignored;
+        handOverUrl(fileUrl(std::filesystem::absolute(file, ignored).string()));
+    }
+    return handOverUrl(kShowWindowUrl) == HandOver::kTaken;
+}
+
+} // namespace
+
+SingleInstance::~SingleInstance() {
+    if (m_lock) {
+        m_lock.reset();
+        rmdir(callbackFolder().c_str()); // stays when another host listens there
+    }
+}
+
+SingleInstance::Place SingleInstance::take(const std::vector<std::string>& files, std::string& error) {
+    const std::string folder = callbackFolder();
+    QElapsedTimer clock;
+    clock.start();
+    do {
+        if (!makePrivateFolder(folder, error)) {
+            return Place::kNoFolder;
+        }
+        auto lock = std::make_unique<QLockFile>(QFile::decodeName((folder + "/window.lock").c_str()));
+        lock->setStaleLockTime(0); // held for as long as the window is open
+        if (lock->tryLock()) {
+            m_lock = std::move(lock);
+            return Place::kFirst;
+        }
+        if (handOver(files)) {
+            return Place::kSecond;
+        }
+        std::this_thread::sleep_for(kPause);
+    } while (clock.elapsed() < kPatience);
+    return Place::kNoAnswer;
+}
+
+} // namespace xbr::host

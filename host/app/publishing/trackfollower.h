@@ -1,0 +1,65 @@
+#pragma once
+
+#include "framework/abi/listmodel.h"
+#include "framework/support/objects/object.h"
+#include "host/app/modules/signallistener.h"
+
+#include <QTimer>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+enum class TrackState : std::uint8_t {
+    kNone = 0, ///< not sent
+    kDone = 1,
+    kFailed = 2,
+    kMissingInformation = 3, ///< sent, and refused for it
+};
+
+/// One row of the list of tracks.
+struct TrackReport {
+    std::int32_t index = 0; ///< from 0
+    std::string title;
+    std::string file; ///< URL
+    TrackState state = TrackState::kNone;
+    bool isUploading = false;
+    double progress = 0.0; ///< fraction of the transfer
+
+    bool operator==(const TrackReport&) const = default;
+};
+
+/// What to call a track: its title, or the name of its file when it has none.
+std::string labelOf(const TrackReport& track);
+
+/// Reads a list of tracks and tells what changes in it. A list that says "changed" is read with the next turn
+/// of the event loop, or when somebody asks: an album of many tracks says so for each of them.
+class TrackFollower {
+public:
+    using Changed = std::function<void(const TrackReport& track)>;
+
+    /// `touched` is called for every message of the list, before `changed` for each track that looks
+    /// different from before.
+    TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed);
+
+    /// The tracks as they are now. May call `changed`.
+    const std::vector<TrackReport>& reports();
+    bool isUploading();
+
+private:
+    void catchUp();
+    void readAll();
+    void readRow(std::int32_t row);
+
+    Ref<IListViewModel> m_tracks;
+    std::function<void()> m_touched;
+    Changed m_changed;
+    std::vector<TrackReport> m_reports;
+    QTimer m_later; ///< runs while the list has changed and was not read since
+    SignalListener m_listener;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,74 @@
+#include "host/app/window/dialogs/fileselector.h"
+
+#include "framework/support/objects/text.h"
+#include "host/app/window/dialogs/filedialog.h"
+#include "host/system/hostfileurl.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace xbr::host {
+
+namespace {
+
+QString toQString(Text text) {
+    return QString::fromUtf8(text.data, static_cast<qsizetype>(text.length));
+}
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(xbr::host::FileSelector)
+};
+
+/// Files on most systems tell upper from lower case, their extensions do not.
+QString patternOf(const QString& extension) {
+    return "*." + extension.toLower() + " *." + extension.toUpper();
+}
+
+} // namespace
+
+Result FileSelector::addFilter(IFileType* type) noexcept {
+    if (!type || type->extension().length == 0) {
+        return kInvalidArgument;
+    }
+    m_filters.push_back({toQString(type->extension()), toQString(type->description())});
+    return kOk;
+}
+
+QStringList FileSelector::nameFilters() const {
+    QStringList patterns;
+    QStringList filters;
+    for (const Filter& filter : m_filters) {
+        const QString pattern = patternOf(filter.extension);
+        const QString name = filter.description.isEmpty() ? filter.extension.toUpper() : filter.description;
+        patterns.append(pattern);
+        filters.append(QString("%1 (%2)").arg(name, pattern));
+    }
+    if (filters.size() > 1) {
+        filters.prepend(QString("%1 (%2)").arg(Texts::tr("All usable files"), patterns.join(' ')));
+    }
+    return filters;
+}
+
+Result FileSelector::run(Mode mode, Text title) noexcept {
+    m_urls.clear();
+    if (m_context->modalRuns.isEnding()) {
+        return kFalse;
+    }
+    const auto self = Ref<FileSelector>::share(this);
+    FileQuestion question;
+    question.title = title.length > 0 ? toQString(title) : Texts::tr("Choose Files");
+    question.filters = nameFilters();
+    question.isSaving = mode == Mode::kSaveFile;
+    question.isForSeveral = mode == Mode::kOpenFiles;
+    for (const QString& path : askForFiles(*m_context, question)) {
+        m_urls.push_back(fileUrl(QFile::encodeName(path).toStdString()));
+    }
+    return m_urls.empty() ? kFalse : kOk;
+}
+
+Text FileSelector::urlAt(std::int32_t index) const noexcept {
+    const bool isThere = index >= 0 && index < countUrls();
+    return isThere ? toText(m_urls[static_cast<std::size_t>(index)]) : Text{};
+}
+
+} // namespace xbr::host

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "framework/abi/view.h"
+#include "framework/support/objects/object.h"
+#include "host/app/window/dialogs/windowcontext.h"
+
+#include <QStringList>
+
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+/// Lets the user choose files, in the desktop's own dialog where there is one.
+class FileSelector final : public Object<IFileSelector> {
+public:
+    explicit FileSelector(WindowContext& context) : m_context(&context) {}
+
+    Result addFilter(IFileType* type) noexcept override;
+    Result run(Mode mode, Text title) noexcept override;
+    std::int32_t countUrls() const noexcept override { return static_cast<std::int32_t>(m_urls.size()); }
+    Text urlAt(std::int32_t index) const noexcept override;
+
+private:
+    struct Filter {
+        QString extension;
+        QString description;
+    };
+    QStringList nameFilters() const;
+
+    WindowContext* m_context;
+    std::vector<Filter> m_filters;
+    std::vector<std::string> m_urls;
+};
+
+} // namespace xbr::host

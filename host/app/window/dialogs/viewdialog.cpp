@@ -1,0 +1,80 @@
+#include "host/app/window/dialogs/viewdialog.h"
+
+#include "host/app/publishing/reachability.h"
+#include "host/app/window/dialogs/viewdialogframe.h"
+#include "host/app/window/look/raising.h"
+
+#include <QScopedValueRollback>
+
+namespace xbr::host {
+
+namespace {
+
+/// Belongs to the window, which may take it along when it goes.
+QPointer<ViewDialogFrame> makeFrame(QWidget* window, std::int32_t styleFlags) {
+    return new ViewDialogFrame(window, styleFlags);
+}
+
+} // namespace
+
+Result ViewDialog::setTheme(ITheme* theme) noexcept {
+    m_theme = Ref<ITheme>::share(theme);
+    return kOk;
+}
+
+Result ViewDialog::setTranslationTable(ITranslationTable* table) noexcept {
+    m_table = Ref<ITranslationTable>::share(table);
+    return kOk;
+}
+
+bool ViewDialog::isHopeless() const {
+    const ConfigurationReport& report = *m_context->configuration;
+    return m_context->modalRuns.isEnding() || (report.wasAsked && !report.isComplete());
+}
+
+Result ViewDialog::runModal(IView* view, std::int32_t styleFlags) noexcept {
+    if (m_loop) {
+        return kUnexpected;
+    }
+    if (!view) {
+        return kInvalidArgument;
+    }
+    if (isHopeless()) {
+        return kOk;
+    }
+    const auto self = Ref<ViewDialog>::share(this); // whoever made it may let go of it meanwhile
+    const auto shown = Ref<IView>::share(view);
+    const auto frame = makeFrame(m_context->window, styleFlags);
+    if (!frame->showView(*view)) {
+        delete frame;
+        return kInvalidArgument;
+    }
+    const QScopedValueRollback<QPointer<ViewDialogFrame>> onTop(m_context->dialog, frame);
+    QEventLoop loop;
+    m_loop = &loop;
+    const ModalRuns::Run run(m_context->modalRuns, [&loop] { loop.quit(); });
+    QObject::connect(frame, &QDialog::finished, &loop, &QEventLoop::quit);
+    QObject::connect(frame, &QObject::destroyed, &loop, &QEventLoop::quit);
+    Reachability reachability;
+    reachability.check(m_context->configuration->serverUrl, [&frame](const std::string& problem) {
+        if (frame) {
+            frame->setNotice(QString::fromStdString(problem));
+        }
+    });
+    frame->show();
+    raise(*frame);
+    loop.exec();
+    m_loop = nullptr;
+    delete frame;
+    return kOk;
+}
+
+Result ViewDialog::close() noexcept {
+    if (!m_loop) {
+        return kFalse;
+    }
+    m_loop->quit();
+    return kOk;
+}
+
+} // namespace xbr::host

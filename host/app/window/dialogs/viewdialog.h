@@ -1,0 +1,33 @@
+#pragma once
+
+#include "framework/abi/view.h"
+#include "framework/support/objects/object.h"
+#include "host/app/window/dialogs/windowcontext.h"
+
+#include <QEventLoop>
+
+namespace xbr::host {
+
+/// A dialog that shows a form of a module.
+class ViewDialog final : public Object<IDialog> {
+public:
+    explicit ViewDialog(WindowContext& context) : m_context(&context) {}
+
+    Result setTheme(ITheme* theme) noexcept override;
+    Result setTranslationTable(ITranslationTable* table) noexcept override;
+
+    /// Answers at once when the settings of the service are missing or the program is about to end: what the
+    /// form would wait for cannot happen then. kInvalidArgument: the view is none of the host's.
+    Result runModal(IView* view, std::int32_t styleFlags) noexcept override;
+    Result close() noexcept override;
+
+private:
+    bool isHopeless() const;
+
+    WindowContext* m_context;
+    Ref<ITheme> m_theme;
+    Ref<ITranslationTable> m_table;
+    QEventLoop* m_loop = nullptr; ///< while the dialog runs
+};
+
+} // namespace xbr::host

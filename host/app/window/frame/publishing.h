@@ -1,0 +1,47 @@
+#pragma once
+
+#include "framework/abi/publisher.h"
+#include "framework/support/objects/object.h"
+#include "host/app/audio/renderedsongs.h"
+#include "host/app/publishing/notice.h"
+#include "host/app/window/songs/song.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+/// An entry of the publish menu.
+struct PublishEntry {
+    Uid uid{};
+    QString name;
+};
+
+/// The publish entries of all modules that are loaded.
+std::vector<PublishEntry> findPublishEntries();
+
+/// Hands songs to publish entries of modules.
+class Publishing {
+public:
+    /// Hands the songs over: those of a type that the entry does not take are rendered before. Runs the event
+    /// loop meanwhile; a second call in there does nothing. What to tell the user is the result.
+    Notice publish(const PublishEntry& entry, const std::vector<Song>& songs);
+
+private:
+    /// A song on its way to the entry.
+    struct Passage {
+        const Song* song;
+        bool isToRender = false;
+        std::string file; ///< path of what is handed over
+    };
+
+    Notice handOver(const PublishEntry& entry, const std::vector<Song>& songs);
+    static QString ask(IPublisher& publisher, Passage& passage);
+    static QString render(std::vector<Passage>& passages, RenderedSongs& rendered);
+
+    bool m_isRunning = false;
+    std::unique_ptr<RenderedSongs> m_rendered; ///< what the entry got last
+};
+
+} // namespace xbr::host

@@ -1,0 +1,107 @@
+#include "host/app/window/panels/gadgetdock.h"
+
+#include "framework/abi/view.h"
+#include "framework/support/objects/hostobject.h"
+#include "framework/support/parts/path.h"
+#include "host/app/window/look/raising.h"
+#include "host/app/window/panels/docktitle.h"
+#include "host/app/window/panels/wording.h"
+#include "host/gui/hostwidgets.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QScrollArea>
+
+namespace xbr::host {
+
+namespace {
+
+constexpr int kMargin = 24;
+
+/// A theme of the window's own, with the skin that the gadget's description names.
+Ref<IView> makeView(const GadgetClass& gadget, IController& controller) {
+    const auto theme = createHostObject<ITheme>();
+    Ref<IView> view;
+    const std::string folder = "resource://" + gadget.themeName + "/skin";
+    if (theme && theme->load(toText(folder)) == kOk) {
+        theme->createView(toText(gadget.formName), &controller, view.out());
+    }
+    return view;
+}
+
+} // namespace
+
+GadgetDock::GadgetDock(const GadgetClass& gadget, const WindowContext& context, QWidget* parent)
+    : QDockWidget(QString::fromStdString(gadget.name), parent) {
+    setObjectName("gadget-" + QString::fromStdString(toString(gadget.uid)));
+    setAccessibleName(windowTitle());
+    setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    setTitleBarWidget(new DockTitle(*this));
+    std::string error;
+    m_panel = GadgetPanel::open(
+        gadget, [this] { bringToFront(); }, error);
+    if (!m_panel) {
+        showProblem(sentence(error));
+        return;
+    }
+    m_watch = new ServiceWatch(*m_panel, context, this);
+    showForm(gadget);
+}
+
+GadgetDock::~GadgetDock() {
+    // The form first: it is bound to what the panel holds. The watch listens to it, too.
+    delete m_form;
+    delete m_watch;
+    m_panel.reset();
+}
+
+void GadgetDock::showForm(const GadgetClass& gadget) {
+    const auto view = makeView(gadget, m_panel->controller());
+    m_form = view ? createViewWidget(*view, nullptr) : nullptr;
+    if (!m_form) {
+        showProblem(tr("The form of this panel cannot be shown."));
+        return;
+    }
+    setShowAction(*m_form, [this] { bringToFront(); });
+    auto* area = new QScrollArea(this);
+    area->setObjectName("panelArea");
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(m_form);
+    setWidget(area);
+}
+
+void GadgetDock::showProblem(const QString& text) {
+    auto* label = new QLabel(text, this);
+    label->setObjectName("panelProblem");
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    label->setMargin(kMargin);
+    setWidget(label);
+}
+
+void GadgetDock::bringToFront() {
+    if (!window()->isVisible()) {
+        return;
+    }
+    show();
+    raise();
+    xbr::host::raise(*window());
+    if (m_form) {
+        m_form->setFocus();
+    }
+}
+
+QStringList GadgetDock::genres() const {
+    QStringList names;
+    const IParameter* genre =
+        m_panel ? findParameter(m_panel->controller(), "TrackList/TrackProperties/primaryGenre") : nullptr;
+    for (std::int32_t i = 1; genre && i < genre->countChoices(); ++i) { // the first is "not set"
+        names.append(QString::fromStdString(toString(genre->choiceAt(i))));
+    }
+    return names;
+}
+
+} // namespace xbr::host

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "host/app/modules/gadgetclass.h"
+#include "host/app/modules/gadgetpanel.h"
+#include "host/app/window/panels/servicewatch.h"
+
+#include <QDockWidget>
+
+#include <memory>
+
+namespace xbr::host {
+
+/// The panel of a module, docked in the window. Must go before the module does.
+class GadgetDock final : public QDockWidget {
+    Q_OBJECT
+
+public:
+    /// Opens the panel; one that cannot be opened says so in its place.
+    GadgetDock(const GadgetClass& gadget, const WindowContext& context, QWidget* parent);
+    ~GadgetDock() override;
+
+    /// Null when the panel could not be opened.
+    GadgetPanel* panel() const { return m_panel.get(); }
+    ServiceWatch* watch() const { return m_watch; }
+
+    /// To the user's sight, with the keyboard.
+    void bringToFront();
+
+    /// The genres that the panel offers.
+    QStringList genres() const;
+
+private:
+    void showForm(const GadgetClass& gadget);
+    void showProblem(const QString& text);
+
+    std::unique_ptr<GadgetPanel> m_panel;
+    ServiceWatch* m_watch = nullptr;
+    QWidget* m_form = nullptr;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "framework/support/data/attributes.h"
+#include "host/app/audio/audioformat.h"
+
+#include <QString>
+
+#include <array>
+#include <string>
+
+namespace xbr::host {
+
+/// What the list knows of a song. The texts are the user's to edit; the file stays as it is.
+struct Song {
+    std::string path; ///< bytes
+    QString title;
+    QString artist;
+    QString album;
+    QString albumArtist;
+    QString genre;
+    int number = 0; ///< from 1; 0 for none
+    AudioFormat format;
+    QString problem;         ///< why it cannot be published; empty when it can
+    bool isBeingRead = true; ///< its tags are still to come
+};
+
+/// The name of the song's file.
+QString fileNameOf(const Song& song);
+
+/// "3:07"; empty when it is unknown.
+QString lengthText(std::int64_t milliseconds);
+
+/// "WAV · 24 bit · 48 kHz"
+QString formatText(const AudioFormat& format);
+
+/// The song's texts as a module is given them.
+Ref<Attributes> mediaOf(const Song& song);
+
+/// Reads tags and format of a file that the user chose. Any thread.
+Song readSong(const std::string& path);
+
+} // namespace xbr::host

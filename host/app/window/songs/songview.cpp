@@ -1,0 +1,143 @@
+#include "host/app/window/songs/songview.h"
+
+#include "host/app/window/songs/songdelegate.h"
+
+#include <QHeaderView>
+#include <QResizeEvent>
+
+#include <algorithm>
+#include <numeric>
+
+namespace xbr::host {
+
+namespace {
+
+constexpr int kWidths[] = {44, 170, 140, 120, 120, 110, 62, 160}; ///< points; shares of what there is
+constexpr int kLeastWidth = 60;
+
+bool isFixed(int column) {
+    return column == SongListModel::kNumber || column == SongListModel::kLength;
+}
+
+QString widestFormat() {
+    static constexpr int kRate = 44100;
+    static constexpr int kBitRate = 320;
+    return formatText({"MP3", 0, kRate, 0, kBitRate});
+}
+
+} // namespace
+
+SongView::SongView(SongListModel& model, QWidget* parent) : QTreeView(parent), m_songs(&model) {
+    setObjectName("songs");
+    setAccessibleName(tr("Songs"));
+    setModel(&model);
+    setItemDelegate(new SongDelegate(this));
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(false);
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(DoubleClicked | EditKeyPressed | SelectedClicked);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setTextElideMode(Qt::ElideRight);
+    setFrameShape(NoFrame);
+    setTabKeyNavigation(false);
+    header()->setStretchLastSection(true);
+    header()->setHighlightSections(false);
+    header()->setTextElideMode(Qt::ElideRight);
+    header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header()->setAccessibleName(tr("Columns"));
+    for (int column = 0; column < SongListModel::kColumnCount; ++column) {
+        header()->resizeSection(column, kWidths[column]);
+    }
+}
+
+bool SongView::hasSelection() const {
+    return selectionModel()->hasSelection();
+}
+
+std::vector<int> SongView::selectedRows() const {
+    std::vector<int> rows;
+    for (const QModelIndex& index : selectionModel()->selectedRows()) {
+        rows.push_back(index.row());
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+std::vector<int> SongView::chosenRows() const {
+    auto rows = selectedRows();
+    if (rows.empty()) {
+        rows.resize(static_cast<std::size_t>(m_songs->rowCount()));
+        std::iota(rows.begin(), rows.end(), 0);
+    }
+    return rows;
+}
+
+void SongView::removeSelected() {
+    const auto rows = selectedRows();
+    // From the end, in runs: what is before keeps its number.
+    for (auto last = rows.rbegin(); last != rows.rend();) {
+        auto first = last;
+        while (first + 1 != rows.rend() && *(first + 1) == *first - 1) {
+            ++first;
+        }
+        m_songs->removeRows(*first, *last - *first + 1);
+        last = first + 1;
+    }
+}
+
+void SongView::moveCurrent(int by) {
+    const int row = currentIndex().row();
+    if (m_songs->moveSong(row, by)) {
+        scrollTo(currentIndex());
+    }
+}
+
+void SongView::editCurrent() {
+    if (currentIndex().isValid()) {
+        edit(currentIndex());
+    }
+}
+
+int SongView::neededWidth(int column) const {
+    static constexpr int kPadding = 24;
+    const QString widest[] = {"9999", {}, {}, {}, {}, {}, "0:00:00", widestFormat()};
+    return std::max(fontMetrics().horizontalAdvance(widest[column]) + kPadding,
+                    header()->sectionSizeHint(column));
+}
+
+/// The columns fill the view: those of numbers take what they need, the others share the rest in the
+/// proportions that the user gave them, and the title takes what is left.
+void SongView::fitColumns() {
+    int rest = viewport()->width() - neededWidth(SongListModel::kFormat);
+    int present = 0;
+    for (int column = 0; column < SongListModel::kFormat; ++column) {
+        present += isFixed(column) ? 0 : header()->sectionSize(column);
+        rest -= isFixed(column) ? neededWidth(column) : 0;
+    }
+    const int shared = rest;
+    for (int column = 0; column < SongListModel::kFormat && present > 0; ++column) {
+        if (isFixed(column)) {
+            header()->resizeSection(column, neededWidth(column));
+        } else if (column != SongListModel::kTitle) {
+            const int share = header()->sectionSize(column) * shared / present;
+            header()->resizeSection(column, std::max(share, header()->sectionSizeHint(column)));
+            rest -= header()->sectionSize(column);
+        }
+    }
+    header()->resizeSection(SongListModel::kTitle, std::max(rest, kLeastWidth));
+}
+
+void SongView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    if (event->oldSize().width() != event->size().width()) {
+        fitColumns();
+    }
+}
+
+void SongView::setGenres(const QStringList& genres) {
+    qobject_cast<SongDelegate*>(itemDelegate())->setGenres(genres);
+}
+
+} // namespace xbr::host

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "host/app/window/songs/songlistmodel.h"
+
+#include <QTreeView>
+
+#include <vector>
+
+namespace xbr::host {
+
+/// The list of songs.
+class SongView final : public QTreeView {
+    Q_OBJECT
+
+public:
+    SongView(SongListModel& model, QWidget* parent);
+
+    /// The rows that a command works on, in the order of the list: the selected ones, or all.
+    std::vector<int> chosenRows() const;
+    bool hasSelection() const;
+
+    void removeSelected();
+    void moveCurrent(int by);
+    void editCurrent();
+
+    /// Names of genres that are offered while one is typed.
+    void setGenres(const QStringList& genres);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    std::vector<int> selectedRows() const;
+    int neededWidth(int column) const;
+    void fitColumns();
+
+    SongListModel* m_songs;
+};
+
+} // namespace xbr::host

@@ -1,0 +1,68 @@
+#include "host/app/window/start/window.h"
+
+#include "host/app/process/singleinstance.h"
+#include "host/app/window/start/programtexts.h"
+#include "host/app/window/start/windowhost.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace xbr::host {
+
+namespace {
+
+bool isSet(const char* variable) {
+    const char* value = std::getenv(variable); // NOLINT(concurrency-mt-unsafe): nobody writes the environment
+    return value && *value;
+}
+
+/// Without one the library for windows would end the process with a core dump.
+bool hasDisplay() {
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
+}
+
+ExitCode fail(const std::string& text) {
+    std::cerr << "xbrhost: " << text << std::endl;
+    return ExitCode::kUsage;
+}
+
+ExitCode open(const WindowOptions& options) {
+    WindowHost host;
+    QObject::connect(&host.window(), &MainWindow::closed, qApp, &QCoreApplication::quit);
+    host.start(options);
+    QApplication::exec();
+    return ExitCode::kDone;
+}
+
+} // namespace
+
+ExitCode runWindow(int& argc, char** argv, const WindowOptions& options) {
+    if (!hasDisplay()) {
+        return fail("there is no display for the window (xbrhost --help lists what works without)");
+    }
+    SingleInstance instance;
+    std::string error;
+    switch (instance.take(options.files, error)) {
+    case SingleInstance::Place::kSecond:
+        return ExitCode::kDone;
+    case SingleInstance::Place::kNoAnswer:
+        return fail("another xbrhost has the window, but does not answer");
+    case SingleInstance::Place::kNoFolder:
+        return fail(error);
+    case SingleInstance::Place::kFirst:
+        break;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("xbrhost");
+    QApplication::setApplicationVersion(XBR_HOST_VERSION);
+    QGuiApplication::setDesktopFileName("xbrhost");
+    QApplication::setQuitOnLastWindowClosed(false); // a dialog of a module may be the last one for a moment
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    const ProgramTexts texts;
+    return open(options);
+}
+
+} // namespace xbr::host

@@ -1,0 +1,117 @@
+#include "framework/support/data/attributes.h"
+#include "framework/support/objects/text.h"
+#include "host/app/audio/mediafileinfo.h"
+#include "host/app/audio/mediasignature.h"
+#include "host/system/hostfileurl.h"
+#include "tests/host/app/audio/wavefile.h"
+#include "tests/host/app/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+namespace xbr::host {
+
+namespace {
+
+class Media : public testing::Test {
+protected:
+    Result open(const std::string& path) { return m_info->open(toText(fileUrl(path))); }
+
+    /// The attributes of a file with these bytes, as one text in the order of the border's documentation.
+    std::string attributesOf(const std::string& name, std::string_view bytes) {
+        const auto attributes = make<Attributes>();
+        if (open(m_folder.write(name, bytes)) != kOk || m_info->getAttributes(attributes.get()) != kOk) {
+            return "no audio";
+        }
+        std::string text;
+        for (const char* key :
+             {"Media:Title", "Media:Artist", "Media:Album", "Media:AlbumArtist", "Media:Genre"}) {
+            text += attributes->getString(key) + "|";
+        }
+        return text + std::to_string(integerOf(attributes->get("Media:TrackIndex")));
+    }
+
+    TestFolder m_folder;
+    Ref<MediaFileInfo> m_info = make<MediaFileInfo>();
+};
+
+} // namespace
+
+TEST_F(Media, wavTagsComeFromInfoAndId3) {
+    const auto info =
+        infoChunk({{"INAM", "Night"}, {"IART", "Ann"}, {"IPRD", "Moon"}, {"IGNR", "Pop"}, {"IPRT", "7"}});
+    const auto id3 = chunk("id3 ", id3Tag({{"TIT2", "Day"}, {"TPE2", "Band"}, {"TRCK", "3/12"}}));
+    EXPECT_EQ(attributesOf("plain.wav", waveFile()), "|||||0");
+    EXPECT_EQ(attributesOf("info.wav", waveFile(info)), "Night|Ann|Moon||Pop|7");
+    EXPECT_EQ(attributesOf("id3.wav", waveFile(id3)), "Day|||Band||3");
+    EXPECT_EQ(attributesOf("both.wav", waveFile(info + id3)), "Day|Ann|Moon|Band|Pop|3");
+    EXPECT_EQ(attributesOf("itrk.wav", waveFile(infoChunk({{"ITRK", "05"}}))), "|||||5");
+}
+
+TEST_F(Media, infoTextIsUtf8OrLatin1) {
+    EXPECT_EQ(attributesOf("u.wav", waveFile(infoChunk({{"INAM", "Ax\xC3\xA9"}}))), "Axé|||||0");
+    EXPECT_EQ(attributesOf("l.wav", waveFile(infoChunk({{"INAM", "Ax\xE9"}}))), "Axé|||||0");
+}
+
+TEST_F(Media, theBytesCountNotTheName) {
+    const std::string tag = id3Tag({{"TIT2", "Song"}, {"TRCK", "x"}});
+    const std::string frame("\xFF\xFB\x90\x64", 4);
+    EXPECT_EQ(attributesOf("a.mp3", tag + std::string(100, '\0') + frame + std::string(500, '\0')),
+              "Song|||||0");
+    EXPECT_EQ(attributesOf("named.flac", waveFile()), "|||||0");
+    EXPECT_EQ(recognise(m_folder.write("b.mp3", std::string(10, '\0') + frame)), MediaKind::kMp3);
+    EXPECT_EQ(recognise(m_folder.write("c.flac", "fLaC" + std::string(60, '\0'))), MediaKind::kFlac);
+    EXPECT_EQ(recognise(m_folder.write("d.flac", tag + "fLaC")), MediaKind::kFlac);
+    EXPECT_EQ(recognise(m_folder.write("e.wav", "RF64" + waveFile().substr(4))), MediaKind::kWav);
+}
+
+TEST_F(Media, damagedFilesAreRefused) {
+    const std::string wave = waveFile();
+    const std::string bodies[] = {
+        "",
+        "RIFF",
+        "just text, long enough to be looked at as something else",
+        wave.substr(0, 12),                                        // nothing behind the head
+        wave.substr(0, 36),                                        // no audio
+        wave.substr(0, 8) + "AVI " + wave.substr(12),              // another form
+        "RIFF\xFF\xFF\xFF\xFFWAVE" + std::string(4000, '\xFF'),    // sizes beyond the end
+        "ID3\x04" + std::string(3, '\0') + std::string(4, '\x7F'), // a tag of 256 MiB that is not there
+        std::string("PK\x03\x04", 4) + std::string(1000, 'x'),
+    };
+    for (const std::string& body : bodies) {
+        EXPECT_EQ(attributesOf("damaged.wav", body), "no audio") << body.substr(0, 20);
+    }
+    std::string manyChunks = wave.substr(0, 36);
+    for (int i = 0; i < 5000; ++i) {
+        manyChunks += chunk("junk", "");
+    }
+    EXPECT_EQ(attributesOf("chunks.wav", manyChunks + chunk("data", "xx")), "no audio");
+}
+
+TEST_F(Media, tagsCutShortDoNoHarm) {
+    const auto id3 = chunk("id3 ", id3Tag({{"TIT2", std::string(300, 'T')}, {"TPE1", "Ann"}}));
+    const std::string whole = waveFile(infoChunk({{"INAM", "Night"}, {"IART", "Ann"}}) + id3);
+    for (std::size_t length = waveFile().size(); length < whole.size(); length += 7) {
+        EXPECT_NE(attributesOf("cut.wav", whole.substr(0, length)), "no audio") << length;
+    }
+}
+
+TEST_F(Media, endlessTagsLeaveTheFileWithoutAny) {
+    const std::string frame("\xFF\xFB\x90\x64", 4);
+    const std::string bomb = compressedText(32U << 20U);
+    EXPECT_EQ(attributesOf("a.mp3", id3Tag({{"TIT2", "Song"}}) + frame), "Song|||||0");
+    EXPECT_EQ(attributesOf("b.mp3", id3Tag({{"TIT2", "Song"}, {"TXXX", bomb, '\x80'}}) + frame), "|||||0");
+}
+
+TEST_F(Media, whatIsNoFileIsRefusedAtOnce) {
+    const std::string pipe = m_folder.path("pipe.wav");
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRWXU), 0);
+    EXPECT_EQ(open(pipe), kUnexpected); // opening it would wait for a writer
+    EXPECT_EQ(open(m_folder.path()), kUnexpected);
+    EXPECT_EQ(open(m_folder.path("none.wav")), kUnexpected);
+    EXPECT_EQ(m_info->open(toText("https://example.org/a.wav")), kInvalidArgument);
+    EXPECT_EQ(m_info->getAttributes(make<Attributes>().get()), kUnexpected);
+}
+
+} // namespace xbr::host

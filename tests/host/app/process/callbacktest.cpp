@@ -1,0 +1,204 @@
+#include "framework/abi/filetype.h"
+#include "framework/support/objects/object.h"
+#include "framework/support/objects/text.h"
+#include "host/app/process/callbackclient.h"
+#include "host/app/process/callbackserver.h"
+#include "tests/host/app/testfolder.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <future>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace xbr::host {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Takes URLs of one protocol, as a module does.
+class FakeHandler final : public Object<IFileHandler> {
+public:
+    bool openUrl(Text url) noexcept override {
+        if (!view(url).starts_with("test:")) {
+            return false;
+        }
+        urls.push_back(toString(url));
+        return true;
+    }
+    std::vector<std::string> urls;
+};
+
+/// A program that connects by hand and need not be polite.
+class Client {
+public:
+    explicit Client(const std::string& path) : m_socket(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0)) {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        path.copy(address.sun_path, sizeof(address.sun_path) - 1);
+        m_isConnected = connect(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
+    }
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
+    ~Client() { close(m_socket); }
+
+    bool isConnected() const { return m_isConnected; }
+    void send(const std::string& bytes) const { ::send(m_socket, bytes.data(), bytes.size(), MSG_NOSIGNAL); }
+
+    /// Everything until the server closes; "open" when it does not within the time.
+    std::string answer(int milliseconds = 5000) const {
+        std::string answer;
+        const bool isClosed = runUntil(
+            [&] {
+                char bytes[64];
+                const auto count = recv(m_socket, bytes, sizeof(bytes), 0);
+                if (count > 0) {
+                    answer.append(bytes, static_cast<std::size_t>(count));
+                }
+                return count == 0 || (count < 0 && errno != EAGAIN);
+            },
+            milliseconds);
+        return isClosed ? answer : "open";
+    }
+
+private:
+    int m_socket;
+    bool m_isConnected = false;
+};
+
+class Callbacks : public testing::Test {
+protected:
+    Callbacks() : m_runtime("XDG_RUNTIME_DIR", m_folder.path()) {
+        XBRGetFileTypeRegistry()->addHandler(m_handler.get());
+    }
+    ~Callbacks() override { XBRGetFileTypeRegistry()->removeHandler(m_handler.get()); }
+
+    bool start() {
+        std::string error;
+        return m_server.start(error);
+    }
+    std::string socketPath() const { return m_folder.path("xbrhost/" + std::to_string(getpid()) + ".sock"); }
+
+    /// Hands a URL over as another process would, while this one runs its event loop.
+    static HandOver handOverElsewhere(const std::string& url) {
+        auto result = std::async(std::launch::async, [url] { return handOverUrl(url); });
+        runUntil([&] { return result.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+        return result.get();
+    }
+
+    TestFolder m_folder;
+    TestVariable m_runtime;
+    Ref<FakeHandler> m_handler = make<FakeHandler>();
+    CallbackServer m_server;
+};
+
+} // namespace
+
+TEST_F(Callbacks, urlReachesTheModule) {
+    EXPECT_EQ(handOverElsewhere("test:before"), HandOver::kNoHost);
+    ASSERT_TRUE(start());
+    int told = 0;
+    m_server.setUrlListener([&] { ++told; });
+    const std::string longest = "test:" + std::string(CallbackServer::kMaximumUrlSize - 5, 'x');
+    EXPECT_EQ(handOverElsewhere("test:a?code=1"), HandOver::kTaken);
+    EXPECT_EQ(handOverElsewhere("other:a"), HandOver::kNoHost);
+    EXPECT_EQ(handOverElsewhere(longest), HandOver::kTaken);
+    EXPECT_EQ(handOverElsewhere(longest + "x"), HandOver::kTooLong);
+    EXPECT_EQ(handOverElsewhere("test:a\ntest:b"), HandOver::kTooLong);
+    EXPECT_THAT(m_handler->urls, ElementsAre("test:a?code=1", longest));
+    EXPECT_EQ(told, 3);
+}
+
+TEST_F(Callbacks, onlyOneOrdinaryLineIsTaken) {
+    ASSERT_TRUE(start());
+    const struct {
+        std::string sent;
+        const char* answer;
+    } cases[] = {
+        {"test:a\ntest:b\n", "ok\n"},   {"\n", "no\n"},
+        {"test:a\x1b[2J\n", "no\n"},    {std::string("test:a\0b\n", 9), "no\n"},
+        {"test:a b\n", "no\n"},         {std::string(8193, 'x') + "\n", ""},
+        {std::string(100000, 'x'), ""},
+    };
+    for (const auto& one : cases) {
+        const Client client(socketPath());
+        client.send(one.sent);
+        EXPECT_EQ(client.answer(), one.answer) << one.sent.substr(0, 20);
+    }
+    EXPECT_THAT(m_handler->urls, ElementsAre("test:a"));
+}
+
+TEST_F(Callbacks, slowAndSilentConnectionsEnd) {
+    ASSERT_TRUE(start());
+    const Client silent(socketPath());
+    const Client slow(socketPath());
+    slow.send("test:a");
+    EXPECT_EQ(silent.answer(CallbackServer::kTimeLimit + 2000), "");
+    EXPECT_EQ(slow.answer(1000), "");
+    EXPECT_THAT(m_handler->urls, IsEmpty());
+}
+
+TEST_F(Callbacks, aFloodOfConnectionsIsTurnedAway) {
+    ASSERT_TRUE(start());
+    std::vector<std::unique_ptr<Client>> clients;
+    for (int i = 0; i < CallbackServer::kMaximumConnections; ++i) {
+        clients.push_back(std::make_unique<Client>(socketPath()));
+        ASSERT_TRUE(clients.back()->isConnected());
+        EXPECT_EQ(clients.back()->answer(20), "open");
+    }
+    EXPECT_EQ(Client(socketPath()).answer(1000), "");
+    clients.front()->send("test:a\n");
+    EXPECT_EQ(clients.front()->answer(), "ok\n");
+    clients.clear();
+    EXPECT_TRUE(runUntil([&] { return handOverElsewhere("test:b") == HandOver::kTaken; }));
+}
+
+TEST_F(Callbacks, socketsOfDeadHostsAreRemoved) {
+    const std::string stale = m_folder.path("xbrhost/1.sock");
+    std::filesystem::create_directory(m_folder.path("xbrhost"));
+    chmod(m_folder.path("xbrhost").c_str(), S_IRWXU);
+    for (const std::string& path : {stale, socketPath()}) { // ours, too: our number was another's before
+        const int dead = socket(AF_UNIX, SOCK_STREAM, 0);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        path.copy(address.sun_path, sizeof(address.sun_path) - 1);
+        ASSERT_EQ(bind(dead, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
+        close(dead);
+    }
+    ASSERT_TRUE(start());
+    EXPECT_EQ(handOverElsewhere("test:a"), HandOver::kTaken);
+    EXPECT_FALSE(std::filesystem::exists(stale));
+}
+
+TEST_F(Callbacks, aPlantedFolderIsRefused) {
+    const std::string folder = m_folder.path("xbrhost");
+    std::filesystem::create_directory(folder);
+    chmod(folder.c_str(), 0755);
+    EXPECT_FALSE(start());
+    std::filesystem::remove(folder);
+    std::filesystem::create_directory(m_folder.path("elsewhere"));
+    chmod(m_folder.path("elsewhere").c_str(), S_IRWXU);
+    std::filesystem::create_symlink(m_folder.path("elsewhere"), folder);
+    EXPECT_FALSE(start());
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder.path("elsewhere")));
+    EXPECT_EQ(handOverUrl("test:a"), HandOver::kNoHost);
+}
+
+TEST_F(Callbacks, nothingIsLeftBehind) {
+    {
+        CallbackServer server;
+        std::string error;
+        ASSERT_TRUE(server.start(error)) << error;
+        struct stat status {};
+        ASSERT_EQ(stat(socketPath().c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & (S_IRWXG | S_IRWXO), 0U);
+    }
+    EXPECT_FALSE(std::filesystem::exists(m_folder.path("xbrhost")));
+}
+
+} // namespace xbr::host
