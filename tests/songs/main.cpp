@@ -5,8 +5,8 @@
 #include <taglib/fileref.h>
 #include <taglib/tpropertymap.h>
 
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <numbers>
@@ -14,6 +14,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace {
@@ -100,28 +101,62 @@ bool tag(const std::filesystem::path& path, const Song& song) {
     return !file.isNull() && file.file()->setProperties(properties).isEmpty() && file.save();
 }
 
-} // namespace
+constexpr const char* kHelp = R"(Usage: brindlex-songs FOLDER [SECONDS [foreign]]
 
-int main(int argc, char** argv) {
-    const bool isForeign = argc == 4 && std::string_view(argv[3]) == "foreign";
-    if (argc < 2 || argc > 4 || (argc == 4 && !isForeign)) {
-        std::cerr << "usage: brindlex-songs FOLDER [SECONDS [foreign]]\n";
-        return 2;
-    }
-    const std::filesystem::path folder = argv[1];
-    const int seconds = argc > 2 ? std::atoi(argv[2]) : 4;
-    if (seconds < 1 || seconds > 3600) {
-        std::cerr << "brindlex-songs: the length must be 1 to 3600 seconds\n";
-        return 2;
-    }
-    std::filesystem::create_directories(folder);
-    for (const Song& song :
-         isForeign ? std::span<const Song>(kForeignSongs) : std::span<const Song>(kSongs)) {
+Writes songs with tags into FOLDER, which is made when it is not there: one WAV, one FLAC and one MP3 file, or with
+"foreign" one AIFF and one Ogg file, which a host has to render. SECONDS is their length, 1 to 3600; 4 without it.
+
+  --help                 this text
+)";
+
+int refuse(std::string_view reason) {
+    std::cerr << "brindlex-songs: " << reason << "\nTry 'brindlex-songs --help'.\n";
+    return 2;
+}
+
+/// 0 when it is not a length that can be used.
+int readSeconds(std::string_view text) {
+    int seconds = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+    const bool isNumber = error == std::errc() && end == text.data() + text.size();
+    return isNumber && seconds >= 1 && seconds <= 3600 ? seconds : 0;
+}
+
+int writeSongs(const std::filesystem::path& folder, std::span<const Song> songs, int seconds) {
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    for (const Song& song : songs) {
         const auto path = folder / song.fileName;
-        if (!write(path, song, seconds) || !tag(path, song)) {
+        if (error || !write(path, song, seconds) || !tag(path, song)) {
             std::cerr << "brindlex-songs: cannot write " << path << '\n';
             return 1;
         }
     }
     return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string_view> words(argv + 1, argv + argc);
+    for (const auto word : words) {
+        if (word == "--help") {
+            std::cout << kHelp;
+            return 0;
+        }
+        if (word.starts_with('-')) {
+            return refuse("there is no option '" + std::string(word) + "'");
+        }
+    }
+    if (words.empty() || words.size() > 3) {
+        return refuse("a folder is needed, and at most a length and \"foreign\" after it");
+    }
+    const int seconds = words.size() > 1 ? readSeconds(words[1]) : 4;
+    if (seconds == 0) {
+        return refuse("the length must be 1 to 3600 seconds");
+    }
+    if (words.size() == 3 && words[2] != "foreign") {
+        return refuse("the only kind of songs to name is \"foreign\"");
+    }
+    return writeSongs(words[0], words.size() == 3 ? std::span<const Song>(kForeignSongs) : kSongs, seconds);
 }
