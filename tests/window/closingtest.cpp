@@ -1,7 +1,7 @@
 // The window is closed, or the module goes, in moments that suit nobody.
 
-#include "host/app/window/dialogs/progresssheet.h"
-#include "host/app/window/dialogs/viewdialogframe.h"
+#include "host/app/window/dialogs/progressindicator.h"
+#include "host/app/window/dialogs/viewdialog.h"
 #include "tests/window/fixture.h"
 
 #include <QCloseEvent>

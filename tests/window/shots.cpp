@@ -1,4 +1,4 @@
-#include "host/app/window/dialogs/progresssheet.h"
+#include "host/app/window/dialogs/progressindicator.h"
 #include "host/app/window/frame/statusline.h"
 #include "host/app/window/songs/songview.h"
 #include "host/app/window/start/programtexts.h"

@@ -15,13 +15,13 @@ namespace xbr::host {
 namespace {
 
 ExitCode openUrl(const std::string& url) {
-    switch (handOverUrl(url)) {
-    case HandOver::kTaken:
+    switch (sendToHosts(url)) {
+    case Delivery::kTaken:
         return ExitCode::kDone;
-    case HandOver::kTooLong:
+    case Delivery::kTooLong:
         printError("the URL is too long, or not one line");
         return ExitCode::kUsage;
-    case HandOver::kNoHost:
+    case Delivery::kNoHost:
         break;
     }
     printError("no running host takes this URL");

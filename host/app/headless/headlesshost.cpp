@@ -55,7 +55,7 @@ bool HeadlessHost::start(std::string& error) {
         error = "no module was found; name one with --module PATH";
         return false;
     }
-    m_module = Module::load(m_modulePath, *m_hostContext, error);
+    m_module = LoadedModule::load(m_modulePath, *m_hostContext, error);
     if (!m_module) {
         return false;
     }

@@ -5,7 +5,7 @@
 #include "host/app/headless/consoleclasses.h"
 #include "host/app/headless/consolecontext.h"
 #include "host/app/modules/gadgetpanel.h"
-#include "host/app/modules/module.h"
+#include "host/app/modules/loadedmodule.h"
 #include "host/app/process/temporarytenancy.h"
 #include "host/app/session/coreclasses.h"
 #include "host/app/session/hostcontext.h"
@@ -41,7 +41,7 @@ private:
     CoreClasses m_coreClasses;
     ConsoleClasses m_consoleClasses;
     Ref<HostContext> m_hostContext;
-    std::unique_ptr<Module> m_module;
+    std::unique_ptr<LoadedModule> m_module;
     std::unique_ptr<GadgetPanel> m_panel;
 };
 

@@ -1,4 +1,3 @@
-#include "host/app/headless/drafttext.h"
 #include "host/app/headless/output.h"
 
 #include <iostream>
@@ -40,6 +39,31 @@ std::string cut(const std::string& text, std::size_t width) {
         }
     }
     return text;
+}
+
+std::string orNotSet(const std::string& text) {
+    return text.empty() ? "(not set)" : text;
+}
+
+std::string describeSong(const SongDraft& song) {
+    const std::string origin = song.isRendered ? ", rendered from '" + song.source + "'" : "";
+    return "  " + std::to_string(song.trackNumber) + ". " + orNotSet(song.title) + " - " +
+           orNotSet(song.artist) + " (" + song.fileName + origin + ")";
+}
+
+/// A release that would be sent, as lines: number `index` (from 0) of `count`. Texts from outside are in
+/// there as they are.
+std::vector<std::string> describeDraft(const ReleaseDraft& release, std::size_t index, std::size_t count) {
+    std::vector<std::string> lines;
+    lines.push_back("Release " + std::to_string(index + 1) + " of " + std::to_string(count) +
+                    (release.isComplete() ? "" : " (incomplete)"));
+    lines.push_back("  Title:  " + orNotSet(release.title));
+    lines.push_back("  Artist: " + orNotSet(release.artist));
+    lines.push_back("  Genre:  " + orNotSet(release.genre));
+    for (const SongDraft& song : release.songs) {
+        lines.push_back(describeSong(song));
+    }
+    return lines;
 }
 
 /// Lines for people. On a terminal what moves is shown in one line that is written over.

@@ -3,14 +3,31 @@
 #include "framework/abi/controller.h"
 #include "framework/abi/listmodel.h"
 #include "framework/abi/publisher.h"
+#include "framework/abi/uid.h"
 #include "framework/support/objects/object.h"
-#include "host/app/modules/gadgetclass.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace xbr::host {
+
+/// A panel that a module offers, as its description tells before the panel is opened. What the description
+/// leaves out is empty.
+struct GadgetClass {
+    Uid uid{};        ///< creates the panel's controller
+    std::string name; ///< for people
+    std::string themeName;
+    std::string formName;
+    std::string iconName;
+    std::string menuIconName;
+    std::int64_t menuPriority = 0; ///< lower ones come first
+};
+
+/// The panels of all modules that are loaded, in the order in which a menu lists them.
+std::vector<GadgetClass> findGadgets();
 
 /// The panel of a module: the controller of its gadget, with the view that stands for it in this host.
 ///

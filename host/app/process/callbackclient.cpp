@@ -1,7 +1,6 @@
 #include "host/app/process/callbackclient.h"
 
-#include "host/app/process/callbackserver.h"
-#include "host/app/process/privatefolder.h"
+#include "host/app/process/callbackplace.h"
 
 #include <QFile>
 #include <QLocalSocket>
@@ -22,7 +21,7 @@ constexpr int kAnswerLimit = 3000;  ///< milliseconds
 
 enum class Answer : std::uint8_t { kTaken, kRefused, kNone };
 
-Answer handOver(const fs::path& path, const std::string& line) {
+Answer send(const fs::path& path, const std::string& line) {
     QLocalSocket socket;
     socket.connectToServer(QFile::decodeName(path.c_str()));
     if (!socket.waitForConnected(kConnectLimit)) {
@@ -43,11 +42,11 @@ Answer handOver(const fs::path& path, const std::string& line) {
 }
 
 /// A host that is flooded closes connections without an answer: it gets another try, and another.
-bool handOverPatiently(const fs::path& path, const std::string& line) {
+bool sendPatiently(const fs::path& path, const std::string& line) {
     static constexpr int kTries = 8;
     static constexpr std::chrono::milliseconds kPause{400};
     for (int i = 0; i < kTries; ++i) {
-        const Answer answer = handOver(path, line);
+        const Answer answer = send(path, line);
         if (answer != Answer::kNone) {
             return answer == Answer::kTaken;
         }
@@ -58,15 +57,15 @@ bool handOverPatiently(const fs::path& path, const std::string& line) {
 
 } // namespace
 
-HandOver handOverUrl(const std::string& url) {
-    if (url.size() > CallbackServer::kMaximumUrlSize || url.find('\n') != std::string::npos) {
-        return HandOver::kTooLong;
+Delivery sendToHosts(const std::string& url) {
+    if (url.size() > kMaximumUrlSize || url.find('\n') != std::string::npos) {
+        return Delivery::kTooLong;
     }
     std::string error;
     const std::string folder = callbackFolder();
     std::error_code ignored;
     if (!fs::exists(folder, ignored) || !makePrivateFolder(folder, error)) {
-        return HandOver::kNoHost;
+        return Delivery::kNoHost;
     }
     bool isTaken = false;
     // Hosts come and go meanwhile: a step that fails ends the walk.
@@ -74,10 +73,10 @@ HandOver handOverUrl(const std::string& url) {
          entry.increment(ignored)) {
         std::error_code vanished;
         if (entry->is_socket(vanished) && entry->path().extension() == ".sock") {
-            isTaken = handOverPatiently(entry->path(), url + "\n") || isTaken;
+            isTaken = sendPatiently(entry->path(), url + "\n") || isTaken;
         }
     }
-    return isTaken ? HandOver::kTaken : HandOver::kNoHost;
+    return isTaken ? Delivery::kTaken : Delivery::kNoHost;
 }
 
 } // namespace xbr::host

@@ -2,10 +2,12 @@
 
 #include "framework/abi/filetype.h"
 #include "framework/support/objects/text.h"
-#include "host/app/process/callbackconnection.h"
-#include "host/app/process/privatefolder.h"
+#include "host/app/process/callbackplace.h"
 
 #include <QFile>
+#include <QLocalSocket>
+#include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
 #include <unistd.h>
@@ -19,6 +21,72 @@ bool isPrintable(const std::string& url) {
         const auto byte = static_cast<unsigned char>(c);
         return byte > 0x20 && byte != 0x7F;
     });
+}
+
+/// One connection: reads a line, answers it, and is gone. Deletes itself.
+class Connection final : public QObject {
+public:
+    using Open = std::function<bool(const std::string& url)>;
+
+    /// Takes `socket` over.
+    Connection(QLocalSocket& socket, QObject& parent, Open open);
+
+private:
+    void read();
+    void answer(const QByteArray& line);
+    void drop();
+
+    QLocalSocket* m_socket;
+    QTimer m_limit;
+    QByteArray m_received;
+    Open m_open;
+    bool m_isAnswered = false;
+};
+
+Connection::Connection(QLocalSocket& socket, QObject& parent, Open open)
+    : QObject(&parent),
+      m_socket(&socket),
+      m_open(std::move(open)) {
+    m_socket->setParent(this);
+    m_socket->setReadBufferSize(kMaximumUrlSize + 2);
+    connect(m_socket, &QLocalSocket::readyRead, this, [this] { read(); });
+    connect(m_socket, &QLocalSocket::disconnected, this, [this] { deleteLater(); });
+    m_limit.setSingleShot(true);
+    connect(&m_limit, &QTimer::timeout, this, [this] { drop(); });
+    m_limit.start(CallbackServer::kTimeLimit);
+    QMetaObject::invokeMethod(
+        this, [this] { read(); }, Qt::QueuedConnection); // what came before we listened
+}
+
+void Connection::read() {
+    if (m_isAnswered) {
+        return;
+    }
+    m_received += m_socket->read(static_cast<qint64>(kMaximumUrlSize) + 1 - m_received.size());
+    const auto end = m_received.indexOf('\n');
+    if (end >= 0) {
+        answer(m_received.left(end));
+    } else if (m_received.size() > static_cast<qsizetype>(kMaximumUrlSize)) {
+        drop();
+    }
+}
+
+void Connection::answer(const QByteArray& line) {
+    m_isAnswered = true;
+    const QPointer<Connection> self(this); // opening may end the program's server, and us with it
+    const Open open = m_open;              // that may take the function away, too
+    const bool isTaken = open(line.toStdString());
+    if (self) {
+        m_socket->write(isTaken ? "ok\n" : "no\n");
+        m_socket->disconnectFromServer();
+    }
+}
+
+void Connection::drop() {
+    // Not answered: the limits are far from everything that a browser sends.
+    m_isAnswered = true;
+    m_socket->abort();
+    deleteLater();
 }
 
 } // namespace
@@ -56,14 +124,14 @@ bool CallbackServer::listen(std::string& error) {
 
 void CallbackServer::accept() {
     while (QLocalSocket* socket = m_server.nextPendingConnection()) {
-        const bool isWelcome = m_connections.children().size() < kMaximumConnections && isOwnUser(*socket);
+        const bool isWelcome = m_connections.children().size() < kMaximumConnections &&
+                               isOwnUser(static_cast<int>(socket->socketDescriptor()));
         if (!isWelcome) {
             socket->abort();
             socket->deleteLater();
             continue;
         }
-        new CallbackConnection(*socket, m_connections,
-                               [this](const std::string& url) { return openUrl(url); });
+        new Connection(*socket, m_connections, [this](const std::string& url) { return openUrl(url); });
     }
 }
 

@@ -3,7 +3,6 @@
 #include <QLocalServer>
 #include <QObject>
 
-#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -17,9 +16,8 @@ namespace xbr::host {
 /// Main thread.
 class CallbackServer {
 public:
-    static constexpr std::size_t kMaximumUrlSize = 8192; ///< bytes, without the end of the line
-    static constexpr int kMaximumConnections = 16;       ///< further ones are closed at once
-    static constexpr int kTimeLimit = 2000;              ///< milliseconds for a whole connection
+    static constexpr int kMaximumConnections = 16; ///< further ones are closed at once
+    static constexpr int kTimeLimit = 2000;        ///< milliseconds for a whole connection
 
     CallbackServer();
     CallbackServer(const CallbackServer&) = delete;

@@ -1,8 +1,8 @@
 #include "host/app/process/singleinstance.h"
 
+#include "framework/support/objects/text.h"
 #include "host/app/process/callbackclient.h"
-#include "host/app/process/openhandler.h"
-#include "host/app/process/privatefolder.h"
+#include "host/app/process/callbackplace.h"
 #include "host/system/hostfileurl.h"
 
 #include <QElapsedTimer>
@@ -21,12 +21,12 @@ constexpr qint64 kPatience = 10000; ///< milliseconds that the other may take to
 constexpr std::chrono::milliseconds kPause{100};
 
 /// The other may be just about to begin, or to end.
-bool handOver(const std::vector<std::string>& files) {
+bool send(const std::vector<std::string>& files) {
     for (const std::string& file : files) {
         std::error_code ignored;
-        handOverUrl(fileUrl(std::filesystem::absolute(file, ignored).string()));
+        sendToHosts(fileUrl(std::filesystem::absolute(file, ignored).string()));
     }
-    return handOverUrl(kShowWindowUrl) == HandOver::kTaken;
+    return sendToHosts(kShowWindowUrl) == Delivery::kTaken;
 }
 
 } // namespace
@@ -52,12 +52,32 @@ SingleInstance::Place SingleInstance::take(const std::vector<std::string>& files
             m_lock = std::move(lock);
             return Place::kFirst;
         }
-        if (handOver(files)) {
+        if (send(files)) {
             return Place::kSecond;
         }
         std::this_thread::sleep_for(kPause);
     } while (clock.elapsed() < kPatience);
     return Place::kNoAnswer;
+}
+
+OpenHandler::OpenHandler(std::function<void(const std::string& path)> openFile)
+    : m_openFile(std::move(openFile)) {
+    XBRGetFileTypeRegistry()->addHandler(this);
+}
+
+void OpenHandler::close() {
+    XBRGetFileTypeRegistry()->removeHandler(this);
+}
+
+bool OpenHandler::openUrl(Text url) noexcept {
+    if (view(url) == kShowWindowUrl) {
+        return true; // every URL shows the window
+    }
+    const auto path = localPath(view(url));
+    if (path) {
+        m_openFile(*path);
+    }
+    return path.has_value();
 }
 
 } // namespace xbr::host

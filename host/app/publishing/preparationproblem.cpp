@@ -2,7 +2,7 @@
 
 #include "framework/abi/system.h"
 #include "framework/support/objects/text.h"
-#include "host/app/modules/publisheditem.h"
+#include "host/app/modules/publishentry.h"
 #include "host/system/hostfileurl.h"
 #include "host/system/hostsystem.h"
 

@@ -1,7 +1,6 @@
 #include "host/app/publishing/releaseintake.h"
 
 #include "framework/abi/hostclasses.h"
-#include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 #include "host/app/audio/mediasignature.h"
 #include "host/app/audio/mediatags.h"
@@ -22,15 +21,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kAlbumMode = "TrackList/albumUpload";
 constexpr std::string_view kGenre = "TrackList/TrackProperties/primaryGenre";
-
-Ref<IPublisher> createPublisher() {
-    const ClassDescription* description = XBRGetPlugInManager()->classAt(toText("Publisher"), 0, nullptr);
-    void* created = nullptr;
-    if (description) {
-        XBRGetPlugInManager()->createInstance(description->uid, IPublisher::kUid, &created);
-    }
-    return Ref<IPublisher>::adopt(static_cast<IPublisher*>(created));
-}
 
 /// The extension of the files that the publish entry wants instead of this one; empty when it takes it.
 std::string wantedInstead(IPublisher& publisher, const std::string& file) {
@@ -88,7 +78,8 @@ void setText(Attributes& media, std::string_view name, const std::string& text) 
 } // namespace
 
 ReleaseIntake::Outcome ReleaseIntake::take(const ReleasePlan& plan) {
-    const auto publisher = createPublisher();
+    const auto entries = findPublishEntries();
+    const auto publisher = entries.empty() ? Ref<IPublisher>() : createPublisher(entries.front());
     if (!publisher || !m_panel->tracks()) {
         return {PublishResult::kNoPublisher, "the module has no publish entry, or no list of tracks"};
     }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "framework/support/data/attributes.h"
-#include "host/app/audio/renderedsongs.h"
+#include "host/app/audio/rendering.h"
 #include "host/app/modules/gadgetpanel.h"
-#include "host/app/modules/publisheditem.h"
+#include "host/app/modules/publishentry.h"
 #include "host/app/publishing/genrelist.h"
 #include "host/app/publishing/publishresult.h"
 #include "host/app/publishing/releaseplan.h"

@@ -2,8 +2,8 @@
 
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
-#include "host/app/audio/mediafileinfo.h"
-#include "host/app/settings/componentproperties.h"
+#include "host/app/audio/mediatags.h"
+#include "host/app/settings/configurationstore.h"
 
 namespace xbr::host {
 

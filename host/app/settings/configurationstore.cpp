@@ -2,6 +2,7 @@
 
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
+#include "host/app/settings/configurationfile.h"
 
 #include <QUrl>
 
@@ -81,6 +82,17 @@ Result ConfigurationStore::load(IAttributes* out, Text id, Text title, std::int3
         break;
     }
     return kUnexpected;
+}
+
+std::vector<ComponentProperty> configuredProperties(std::string_view module, std::string_view className) {
+    Settings settings;
+    if (className != "FeedElement" ||
+        readConfiguration(configurationPath(), module, settings) != ConfigurationResult::kRead) {
+        return {};
+    }
+    const std::string address = valueOf(settings, "FeedURL");
+    return isWebAddress(address) ? std::vector<ComponentProperty>{{"url", address}}
+                                 : std::vector<ComponentProperty>{};
 }
 
 } // namespace xbr::host

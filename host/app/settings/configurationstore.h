@@ -3,6 +3,7 @@
 #include "framework/abi/hostclasses.h"
 #include "framework/support/objects/object.h"
 #include "host/app/settings/configurationfile.h"
+#include "host/gui/hostcomponents.h"
 
 #include <memory>
 #include <string>
@@ -41,5 +42,10 @@ public:
 private:
     std::shared_ptr<ConfigurationReport> m_report;
 };
+
+/// What the user's configuration file says for the components of a panel, from the section of their module:
+/// "FeedURL" is the "url" of a "FeedElement". Addresses of the web only; without one, or with another, there
+/// are no news.
+std::vector<ComponentProperty> configuredProperties(std::string_view module, std::string_view className);
 
 } // namespace xbr::host

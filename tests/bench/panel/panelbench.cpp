@@ -1,7 +1,7 @@
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
-#include "host/app/modules/publisheditem.h"
+#include "host/app/modules/publishentry.h"
 #include "host/app/window/start/programtexts.h"
 #include "host/app/window/start/windowhost.h"
 #include "host/gui/hostgui.h"
@@ -31,16 +31,16 @@ void settle() {
 }
 
 /// A module that is loaded, without a window.
-class LoadedModule {
+class RunningModule {
 public:
-    LoadedModule() : m_classes(std::make_shared<ConfigurationReport>()) {
+    RunningModule() : m_classes(std::make_shared<ConfigurationReport>()) {
         registerGuiClasses();
         std::string error;
-        m_module = Module::load(BRINDLEX_MODULE, *m_context, error);
+        m_module = LoadedModule::load(BRINDLEX_MODULE, *m_context, error);
     }
-    LoadedModule(const LoadedModule&) = delete;
-    LoadedModule& operator=(const LoadedModule&) = delete;
-    ~LoadedModule() {
+    RunningModule(const RunningModule&) = delete;
+    RunningModule& operator=(const RunningModule&) = delete;
+    ~RunningModule() {
         m_module.reset();
         unregisterGuiClasses();
     }
@@ -48,12 +48,12 @@ public:
 private:
     CoreClasses m_classes;
     Ref<HostContext> m_context = make<HostContext>("bench", "1");
-    std::unique_ptr<Module> m_module;
+    std::unique_ptr<LoadedModule> m_module;
 };
 
 /// From the module's class to pixels.
 void openPanel(benchmark::State& state) {
-    const LoadedModule module;
+    const RunningModule module;
     WindowContext context;
     for (auto _ : state) {
         GadgetDock dock(findGadgets().front(), context, nullptr);

@@ -2,14 +2,42 @@
 
 #include "framework/abi/progress.h"
 #include "framework/support/objects/object.h"
-#include "host/app/window/dialogs/progresssheet.h"
 #include "host/app/window/dialogs/windowcontext.h"
 
+#include <QDialog>
 #include <QElapsedTimer>
 
 #include <memory>
 
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
 namespace xbr::host {
+
+/// What a progress indicator looks like: a title, a bar, what is worked on, and a button to cancel.
+class ProgressSheet final : public QDialog {
+    Q_OBJECT
+
+public:
+    ProgressSheet(QWidget* parent, const QString& title, bool isCancellable);
+
+    void tell(double fraction, const QString& what);
+
+    /// The user wants the work to end; it does when it looks next.
+    void cancel();
+    bool isCancelled() const { return m_isCancelled; }
+
+    /// Escape and the frame's close button cancel the work, too.
+    void reject() override { cancel(); }
+
+private:
+    bool m_isCancellable;
+    bool m_isCancelled = false;
+    QProgressBar* m_bar;
+    QLabel* m_what;
+    QPushButton* m_cancel;
+};
 
 /// Shows the progress of work in a sheet that blocks the rest of the program. Work that is over in the blink
 /// of an eye shows nothing.

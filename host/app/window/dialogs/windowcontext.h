@@ -5,7 +5,6 @@
 #include "host/app/session/activity.h"
 #include "host/app/session/modalruns.h"
 #include "host/app/settings/configurationstore.h"
-#include "host/app/window/dialogs/viewdialogframe.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -14,6 +13,8 @@
 #include <memory>
 
 namespace xbr::host {
+
+class ViewDialogFrame;
 
 /// What the window's classes for modules share with the window. Outlives every object that a module makes.
 struct WindowContext {

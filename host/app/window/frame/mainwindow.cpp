@@ -1,12 +1,11 @@
 #include "host/app/window/frame/mainwindow.h"
 
-#include "host/app/window/dialogs/filedialog.h"
+#include "host/app/window/dialogs/fileselector.h"
 #include "host/app/window/frame/emptystate.h"
 #include "host/app/window/frame/header.h"
 #include "host/app/window/frame/statusline.h"
 #include "host/app/window/look/icon.h"
 #include "host/app/window/look/tints.h"
-#include "host/app/window/songs/filedrop.h"
 #include "host/app/window/songs/songfiles.h"
 #include "host/app/window/songs/songview.h"
 
@@ -142,7 +141,7 @@ void MainWindow::showModules(std::vector<VersionLine> versions) {
     m_versions = std::move(versions);
     int number = 0;
     for (const PublishEntry& entry : findPublishEntries()) {
-        auto* action = new QAction(entry.name, this);
+        auto* action = new QAction(QString::fromStdString(entry.name), this);
         action->setIcon(symbolIcon("publish", IconColor::kOnAccent));
         action->setIconVisibleInMenu(false); // it is for the button
         ++number;

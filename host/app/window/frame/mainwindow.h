@@ -5,7 +5,7 @@
 #include "host/app/window/frame/layoutsettings.h"
 #include "host/app/window/frame/publishing.h"
 #include "host/app/window/frame/windowactions.h"
-#include "host/app/window/look/appearancesetting.h"
+#include "host/app/window/look/appearance.h"
 #include "host/app/window/panels/gadgetdock.h"
 #include "host/app/window/songs/songlistmodel.h"
 #include "host/app/window/songs/songreader.h"

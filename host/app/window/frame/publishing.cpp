@@ -1,8 +1,6 @@
 #include "host/app/window/frame/publishing.h"
 
-#include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
-#include "host/app/modules/publisheditem.h"
 #include "host/app/window/panels/wording.h"
 #include "host/system/hostfileurl.h"
 
@@ -17,28 +15,11 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(xbr::host::Publishing)
 };
 
-constexpr char kCategory[] = "Publisher";
-
-Ref<IPublisher> createPublisher(const Uid& uid) {
-    void* created = nullptr;
-    XBRGetPlugInManager()->createInstance(uid, IPublisher::kUid, &created);
-    return Ref<IPublisher>::adopt(static_cast<IPublisher*>(created));
-}
-
 std::string fileNameOf(const std::string& path) {
     return path.substr(path.rfind('/') + 1);
 }
 
 } // namespace
-
-std::vector<PublishEntry> findPublishEntries() {
-    std::vector<PublishEntry> entries;
-    for (std::int32_t i = 0; i < XBRGetPlugInManager()->countClasses(toText(kCategory)); ++i) {
-        const ClassDescription* found = XBRGetPlugInManager()->classAt(toText(kCategory), i, nullptr);
-        entries.push_back({found->uid, QString::fromStdString(toString(found->name))});
-    }
-    return entries;
-}
 
 Notice Publishing::publish(const PublishEntry& entry, const std::vector<Song>& songs) {
     if (m_isRunning) {
@@ -88,9 +69,10 @@ QString Publishing::render(std::vector<Passage>& passages, RenderedSongs& render
 }
 
 Notice Publishing::handOver(const PublishEntry& entry, const std::vector<Song>& songs) {
-    const auto publisher = createPublisher(entry.uid);
+    const auto publisher = createPublisher(entry);
     if (!publisher) {
-        return {NoticeKind::kError, Texts::tr("“%1” cannot be used.").arg(entry.name)};
+        return {NoticeKind::kError,
+                Texts::tr("“%1” cannot be used.").arg(QString::fromStdString(entry.name))};
     }
     std::vector<Passage> passages;
     for (const Song& song : songs) {
@@ -110,7 +92,8 @@ Notice Publishing::handOver(const PublishEntry& entry, const std::vector<Song>& 
         items->add(fileUrl(passage.file), mediaOf(*passage.song));
     }
     if (publisher->publish(items.get()) != kOk) {
-        return {NoticeKind::kError, Texts::tr("“%1” does not take the songs.").arg(entry.name)};
+        return {NoticeKind::kError,
+                Texts::tr("“%1” does not take the songs.").arg(QString::fromStdString(entry.name))};
     }
     m_rendered = std::move(rendered); // the former ones are no longer in the module's list
     return {NoticeKind::kInfo, Texts::tr("%n song(s) handed over. Complete the information, then upload.",

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "framework/abi/publisher.h"
-#include "framework/support/objects/object.h"
-#include "host/app/audio/renderedsongs.h"
+#include "host/app/audio/rendering.h"
+#include "host/app/modules/publishentry.h"
 #include "host/app/publishing/notice.h"
 #include "host/app/window/songs/song.h"
 
@@ -11,15 +10,6 @@
 #include <vector>
 
 namespace xbr::host {
-
-/// An entry of the publish menu.
-struct PublishEntry {
-    Uid uid{};
-    QString name;
-};
-
-/// The publish entries of all modules that are loaded.
-std::vector<PublishEntry> findPublishEntries();
 
 /// Hands songs to publish entries of modules.
 class Publishing {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/window/look/appearancesetting.h"
+#include "host/app/window/look/appearance.h"
 
 #include <functional>
 

@@ -3,7 +3,7 @@
 #include "framework/abi/view.h"
 #include "framework/support/objects/hostobject.h"
 #include "framework/support/parts/path.h"
-#include "host/app/window/look/raising.h"
+#include "host/app/window/look/desktop.h"
 #include "host/app/window/panels/docktitle.h"
 #include "host/app/window/panels/wording.h"
 #include "host/gui/hostwidgets.h"

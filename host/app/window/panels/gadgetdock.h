@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/app/modules/gadgetclass.h"
 #include "host/app/modules/gadgetpanel.h"
 #include "host/app/window/panels/servicewatch.h"
 

@@ -4,6 +4,7 @@
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
 #include "host/app/publishing/preparationproblem.h"
+#include "host/app/window/dialogs/viewdialog.h"
 #include "host/app/window/panels/wording.h"
 #include "host/net/hostnet.h"
 

@@ -1,7 +1,7 @@
 #include "host/app/window/songs/song.h"
 
 #include "host/app/audio/mediatags.h"
-#include "host/app/modules/publisheditem.h"
+#include "host/app/modules/publishentry.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -2,8 +2,12 @@
 
 #include <QCoreApplication>
 #include <QDirIterator>
+#include <QDropEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QMimeData>
+#include <QStyle>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -33,6 +37,11 @@ void addFolder(const QString& folder, std::vector<std::string>& files) {
     files.insert(files.end(), found.begin(), found.end());
 }
 
+bool holdsFiles(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+}
+
 } // namespace
 
 QString songFileFilter() {
@@ -58,6 +67,49 @@ std::vector<std::string> songFilesOf(const QList<QUrl>& locations) {
         }
     }
     return files;
+}
+
+FileDrop::FileDrop(QWidget& shown, QWidget& receiver) : QObject(&shown), m_shown(&shown) {
+    receiver.setAcceptDrops(true);
+    receiver.installEventFilter(this);
+}
+
+void FileDrop::setTarget(bool isTarget) {
+    m_shown->setProperty("dropTarget", isTarget);
+    m_shown->style()->unpolish(m_shown);
+    m_shown->style()->polish(m_shown);
+    m_shown->update();
+}
+
+void FileDrop::hover(QDropEvent& event) {
+    if (holdsFiles(*event.mimeData())) {
+        event.setDropAction(Qt::CopyAction); // never a move: the songs stay where they are
+        event.accept();
+    } else {
+        event.ignore();
+    }
+}
+
+bool FileDrop::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::DragEnter:
+        hover(static_cast<QDropEvent&>(*event));
+        setTarget(event->isAccepted());
+        return true;
+    case QEvent::DragMove:
+        hover(static_cast<QDropEvent&>(*event));
+        return true;
+    case QEvent::DragLeave:
+        setTarget(false);
+        return true;
+    case QEvent::Drop:
+        setTarget(false);
+        hover(static_cast<QDropEvent&>(*event));
+        emit filesDropped(songFilesOf(static_cast<QDropEvent&>(*event).mimeData()->urls()));
+        return true;
+    default:
+        return false;
+    }
 }
 
 } // namespace xbr::host

@@ -1,9 +1,11 @@
 #include "host/app/window/songs/songview.h"
 
-#include "host/app/window/songs/songdelegate.h"
-
+#include <QCompleter>
 #include <QHeaderView>
+#include <QIntValidator>
+#include <QLineEdit>
 #include <QResizeEvent>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <numeric>
@@ -11,6 +13,13 @@
 namespace xbr::host {
 
 namespace {
+
+constexpr int kGreatestNumber = 9999;
+
+bool isQuiet(int column) {
+    return column == SongListModel::kNumber || column == SongListModel::kLength ||
+           column == SongListModel::kFormat;
+}
 
 constexpr int kWidths[] = {44, 170, 140, 120, 120, 110, 62, 160}; ///< points; shares of what there is
 constexpr int kLeastWidth = 60;
@@ -27,11 +36,71 @@ QString widestFormat() {
 
 } // namespace
 
-SongView::SongView(SongListModel& model, QWidget* parent) : QTreeView(parent), m_songs(&model) {
+/// Cells of the list of songs, and the fields that edit them.
+class SongView::Delegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setGenres(const QStringList& genres) { m_genres = genres; }
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+private:
+    QStringList m_genres;
+};
+
+QWidget* SongView::Delegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                          const QModelIndex& index) const {
+    auto* field = new QLineEdit(parent);
+    field->setFrame(false);
+    field->setAccessibleName(
+        index.model()->headerData(index.column(), Qt::Horizontal, Qt::AccessibleTextRole).toString());
+    if (index.column() == SongListModel::kNumber) {
+        field->setAlignment(Qt::AlignRight);
+        field->setValidator(new QIntValidator(0, kGreatestNumber, field));
+    } else if (index.column() == SongListModel::kGenre) {
+        auto* completer = new QCompleter(m_genres, field);
+        completer->setCaseSensitivity(Qt::CaseInsensitive);
+        completer->setFilterMode(Qt::MatchContains);
+        field->setCompleter(completer);
+    }
+    return field;
+}
+
+void SongView::Delegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    qobject_cast<QLineEdit*>(editor)->setText(index.data(Qt::DisplayRole).toString());
+}
+
+void SongView::Delegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                      const QModelIndex& index) const {
+    model->setData(index, qobject_cast<QLineEdit*>(editor)->text(), Qt::EditRole);
+}
+
+void SongView::Delegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (isQuiet(index.column()) && !(option->state & QStyle::State_Selected)) {
+        option->palette.setColor(QPalette::Text, option->palette.color(QPalette::PlaceholderText));
+    }
+    const auto* songs = qobject_cast<const SongListModel*>(index.model());
+    if (songs && !songs->song(index.row()).problem.isEmpty()) {
+        option->font.setItalic(true);
+    }
+}
+
+SongView::SongView(SongListModel& model, QWidget* parent)
+    : QTreeView(parent),
+      m_songs(&model),
+      m_delegate(new Delegate(this)) {
     setObjectName("songs");
     setAccessibleName(tr("Songs"));
     setModel(&model);
-    setItemDelegate(new SongDelegate(this));
+    setItemDelegate(m_delegate);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(false);
@@ -137,7 +206,7 @@ void SongView::resizeEvent(QResizeEvent* event) {
 }
 
 void SongView::setGenres(const QStringList& genres) {
-    qobject_cast<SongDelegate*>(itemDelegate())->setGenres(genres);
+    m_delegate->setGenres(genres);
 }
 
 } // namespace xbr::host

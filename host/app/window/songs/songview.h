@@ -2,6 +2,7 @@
 
 #include "host/app/window/songs/songlistmodel.h"
 
+#include <QStringList>
 #include <QTreeView>
 
 #include <vector>
@@ -34,7 +35,10 @@ private:
     int neededWidth(int column) const;
     void fitColumns();
 
+    class Delegate;
+
     SongListModel* m_songs;
+    Delegate* m_delegate;
 };
 
 } // namespace xbr::host

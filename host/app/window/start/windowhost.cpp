@@ -2,7 +2,7 @@
 
 #include "framework/abi/border.h"
 #include "host/app/modules/modulesearch.h"
-#include "host/app/window/look/raising.h"
+#include "host/app/window/look/desktop.h"
 #include "host/app/window/panels/wording.h"
 #include "host/gui/hostgui.h"
 #include "host/security/hostsecurity.h"
@@ -27,7 +27,7 @@ std::vector<std::string> modulesToLoad(const std::string& wanted) {
     return findModules(QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString());
 }
 
-VersionLine lineOf(const Module& module) {
+VersionLine lineOf(const LoadedModule& module) {
     const std::uint32_t version = module.borderVersion();
     const QString name = QString::fromStdString(module.path().substr(module.path().rfind('/') + 1));
     return {QString::fromStdString(module.name()),
@@ -75,7 +75,7 @@ void WindowHost::loadModules(const std::string& wanted) {
     const auto paths = modulesToLoad(wanted);
     for (const std::string& path : paths) {
         std::string error;
-        auto module = Module::load(path, *m_hostContext, error);
+        auto module = LoadedModule::load(path, *m_hostContext, error);
         if (module) {
             m_modules.push_back(std::move(module));
         } else {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/support/objects/object.h"
-#include "host/app/modules/module.h"
-#include "host/app/process/openhandler.h"
+#include "host/app/modules/loadedmodule.h"
+#include "host/app/process/singleinstance.h"
 #include "host/app/process/temporarytenancy.h"
 #include "host/app/session/coreclasses.h"
 #include "host/app/session/hostcontext.h"
@@ -43,7 +43,7 @@ private:
     CoreClasses m_coreClasses;
     WindowClasses m_windowClasses;
     Ref<HostContext> m_hostContext;
-    std::vector<std::unique_ptr<Module>> m_modules;
+    std::vector<std::unique_ptr<LoadedModule>> m_modules;
     std::vector<std::string> m_problems; ///< why modules could not be loaded
     std::unique_ptr<MainWindow> m_window;
     Ref<OpenHandler> m_opening;

@@ -1,7 +1,7 @@
 #include "framework/support/data/attributes.h"
 #include "framework/support/objects/text.h"
-#include "host/app/audio/mediafileinfo.h"
 #include "host/app/audio/mediasignature.h"
+#include "host/app/audio/mediatags.h"
 #include "host/system/hostfileurl.h"
 #include "tests/host/app/audio/wavefile.h"
 #include "tests/host/app/testfolder.h"

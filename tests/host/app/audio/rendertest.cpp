@@ -1,6 +1,6 @@
 #include "framework/support/objects/text.h"
 #include "host/app/audio/mediatags.h"
-#include "host/app/audio/renderedsongs.h"
+#include "host/app/audio/rendering.h"
 #include "host/app/audio/soundfile.h"
 #include "tests/host/app/audio/soundfiles.h"
 #include "tests/host/app/testfolder.h"

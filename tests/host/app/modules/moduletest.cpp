@@ -1,7 +1,6 @@
-#include "host/app/modules/module.h"
-
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
+#include "host/app/modules/loadedmodule.h"
 #include "host/app/modules/modulesearch.h"
 #include "host/app/session/hostcontext.h"
 #include "tests/host/app/testfolder.h"
@@ -35,7 +34,7 @@ protected:
 
     std::string load(const std::string& path) {
         std::string error;
-        m_module = Module::load(path, *m_context, error);
+        m_module = LoadedModule::load(path, *m_context, error);
         return error;
     }
     static std::string testModule(const std::string& kind) {
@@ -44,7 +43,7 @@ protected:
     static std::int32_t countThings() { return XBRGetPlugInManager()->countClasses(toText("Test")); }
 
     Ref<HostContext> m_context = make<HostContext>("test host", "1");
-    std::unique_ptr<Module> m_module;
+    std::unique_ptr<LoadedModule> m_module;
     TestFolder m_folder;
 };
 

@@ -2,6 +2,7 @@
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "host/app/process/callbackclient.h"
+#include "host/app/process/callbackplace.h"
 #include "host/app/process/callbackserver.h"
 #include "tests/host/app/testfolder.h"
 
@@ -84,9 +85,9 @@ protected:
     }
     std::string socketPath() const { return m_folder.path("xbrhost/" + std::to_string(getpid()) + ".sock"); }
 
-    /// Hands a URL over as another process would, while this one runs its event loop.
-    static HandOver handOverElsewhere(const std::string& url) {
-        auto result = std::async(std::launch::async, [url] { return handOverUrl(url); });
+    /// Sends a URL as another process would, while this one runs its event loop.
+    static Delivery sendElsewhere(const std::string& url) {
+        auto result = std::async(std::launch::async, [url] { return sendToHosts(url); });
         runUntil([&] { return result.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
         return result.get();
     }
@@ -100,16 +101,16 @@ protected:
 } // namespace
 
 TEST_F(Callbacks, urlReachesTheModule) {
-    EXPECT_EQ(handOverElsewhere("test:before"), HandOver::kNoHost);
+    EXPECT_EQ(sendElsewhere("test:before"), Delivery::kNoHost);
     ASSERT_TRUE(start());
     int told = 0;
     m_server.setUrlListener([&] { ++told; });
-    const std::string longest = "test:" + std::string(CallbackServer::kMaximumUrlSize - 5, 'x');
-    EXPECT_EQ(handOverElsewhere("test:a?code=1"), HandOver::kTaken);
-    EXPECT_EQ(handOverElsewhere("other:a"), HandOver::kNoHost);
-    EXPECT_EQ(handOverElsewhere(longest), HandOver::kTaken);
-    EXPECT_EQ(handOverElsewhere(longest + "x"), HandOver::kTooLong);
-    EXPECT_EQ(handOverElsewhere("test:a\ntest:b"), HandOver::kTooLong);
+    const std::string longest = "test:" + std::string(kMaximumUrlSize - 5, 'x');
+    EXPECT_EQ(sendElsewhere("test:a?code=1"), Delivery::kTaken);
+    EXPECT_EQ(sendElsewhere("other:a"), Delivery::kNoHost);
+    EXPECT_EQ(sendElsewhere(longest), Delivery::kTaken);
+    EXPECT_EQ(sendElsewhere(longest + "x"), Delivery::kTooLong);
+    EXPECT_EQ(sendElsewhere("test:a\ntest:b"), Delivery::kTooLong);
     EXPECT_THAT(m_handler->urls, ElementsAre("test:a?code=1", longest));
     EXPECT_EQ(told, 3);
 }
@@ -155,7 +156,7 @@ TEST_F(Callbacks, aFloodOfConnectionsIsTurnedAway) {
     clients.front()->send("test:a\n");
     EXPECT_EQ(clients.front()->answer(), "ok\n");
     clients.clear();
-    EXPECT_TRUE(runUntil([&] { return handOverElsewhere("test:b") == HandOver::kTaken; }));
+    EXPECT_TRUE(runUntil([&] { return sendElsewhere("test:b") == Delivery::kTaken; }));
 }
 
 TEST_F(Callbacks, socketsOfDeadHostsAreRemoved) {
@@ -171,7 +172,7 @@ TEST_F(Callbacks, socketsOfDeadHostsAreRemoved) {
         close(dead);
     }
     ASSERT_TRUE(start());
-    EXPECT_EQ(handOverElsewhere("test:a"), HandOver::kTaken);
+    EXPECT_EQ(sendElsewhere("test:a"), Delivery::kTaken);
     EXPECT_FALSE(std::filesystem::exists(stale));
 }
 
@@ -186,7 +187,7 @@ TEST_F(Callbacks, aPlantedFolderIsRefused) {
     std::filesystem::create_symlink(m_folder.path("elsewhere"), folder);
     EXPECT_FALSE(start());
     EXPECT_TRUE(std::filesystem::is_empty(m_folder.path("elsewhere")));
-    EXPECT_EQ(handOverUrl("test:a"), HandOver::kNoHost);
+    EXPECT_EQ(sendToHosts("test:a"), Delivery::kNoHost);
 }
 
 TEST_F(Callbacks, nothingIsLeftBehind) {

@@ -1,6 +1,5 @@
 #include "framework/support/data/attributes.h"
 #include "framework/support/objects/text.h"
-#include "host/app/settings/componentproperties.h"
 #include "host/app/settings/configurationstore.h"
 #include "tests/host/app/testfolder.h"
 

@@ -1,4 +1,4 @@
-#include "host/app/process/privatefolder.h"
+#include "host/app/process/callbackplace.h"
 
 #include <QDir>
 #include <QFile>
@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -34,6 +35,12 @@ bool makePrivateFolder(const std::string& path, std::string& error) {
         error = "the folder '" + path + "' is not private to this user";
     }
     return isOurs;
+}
+
+bool isOwnUser(int socket) {
+    ucred peer{};
+    socklen_t size = sizeof(peer);
+    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == geteuid();
 }
 
 } // namespace xbr::host

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace xbr::host {
+
+/// How long a URL may be, in bytes without the end of the line.
+constexpr std::size_t kMaximumUrlSize = 8192;
 
 /// The folder in which running hosts listen: "xbrhost" in $XDG_RUNTIME_DIR, or "xbrhost-<user id>" in the
 /// temporary folder.
@@ -11,5 +15,8 @@ std::string callbackFolder();
 /// Makes the folder, or checks the one that is there: it has to be a real folder of this user that nobody
 /// else may enter. False, with the reason in plain words, when it is not: another user may have planted it.
 bool makePrivateFolder(const std::string& path, std::string& error);
+
+/// True when the process at the other end of a local socket belongs to this user.
+bool isOwnUser(int socket);
 
 } // namespace xbr::host

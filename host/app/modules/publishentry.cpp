@@ -1,5 +1,6 @@
-#include "host/app/modules/publisheditem.h"
+#include "host/app/modules/publishentry.h"
 
+#include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 
 #include <filesystem>
@@ -8,6 +9,22 @@
 namespace xbr::host {
 
 namespace fs = std::filesystem;
+
+std::vector<PublishEntry> findPublishEntries() {
+    static constexpr std::string_view kCategory = "Publisher";
+    std::vector<PublishEntry> entries;
+    for (std::int32_t i = 0; i < XBRGetPlugInManager()->countClasses(toText(kCategory)); ++i) {
+        const ClassDescription* found = XBRGetPlugInManager()->classAt(toText(kCategory), i, nullptr);
+        entries.push_back({found->uid, toString(found->name)});
+    }
+    return entries;
+}
+
+Ref<IPublisher> createPublisher(const PublishEntry& entry) {
+    void* created = nullptr;
+    XBRGetPlugInManager()->createInstance(entry.uid, IPublisher::kUid, &created);
+    return Ref<IPublisher>::adopt(static_cast<IPublisher*>(created));
+}
 
 Result PublishedItem::getUrl(IString** out) noexcept {
     return giveText(m_url, out);

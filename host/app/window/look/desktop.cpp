@@ -1,9 +1,11 @@
-#include "host/app/window/look/desktopscheme.h"
+#include "host/app/window/look/desktop.h"
 
+#include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QWidget>
 
 namespace xbr::host {
 
@@ -57,6 +59,14 @@ void DesktopScheme::take(const QVariant& value) {
         m_appearance = wanted;
         emit changed();
     }
+}
+
+void raise(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+    QApplication::alert(&window);
 }
 
 } // namespace xbr::host

@@ -1,6 +1,6 @@
-#include "host/app/window/look/appearancesetting.h"
+#include "host/app/window/look/appearance.h"
 
-#include "host/app/window/look/desktopscheme.h"
+#include "host/app/window/look/desktop.h"
 #include "host/gui/hostwidgets.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "host/app/modules/module.h"
+#include "host/app/modules/loadedmodule.h"
 
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
@@ -25,8 +25,9 @@ Function lookUp(void* library, const char* name) {
 
 } // namespace
 
-std::unique_ptr<Module> Module::load(const std::string& path, IHostContext& context, std::string& error) {
-    auto module = std::unique_ptr<Module>(new Module(path));
+std::unique_ptr<LoadedModule> LoadedModule::load(const std::string& path, IHostContext& context,
+                                                 std::string& error) {
+    auto module = std::unique_ptr<LoadedModule>(new LoadedModule(path));
     std::string problem = module->open();
     if (problem.empty()) {
         problem = module->start();
@@ -41,7 +42,7 @@ std::unique_ptr<Module> Module::load(const std::string& path, IHostContext& cont
     return module;
 }
 
-std::string Module::open() {
+std::string LoadedModule::open() {
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(m_path, ignored)) {
         return "is not there";
@@ -57,7 +58,7 @@ std::string Module::open() {
     return m_main && m_getFactory ? "" : "is a library, but no module";
 }
 
-std::string Module::start() {
+std::string LoadedModule::start() {
     if (m_main(m_library, static_cast<std::int32_t>(ModuleReason::kLoad)) == 0) {
         return "refuses to work (a part of it is missing or damaged)";
     }
@@ -74,7 +75,7 @@ std::string Module::start() {
     return {};
 }
 
-std::string Module::startServices(IHostContext& context) {
+std::string LoadedModule::startServices(IHostContext& context) {
     for (std::int32_t i = 0; i < m_factory->countClasses(); ++i) {
         const ClassDescription* description = m_factory->classAt(i);
         if (description && view(description->category) == kServiceCategory) {
@@ -87,7 +88,7 @@ std::string Module::startServices(IHostContext& context) {
     return m_services.empty() ? "offers no service" : "";
 }
 
-std::string Module::startService(const ClassDescription& description, IHostContext& context) {
+std::string LoadedModule::startService(const ClassDescription& description, IHostContext& context) {
     const std::string name = "'" + toString(description.name) + "'";
     m_name = m_name.empty() ? toString(description.name) : m_name;
     void* created = nullptr;
@@ -107,7 +108,7 @@ std::string Module::startService(const ClassDescription& description, IHostConte
     return {};
 }
 
-void Module::stopServices() noexcept {
+void LoadedModule::stopServices() noexcept {
     while (!m_services.empty()) {
         Service last = std::move(m_services.back());
         m_services.pop_back();
@@ -119,7 +120,7 @@ void Module::stopServices() noexcept {
     }
 }
 
-Module::~Module() {
+LoadedModule::~LoadedModule() {
     if (m_isStarted) {
         // No answer and no message may reach code that is about to go.
         abortAllRequests();

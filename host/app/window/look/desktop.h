@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class QWidget;
+
 namespace xbr::host {
 
 /// Whether the desktop wants programs to be light or dark (the setting "color-scheme" of the namespace
@@ -31,5 +33,9 @@ private:
 
     std::optional<Appearance> m_appearance;
 };
+
+/// Brings a window to the user's sight: shown, not minimised, on top and with the keyboard. Where the desktop
+/// does not let programs do that, the window asks for attention instead.
+void raise(QWidget& window);
 
 } // namespace xbr::host

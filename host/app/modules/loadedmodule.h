@@ -11,15 +11,16 @@ namespace xbr::host {
 
 /// A module that is loaded, with its services running and their classes known to the plug-in manager. Its end
 /// takes everything back in the reverse order. Objects that the module made must be released before.
-class Module {
+class LoadedModule {
 public:
     /// Loads the library at `path` and starts it. Null when that fails; `error` then says why, in one line
     /// that names the path.
-    static std::unique_ptr<Module> load(const std::string& path, IHostContext& context, std::string& error);
+    static std::unique_ptr<LoadedModule> load(const std::string& path, IHostContext& context,
+                                              std::string& error);
 
-    Module(const Module&) = delete;
-    Module& operator=(const Module&) = delete;
-    ~Module();
+    LoadedModule(const LoadedModule&) = delete;
+    LoadedModule& operator=(const LoadedModule&) = delete;
+    ~LoadedModule();
 
     const std::string& path() const { return m_path; }
 
@@ -35,7 +36,7 @@ private:
         Ref<IClassFactory> classes; ///< empty when the service has none
     };
 
-    explicit Module(std::string path) : m_path(std::move(path)) {}
+    explicit LoadedModule(std::string path) : m_path(std::move(path)) {}
     std::string open();
     std::string start();
     std::string startServices(IHostContext& context);

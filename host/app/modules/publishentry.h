@@ -10,6 +10,18 @@
 
 namespace xbr::host {
 
+/// An entry of the publish menu: a class of a module that takes songs.
+struct PublishEntry {
+    Uid uid{};
+    std::string name; ///< for people
+};
+
+/// The publish entries of all modules that are loaded.
+std::vector<PublishEntry> findPublishEntries();
+
+/// Null when the module cannot make it.
+Ref<IPublisher> createPublisher(const PublishEntry& entry);
+
 /// A song that is handed to a publish entry: where it is and what is known about it.
 class PublishedItem final : public Object<IUrlSource, IMediaAttributes> {
 public:

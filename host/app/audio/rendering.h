@@ -1,11 +1,26 @@
 #pragma once
 
-#include "host/app/audio/render.h"
-
+#include <cstdint>
+#include <functional>
 #include <set>
 #include <string>
 
 namespace xbr::host {
+
+enum class RenderResult : std::uint8_t {
+    kDone,
+    kGivenUp, ///< by `goOn`
+    kFailed,  ///< the song cannot be read to its end, or the file cannot be written
+};
+
+/// Is told the fraction that is done, some times a second; false gives the work up. May run the event loop.
+using RenderProgress = std::function<bool(double fraction)>;
+
+/// Writes the audio of `from`, which may be anything that libsndfile reads, as a WAV file `to`, with the same
+/// rate, channels and depth; no tags. When it does not come to its end no file is left; `error` says why, in
+/// words that follow the name of the song.
+RenderResult renderToWav(const std::string& from, const std::string& to, const RenderProgress& goOn,
+                         std::string& error);
 
 /// WAV files that were rendered from songs, in the host's private temporary folder. They go with this object.
 class RenderedSongs {
