@@ -17,6 +17,10 @@ void setIdleLimit(std::chrono::milliseconds limit) {
     Transfer::setIdleLimit(limit);
 }
 
+void setExchangeListener(ExchangeListener* listener) {
+    WebRequest::setListener(listener);
+}
+
 std::uint64_t countRefusedCredentials() noexcept {
     return WebRequest::countRefusedCredentials();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/net/http/exchange.h"
+
 #include <chrono>
 #include <cstdint>
 
@@ -14,6 +16,10 @@ __attribute__((visibility("default"))) void abortAllRequests();
 /// How long a request may pass without a byte in either direction before it fails. Applies to requests sent
 /// afterwards; 60 seconds at the start. Time during which the event loop does not run is not counted.
 __attribute__((visibility("default"))) void setIdleLimit(std::chrono::milliseconds limit);
+
+/// Names who hears of requests from now on (null: nobody); not kept. Downloads and requests of the library
+/// itself are not told of.
+__attribute__((visibility("default"))) void setExchangeListener(ExchangeListener* listener);
 
 /// How many requests with credentials were answered 401 (RFC 9110, 15.5.2) since the program began. A front
 /// end that compares the number before and after sees that a sign-in is not accepted any more; modules need

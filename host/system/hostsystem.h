@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/abi/progress.h"
+#include "host/base/problem.h"
 
 #include <functional>
 #include <string>
@@ -20,6 +21,13 @@ using BrowserAnnouncer = std::function<bool(std::string_view url)>;
 /// library is closed, because messages that it made are code and data of that library.
 [[gnu::visibility("default")]] void dropPostedMessages() noexcept;
 
+/// True while a message is posted and not delivered, or its delivery has not come back. Main thread.
+[[gnu::visibility("default")]] bool hasPostedMessages() noexcept;
+
+/// Is told, from the event loop, when the last posted message was delivered; an empty function ends it. Main
+/// thread.
+[[gnu::visibility("default")]] void setQuietListener(std::function<void()> listener);
+
 /// Names the indicator that the front end shows now, or none (null); not kept. Work that the border gives no
 /// progress for, such as copying a file, tells it what is done and ends when the user cancels there. Main
 /// thread.
@@ -28,6 +36,10 @@ using BrowserAnnouncer = std::function<bool(std::string_view url)>;
 /// Removes the temporary folder with everything in it, if this process made one. Happens by itself when the
 /// process ends through exit(); a next request for the folder makes a new one. Main thread.
 [[gnu::visibility("default")]] void removeTemporaryFolder() noexcept;
+
+/// Hears of everything that modules could not read, write or copy, from within their calls; an empty function
+/// ends it. Main thread.
+[[gnu::visibility("default")]] void setFileProblemListener(std::function<void(const Problem&)> listener);
 
 /// The first thing since the last call that modules could not write or copy, in plain words that name the
 /// system's reason ("'/music/a.wav' cannot be copied: No space left on device"); empty when there was none.

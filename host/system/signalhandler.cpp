@@ -137,6 +137,14 @@ void SignalHandler::deliverNext() {
         m_posted.pop_front();
         deliver(posted);
     }
+    tellQuiet();
+}
+
+void SignalHandler::tellQuiet() const {
+    if (!hasPosted() && m_quietListener) {
+        const auto listener = m_quietListener; // a copy: it may be replaced while it runs
+        listener();
+    }
 }
 
 void SignalHandler::deliverDelayed(std::uint64_t serial) {
@@ -147,15 +155,18 @@ void SignalHandler::deliverDelayed(std::uint64_t serial) {
         m_delayed.erase(found);
         deliver(posted);
     }
+    tellQuiet();
 }
 
 void SignalHandler::deliver(const Posted& posted) {
+    ++m_delivering;
     if (posted.subject) {
         signal(posted.subject, posted.message.get());
-        return;
+    } else {
+        const auto receiver = Ref<IObserver>::share(posted.observer);
+        receiver->notify(nullptr, posted.message.get());
     }
-    const auto receiver = Ref<IObserver>::share(posted.observer);
-    receiver->notify(nullptr, posted.message.get());
+    --m_delivering;
 }
 
 template <class Predicate>
@@ -180,6 +191,14 @@ void SignalHandler::dropPosted(Predicate predicate) {
 
 void dropPostedMessages() noexcept {
     SignalHandler::instance().dropPosted();
+}
+
+bool hasPostedMessages() noexcept {
+    return SignalHandler::instance().hasPosted();
+}
+
+void setQuietListener(std::function<void()> listener) {
+    SignalHandler::instance().setQuietListener(std::move(listener));
 }
 
 } // namespace xbr::host

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <deque>
+#include <functional>
 #include <unordered_map>
 #include <vector>
 
@@ -25,6 +26,12 @@ public:
     void forgetSubject(ISubject* subject) noexcept override;
 
     void dropPosted() noexcept;
+
+    /// True while a message is posted, or is being delivered. Those that wait for their time do not count.
+    bool hasPosted() const noexcept { return !m_posted.empty() || m_delivering > 0; }
+
+    /// Is told, from the event loop, that nothing is posted any more.
+    void setQuietListener(std::function<void()> listener) { m_quietListener = std::move(listener); }
 
 private:
     /// One observer of a subject. The serial number tells apart who was added when: an address may be
@@ -46,6 +53,7 @@ private:
     void deliverNext();
     void deliverDelayed(std::uint64_t serial);
     void deliver(const Posted& posted);
+    void tellQuiet() const;
     template <class Predicate>
     void dropPosted(Predicate predicate);
 
@@ -53,6 +61,8 @@ private:
     std::deque<Posted> m_posted;
     std::deque<Posted> m_delayed;
     std::uint64_t m_lastSerial = 0;
+    int m_delivering = 0; ///< deliveries on the stack: one may run the event loop
+    std::function<void()> m_quietListener;
     QObject m_loop; ///< receives the turns of the event loop
 };
 

@@ -131,7 +131,7 @@ bool DownloadTask::send() {
     return true;
 }
 
-bool DownloadTask::follow(const Outcome& outcome) {
+bool DownloadTask::follow(const Answer& outcome) {
     if (!isRedirect(outcome.status) || m_redirects == kMaximumRedirects) {
         return false;
     }
@@ -144,7 +144,7 @@ bool DownloadTask::follow(const Outcome& outcome) {
     return send();
 }
 
-void DownloadTask::onFinished(Outcome outcome) {
+void DownloadTask::onFinished(Answer outcome) {
     const auto self = Ref<DownloadTask>::share(this);
     // Kept until we return: it is the caller.
     const auto transfer = std::move(m_transfer);
@@ -159,7 +159,7 @@ void DownloadTask::onFinished(Outcome outcome) {
     }
 }
 
-void DownloadTask::complete(Outcome outcome) {
+void DownloadTask::complete(Answer outcome) {
     if (outcome.status != kNotModified) {
         m_data = outcome.body ? std::move(outcome.body) : make<MemoryStream>();
     }

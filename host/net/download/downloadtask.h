@@ -38,14 +38,14 @@ public:
 
 private:
     bool send();
-    bool follow(const Outcome& outcome);
+    bool follow(const Answer& outcome);
     void endTransfer();
     void openFile();
-    void complete(Outcome outcome);
+    void complete(Answer outcome);
     void finish(DownloadState state);
 
     void onSent(double) override {}
-    void onFinished(Outcome outcome) override;
+    void onFinished(Answer outcome) override;
 
     std::string m_location;
     DownloadSource m_source;

@@ -70,8 +70,6 @@ std::string fillIn(std::string text, const std::string& host) {
     return text;
 }
 
-} // namespace
-
 std::string failureText(Ended ended, CURLcode code, const std::string& host) {
     const char* text = endedText(ended);
     if (!text) {
@@ -85,6 +83,50 @@ std::string failureText(Ended ended, CURLcode code, const std::string& host) {
     }
     // curl_easy_strerror has fixed texts: unlike the error buffer it never quotes the request.
     return fillIn("The request to %s failed: ", host) + curl_easy_strerror(code) + ".";
+}
+
+Fault faultOf(CURLcode code) {
+    switch (code) {
+    case CURLE_COULDNT_RESOLVE_HOST:
+    case CURLE_COULDNT_RESOLVE_PROXY:
+    case CURLE_COULDNT_CONNECT:
+    case CURLE_PROXY:
+    case CURLE_OPERATION_TIMEDOUT: // only connecting has a limit
+        return Fault::kNoServer;
+    default:
+        return secureText(code) ? Fault::kUntrusted : Fault::kConnectionLost;
+    }
+}
+
+Fault faultOf(Ended ended, CURLcode code) {
+    switch (ended) {
+    case Ended::kReplyTooLarge:
+        return Fault::kReplyTooLarge;
+    case Ended::kBodyUnreadable:
+        return Fault::kUnreadable;
+    case Ended::kStalled:
+        return Fault::kStalled;
+    case Ended::kNot:
+        break;
+    }
+    return faultOf(code);
+}
+
+} // namespace
+
+Problem failureOf(Ended ended, CURLcode code, const std::string& host) {
+    return {faultOf(ended, code), host, 0, failureText(ended, code, host), {}, {}};
+}
+
+Problem refusalOf(int status, bool hadCredentials, const std::string& host, const std::string& said) {
+    static constexpr int kFirstRedirection = 300;
+    static constexpr int kUnauthorized = 401;
+    static constexpr int kFirstServerError = 500;
+    if (status < kFirstRedirection) {
+        return {};
+    }
+    const Fault refused = status == kUnauthorized && hadCredentials ? Fault::kSignInRefused : Fault::kRefused;
+    return {status < kFirstServerError ? refused : Fault::kServerFault, host, status, said, {}, {}};
 }
 
 } // namespace xbr::host

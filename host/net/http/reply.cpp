@@ -1,6 +1,32 @@
 #include "host/net/http/reply.h"
 
+#include "host/base/textscan.h"
+
+#include <nlohmann/json.hpp>
+
 namespace xbr::host {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr std::uint64_t kWordsLimit = std::uint64_t{64}
+                                      << 10U; ///< bytes of an answer that are read for words
+constexpr std::size_t kWordsLength = 200;     ///< characters
+constexpr int kDepth = 8;
+
+/// Adds the texts of a value, whatever its form is: one, a list, or lists by the names of fields.
+void addTexts(const Json& value, int depth, std::string& words) {
+    if (value.is_string()) {
+        words += (words.empty() ? "" : "; ") + value.get<std::string>();
+    } else if (value.is_structured() && depth < kDepth) {
+        for (const Json& part : value) {
+            addTexts(part, depth + 1, words);
+        }
+    }
+}
+
+} // namespace
 
 bool Reply::addHeaderLine(std::string_view line) {
     if (line.starts_with("HTTP/")) {
@@ -36,6 +62,22 @@ Ref<MemoryStream> Reply::body() const {
         rewind(*m_body);
     }
     return m_body;
+}
+
+std::string wordsOf(MemoryStream& body) {
+    std::string bytes(std::min(body.size(), kWordsLimit), '\0');
+    std::uint64_t done = 0;
+    rewind(body);
+    body.read(bytes.data(), bytes.size(), &done);
+    rewind(body);
+    const Json reply = Json::parse(bytes, nullptr, false);
+    std::string words;
+    for (const char* name : {"errors", "message"}) {
+        if (words.empty() && reply.is_object() && reply.contains(name)) {
+            addTexts(reply[name], 0, words);
+        }
+    }
+    return std::string(firstCharacters(plainText(words), kWordsLength));
 }
 
 } // namespace xbr::host

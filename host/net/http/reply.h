@@ -4,6 +4,7 @@
 #include "host/net/http/replyheaders.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace xbr::host {
@@ -46,5 +47,9 @@ private:
     std::uint64_t m_bodyBytes = 0;
     bool m_headersEnded = false;
 };
+
+/// What an answer in JSON says to people under "errors" or "message", in one line of 200 characters at most;
+/// empty when it says nothing.
+std::string wordsOf(MemoryStream& body);
 
 } // namespace xbr::host

@@ -148,21 +148,22 @@ void Transfer::finish(CURLcode code) {
     m_listener.onFinished(outcome(code));
 }
 
-Outcome Transfer::outcome(CURLcode code) {
+Answer Transfer::outcome(CURLcode code) {
     long status = 0;
     curl_off_t length = -1;
     curl_easy_getinfo(m_easy, CURLINFO_RESPONSE_CODE, &status);
     curl_easy_getinfo(m_easy, CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length);
     // A server may answer early, in full, and close: the rest of the body cannot be sent, the answer counts.
     const bool whole = code == CURLE_OK || (code == CURLE_SEND_ERROR && m_reply.hasBodyOf(length));
-    Outcome result;
-    result.wholeBodySent = m_request.body.size() > 0 && sent() >= m_request.body.size();
+    Answer result;
+    result.sent = sent();
+    result.wholeBodySent = m_request.body.size() > 0 && result.sent >= m_request.body.size();
     if (whole && m_reply.hasHeaders() && status >= 200 && m_ended == Ended::kNot) {
         result.status = static_cast<std::int32_t>(status);
         result.headers = m_reply.headers();
         result.body = m_reply.body();
     } else {
-        result.error = failureText(m_ended, code, m_request.host);
+        result.problem = failureOf(m_ended, code, m_request.host);
     }
     return result;
 }

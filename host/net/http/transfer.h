@@ -14,11 +14,12 @@
 namespace xbr::host {
 
 /// How a transfer ended: with a status, or with the reason why there is none.
-struct Outcome {
+struct Answer {
     std::int32_t status = 0;
     ReplyHeaders headers;
     Ref<MemoryStream> body; ///< null when there is none
-    std::string error;
+    Problem problem;        ///< why there is none
+    std::int64_t sent = 0;  ///< bytes of the body
     bool wholeBodySent = false;
 };
 
@@ -27,7 +28,7 @@ struct Outcome {
 class ITransferListener {
 public:
     virtual void onSent(double fraction) = 0;
-    virtual void onFinished(Outcome outcome) = 0;
+    virtual void onFinished(Answer outcome) = 0;
 
 protected:
     ~ITransferListener() = default;
@@ -63,6 +64,9 @@ public:
     curl_socket_t socket() const noexcept { return m_socket; }
     void setSocket(curl_socket_t socket) noexcept { m_socket = socket; }
 
+    /// How many bytes of the body were sent.
+    std::int64_t sent() const;
+
     /// Goes on sending where the body was held back.
     void resume();
 
@@ -82,9 +86,8 @@ private:
     bool configureMethod();
     bool configureCertificates();
     bool configureCallbacks();
-    std::int64_t sent() const;
     bool isAnswerWaiting() const;
-    Outcome outcome(CURLcode code);
+    Answer outcome(CURLcode code);
 
     static std::size_t readBody(char* buffer, std::size_t size, std::size_t count, void* self);
     static int seekBody(void* self, curl_off_t offset, int origin);

@@ -19,7 +19,9 @@ namespace {
 std::vector<WebRequest*> g_owing;
 
 constexpr std::int32_t kUnauthorized = 401;
+constexpr std::int32_t kFirstRefusal = 400;
 std::uint64_t g_refusedCredentials = 0;
+ExchangeListener* g_listener = nullptr;
 
 bool isOwing(const WebRequest* request) {
     return std::find(g_owing.begin(), g_owing.end(), request) != g_owing.end();
@@ -33,8 +35,12 @@ void assertMainThread() {
 } // namespace
 
 WebRequest::~WebRequest() {
+    const bool owes = isOwing(this);
     std::erase(g_owing, this);
     endTransfer();
+    if (owes) {
+        tellEnd();
+    }
 }
 
 void WebRequest::setState(State state) {
@@ -101,18 +107,22 @@ Result WebRequest::send(IStream* body, IObserver* handler) noexcept {
     if (!content.open(body) || (content.exists() && m_method == "HEAD")) {
         return kInvalidArgument;
     }
+    const bool hasBody = content.exists();
     auto& loop = TransferLoop::instance();
     auto transfer = Transfer::create({m_method, m_url, m_host, buildHeaders(), std::move(content)}, *this);
     if (!transfer || !loop.start(*transfer)) {
         return kUnexpected;
     }
     m_transfer = std::move(transfer);
-    m_hadCredentials = static_cast<bool>(m_credentials);
+    m_exchange = {m_method, m_host, static_cast<bool>(m_credentials), hasBody, 0, 0, {}, {}};
     m_credentials.reset();
     if (handler) {
         m_handler = Ref<IObserver>::share(handler);
     }
     setState(State::kInFlight);
+    if (g_listener) {
+        g_listener->began(m_exchange);
+    }
     return kOk;
 }
 
@@ -128,6 +138,7 @@ Result WebRequest::abort() noexcept {
         return kFalse;
     }
     setState(State::kAborted);
+    m_exchange.sent = m_transfer ? m_transfer->sent() : 0; // none: the last of it was sent this moment
     endTransfer();
     m_pendingAbort = std::make_shared<WebRequest*>(this);
     const std::weak_ptr<WebRequest*> pending = m_pendingAbort;
@@ -146,6 +157,7 @@ void WebRequest::deliverAbort() {
     m_pendingAbort.reset();
     setState(State::kDone);
     tell(handler.get(), *make<RequestMessage>("onabort"));
+    tellEnd();
 }
 
 void WebRequest::tell(IObserver* handler, IMessage& message) {
@@ -164,21 +176,22 @@ void WebRequest::onSent(double fraction) {
     tell(handler.get(), *make<RequestMessage>("onprogress", fraction));
 }
 
-void WebRequest::onFinished(Outcome outcome) {
+void WebRequest::onFinished(Answer answer) {
     const auto self = Ref<WebRequest>::share(this);
     // Kept until we return: it is the caller.
     const auto transfer = std::move(m_transfer);
-    if (outcome.wholeBodySent) {
+    if (answer.wholeBodySent) {
         onSent(1.0);
     }
     if (m_state != State::kInFlight) {
         return; // aborted by the handler of the progress
     }
-    m_outcome = std::move(outcome);
-    g_refusedCredentials += m_hadCredentials && m_outcome.status == kUnauthorized ? 1 : 0;
+    m_answer = std::move(answer);
+    note(m_answer);
     const auto handler = std::exchange(m_handler, {});
     setState(State::kDone);
     tell(handler.get(), *make<RequestMessage>("onloadend"));
+    tellEnd();
 }
 
 void WebRequest::endSilently() {
@@ -187,6 +200,34 @@ void WebRequest::endSilently() {
     m_pendingAbort.reset();
     setState(State::kDone);
     endTransfer();
+    tellEnd();
+}
+
+/// What is told of the answer.
+void WebRequest::note(const Answer& answer) {
+    g_refusedCredentials += m_exchange.hadCredentials && answer.status == kUnauthorized ? 1 : 0;
+    m_exchange.sent = answer.sent;
+    m_exchange.status = answer.status;
+    if (answer.status >= kFirstRefusal && answer.body) {
+        m_exchange.said = wordsOf(*answer.body);
+    }
+    m_exchange.problem = answer.status == 0
+                             ? answer.problem
+                             : refusalOf(answer.status, m_exchange.hadCredentials, m_host, m_exchange.said);
+}
+
+/// The request is over, with or without an answer.
+void WebRequest::tellEnd() {
+    if (m_exchange.status == 0 && !m_exchange.problem) {
+        m_exchange.problem = {Fault::kCancelled, m_host, 0, {}, {}, {}};
+    }
+    if (g_listener) {
+        g_listener->ended(m_exchange);
+    }
+}
+
+void WebRequest::setListener(ExchangeListener* listener) {
+    g_listener = listener;
 }
 
 std::uint64_t WebRequest::countRefusedCredentials() noexcept {
@@ -201,16 +242,16 @@ void WebRequest::endAll() {
 
 Result WebRequest::getResponseBody(IStream** out) noexcept {
     *out = nullptr;
-    if (!m_outcome.body) {
+    if (!m_answer.body) {
         return kFalse;
     }
-    rewind(*m_outcome.body);
-    *out = Ref<IStream>(m_outcome.body).detach();
+    rewind(*m_answer.body);
+    *out = Ref<IStream>(m_answer.body).detach();
     return kOk;
 }
 
 Result WebRequest::getErrorText(IString** out) noexcept {
-    *out = make<String>(m_outcome.error).detach();
+    *out = make<String>(m_answer.problem.words).detach();
     return kOk;
 }
 

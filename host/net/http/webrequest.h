@@ -2,6 +2,7 @@
 
 #include "framework/abi/webservice.h"
 #include "framework/support/objects/object.h"
+#include "host/net/http/exchange.h"
 #include "host/net/http/transfer.h"
 #include "host/net/http/webcredentials.h"
 
@@ -30,12 +31,15 @@ public:
 
     Result abort() noexcept override;
     bool isBusy() const noexcept override { return m_state == State::kInFlight; }
-    std::int32_t status() const noexcept override { return m_outcome.status; }
+    std::int32_t status() const noexcept override { return m_answer.status; }
     Result getResponseBody(IStream** out) noexcept override;
     Result getErrorText(IString** out) noexcept override;
 
     /// Ends all requests that still owe a message, without one.
     static void endAll();
+
+    /// Names who hears of requests (null: nobody).
+    static void setListener(ExchangeListener* listener);
 
     /// How many requests with credentials were answered 401.
     static std::uint64_t countRefusedCredentials() noexcept;
@@ -55,9 +59,11 @@ private:
     void endSilently();
     void deliverAbort();
     void tell(IObserver* handler, IMessage& message);
+    void note(const Answer& answer);
+    void tellEnd();
 
     void onSent(double fraction) override;
-    void onFinished(Outcome outcome) override;
+    void onFinished(Answer answer) override;
 
     State m_state = State::kNew;
     std::string m_method;
@@ -65,12 +71,12 @@ private:
     std::string m_host;
     std::vector<std::pair<std::string, std::string>> m_headers;
     Ref<WebCredentials> m_credentials;
-    bool m_hadCredentials = false; ///< when it was sent
+    Exchange m_exchange; ///< as it is told of
     Ref<IObserver> m_handler;
     std::unique_ptr<Transfer> m_transfer;
     std::shared_ptr<WebRequest*> m_pendingAbort; ///< gone when the message is no longer owed
     double m_lastSent = 0;
-    Outcome m_outcome;
+    Answer m_answer;
 };
 
 } // namespace xbr::host

@@ -2,7 +2,6 @@
 
 #include "host/system/hostsystem.h"
 
-#include <system_error>
 #include <utility>
 
 namespace xbr::host {
@@ -14,12 +13,24 @@ std::string& firstProblem() {
     return *problem;
 }
 
+std::function<void(const Problem&)>& listener() {
+    static auto* const listener = new std::function<void(const Problem&)>;
+    return *listener;
+}
+
 } // namespace
 
-void noteFileProblem(const std::string& what, int error) {
+void noteFileProblem(const std::string& what, const Problem& problem) {
     if (firstProblem().empty()) {
-        firstProblem() = error == 0 ? what : what + ": " + std::generic_category().message(error);
+        firstProblem() = problem.words.empty() ? what : what + ": " + problem.words;
     }
+    if (const auto hears = listener()) {
+        hears(problem);
+    }
+}
+
+void setFileProblemListener(std::function<void(const Problem&)> hears) {
+    listener() = std::move(hears);
 }
 
 std::string takeFileProblem() {

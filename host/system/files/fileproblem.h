@@ -1,12 +1,14 @@
 #pragma once
 
+#include "host/base/problem.h"
+
 #include <string>
 
 namespace xbr::host {
 
-/// Remembers, in plain words, that something could not be written or copied for a module; `error` is a number
-/// of <cerrno>, 0 when there is none. Only the first problem is kept until `takeFileProblem` takes it: the
-/// others follow from it.
-void noteFileProblem(const std::string& what, int error);
+/// Tells the host program of something that could not be written or copied for a module. `what` says it in
+/// plain words; only those of the first problem are kept until `takeFileProblem` takes them: the others
+/// follow from it.
+void noteFileProblem(const std::string& what, const Problem& problem);
 
 } // namespace xbr::host

@@ -94,7 +94,7 @@ Result FileStream::write(const void* buffer, std::uint64_t size, std::uint64_t* 
     *done = writeAt(m_file.get(), buffer, size, m_position);
     m_position += static_cast<std::int64_t>(*done);
     if (*done != size) {
-        noteFileProblem("a file cannot be written", errno);
+        noteFileProblem("a file cannot be written", fileProblem({}, errno, Fault::kNotWritable));
     }
     return *done == size ? kOk : kUnexpected;
 }

@@ -45,6 +45,15 @@ bool isOfKind(const std::string& path, mode_t kind) {
     return stat(path.c_str(), &status) == 0 && (status.st_mode & S_IFMT) == kind;
 }
 
+Problem copyProblem(const std::string& source, const std::string& target, int error) {
+    // The system has no complaint when the file was changed while it was copied.
+    Problem problem = fileProblem(source, error, error == 0 ? Fault::kChanged : Fault::kUnreadable);
+    if (problem.fault == Fault::kDiskFull) {
+        problem.subject = target;
+    }
+    return problem;
+}
+
 } // namespace
 
 FileSystem::Resource FileSystem::findResource(std::string_view url) const {
@@ -99,7 +108,7 @@ Result FileSystem::createFile(Text url, IStream** out) noexcept {
     }
     auto file = makeParents(*path) ? openRegularFile(*path, O_RDWR | O_CREAT | O_TRUNC) : FileDescriptor();
     if (!file.isOpen()) {
-        noteFileProblem("'" + *path + "' cannot be created", errno);
+        noteFileProblem("'" + *path + "' cannot be created", fileProblem(*path, errno, Fault::kNotWritable));
         return kUnexpected;
     }
     *out = make<FileStream>(std::move(file), StreamAccess::kReadWrite).detach();
@@ -122,7 +131,7 @@ Result FileSystem::copyFile(Text from, Text to) noexcept {
         return isCopied ? kOk : stop.stop_requested() ? kFalse : kUnexpected;
     });
     if (result == kUnexpected) {
-        noteFileProblem("'" + *source + "' cannot be copied", error);
+        noteFileProblem("'" + *source + "' cannot be copied", copyProblem(*source, *target, error));
     }
     return result == kOk ? kOk : kUnexpected;
 }

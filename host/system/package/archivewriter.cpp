@@ -40,13 +40,18 @@ bool addEntry(zip_t* archive, const PackageEntry& entry, PackageInput& input) {
            zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_STORE, 0) == 0;
 }
 
+PackageProblem unwritten(const std::string& path, int error) {
+    return {"'" + path + "' cannot be written", fileProblem(path, error, Fault::kNotWritable)};
+}
+
 PackageProblem problemOf(zip_t* archive, const std::string& path, const std::string& name) {
     zip_error_t* const error = zip_get_error(archive);
     if (zip_error_code_zip(error) == ZIP_ER_CHANGED) {
-        return {"'" + name + "' cannot be read, or was changed while it was packed"};
+        return {"'" + name + "' cannot be read, or was changed while it was packed",
+                {Fault::kChanged, name, 0, {}, {}, {}}};
     }
     const bool isSystems = zip_error_system_type(error) == ZIP_ET_SYS;
-    return {"'" + path + "' cannot be written", isSystems ? zip_error_code_system(error) : 0};
+    return unwritten(path, isSystems ? zip_error_code_system(error) : 0);
 }
 
 bool write(const std::string& path, const std::vector<PackageEntry>& entries, PackageProgress& progress,
@@ -76,7 +81,7 @@ bool write(const std::string& path, const std::vector<PackageEntry>& entries, Pa
 
 Result writeArchive(const std::string& path, std::vector<PackageEntry> entries, bool isCompressed,
                     PackageProgress& progress, const std::stop_token& stop, PackageProblem& problem) {
-    problem.what = "'" + path + "' cannot be written";
+    problem = unwritten(path, 0);
     // libzip writes no archive without entries.
     if (entries.empty()) {
         return kUnexpected;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/abi/result.h"
+#include "host/base/problem.h"
 #include "host/system/files/backgroundwork.h"
 #include "host/system/package/packageentries.h"
 
@@ -9,10 +10,10 @@
 
 namespace xbr::host {
 
-/// Why an archive did not come about, in plain words; `error` is a number of <cerrno>, 0 when there is none.
+/// Why an archive did not come about, `what` in plain words.
 struct PackageProblem {
     std::string what;
-    int error = 0;
+    Problem problem;
 };
 
 /// Writes a ZIP archive of `entries` in their order, deflating what gains by it, or storing all when

@@ -68,7 +68,7 @@ Result ZipPackage::addFolder(Text folder, std::int32_t mode, IProgress* progress
     if (result == kOk) {
         std::move(added.begin(), added.end(), std::back_inserter(m_entries));
     } else if (result == kUnexpected) {
-        noteFileProblem("'" + *path + "' cannot be read", 0);
+        noteFileProblem("'" + *path + "' cannot be read", {Fault::kUnreadable, *path, 0, {}, {}, {}});
     }
     return result;
 }
@@ -100,7 +100,7 @@ Result ZipPackage::write(IProgress* progress) {
     });
     m_entries.clear();
     if (result == kUnexpected) {
-        noteFileProblem(problem.what, problem.error);
+        noteFileProblem(problem.what, problem.problem);
     }
     if (progress && result == kOk) {
         progress->update(1.0, Text{});
