@@ -52,7 +52,6 @@ Manager::~Manager() {
     XBRGetSignalHandler()->forgetObserver(this);
     // A view may hold the client longer than we live; its handlers are ours.
     m_client->cancel();
-    m_queue.giveUp();
     if (g_current == this) {
         g_current = nullptr;
     }

@@ -21,61 +21,60 @@ constexpr std::int32_t kMayCancel = 1;
 constexpr std::int32_t kDeferred = -1;
 constexpr std::int32_t kNoDelay = 0;
 
-constexpr std::int32_t kRetryDelay = 200; // milliseconds
-
-// The progress indicator runs the event loop while a payload is put together. There is one payload folder, so
-// no queue may start a second one in there, nor take the files away.
-bool g_preparing = false;
-
 } // namespace
 
 UploadQueue::UploadQueue(OAuth2Client& client, TrackListComponent& tracks, xbr::IObserver& owner)
     : m_client(client),
       m_tracks(tracks),
-      m_owner(owner) {}
+      m_owner(owner),
+      m_lease([&owner] { xbr::post(owner, "uploadNext", kDeferred); }) {}
+
+UploadQueue::~UploadQueue() {
+    if (m_lease.isHeld()) {
+        cleanupPayload(); // of a transfer whose reply has nobody to come to
+    }
+}
 
 void UploadQueue::restart() {
-    if (g_preparing) {
+    if (m_lease.isHeld()) {
         return;
     }
     m_currentTrackIndex = 0;
+    m_mode = m_tracks.mode();
     startUpload();
 }
 
-void UploadQueue::giveUp() {
-    if (m_tracks.currentUploadItem() && !g_preparing) {
-        cleanupPayload();
-    }
-}
-
 void UploadQueue::startUpload() {
-    if (!m_client.isReady() || m_tracks.currentUploadItem()) {
+    // Another mode than the one in which the user pressed "upload": what is done as singles would go again
+    // with an album, and nobody asked for that.
+    const bool isAsked = m_tracks.mode() == m_mode;
+    if (!m_client.isReady() || !isAsked || m_lease.isHeld() || !m_lease.take()) {
         return;
     }
-    if (g_preparing) {
-        xbr::post(m_owner, "uploadNext", kRetryDelay); // another panel's payload is in the making
-        return;
+    const Transfer transfer = select();
+    if (!transfer.tracks.empty()) {
+        prepareAndSend(transfer);
     }
-    if (const Selection selection = select(); !selection.tracks.empty()) {
-        prepareAndSend(selection);
+    if (!m_transfer) {
+        m_lease.giveBack();
     }
 }
 
-UploadQueue::Selection UploadQueue::select() {
-    Selection selection;
-    selection.mode = m_tracks.mode();
-    if (selection.mode == UploadMode::kSingles) {
+UploadQueue::Transfer UploadQueue::select() {
+    Transfer transfer;
+    transfer.mode = m_tracks.mode();
+    if (transfer.mode == UploadMode::kSingles) {
         if (TrackItem* track = chooseTrack()) {
-            selection.tracks.push_back(xbr::Ref<TrackItem>::share(track));
+            transfer.tracks.push_back(xbr::Ref<TrackItem>::share(track));
         }
-        return selection;
+        return transfer;
     }
     bool anyWaiting = false;
     forEachTrack(m_tracks.model(), [&](TrackItem& track) {
         anyWaiting = anyWaiting || track.state == TrackUploadState::kNone;
-        selection.tracks.push_back(xbr::Ref<TrackItem>::share(&track));
+        transfer.tracks.push_back(xbr::Ref<TrackItem>::share(&track));
     });
-    return anyWaiting ? selection : Selection{};
+    return anyWaiting ? transfer : Transfer{};
 }
 
 TrackItem* UploadQueue::chooseTrack() {
@@ -100,56 +99,62 @@ TrackItem* UploadQueue::chooseTrack() {
     return track.state == TrackUploadState::kDone ? nullptr : &track;
 }
 
-xbr::Ref<IngestionRequest> UploadQueue::build(const Selection& selection, xbr::IProgress& progress) const {
+xbr::Ref<IngestionRequest> UploadQueue::build(const Transfer& transfer, xbr::IProgress& progress) const {
     const std::string& clientId = m_client.configuration().consumerKey;
-    if (selection.mode == UploadMode::kSingles) {
-        const TrackItem& track = *selection.tracks.front();
-        return buildTrackPayload(*track.metadata, track.file, clientId, progress);
-    }
+    // Copies: who edits a track while the payload is put together must not get a release that mixes both.
     std::vector<xbr::Ref<TrackMetadata>> records;
     std::vector<xbr::Url> files;
-    for (const auto& track : selection.tracks) {
-        records.push_back(track->metadata);
+    for (const auto& track : transfer.tracks) {
+        records.push_back(xbr::make<TrackMetadata>(track->metadata->fields()));
         files.push_back(track->file);
     }
-    return buildAlbumPayload(records, files, clientId, progress);
+    return transfer.mode == UploadMode::kAlbum
+               ? buildAlbumPayload(records, files, clientId, progress)
+               : buildTrackPayload(*records.front(), files.front(), clientId, progress);
 }
 
-void UploadQueue::prepareAndSend(const Selection& selection) {
+void UploadQueue::prepareAndSend(const Transfer& transfer) {
     const auto indicator = xbr::createHostObject<xbr::IProgressIndicator>();
     const auto progress = xbr::query<xbr::IProgress>(indicator.get());
-    if (!progress) {
+    if (!progress || !clearPlace()) {
         return;
     }
-    g_preparing = true;
     const std::string title = xbr::translate("Preparing Brindlex Upload");
     indicator->setTitle(xbr::toText(title));
     indicator->setOption(kMayCancel);
     indicator->begin();
-    const auto request = build(selection, *progress);
-    g_preparing = false;
-    if (progress->isCancelled() || !isStillWanted(selection)) {
+    const auto request = build(transfer, *progress);
+    const bool isWanted = request && !progress->isCancelled() && isStillWanted(transfer);
+    if (isWanted &&
+        m_client.sendAuthorizedRequest(
+            [this](const auto& message, auto& sent) { onUploadEvent(message, sent); }, *request)) {
+        markSent(transfer);
+    } else {
         cleanupPayload();
-    } else if (request &&
-               m_client.sendAuthorizedRequest(
-                   [this](const auto& message, auto& sent) { onUploadEvent(message, sent); }, *request)) {
-        markSent(selection);
     }
     indicator->end();
 }
 
-bool UploadQueue::isStillWanted(const Selection& selection) const {
+bool UploadQueue::clearPlace() {
+    if (isPayloadOnDisk()) {
+        cleanupPayload(); // of a transfer that was aborted
+    }
+    return !isPayloadOnDisk();
+}
+
+bool UploadQueue::isStillWanted(const Transfer& transfer) const {
     std::unordered_set<const TrackItem*> listed;
     forEachTrack(m_tracks.model(), [&](const TrackItem& track) { listed.insert(&track); });
-    return m_tracks.mode() == selection.mode &&
-           std::all_of(selection.tracks.begin(), selection.tracks.end(),
+    return m_tracks.mode() == transfer.mode &&
+           std::all_of(transfer.tracks.begin(), transfer.tracks.end(),
                        [&](const auto& track) { return listed.contains(track.get()); });
 }
 
-void UploadQueue::markSent(const Selection& selection) {
-    for (const auto& track : selection.tracks) {
+void UploadQueue::markSent(const Transfer& transfer) {
+    m_transfer = transfer;
+    for (const auto& track : transfer.tracks) {
         m_tracks.setCurrentUploadItem(track.get());
-        m_tracks.updateRemoveAllEnabled();
+        m_tracks.updateEnabled();
     }
     m_tracks.validateForUpload(Marks::kClear);
 }
@@ -167,68 +172,56 @@ void UploadQueue::onUploadEvent(const xbr::IMessage& message, xbr::IWebRequest& 
 
 void UploadQueue::onLoadEnd(xbr::IWebRequest& request) {
     const TrackUploadState outcome = judgeReply(request);
-    if (isAlbum()) {
-        judgeAlbum(outcome);
-    } else {
-        judgeTrack(outcome);
-    }
-    if (xbr::isUnauthorized(request)) {
-        xbr::post(m_owner, "refreshAccessToken", kNoDelay);
-    }
-    if (!g_preparing) {
-        cleanupPayload();
-    }
-}
-
-void UploadQueue::judgeAlbum(TrackUploadState outcome) {
-    const bool missing = outcome == TrackUploadState::kMissingInformation;
-    forEachTrack(m_tracks.model(), [&](TrackItem& track) {
-        // A complete track of a rejected album goes again with the rest once they are complete.
-        track.state = missing && track.metadata->isComplete() ? TrackUploadState::kNone : outcome;
-    });
-    if (missing) {
-        m_tracks.validateForUpload(Marks::kSet);
-    }
-    m_tracks.setCurrentUploadItem(nullptr);
-}
-
-void UploadQueue::judgeTrack(TrackUploadState outcome) {
-    if (TrackItem* track = m_tracks.currentUploadItem()) {
-        // Unlike in an album, a single that the service found incomplete is shown so even when all we ask for
-        // is there: it went alone, so there is no other track the answer could mean.
-        track->state = outcome;
+    const UploadMode mode = m_transfer->mode;
+    for (const auto& track : m_transfer->tracks) {
+        track->state = stateAfter(outcome, *track);
     }
     if (outcome == TrackUploadState::kMissingInformation) {
         m_tracks.validateForUpload(Marks::kSet);
     }
     m_tracks.setCurrentUploadItem(nullptr);
-    if (countTracks(m_tracks.model()) != 1) {
+    if (mode == UploadMode::kSingles && countTracks(m_tracks.model()) != 1) {
         xbr::post(m_owner, "uploadNext", kDeferred);
     }
+    if (xbr::isUnauthorized(request)) {
+        xbr::post(m_owner, "refreshAccessToken", kNoDelay);
+    }
+    cleanupPayload();
+    endTransfer();
+}
+
+TrackUploadState UploadQueue::stateAfter(TrackUploadState outcome, const TrackItem& track) const {
+    // A complete track of a rejected album goes again with the rest once they are complete. A single that the
+    // service found incomplete is shown so even when all we ask for is there: it went alone, so there is no
+    // other track the answer could mean.
+    const bool goesAgain = m_transfer->mode == UploadMode::kAlbum &&
+                           outcome == TrackUploadState::kMissingInformation && track.metadata->isComplete();
+    return goesAgain ? TrackUploadState::kNone : outcome;
 }
 
 void UploadQueue::onProgress(double progress) {
-    const TrackItem* current = m_tracks.currentUploadItem();
-    if (!current) {
-        return;
+    for (const auto& track : m_transfer->tracks) {
+        track->progress = progress;
     }
     auto& model = m_tracks.model();
     for (std::size_t i = 0; i < countTracks(model); ++i) {
-        TrackItem& track = trackAt(model, i);
-        if (isAlbum() || &track == current) {
-            track.progress = progress;
+        if (trackAt(model, i).uploading) {
             model.signalItemChanged(static_cast<std::int32_t>(i));
         }
     }
 }
 
 void UploadQueue::onAbort() {
-    if (isAlbum()) {
-        forEachTrack(m_tracks.model(), [](TrackItem& track) { track.state = TrackUploadState::kFailed; });
-    } else if (TrackItem* track = m_tracks.currentUploadItem()) {
+    for (const auto& track : m_transfer->tracks) {
         track->state = TrackUploadState::kFailed;
     }
     m_tracks.setCurrentUploadItem(nullptr);
+    endTransfer(); // the files stay until the next payload is built
+}
+
+void UploadQueue::endTransfer() {
+    m_transfer.reset();
+    m_lease.giveBack();
 }
 
 } // namespace brindlex

@@ -79,6 +79,12 @@ xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress) {
     return request;
 }
 
+bool isPayloadOnDisk() {
+    const std::string archive = getPayloadArchive().toString();
+    return XBRGetFileSystem()->fileExists(xbr::toText(archive)) ||
+           XBRGetFileSystem()->folderExists(xbr::toText(getPayloadFolder().toString()));
+}
+
 void cleanupPayload() {
     const std::string archive = getPayloadArchive().toString();
     if (XBRGetFileSystem()->fileExists(xbr::toText(archive))) {

@@ -21,6 +21,9 @@ xbr::Url getPayloadArchive();
 /// `cleanupPayload`.
 xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress);
 
+/// True while a payload folder or an archive is there: a build would mix its files with the new ones.
+bool isPayloadOnDisk();
+
 /// Removes the payload folder and the archive; harmless when there are none.
 void cleanupPayload();
 

@@ -16,7 +16,8 @@ xbr::Ref<xbr::IStream> openAudio(const xbr::Url& file) {
 }
 
 void copyAudio(const xbr::Url& file) {
-    // A copy that fails is not an error of its own: the archive then lacks the file, and the service says so.
+    // A copy that fails is no error of its own here: the host does not pack a folder into which a copy
+    // failed, so there is no archive and no request.
     const std::string copy = getPayloadFolder().join("assets").join(file.fileName()).toString();
     XBRGetFileSystem()->copyFile(xbr::toText(file.toString()), xbr::toText(copy));
 }

@@ -8,7 +8,7 @@
 namespace brindlex {
 
 /// What is known about one track and the release it belongs to.
-struct TrackMetadata final : public xbr::RefCounted {
+struct TrackFields {
     // Release
     std::string albumTitle;
     std::string albumArtist;
@@ -37,6 +37,13 @@ struct TrackMetadata final : public xbr::RefCounted {
         return !albumTitle.empty() && !albumArtist.empty() && !primaryGenre.empty() && !songTitle.empty() &&
                !songArtist.empty();
     }
+};
+
+/// The fields of a track in the list, as its editor and its upload share them.
+struct TrackMetadata final : public xbr::RefCounted, public TrackFields {
+    TrackMetadata() = default;
+    explicit TrackMetadata(const TrackFields& fields) : TrackFields(fields) {}
+    const TrackFields& fields() const { return *this; }
 };
 
 } // namespace brindlex

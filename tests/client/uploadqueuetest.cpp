@@ -17,6 +17,30 @@ protected:
         signIn();
         host().web.sent.clear();
     }
+
+    /// A list of tracks titled by one letter each, and nothing sent yet.
+    void startWith(UploadMode mode, std::string_view titles) {
+        signIn();
+        manager->trackList().removeAll();
+        manager->trackList().prepareMode(mode);
+        for (const char title : titles) {
+            addTrack(std::string(1, title));
+        }
+        host().web.sent.clear();
+        host().files.onCopy = nullptr;
+    }
+
+    /// Titles of the songs whose audio is in the last request.
+    static std::vector<std::string> sentAudio() {
+        std::vector<std::string> titles;
+        const std::string body = host().web.sent.empty() ? "" : host().web.sent.back().body;
+        for (auto at = body.find("assets/"); at != std::string::npos; at = body.find("assets/", at + 1)) {
+            const std::string title = body.substr(at + 7, body.find('.', at) - at - 7);
+            EXPECT_THAT(body, testing::HasSubstr("assets/" + title + ".wav=audio of " + title + ";"));
+            titles.push_back(title);
+        }
+        return titles;
+    }
 };
 
 TEST_F(UploadQueueTest, SendsSinglesOneAfterTheOther) {
@@ -115,44 +139,92 @@ TEST_F(UploadQueueTest, JudgesTheReply) {
     }
 }
 
-TEST_F(UploadQueueTest, CancelledPreparationSendsNothing) {
-    addTrack("a");
-    host().objects.cancelled = true;
-    perform("upload");
-    EXPECT_TRUE(host().web.sent.empty());
-    EXPECT_THAT(states(), ElementsAre(0));
-    EXPECT_EQ(leftovers(), 0);
-    EXPECT_THAT(host().objects.log, testing::IsSupersetOf({"title Preparing Brindlex Upload", "option 1"}));
-    EXPECT_EQ(host().objects.log.back(), "end");
+/// However an upload ends, nothing of it is in the next release.
+TEST_F(UploadQueueTest, WhatIsNotSentLeavesNothingForTheNextRelease) {
+    struct Case {
+        const char* name;
+        std::function<void()> fault;
+        std::function<void()> inTransfer; ///< none: nothing is sent
+    };
+    const Case cases[] = {
+        {"file vanished", [&] { host().files.files.erase("file:///music/c.wav"); }, {}},
+        {"copy failed",
+         [&] {
+             host().files.files["file:///tmp/host/Brindlex/payload/assets/c.wav"] = "old audio";
+             host().files.uncopyable = {"file:///music/c.wav"};
+         },
+         {}},
+        {"archive not created", [&] { host().packages.failsToCreate = true; }, {}},
+        {"archive not written", [&] { host().packages.failsToFlush = true; }, {}},
+        {"not started", [&] { host().web.refusesRequests = true; }, {}},
+        {"cancelled", [&] { host().objects.cancelled = true; }, {}},
+        {"aborted", [] {}, [] { host().web.abortInFlight(); }},
+        {"signed out", [] {}, [&] { manager->client().resetAuthorization(Silence::kTold); }},
+    };
+    for (const auto mode : {UploadMode::kAlbum, UploadMode::kSingles}) {
+        for (const auto& [name, fault, inTransfer] : cases) {
+            SCOPED_TRACE(name);
+            const bool isAlbum = mode == UploadMode::kAlbum;
+            startWith(mode, isAlbum ? "abc" : "c");
+            fault();
+            perform("upload");
+            if (inTransfer) {
+                inTransfer();
+                host().signals.pump();
+            } else {
+                EXPECT_TRUE(host().web.sent.empty());
+                EXPECT_EQ(leftovers(), 0);
+            }
+            EXPECT_THAT(states(), testing::Each(inTransfer ? 2 : 0));
+            EXPECT_EQ(manager->trackList().currentUploadItem(), nullptr);
+            host().files.uncopyable.clear();
+            host().packages.failsToCreate = host().packages.failsToFlush = false;
+            host().web.refusesRequests = host().objects.cancelled = false;
+            startWith(UploadMode::kSingles, "n");
+            perform("upload");
+            EXPECT_THAT(sentAudio(), ElementsAre("n"));
+            host().web.answer(200);
+            EXPECT_EQ(leftovers(), 0);
+        }
+    }
 }
 
-TEST_F(UploadQueueTest, FileThatVanishedLeavesEverythingAsItWas) {
-    addTrack("a");
-    host().files.files.erase("file:///music/a.wav");
+TEST_F(UploadQueueTest, AnOldPayloadThatCannotBeRemovedIsNotMixedIn) {
+    startWith(UploadMode::kSingles, "a");
+    host().files.files["file:///tmp/host/Brindlex/payload/assets/old.wav"] = "old audio";
+    host().files.unremovable = {"file:///tmp/host/Brindlex/payload"};
     perform("upload");
     EXPECT_TRUE(host().web.sent.empty());
-    EXPECT_THAT(states(), ElementsAre(0));
-    EXPECT_TRUE(isEnabled("upload"));
+    host().files.unremovable.clear();
+    perform("upload");
+    EXPECT_THAT(sentAudio(), ElementsAre("a"));
+}
+
+TEST_F(UploadQueueTest, IndicatorIsShownWhilePreparing) {
+    startWith(UploadMode::kSingles, "a");
+    host().objects.log.clear();
+    perform("upload");
+    EXPECT_THAT(host().objects.log,
+                ElementsAre("title Preparing Brindlex Upload", "option 1", "begin", "end"));
 }
 
 TEST_F(UploadQueueTest, NothingDoneWhilePreparingDoesHarm) {
     struct Case {
+        const char* name;
         std::function<void()> action;
         std::size_t sent;
     };
     const Case cases[] = {
-        {[&] { perform("upload"); }, 1},
-        {[&] { manager->trackList().removeAll(); }, 0},
-        {[&] { manager->trackList().prepareMode(UploadMode::kAlbum); }, 0},
-        {[&] { manager->client().resetAuthorization(Silence::kTold); }, 0},
-        {[&] { manager.reset(); }, 1}, // sent, and ended with the panel before a byte goes out
+        {"upload", [&] { perform("upload"); }, 1},
+        {"edited", [&] { trackAt(manager->trackList().model(), 0).metadata->songTitle = "other"; }, 1},
+        {"removed", [&] { manager->trackList().removeAll(); }, 0},
+        {"mode", [&] { manager->trackList().prepareMode(UploadMode::kAlbum); }, 0},
+        {"signed out", [&] { manager->client().resetAuthorization(Silence::kTold); }, 0},
+        {"panel closed", [&] { manager.reset(); }, 1}, // sent, and ended before a byte goes out
     };
-    for (const auto& [action, sent] : cases) {
-        signIn();
-        manager->trackList().removeAll();
-        manager->trackList().prepareMode(UploadMode::kSingles);
-        addTrack("a");
-        host().web.sent.clear();
+    for (const auto& [name, action, sent] : cases) {
+        SCOPED_TRACE(name);
+        startWith(UploadMode::kSingles, "a");
         host().objects.onProgressUpdate = [&] {
             const auto once = std::exchange(host().objects.onProgressUpdate, nullptr); // this very function
             action();
@@ -160,25 +232,130 @@ TEST_F(UploadQueueTest, NothingDoneWhilePreparingDoesHarm) {
         perform("upload");
         EXPECT_EQ(host().web.sent.size(), sent);
         if (host().web.isInFlight()) {
+            EXPECT_THAT(host().web.sent[0].body, testing::HasSubstr(R"("title":"a")"));
             host().web.answer(200);
             EXPECT_THAT(states(), ElementsAre(1));
         }
         host().signals.pump();
+        EXPECT_EQ(leftovers(), 0);
     }
     EXPECT_EQ(Manager::current(), nullptr);
     EXPECT_FALSE(host().web.isInFlight());
-    EXPECT_EQ(leftovers(), 0);
 }
 
-TEST_F(UploadQueueTest, SigningOutInTheMiddleFailsTheTransfer) {
-    addTrack("a");
-    addTrack("b");
+/// A release is not mixed of what a track was before and after an edit.
+TEST_F(UploadQueueTest, AnAlbumIsSentAsItWasWhenUploadWasPressed) {
+    startWith(UploadMode::kAlbum, "ab");
+    host().files.onCopy = [&] {
+        forEachTrack(manager->trackList().model(), [](TrackItem& track) {
+            track.metadata->songArtist = "edited";
+            track.metadata->albumTitle = "edited";
+        });
+    };
     perform("upload");
-    manager->client().resetAuthorization(Silence::kTold);
-    host().signals.pump();
-    EXPECT_THAT(states(), ElementsAre(2, 0));
-    EXPECT_EQ(manager->trackList().currentUploadItem(), nullptr);
-    EXPECT_EQ(host().web.sent.size(), 1U) << "an aborted transfer is not followed by the next";
+    ASSERT_EQ(host().web.sent.size(), 1U);
+    EXPECT_THAT(host().web.sent[0].body, testing::Not(testing::HasSubstr("edited")));
+}
+
+TEST_F(UploadQueueTest, TheReplyIsJudgedByWhatWasSent) {
+    auto& list = manager->trackList();
+    struct Case {
+        const char* name;
+        std::function<void()> change;
+        std::vector<int> states;       ///< after the reply
+        std::vector<const char*> next; ///< what goes by itself afterwards
+    };
+    const auto publish = [&] {
+        list.removeAll();
+        list.prepareMode(UploadMode::kAlbum);
+        addTrack("x");
+        addTrack("y");
+    };
+    const std::pair<UploadMode, std::vector<Case>> groups[] = {
+        {UploadMode::kAlbum,
+         {{"added", [&] { addTrack("x", false); }, {1, 1, 0}, {}},
+          {"removed", [&] { list.model().remove(0); }, {1}, {}},
+          {"singles", [&] { list.prepareMode(UploadMode::kSingles); }, {1, 1}, {}},
+          {"published", publish, {0, 0}, {}}}},
+        {UploadMode::kSingles,
+         {{"added", [&] { addTrack("x"); }, {1, 1, 1}, {"b", "x"}},
+          {"removed", [&] { list.model().remove(0); }, {0}, {}},
+          {"album", [&] { list.prepareMode(UploadMode::kAlbum); }, {1, 0}, {}},
+          {"published", publish, {0, 0}, {}}}},
+    };
+    for (const auto& [mode, cases] : groups) {
+        for (const auto& [name, change, after, next] : cases) {
+            SCOPED_TRACE(name);
+            startWith(mode, "ab");
+            perform("upload");
+            change();
+            host().web.sent.clear();
+            host().web.progress(xbr::floatValue(0.5));
+            host().web.answer(200);
+            std::vector<std::string> sent;
+            while (host().web.isInFlight()) {
+                sent.push_back(sentAudio().front());
+                host().web.sent.clear();
+                host().web.answer(200);
+            }
+            EXPECT_THAT(states(), testing::ElementsAreArray(after));
+            EXPECT_THAT(sent, testing::ElementsAreArray(next));
+            forEachTrack(list.model(), [](const TrackItem& track) { EXPECT_FALSE(track.uploading); });
+        }
+    }
+}
+
+TEST_F(UploadQueueTest, TracksThatCameLaterAreNeitherMarkedNorInProgress) {
+    startWith(UploadMode::kAlbum, "ab");
+    perform("upload");
+    TrackItem& late = addTrack("x", false);
+    host().web.progress(xbr::floatValue(0.5));
+    EXPECT_EQ(late.progress, 0.0);
+    late.metadata->songArtist.clear();
+    host().web.answer(422, kMissing);
+    EXPECT_FALSE(late.metadata->songArtistMissing);
+    EXPECT_EQ(late.state, TrackUploadState::kNone);
+}
+
+TEST_F(UploadQueueTest, ASecondPanelWaitsForItsTurn) {
+    const std::pair<const char*, std::function<void(xbr::Ref<Manager>&)>> ends[] = {
+        {"answered", [](auto&) { host().web.answer(200); }},
+        {"aborted", [](auto&) { host().web.abortInFlight(); }},
+        {"closed", [](auto& first) { first.reset(); }},
+    };
+    for (const bool isPreparing : {true, false}) {
+        for (const auto& [name, end] : ends) {
+            SCOPED_TRACE(name);
+            manager = xbr::make<Manager>();
+            startWith(UploadMode::kSingles, "a");
+            auto first = std::exchange(manager, xbr::make<Manager>());
+            startWith(UploadMode::kSingles, "b");
+            const auto pressSecond = [&] {
+                host().objects.onProgressUpdate = nullptr;
+                perform("upload");
+                perform("upload");
+            };
+            if (isPreparing) {
+                host().objects.onProgressUpdate = [pressSecond] {
+                    const auto press = pressSecond; // which replaces this very function
+                    press();
+                };
+            }
+            first->findParameter(xbr::toText("upload"))->setValue(xbr::integerValue(1));
+            if (!isPreparing) {
+                pressSecond();
+            }
+            EXPECT_THAT(sentAudio(), ElementsAre("a"));
+            EXPECT_EQ(host().web.sent.size(), 1U);
+            end(first);
+            host().signals.pump();
+            EXPECT_EQ(host().web.sent.size(), 2U);
+            EXPECT_THAT(sentAudio(), ElementsAre("b"));
+            host().web.answer(200);
+            EXPECT_THAT(states(), ElementsAre(1));
+            EXPECT_EQ(leftovers(), 0);
+        }
+    }
 }
 
 TEST_F(UploadQueueTest, UnloadingInTheMiddleIsSilent) {

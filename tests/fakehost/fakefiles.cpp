@@ -4,6 +4,8 @@
 #include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
 
+#include <algorithm>
+
 namespace fakehost {
 
 namespace {
@@ -70,6 +72,9 @@ public:
     }
     xbr::Result addFolder(xbr::Text folder, std::int32_t, xbr::IProgress* progress) noexcept override {
         const std::string prefix = xbr::toString(folder) + "/";
+        const auto& incomplete = host().files.incomplete;
+        m_isRefused = std::any_of(incomplete.begin(), incomplete.end(),
+                                  [&](const auto& url) { return url.starts_with(prefix); });
         for (const auto& [url, bytes] : host().files.files) {
             if (url.starts_with(prefix)) {
                 m_listing += url.substr(prefix.size()) + "=" + bytes + ";";
@@ -79,7 +84,7 @@ public:
         return xbr::kOk;
     }
     xbr::Result flush(xbr::IProgress*) noexcept override {
-        if (host().packages.failsToFlush) {
+        if (host().packages.failsToFlush || m_isRefused) {
             return xbr::kUnexpected;
         }
         host().files.files[m_url] = m_listing;
@@ -90,6 +95,7 @@ public:
 private:
     std::string m_url;
     std::string m_listing;
+    bool m_isRefused = false;
 };
 
 } // namespace
@@ -108,9 +114,14 @@ xbr::Result FakeFileSystem::createFile(xbr::Text url, xbr::IStream** out) noexce
 }
 
 xbr::Result FakeFileSystem::copyFile(xbr::Text from, xbr::Text to) noexcept {
-    if (!fileExists(from)) {
+    if (!fileExists(from) || uncopyable.contains(xbr::toString(from))) {
+        incomplete.insert(xbr::toString(to));
         return xbr::kUnexpected;
     }
+    if (onCopy) {
+        onCopy();
+    }
+    incomplete.erase(xbr::toString(to));
     files[xbr::toString(to)] = files[xbr::toString(from)];
     return xbr::kOk;
 }
@@ -130,7 +141,11 @@ xbr::Result FakeFileSystem::removeFile(xbr::Text url) noexcept {
 }
 
 xbr::Result FakeFileSystem::removeFolder(xbr::Text url) noexcept {
+    if (unremovable.contains(xbr::toString(url))) {
+        return xbr::kUnexpected;
+    }
     const std::string prefix = xbr::toString(url) + "/";
+    std::erase_if(incomplete, [&](const auto& file) { return file.starts_with(prefix); });
     return std::erase_if(files, [&](const auto& file) { return file.first.starts_with(prefix); }) > 0
                ? xbr::kOk
                : xbr::kFalse;

@@ -5,6 +5,7 @@
 #include "framework/abi/package.h"
 #include "framework/support/objects/object.h"
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -31,7 +32,11 @@ public:
     std::map<std::string, std::string> files;
     std::map<std::string, std::int64_t> modified; ///< of files that were replaced
     bool hasCacheFolder = true;
-    std::set<std::string> unreadable; ///< files that exist and cannot be opened
+    std::set<std::string> unreadable;  ///< files that exist and cannot be opened
+    std::set<std::string> uncopyable;  ///< files that cannot be copied; what was there before stays
+    std::set<std::string> unremovable; ///< folders that stay
+    std::function<void()> onCopy;      ///< what happens while a file is copied
+    std::set<std::string> incomplete;  ///< files that did not come about whole: their folder is not packed
 };
 
 /// Writes "archives" that list what was packed, one "name=bytes;" each.

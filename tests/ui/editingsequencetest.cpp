@@ -114,7 +114,9 @@ protected:
     void validateSome() {
         const auto row = static_cast<std::size_t>(upTo(rows() - 1));
         const bool set = upTo(3) > 0;
-        list->setCurrentUploadItem(&track(row));
+        if (list->mode() == UploadMode::kSingles) {
+            list->setCurrentUploadItem(&track(row));
+        }
         list->validateForUpload(set ? Marks::kSet : Marks::kClear);
         list->setCurrentUploadItem(nullptr);
         m_model.validate(m_model.tracks[row], set);

@@ -94,12 +94,14 @@ TEST_F(TrackListTest, TracksInTransferCannotBeRemoved) {
     EXPECT_TRUE(isRemoveAllEnabled());
     list->setCurrentUploadItem(&track(0));
     EXPECT_FALSE(isRemoveAllEnabled());
+    EXPECT_FALSE(list->findParameter(xbr::toText("albumUpload"))->isEnabled());
     EXPECT_FALSE(list->model().isEditable(0));
     list->model().setFocus(0);
     EXPECT_EQ(list->model().removeFocused(), xbr::kFalse);
     list->setCurrentUploadItem(&track(1));
     EXPECT_FALSE(track(0).uploading) << "singles: one at a time";
     list->setCurrentUploadItem(nullptr);
+    EXPECT_TRUE(list->findParameter(xbr::toText("albumUpload"))->isEnabled());
     EXPECT_EQ(list->model().removeFocused(), xbr::kOk);
     EXPECT_EQ(cell(0, 0), "b");
     list->findParameter(xbr::toText("removeAll"))->setValue(xbr::integerValue(1));

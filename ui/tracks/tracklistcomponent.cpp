@@ -86,51 +86,38 @@ void TrackListComponent::signalTracksChanged() {
 }
 
 void TrackListComponent::setCurrentUploadItem(TrackItem* item) {
-    const auto kept = xbr::Ref<TrackItem>::share(item);
-    if (mode() == UploadMode::kAlbum) {
-        markAlbum(item);
-    } else {
-        markSingle(item);
+    auto kept = xbr::Ref<TrackItem>::share(item);
+    if (m_uploading.empty()) {
+        m_uploadMode = mode();
+    }
+    // All tracks of an album travel together: a track that gives way to the next one is still on its way, so
+    // it keeps its mark until the transfer ends. The list may not hold it any more then.
+    if (!item || m_uploadMode == UploadMode::kSingles) {
+        for (const auto& track : std::exchange(m_uploading, {})) {
+            track->uploading = false;
+        }
+    }
+    if (item) {
+        item->uploading = true;
+        m_uploading.push_back(std::move(kept));
     }
     signalTracksChanged();
-    updateRemoveAllEnabled();
-}
-
-void TrackListComponent::markAlbum(TrackItem* item) {
-    // All tracks of an album travel together: a track that gives way to the next one is still on its way, so
-    // it keeps its mark until the transfer ends.
-    if (!item && m_current) {
-        m_current->uploading = false; // also when it is not listed any more
-    }
-    m_current = xbr::Ref<TrackItem>::share(item);
-    if (item) {
-        item->uploading = true;
-    } else {
-        forEachTrack(*m_model, [](TrackItem& track) { track.uploading = false; });
-    }
-}
-
-void TrackListComponent::markSingle(TrackItem* item) {
-    if (m_current) {
-        m_current->uploading = false;
-    }
-    m_current = xbr::Ref<TrackItem>::share(item);
-    if (item) {
-        item->uploading = true;
-    }
+    updateEnabled();
 }
 
 void TrackListComponent::validateForUpload(Marks marks) {
+    const bool isWholeAlbum = m_uploading.empty() && mode() == UploadMode::kAlbum;
     for (std::size_t i = 0; i < countTracks(*m_model); ++i) {
-        if (mode() == UploadMode::kAlbum || &trackAt(*m_model, i) == m_current.get()) {
+        if (isWholeAlbum || trackAt(*m_model, i).uploading) {
             m_editor->validateItem(marks, i);
         }
     }
     reloadEditor();
 }
 
-void TrackListComponent::updateRemoveAllEnabled() {
-    parameter(kRemoveAll)->setEnabled(countTracks(*m_model) > 0 && !m_current);
+void TrackListComponent::updateEnabled() {
+    parameter(kRemoveAll)->setEnabled(countTracks(*m_model) > 0 && m_uploading.empty());
+    parameter(kAlbumUpload)->setEnabled(m_uploading.empty());
 }
 
 void TrackListComponent::setUploadMode(UploadMode mode) {
@@ -150,7 +137,7 @@ void TrackListComponent::notify(xbr::ISubject* subject, xbr::IMessage* message) 
     } else if (xbr::isNamed(*message, "selectionChanged")) {
         reloadEditor();
     } else if (xbr::isNamed(*message, "changed")) {
-        updateRemoveAllEnabled();
+        updateEnabled();
         signalChanged();
     }
 }

@@ -33,21 +33,22 @@ public:
     void removeAll();
 
     /// The track that is being transferred; null for none. Borrowed.
-    TrackItem* currentUploadItem() const { return m_current.get(); }
+    TrackItem* currentUploadItem() const { return m_uploading.empty() ? nullptr : m_uploading.back().get(); }
 
     /// Marks a track as being transferred, or the transfer as ended (null). In album mode the tracks marked
-    /// before stay marked until the end.
+    /// before stay marked until the end; the mode is the one in which the transfer's first track was marked.
     void setCurrentUploadItem(TrackItem* item);
 
-    /// Clears the missing marks when a transfer starts, or sets them when the service missed something: in
-    /// album mode for every track, in singles mode for the current upload item.
+    /// Clears the missing marks when a transfer starts, or sets them when the service missed something: for
+    /// the tracks that are being transferred; while there are none, for every track in album mode.
     void validateForUpload(Marks marks);
 
     /// Tells views and observers that states or progress of the tracks changed.
     void signalTracksChanged();
 
-    /// "removeAll" is enabled while there are tracks and none is being transferred.
-    void updateRemoveAllEnabled();
+    /// "removeAll" is enabled while there are tracks and none is being transferred, "albumUpload" while none
+    /// is.
+    void updateEnabled();
 
     void notify(xbr::ISubject* subject, xbr::IMessage* message) noexcept override;
 
@@ -67,14 +68,13 @@ private:
 
     xbr::Ref<TrackItem> makeItem(xbr::IObject& object) const;
     void insert(const xbr::Ref<TrackItem>& item);
-    void markAlbum(TrackItem* item);
-    void markSingle(TrackItem* item);
     void setUploadMode(UploadMode mode);
     void reloadEditor();
 
     xbr::Ref<xbr::ListViewModel> m_model;
     xbr::Ref<TrackPropertyComponent> m_editor;
-    xbr::Ref<TrackItem> m_current;
+    std::vector<xbr::Ref<TrackItem>> m_uploading;   ///< the tracks that are being transferred
+    UploadMode m_uploadMode = UploadMode::kSingles; ///< of that transfer
     std::vector<std::string> m_columnTitles;
 };
 
