@@ -101,7 +101,7 @@ void tellTracks(const PublishOutcome& outcome) {
     }
 }
 
-ExitCode runSession(HeadlessHost& host, ReleasePlan plan) {
+ExitCode runSession(HeadlessHost& host, ReleaseWish plan) {
     ConsoleContext& context = host.context();
     QEventLoop loop;
     PublishView view(*context.output, loop);
@@ -132,7 +132,7 @@ void tellMissing(const ReleaseDraft& release, std::size_t index) {
 }
 
 /// Shows what the module would send of the songs that it took.
-ExitCode showDrafts(HeadlessHost& host, const ReleasePlan& plan, const ReleaseIntake& intake) {
+ExitCode showDrafts(HeadlessHost& host, const ReleaseWish& plan, const ReleaseIntake& intake) {
     const auto releases = readDrafts(host.panel(), intake, plan.mode);
     bool isComplete = true;
     for (std::size_t i = 0; i < releases.size(); ++i) {
@@ -146,7 +146,7 @@ ExitCode showDrafts(HeadlessHost& host, const ReleasePlan& plan, const ReleaseIn
     return isComplete ? ExitCode::kDone : ExitCode::kInformationMissing;
 }
 
-ExitCode runDry(HeadlessHost& host, const ReleasePlan& plan) {
+ExitCode runDry(HeadlessHost& host, const ReleaseWish& plan) {
     ReleaseIntake intake(host.panel(), Rendering::kPretend);
     const ReleaseIntake::Outcome outcome = intake.take(plan);
     if (outcome.result == PublishResult::kDone) {
@@ -161,7 +161,7 @@ ExitCode runDry(HeadlessHost& host, const ReleasePlan& plan) {
 } // namespace
 
 ExitCode runPublish(const CommandLine& commandLine) {
-    ReleasePlan plan = commandLine.publish.plan;
+    ReleaseWish plan = commandLine.publish.plan;
     const std::string& releaseFile = commandLine.publish.releaseFile;
     const bool isDryRun = commandLine.publish.isDryRun;
     HeadlessHost host(commandLine, isDryRun ? Dialogs::kNone : Dialogs::kOffered);

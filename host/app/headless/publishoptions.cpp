@@ -10,19 +10,19 @@ namespace {
 
 struct ReleaseOption {
     const char* name;
-    std::string ReleasePlan::*field;
+    std::string ReleaseWish::*field;
 };
 
-constexpr ReleaseOption kReleaseOptions[] = {{"--album-title", &ReleasePlan::albumTitle},
-                                             {"--album-artist", &ReleasePlan::albumArtist},
-                                             {"--genre", &ReleasePlan::genre}};
+constexpr ReleaseOption kReleaseOptions[] = {{"--album-title", &ReleaseWish::albumTitle},
+                                             {"--album-artist", &ReleaseWish::albumArtist},
+                                             {"--genre", &ReleaseWish::genre}};
 
 struct SongOption {
     const char* name;
-    std::string SongPlan::*field;
+    std::string SongWish::*field;
 };
 
-constexpr SongOption kSongOptions[] = {{"--title", &SongPlan::title}, {"--artist", &SongPlan::artist}};
+constexpr SongOption kSongOptions[] = {{"--title", &SongWish::title}, {"--artist", &SongWish::artist}};
 constexpr char kTrackNumber[] = "--track-number";
 constexpr char kReleaseFile[] = "--release";
 
@@ -57,12 +57,12 @@ std::string setTrackNumber(std::int32_t& field, const std::string& value) {
     return std::exchange(field, number) == 0 ? "" : std::string(kTrackNumber) + " is there twice";
 }
 
-std::string takeSongOption(const std::string& option, const std::string& value, ReleasePlan& plan) {
+std::string takeSongOption(const std::string& option, const std::string& value, ReleaseWish& plan) {
     if (plan.songs.empty()) {
         return option + " belongs to the file before it: put it behind a file";
     }
-    SongPlan& song = plan.songs.back();
-    return option == kTrackNumber ? setTrackNumber(song.trackNumber, value)
+    SongWish& song = plan.songs.back();
+    return option == kTrackNumber ? setTrackNumber(song.number, value)
                                   : setText(song.*find(kSongOptions, option)->field, option, value);
 }
 
@@ -85,7 +85,7 @@ bool takePublishValue(const std::string& option, const std::string& value, Publi
 }
 
 std::string checkPublishOptions(const PublishOptions& options) {
-    const ReleasePlan& plan = options.plan;
+    const ReleaseWish& plan = options.plan;
     if (!options.releaseFile.empty()) {
         const bool isAlone = plan.songs.empty() && plan.mode == ReleaseMode::kSingles &&
                              plan.albumTitle.empty() && plan.albumArtist.empty() && plan.genre.empty();

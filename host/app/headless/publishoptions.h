@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/publishing/releaseplan.h"
+#include "host/app/publishing/release.h"
 
 #include <string>
 
@@ -8,7 +8,7 @@ namespace xbr::host {
 
 /// What `xbrhost publish` was asked for.
 struct PublishOptions {
-    ReleasePlan plan;
+    ReleaseWish plan;
     std::string releaseFile; ///< instead of the plan; empty for none
     bool isDryRun = false;
 };

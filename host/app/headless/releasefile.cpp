@@ -116,7 +116,7 @@ std::int32_t trackNumberOf(const Json& song, const std::string& where) {
     return found->get<std::int32_t>();
 }
 
-SongPlan readSong(const Json& value, const std::string& where, const fs::path& folder) {
+SongWish readSong(const Json& value, const std::string& where, const fs::path& folder) {
     checkObject(value, where, {"file", "title", "artist", "genre", "trackNumber"});
     const std::string file = textOf(value, "file", where);
     if (file.empty()) {
@@ -126,9 +126,9 @@ SongPlan readSong(const Json& value, const std::string& where, const fs::path& f
             textOf(value, "genre", where), trackNumberOf(value, where)};
 }
 
-ReleasePlan readPlan(const Json& root, const fs::path& folder) {
+ReleaseWish readPlan(const Json& root, const fs::path& folder) {
     checkObject(root, "the release", {"album", "genre", "songs"});
-    ReleasePlan plan;
+    ReleaseWish plan;
     plan.genre = textOf(root, "genre", "the release");
     if (const auto album = root.find("album"); album != root.end()) {
         checkObject(*album, "'album'", {"title", "artist"});
@@ -152,7 +152,7 @@ ReleasePlan readPlan(const Json& root, const fs::path& folder) {
 
 } // namespace
 
-bool readReleaseFile(const std::string& path, ReleasePlan& plan, std::string& error) {
+bool readReleaseFile(const std::string& path, ReleaseWish& plan, std::string& error) {
     try {
         plan = readPlan(parse(readText(path)), fs::path(path).parent_path());
         return true;

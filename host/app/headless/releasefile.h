@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/publishing/releaseplan.h"
+#include "host/app/publishing/release.h"
 
 #include <string>
 
@@ -18,6 +18,6 @@ namespace xbr::host {
 /// and repeated keys are errors, so that a slip of the pen does not publish something else than was meant.
 ///
 /// False, with the reason in one line, when the file cannot be read or says something else.
-bool readReleaseFile(const std::string& path, ReleasePlan& plan, std::string& error);
+bool readReleaseFile(const std::string& path, ReleaseWish& plan, std::string& error);
 
 } // namespace xbr::host

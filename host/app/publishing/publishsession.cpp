@@ -42,7 +42,7 @@ PublishSession::PublishSession(GadgetPanel& panel, const ConfigurationReport& re
     QObject::connect(&m_start, &QTimer::timeout, &m_start, [this] { publish(); });
 }
 
-void PublishSession::start(ReleasePlan plan) {
+void PublishSession::start(ReleaseWish plan) {
     m_plan = std::move(plan);
     m_start.start(0);
 }

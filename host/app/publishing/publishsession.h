@@ -46,7 +46,7 @@ public:
     PublishSession& operator=(const PublishSession&) = delete;
 
     /// Begins with the next turn of the event loop.
-    void start(ReleasePlan plan);
+    void start(ReleaseWish plan);
 
     /// Ends the session early: it finishes with kCancelled as soon as the dialog or the indicator that is
     /// open has been closed by the front end. What is on its way to the service is given up when the panel
@@ -70,7 +70,7 @@ private:
     const ConfigurationReport* m_report;
     const Activity* m_activity;
     PublishListener* m_listener;
-    ReleasePlan m_plan;
+    ReleaseWish m_plan;
     ReleaseIntake m_intake;
     bool m_isCancelled = false;
     bool m_isFinished = false;

@@ -77,20 +77,20 @@ void setText(Attributes& media, std::string_view name, const std::string& text) 
 
 } // namespace
 
-ReleaseIntake::Outcome ReleaseIntake::take(const ReleasePlan& plan) {
+ReleaseIntake::Outcome ReleaseIntake::take(const ReleaseWish& plan) {
     const auto entries = findPublishEntries();
     const auto publisher = entries.empty() ? Ref<IPublisher>() : createPublisher(entries.front());
     if (!publisher || !m_panel->tracks()) {
         return {PublishResult::kNoPublisher, "the module has no publish entry, or no list of tracks"};
     }
     Outcome outcome = checkGenres(plan, GenreList::read(*m_panel));
-    for (const SongPlan& song : plan.songs) {
+    for (const SongWish& song : plan.songs) {
         if (outcome.result != PublishResult::kDone) {
             return outcome;
         }
-        TakenSong taken{song.file, song.file, false, {}};
+        TakenSong taken{song.path, song.path, false, {}};
         if (const std::string problem = look(*publisher, taken); !problem.empty()) {
-            outcome = {PublishResult::kFileProblem, "'" + song.file + "' " + problem};
+            outcome = {PublishResult::kFileProblem, "'" + song.path + "' " + problem};
         }
         m_songs.push_back(std::move(taken));
     }
@@ -103,8 +103,8 @@ ReleaseIntake::Outcome ReleaseIntake::take(const ReleasePlan& plan) {
     return outcome.result == PublishResult::kDone ? publish(*publisher, plan) : outcome;
 }
 
-ReleaseIntake::Outcome ReleaseIntake::checkGenres(const ReleasePlan& plan, const GenreList& genres) {
-    for (const SongPlan& song : plan.songs) {
+ReleaseIntake::Outcome ReleaseIntake::checkGenres(const ReleaseWish& plan, const GenreList& genres) {
+    for (const SongWish& song : plan.songs) {
         const std::string& wanted = song.genre.empty() ? plan.genre : song.genre;
         const auto known = genres.isEmpty() || wanted.empty() ? std::optional(wanted) : genres.find(wanted);
         if (!known) {
@@ -136,7 +136,7 @@ std::string ReleaseIntake::look(IPublisher& publisher, TakenSong& song) const {
     return problem;
 }
 
-ReleaseIntake::Outcome ReleaseIntake::check(const ReleasePlan& plan) {
+ReleaseIntake::Outcome ReleaseIntake::check(const ReleaseWish& plan) {
     for (const TakenSong& song : m_songs) {
         if (!song.isRendered) {
             m_rendered.reserve(fileNameOf(song.source));
@@ -169,9 +169,9 @@ ReleaseIntake::Outcome ReleaseIntake::render() {
     return {};
 }
 
-Ref<Attributes> ReleaseIntake::mediaOf(const ReleasePlan& plan, std::size_t index) {
+Ref<Attributes> ReleaseIntake::mediaOf(const ReleaseWish& plan, std::size_t index) {
     TakenSong& taken = m_songs[index];
-    const SongPlan& song = plan.songs[index];
+    const SongWish& song = plan.songs[index];
     auto media = attributesOf(taken.isRendered ? readForeignTags(taken.source)
                                                : readTags(taken.source).value_or(MediaTags{}));
     setText(*media, "Media:Title", song.title);
@@ -179,14 +179,14 @@ Ref<Attributes> ReleaseIntake::mediaOf(const ReleasePlan& plan, std::size_t inde
     setText(*media, "Media:Album", plan.albumTitle);
     setText(*media, "Media:AlbumArtist", plan.albumArtist);
     setText(*media, "Media:Genre", m_genres[index]);
-    if (song.trackNumber > 0) {
-        media->set("Media:TrackIndex", integerValue(song.trackNumber));
+    if (song.number > 0) {
+        media->set("Media:TrackIndex", integerValue(song.number));
     }
     taken.genre = media->getString("Media:Genre");
     return media;
 }
 
-ReleaseIntake::Outcome ReleaseIntake::publish(IPublisher& publisher, const ReleasePlan& plan) {
+ReleaseIntake::Outcome ReleaseIntake::publish(IPublisher& publisher, const ReleaseWish& plan) {
     const auto items = make<PublishedItems>();
     for (std::size_t i = 0; i < m_songs.size(); ++i) {
         items->add(fileUrl(fs::absolute(m_songs[i].file).string()), mediaOf(plan, i));

@@ -6,7 +6,7 @@
 #include "host/app/modules/publishentry.h"
 #include "host/app/publishing/genrelist.h"
 #include "host/app/publishing/publishresult.h"
-#include "host/app/publishing/releaseplan.h"
+#include "host/app/publishing/release.h"
 
 #include <cstdint>
 #include <string>
@@ -40,7 +40,7 @@ public:
     };
 
     /// Does all of it; runs the event loop while songs are rendered. Once.
-    Outcome take(const ReleasePlan& plan);
+    Outcome take(const ReleaseWish& plan);
 
     /// The songs, in the order of the panel's list.
     const std::vector<TakenSong>& songs() const { return m_songs; }
@@ -49,12 +49,12 @@ public:
     std::string sourceOf(const std::string& url) const;
 
 private:
-    Outcome check(const ReleasePlan& plan);
-    Outcome checkGenres(const ReleasePlan& plan, const GenreList& genres);
+    Outcome check(const ReleaseWish& plan);
+    Outcome checkGenres(const ReleaseWish& plan, const GenreList& genres);
     std::string look(IPublisher& publisher, TakenSong& song) const;
     Outcome render();
-    Ref<Attributes> mediaOf(const ReleasePlan& plan, std::size_t index);
-    Outcome publish(IPublisher& publisher, const ReleasePlan& plan);
+    Ref<Attributes> mediaOf(const ReleaseWish& plan, std::size_t index);
+    Outcome publish(IPublisher& publisher, const ReleaseWish& plan);
     void dropForeignGenres();
 
     GadgetPanel* m_panel;

@@ -3,6 +3,7 @@
 #include "framework/abi/listmodel.h"
 #include "framework/support/objects/object.h"
 #include "host/app/modules/signallistener.h"
+#include "host/app/publishing/release.h"
 
 #include <QTimer>
 
@@ -12,13 +13,6 @@
 #include <vector>
 
 namespace xbr::host {
-
-enum class TrackState : std::uint8_t {
-    kNone = 0, ///< not sent
-    kDone = 1,
-    kFailed = 2,
-    kMissingInformation = 3, ///< sent, and refused for it
-};
 
 /// One row of the list of tracks.
 struct TrackReport {

@@ -65,7 +65,7 @@ protected:
     CoreClasses m_classes{m_report};
     FakeScript m_script;
     std::vector<std::string> m_files;
-    ReleasePlan m_plan; ///< what is said beside the files
+    ReleaseWish m_plan; ///< what is said beside the files
     PublishSession* m_session = nullptr;
     std::size_t m_known = 0;
     int m_changes = 0;

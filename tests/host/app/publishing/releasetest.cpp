@@ -18,7 +18,7 @@ protected:
     }
 
     TestFolder m_folder;
-    ReleasePlan m_plan;
+    ReleaseWish m_plan;
     std::string m_error;
 };
 
@@ -34,12 +34,12 @@ TEST_F(ReleaseFile, tellsAnAlbum) {
     EXPECT_EQ(m_plan.albumArtist, "The Lamps");
     EXPECT_EQ(m_plan.genre, "Pop");
     ASSERT_EQ(m_plan.songs.size(), 2U);
-    EXPECT_EQ(m_plan.songs[0].file, m_folder.path("sub/a.aiff")) << "beside the release file";
+    EXPECT_EQ(m_plan.songs[0].path, m_folder.path("sub/a.aiff")) << "beside the release file";
     EXPECT_EQ(m_plan.songs[0].title, "A");
     EXPECT_EQ(m_plan.songs[0].artist, "X");
-    EXPECT_EQ(m_plan.songs[0].trackNumber, 9999);
-    EXPECT_EQ(m_plan.songs[1].file, "/abs/b.mp3");
-    EXPECT_EQ(m_plan.songs[1].trackNumber, 0);
+    EXPECT_EQ(m_plan.songs[0].number, 9999);
+    EXPECT_EQ(m_plan.songs[1].path, "/abs/b.mp3");
+    EXPECT_EQ(m_plan.songs[1].number, 0);
 }
 
 TEST_F(ReleaseFile, withoutAnAlbumSongsAreSingles) {

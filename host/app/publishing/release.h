@@ -7,27 +7,38 @@
 namespace xbr::host {
 
 enum class ReleaseMode : std::uint8_t {
-    kSingles, ///< each track is a release of its own
-    kAlbum,   ///< all tracks are one release
+    kSingles, ///< each song is a release of its own
+    kAlbum,   ///< all songs are one release
+    kPanel,   ///< as the module's panel does by itself: several songs are an album, and may be edited there
 };
 
 /// A song to publish, with what the user says about it. Empty texts and a number of 0 leave it to the file's
 /// tags.
-struct SongPlan {
-    std::string file; ///< path as bytes, relative to the working folder
+struct SongWish {
+    std::string path; ///< as bytes, relative to the working folder
     std::string title;
     std::string artist;
-    std::string genre;            ///< of a single; an album's is the release's
-    std::int32_t trackNumber = 0; ///< from 1
+    std::string genre;       ///< of a single; an album's is the release's
+    std::int32_t number = 0; ///< from 1
 };
 
 /// What the user wants to publish. Texts are UTF-8; empty ones leave it to the files' tags.
-struct ReleasePlan {
+struct ReleaseWish {
     ReleaseMode mode = ReleaseMode::kSingles;
     std::string albumTitle;  ///< of an album; a single bears the title of its song
     std::string albumArtist; ///< of an album; a single is by the artist of its song
     std::string genre;       ///< of every release that has none of its own
-    std::vector<SongPlan> songs;
+    std::vector<SongWish> songs;
+    bool skipsUnreadable = false; ///< leave out files that cannot be published
+    bool skipsIncomplete = false; ///< leave out singles that lack details
+};
+
+/// Where a track of a panel stands.
+enum class TrackState : std::uint8_t {
+    kNone = 0, ///< not sent
+    kDone = 1,
+    kFailed = 2,
+    kMissingInformation = 3, ///< sent, and refused for it
 };
 
 /// The greatest number of a track that can be said.

@@ -1,0 +1,475 @@
+#include "host/app/publishing/verdict.h"
+
+#include "host/app/publishing/words.h"
+
+#include <algorithm>
+
+namespace xbr::host {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(xbr::host::Words)
+};
+
+struct CauseRow {
+    const char* name;
+    ExitCode code;
+    NoticeKind kind;
+    const char* next; ///< on the command line; null for nothing
+};
+
+#define XBR_NEXT(text) QT_TRANSLATE_NOOP("xbr::host::Words", text)
+
+constexpr const char* kSameAgain = XBR_NEXT("Run the same command again.");
+constexpr const char* kLater = XBR_NEXT("Try again later.");
+
+/// In the order of the causes.
+constexpr CauseRow kCauses[] = {
+    {"published", ExitCode::kDone, NoticeKind::kDone, nullptr},
+    {"signed-in", ExitCode::kDone, NoticeKind::kDone, nullptr},
+    {"partly", ExitCode::kNotAllDone, NoticeKind::kWarning,
+     XBR_NEXT("Run the same command with the songs that are not published to send the rest.")},
+    {"missing-details", ExitCode::kInformationMissing, NoticeKind::kWarning,
+     XBR_NEXT("Add them in the files' tags, or with --title, --artist, --genre, --album-title and "
+              "--album-artist.")},
+    {"unknown-genre", ExitCode::kInformationMissing, NoticeKind::kWarning,
+     XBR_NEXT("Choose one with --genre.")},
+    {"refused-missing", ExitCode::kInformationMissing, NoticeKind::kWarning,
+     XBR_NEXT("Add them in the files' tags, or with --title, --artist, --genre, --album-title and "
+              "--album-artist.")},
+    {"same-file", ExitCode::kUsage, NoticeKind::kError, XBR_NEXT("Name it once.")},
+    {"same-name", ExitCode::kFileProblem, NoticeKind::kError, XBR_NEXT("Rename one of them.")},
+    {"unreadable", ExitCode::kFileProblem, NoticeKind::kError, XBR_NEXT("--skip-unreadable leaves it out.")},
+    {"gone", ExitCode::kNotAllDone, NoticeKind::kError,
+     XBR_NEXT("Put it back, then run the same command again.")},
+    {"changed", ExitCode::kNotAllDone, NoticeKind::kError, kSameAgain},
+    {"disk-full", ExitCode::kNotAllDone, NoticeKind::kError,
+     XBR_NEXT("Make room, or set TMPDIR to another folder.")},
+    {"no-folder", ExitCode::kNotAllDone, NoticeKind::kError, XBR_NEXT("Set TMPDIR to another folder.")},
+    {"not-prepared", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
+    {"nothing-waits", ExitCode::kNotAllDone, NoticeKind::kInfo, nullptr},
+    {"stopped-before", ExitCode::kInterrupted, NoticeKind::kInfo, nullptr},
+    {"stopped", ExitCode::kInterrupted, NoticeKind::kInfo, nullptr},
+    {"stopped-unsure", ExitCode::kInterrupted, NoticeKind::kWarning,
+     XBR_NEXT("Look at your account page before you send it again.")},
+    {"lost-unsure", ExitCode::kNotAllDone, NoticeKind::kWarning,
+     XBR_NEXT("Look at your account page before you send it again.")},
+    {"refused", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
+    {"too-large", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
+    {"service-fault", ExitCode::kNotAllDone, NoticeKind::kError, kLater},
+    {"too-many", ExitCode::kNotAllDone, NoticeKind::kError, kLater},
+    {"lost", ExitCode::kNotAllDone, NoticeKind::kError, kSameAgain},
+    {"untrusted", ExitCode::kUnreachable, NoticeKind::kError,
+     XBR_NEXT("Check ServerURL and this computer's clock.")},
+    {"unreachable", ExitCode::kUnreachable, NoticeKind::kError, kLater},
+    {"expired", ExitCode::kSignInExpired, NoticeKind::kWarning, XBR_NEXT("xbrhost sign-in renews it.")},
+    {"not-signed-in", ExitCode::kNotSignedIn, NoticeKind::kError, XBR_NEXT("xbrhost sign-in signs in.")},
+    {"not-set-up", ExitCode::kNotConfigured, NoticeKind::kError, nullptr},
+    {"no-module", ExitCode::kModuleProblem, NoticeKind::kError, XBR_NEXT("--module names one.")},
+};
+
+#undef XBR_NEXT
+
+const CauseRow& rowOf(Cause cause) {
+    return kCauses[static_cast<std::size_t>(cause)];
+}
+
+Verdict verdictOf(Cause cause, std::string sentence) {
+    const CauseRow& row = rowOf(cause);
+    Verdict verdict;
+    verdict.cause = cause;
+    verdict.code = row.code;
+    verdict.kind = row.kind;
+    verdict.sentence = std::move(sentence);
+    verdict.next = row.next ? say(Texts::tr(row.next)) : std::string();
+    return verdict;
+}
+
+std::string nothingSent(const std::string& sentence) {
+    return sentence + " " + say(Texts::tr("Nothing was sent."));
+}
+
+Cause causeOf(const Finding& finding) {
+    switch (finding.kind) {
+    case Finding::Kind::kUnknownGenre:
+        return Cause::kUnknownGenre;
+    case Finding::Kind::kSameFile:
+        return Cause::kSameFile;
+    case Finding::Kind::kUnreadable:
+        return finding.problem.fault == Fault::kModule ? Cause::kNoModule : Cause::kUnreadable;
+    case Finding::Kind::kSameName:
+        return Cause::kSameName;
+    default:
+        return Cause::kMissingDetails;
+    }
+}
+
+// What became of one track.
+
+/// "“Harbour”" or "the album “Night Drive”" as the sentences below name what was sent.
+struct Sent {
+    const UploadFacts* facts;
+    const TrackFact* track;
+
+    bool isAlbum() const { return facts->isAlbum; }
+    const std::string& name() const { return isAlbum() ? facts->albumTitle : track->label; }
+
+    /// A sentence about it: one text for a song, one for an album.
+    template <class... More>
+    std::string say(const QString& song, const QString& album, const More&... more) const {
+        return xbr::host::say(isAlbum() ? album : song, name(), more...);
+    }
+};
+
+std::string wordsOfRefusal(const Sent& sent) {
+    const std::string status = std::to_string(sent.track->status);
+    const std::string words = quoted(sent.track->said);
+    return words.empty()
+               ? sent.say(Texts::tr("The service refused “%1” (%2) and gave no reason."),
+                          Texts::tr("The service refused the album “%1” (%2) and gave no reason."), status)
+               : sent.say(Texts::tr("The service refused “%1” (%2): %3"),
+                          Texts::tr("The service refused the album “%1” (%2): %3"), status, words);
+}
+
+std::string wordsOfMissing(const Sent& sent) {
+    std::vector<Detail> missing;
+    for (const TrackFact& track : sent.facts->tracks) {
+        if (&track == sent.track || sent.isAlbum()) {
+            missing.insert(missing.end(), track.missing.begin(), track.missing.end());
+        }
+    }
+    std::sort(missing.begin(), missing.end());
+    missing.erase(std::unique(missing.begin(), missing.end()), missing.end());
+    if (!missing.empty()) {
+        return sent.say(Texts::tr("The service refused “%1” because details are missing: %2."),
+                        Texts::tr("The service refused the album “%1” because details are missing: %2."),
+                        wordsOf(missing));
+    }
+    return sent.say(
+        Texts::tr("The service refused “%1” because details are missing, but none is empty here: %2"),
+        Texts::tr(
+            "The service refused the album “%1” because details are missing, but none is empty here: %2"),
+        quoted(sent.track->said));
+}
+
+SongVerdict songVerdict(const TrackFact& track, Cause cause, std::string sentence) {
+    return {cause, track.label, track.source, std::move(sentence)};
+}
+
+SongVerdict judgeAnswer(const Sent& sent) {
+    const TrackFact& track = *sent.track;
+    const std::string status = std::to_string(track.status);
+    // Tracks of an album that go again with the others are waiting once more.
+    const bool isIncomplete = track.state == TrackState::kMissingInformation ||
+                              (track.state == TrackState::kNone && track.status < 500);
+    if (track.status == 401) {
+        return songVerdict(track, Cause::kExpired,
+                           say(Texts::tr("The service does not accept the stored sign-in any more.")));
+    }
+    if (isIncomplete) {
+        return songVerdict(track, Cause::kRefusedMissing, wordsOfMissing(sent));
+    }
+    if (track.status == 413) {
+        return songVerdict(
+            track, Cause::kTooLarge,
+            sent.say(Texts::tr("The service refused “%1” because it is too large (%2)."),
+                     Texts::tr("The service refused the album “%1” because it is too large (%2)."),
+                     wordsOfSize(track.total)));
+    }
+    if (track.status == 429) {
+        return songVerdict(
+            track, Cause::kTooMany,
+            sent.say(
+                Texts::tr("The service asks to wait a while before the next upload. “%1” was not taken."),
+                Texts::tr("The service asks to wait a while before the next upload. The album “%1” was not "
+                          "taken.")));
+    }
+    if (track.status >= 500) {
+        return songVerdict(
+            track, Cause::kServiceFault,
+            sent.say(Texts::tr("The service has a fault (%2). “%1” was not taken; nothing is wrong with the "
+                               "song."),
+                     Texts::tr("The service has a fault (%2). The album “%1” was not taken; nothing is wrong "
+                               "with it."),
+                     status));
+    }
+    return songVerdict(track, Cause::kRefused, wordsOfRefusal(sent));
+}
+
+std::string wordsOfServer(const Problem& problem) {
+    return problem.fault == Fault::kUntrusted
+               ? say(Texts::tr("%1 could not prove its identity: %2."), problem.subject, problem.words)
+               : say(Texts::tr("The service at %1 cannot be reached: %2."), problem.subject, problem.words);
+}
+
+bool isAboutServer(const Problem& problem) {
+    return problem.fault == Fault::kNoServer || problem.fault == Fault::kUntrusted;
+}
+
+Cause causeOfServer(const Problem& problem) {
+    return problem.fault == Fault::kUntrusted ? Cause::kUntrusted : Cause::kUnreachable;
+}
+
+/// All of it left, and nobody answered.
+SongVerdict judgeUnsure(const Sent& sent) {
+    if (sent.facts->isCancelled) {
+        return songVerdict(*sent.track, Cause::kStoppedUnsure,
+                           sent.say(Texts::tr("Stopped after all of “%1” was sent, before the service "
+                                              "answered. It may be published."),
+                                    Texts::tr("Stopped after all of the album “%1” was sent, before the "
+                                              "service answered. It may be published.")));
+    }
+    return songVerdict(
+        *sent.track, Cause::kLostUnsure,
+        sent.say(Texts::tr("The connection broke after all of “%1” was sent, before the service answered. It "
+                           "may be published."),
+                 Texts::tr("The connection broke after all of the album “%1” was sent, before the service "
+                           "answered. It may be published.")));
+}
+
+SongVerdict judgeBroken(const Sent& sent) {
+    const TrackFact& track = *sent.track;
+    if (isAboutServer(track.problem) && track.sent == 0) {
+        return songVerdict(track, causeOfServer(track.problem), wordsOfServer(track.problem));
+    }
+    if (track.total > 0 && track.sent >= track.total) {
+        return judgeUnsure(sent);
+    }
+    const auto [part, whole] = wordsOfSizes(track.sent, track.total);
+    if (sent.facts->isCancelled) {
+        return songVerdict(track, Cause::kStopped,
+                           sent.say(Texts::tr("“%1” was stopped at %2 of %3 and did not arrive."),
+                                    Texts::tr("The album “%1” was stopped at %2 of %3 and did not arrive."),
+                                    part, whole));
+    }
+    return songVerdict(
+        track, Cause::kLost,
+        sent.say(Texts::tr("The connection broke after %2 of %3. “%1” did not arrive."),
+                 Texts::tr("The connection broke after %2 of %3. The album “%1” did not arrive."), part,
+                 whole));
+}
+
+SongVerdict judgeFile(const Sent& sent, const Problem& problem) {
+    const TrackFact& track = *sent.track;
+    const std::string file = fileNameOf(problem.subject);
+    switch (problem.fault) {
+    case Fault::kMissing:
+        return songVerdict(track, Cause::kGone,
+                           sent.say(Texts::tr("“%2” is no longer there. “%1” was not sent."),
+                                    Texts::tr("“%2” is no longer there. The album “%1” is not complete."),
+                                    file));
+    case Fault::kChanged:
+        return songVerdict(
+            track, Cause::kChanged,
+            sent.say(Texts::tr("“%2” changed while it was copied. “%1” was not sent."),
+                     Texts::tr("“%2” changed while it was copied. The album “%1” is not complete."), file));
+    case Fault::kDiskFull:
+        return songVerdict(
+            track, Cause::kDiskFull,
+            sent.say(Texts::tr("There is not enough room in “%2”: %3 are needed, %4 are free. “%1” was "
+                               "not sent."),
+                     Texts::tr("There is not enough room in “%2”: %3 are needed, %4 are free. The album “%1” "
+                               "was not sent."),
+                     sent.facts->folder, wordsOfSize(sent.facts->neededSpace),
+                     wordsOfSize(sent.facts->freeSpace)));
+    case Fault::kNoTemporaryFolder:
+        return songVerdict(
+            track, Cause::kNoFolder,
+            say(Texts::tr("The folder for copies, “%1”, cannot be written."), sent.facts->folder));
+    default:
+        return songVerdict(track, Cause::kNotPrepared,
+                           sent.say(Texts::tr("“%1” could not be prepared: %2. It was not sent."),
+                                    Texts::tr("The album “%1” could not be prepared: %2. It was not sent."),
+                                    problem.words));
+    }
+}
+
+/// What kept a track from being prepared; null when nothing is known. A file that is no song's is all songs'.
+const Problem* problemOf(const UploadFacts& facts, const TrackFact& track) {
+    const auto found = std::find_if(facts.files.begin(), facts.files.end(), [&](const Problem& problem) {
+        const bool isSong = std::any_of(facts.tracks.begin(), facts.tracks.end(), [&](const TrackFact& each) {
+            return each.source == problem.subject;
+        });
+        return facts.isAlbum || (isSong ? track.source == problem.subject : !track.wasSent);
+    });
+    return found == facts.files.end() ? nullptr : &*found;
+}
+
+SongVerdict judgeTrack(const Sent& sent) {
+    const TrackFact& track = *sent.track;
+    if (const Problem* problem = problemOf(*sent.facts, track)) {
+        return judgeFile(sent, *problem);
+    }
+    if (track.state == TrackState::kDone) {
+        return songVerdict(track, Cause::kPublished, {});
+    }
+    if (track.wasSent) {
+        return track.status > 0 ? judgeAnswer(sent) : judgeBroken(sent);
+    }
+    if (sent.facts->isCancelled) {
+        return songVerdict(
+            track, Cause::kStoppedBefore,
+            sent.say(Texts::tr("“%1” was not sent."), Texts::tr("The album “%1” was not sent.")));
+    }
+    return songVerdict(track, Cause::kNotPrepared,
+                       sent.say(Texts::tr("“%1” could not be prepared. It was not sent."),
+                                Texts::tr("The album “%1” could not be prepared. It was not sent.")));
+}
+
+// What became of all of them.
+
+std::string wordsOfSuccess(const UploadFacts& facts) {
+    const std::string count = std::to_string(facts.tracks.size());
+    if (facts.isAlbum) {
+        return facts.tracks.size() == 1
+                   ? say(Texts::tr("Published the album “%1” with one song."), facts.albumTitle)
+                   : say(Texts::tr("Published the album “%1” with %2 songs."), facts.albumTitle, count);
+    }
+    return facts.tracks.size() == 1 ? say(Texts::tr("Published “%1”."), facts.tracks.front().label)
+                                    : say(Texts::tr("Published %1 songs as singles."), count);
+}
+
+bool isDone(const SongVerdict& song) {
+    return song.cause == Cause::kPublished;
+}
+
+/// A sentence about nothing but one song says by itself that this was not sent.
+bool saysNothingSent(Cause cause) {
+    return cause == Cause::kExpired || cause == Cause::kUntrusted || cause == Cause::kUnreachable ||
+           cause == Cause::kNoFolder;
+}
+
+Verdict judgeStop(std::vector<SongVerdict> songs, const SongVerdict& first) {
+    const auto done = std::count_if(songs.begin(), songs.end(), &isDone);
+    const bool isBefore = done == 0 && first.cause == Cause::kStoppedBefore;
+    std::string sentence = say(Texts::tr("Stopped."));
+    if (isBefore) {
+        sentence = nothingSent(sentence);
+    } else if (first.cause == Cause::kStoppedUnsure) {
+        sentence = first.sentence;
+    } else {
+        sentence += " " + say(Texts::tr("%1 of %2 songs are published."), std::to_string(done),
+                              std::to_string(songs.size()));
+        sentence += " " + first.sentence;
+    }
+    Verdict verdict =
+        verdictOf(isBefore || first.cause == Cause::kStoppedUnsure ? first.cause : Cause::kStopped,
+                  std::move(sentence));
+    verdict.songs = std::move(songs);
+    return verdict;
+}
+
+Verdict judgeFailure(std::vector<SongVerdict> songs) {
+    const auto first = std::find_if_not(songs.begin(), songs.end(), &isDone);
+    const bool isOneCode = std::all_of(songs.begin(), songs.end(), [first](const SongVerdict& song) {
+        return rowOf(song.cause).code == rowOf(first->cause).code;
+    });
+    Verdict verdict = verdictOf(first->cause, saysNothingSent(first->cause) ? nothingSent(first->sentence)
+                                                                            : first->sentence);
+    verdict.code = isOneCode ? verdict.code : ExitCode::kNotAllDone;
+    verdict.songs = std::move(songs);
+    return verdict;
+}
+
+Verdict judgeSignIn(const SignInFacts& facts) {
+    if (facts.isCancelled) {
+        return verdictOf(Cause::kStoppedBefore, nothingSent(say(Texts::tr("Stopped."))));
+    }
+    if (facts.isAuthorized && facts.problem.fault == Fault::kSignInRefused) {
+        return verdictOf(Cause::kExpired,
+                         say(Texts::tr("The service does not accept the stored sign-in any more.")));
+    }
+    if (facts.settings.wasAsked && !facts.settings.isComplete()) {
+        return verdictOf(Cause::kNotSetUp, wordsOf(facts.settings));
+    }
+    if (facts.isAuthorized) {
+        return verdictOf(Cause::kSignedIn, facts.account.empty()
+                                               ? say(Texts::tr("Signed in."))
+                                               : say(Texts::tr("Signed in as %1."), facts.account));
+    }
+    if (isAboutServer(facts.problem)) {
+        return verdictOf(causeOfServer(facts.problem), wordsOfServer(facts.problem));
+    }
+    if (!facts.problem) {
+        return verdictOf(Cause::kNotSignedIn, say(Texts::tr("Not signed in: the sign-in was given up.")));
+    }
+    const std::string words = quoted(facts.problem.words);
+    return verdictOf(Cause::kNotSignedIn,
+                     words.empty() ? say(Texts::tr("Not signed in: the service did not accept it."))
+                                   : say(Texts::tr("Not signed in: the service refused it: %1."), words));
+}
+
+} // namespace
+
+const char* nameOf(Cause cause) {
+    return rowOf(cause).name;
+}
+
+Verdict judge(const Plan& plan) {
+    Verdict verdict;
+    if (!plan.canBeSent()) {
+        const Finding& gravest = plan.findings.front();
+        verdict = verdictOf(causeOf(gravest), nothingSent(wordsOf(gravest)));
+        if (gravest.isWish) {
+            verdict.code = ExitCode::kUsage;
+        }
+    }
+    for (const Finding& finding : plan.findings) {
+        if (plan.canBeSent() || &finding != &plan.findings.front()) {
+            verdict.warnings.push_back(wordsOf(finding));
+        }
+    }
+    return verdict;
+}
+
+Verdict judge(const UploadFacts& facts) {
+    if (!facts.findings.empty()) {
+        return verdictOf(causeOf(facts.findings.front()), nothingSent(wordsOf(facts.findings.front())));
+    }
+    if (facts.isNothingWaiting) {
+        return verdictOf(
+            Cause::kNothingWaits,
+            say(Texts::tr("Nothing waits to be sent. Choose “Reset” in the menu of a song first.")));
+    }
+    std::vector<SongVerdict> songs;
+    for (const TrackFact& track : facts.tracks) {
+        songs.push_back(judgeTrack({&facts, &track}));
+    }
+    const auto done = static_cast<std::size_t>(std::count_if(songs.begin(), songs.end(), &isDone));
+    if (done == songs.size()) {
+        Verdict verdict = verdictOf(Cause::kPublished, wordsOfSuccess(facts));
+        verdict.songs = std::move(songs);
+        return verdict;
+    }
+    const SongVerdict first = *std::find_if_not(songs.begin(), songs.end(), &isDone);
+    if (facts.isCancelled) {
+        return judgeStop(std::move(songs), first);
+    }
+    if (done == 0) {
+        return judgeFailure(std::move(songs));
+    }
+    Verdict verdict =
+        verdictOf(Cause::kPartly, say(Texts::tr("Published %1 of %2 songs. %3"), std::to_string(done),
+                                      std::to_string(songs.size()), first.sentence));
+    verdict.songs = std::move(songs);
+    return verdict;
+}
+
+Verdict judge(const SignInFacts& facts) {
+    Verdict verdict = judgeSignIn(facts);
+    if (facts.isForUpload && !verdict.isGood() && !facts.isCancelled && verdict.cause != Cause::kNotSetUp) {
+        verdict.sentence = nothingSent(verdict.sentence);
+    }
+    return verdict;
+}
+
+Verdict judgeModule(const Problem& problem) {
+    return verdictOf(Cause::kNoModule,
+                     problem.subject.empty()
+                         ? say(Texts::tr("No module was found. Songs cannot be published."))
+                         : say(Texts::tr("“%1” cannot be used: %2. Songs cannot be published."),
+                               problem.subject, problem.words));
+}
+
+} // namespace xbr::host

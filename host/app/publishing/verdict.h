@@ -1,0 +1,119 @@
+#pragma once
+
+#include "host/app/process/exitcodes.h"
+#include "host/app/publishing/notice.h"
+#include "host/app/publishing/plan.h"
+#include "host/app/settings/configurationstore.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace xbr::host {
+
+/// What came of it, and why.
+enum class Cause : std::uint8_t {
+    kPublished,
+    kSignedIn,
+    kPartly,
+    kMissingDetails,
+    kUnknownGenre,
+    kRefusedMissing,
+    kSameFile,
+    kSameName,
+    kUnreadable,
+    kGone,
+    kChanged,
+    kDiskFull,
+    kNoFolder,
+    kNotPrepared,
+    kNothingWaits,
+    kStoppedBefore,
+    kStopped,
+    kStoppedUnsure,
+    kLostUnsure,
+    kRefused,
+    kTooLarge,
+    kServiceFault,
+    kTooMany,
+    kLost,
+    kUntrusted,
+    kUnreachable,
+    kExpired,
+    kNotSignedIn,
+    kNotSetUp,
+    kNoModule,
+};
+
+/// The name for programs: "missing-details".
+const char* nameOf(Cause cause);
+
+/// What is known of a track when nothing moves any more.
+struct TrackFact {
+    std::string label;  ///< its title, or the name of its file
+    std::string source; ///< path of the file that the user chose
+    TrackState state = TrackState::kNone;
+    std::vector<Detail> missing; ///< empty fields of the panel's editor
+
+    // The request that carried it
+    bool wasSent = false;
+    std::int64_t sent = 0;  ///< bytes that left
+    std::int64_t total = 0; ///< bytes of the body
+    int status = 0;         ///< 0: no answer came
+    std::string said;       ///< the service's own words
+    Problem problem;        ///< why no answer came
+};
+
+struct UploadFacts {
+    std::vector<TrackFact> tracks;
+    bool isAlbum = false;
+    std::string albumTitle;
+    std::vector<Problem> files; ///< files that could not be copied or written meanwhile, by the user's names
+    std::string folder;         ///< for copies
+    std::int64_t neededSpace = 0; ///< in there
+    std::int64_t freeSpace = 0;
+    std::vector<Finding> findings; ///< why the host did not let it go
+    bool isNothingWaiting = false; ///< the user asked, and the module found nothing to send
+    bool isCancelled = false;
+};
+
+struct SignInFacts {
+    bool isAuthorized = false;
+    std::string account; ///< may be empty
+    ConfigurationReport settings;
+    Problem problem; ///< what went wrong with a request meanwhile
+    bool isCancelled = false;
+    bool isForUpload = false; ///< songs wait for it
+};
+
+/// What came of one song.
+struct SongVerdict {
+    Cause cause = Cause::kPublished;
+    std::string label;
+    std::string source;
+    std::string sentence;
+};
+
+/// What to tell the user, and how the program ends.
+struct Verdict {
+    Cause cause = Cause::kPublished;
+    ExitCode code = ExitCode::kDone;
+    NoticeKind kind = NoticeKind::kDone;
+    std::string sentence;
+    std::string next;                  ///< what can be done about it, on the command line; may be empty
+    std::vector<std::string> warnings; ///< what is worth knowing besides
+    std::vector<SongVerdict> songs;    ///< of an upload
+
+    bool isGood() const { return code == ExitCode::kDone; }
+};
+
+/// Of a plan that cannot be sent, or can.
+Verdict judge(const Plan& plan);
+
+Verdict judge(const UploadFacts& facts);
+Verdict judge(const SignInFacts& facts);
+
+/// Of a module that cannot be used.
+Verdict judgeModule(const Problem& problem);
+
+} // namespace xbr::host

@@ -1,0 +1,206 @@
+// What became of an upload, from what is known of it: one table.
+
+#include "host/app/publishing/verdict.h"
+
+#include "host/app/publishing/words.h"
+
+#include <gtest/gtest.h>
+
+namespace xbr::host {
+namespace {
+
+TrackFact track(TrackState state) {
+    TrackFact fact;
+    fact.label = "Harbour";
+    fact.source = "/m/harbour.wav";
+    fact.state = state;
+    return fact;
+}
+
+TrackFact answered(TrackState state, int status, const std::string& said = {}) {
+    TrackFact fact = track(state);
+    fact.wasSent = true;
+    fact.sent = fact.total = 94'100'000;
+    fact.status = status;
+    fact.said = said;
+    return fact;
+}
+
+TrackFact broken(std::int64_t sent, Fault fault) {
+    TrackFact fact = answered(TrackState::kFailed, 0);
+    fact.sent = sent;
+    fact.problem = {fault, "https://service.example", 0, "Connection refused", {}, {}};
+    return fact;
+}
+
+TrackFact lacking(TrackFact fact, std::vector<Detail> missing) {
+    fact.missing = std::move(missing);
+    return fact;
+}
+
+const TrackFact kTaken = answered(TrackState::kDone, 201);
+
+UploadFacts of(std::vector<TrackFact> tracks) {
+    UploadFacts facts;
+    facts.tracks = std::move(tracks);
+    return facts;
+}
+
+UploadFacts album(std::vector<TrackFact> tracks) {
+    UploadFacts facts = of(std::move(tracks));
+    facts.isAlbum = true;
+    facts.albumTitle = "Night Drive";
+    return facts;
+}
+
+UploadFacts cancelled(UploadFacts facts) {
+    facts.isCancelled = true;
+    return facts;
+}
+
+UploadFacts without(UploadFacts facts, Fault fault, const std::string& path, const std::string& words = {}) {
+    facts.files.push_back({fault, path, 0, words, {}, {}});
+    facts.folder = "/tmp";
+    facts.neededSpace = 200'000'000;
+    facts.freeSpace = 1'500'000;
+    return facts;
+}
+
+struct Case {
+    UploadFacts facts;
+    Cause cause;
+    int code;
+    const char* sentence;
+};
+
+TEST(Verdict, OfAnUpload) {
+    using enum TrackState;
+    const TrackFact waiting = track(kNone);
+    const Case cases[] = {
+        {of({kTaken}), Cause::kPublished, 0, "Published “Harbour”."},
+        {of({kTaken, kTaken}), Cause::kPublished, 0, "Published 2 songs as singles."},
+        {album({kTaken, kTaken}), Cause::kPublished, 0, "Published the album “Night Drive” with 2 songs."},
+        {of({kTaken, answered(kFailed, 500)}), Cause::kPartly, 1,
+         "Published 1 of 2 songs. The service has a fault (500). “Harbour” was not taken; nothing is wrong "
+         "with the song."},
+        {of({answered(kFailed, 422, "This title already exists")}), Cause::kRefused, 1,
+         "The service refused “Harbour” (422): This title already exists"},
+        {of({answered(kFailed, 404)}), Cause::kRefused, 1,
+         "The service refused “Harbour” (404) and gave no reason."},
+        {of({answered(kFailed, 413)}), Cause::kTooLarge, 1,
+         "The service refused “Harbour” because it is too large (94.1 MB)."},
+        {of({answered(kFailed, 429)}), Cause::kTooMany, 1,
+         "The service asks to wait a while before the next upload. “Harbour” was not taken."},
+        {album({answered(kFailed, 503)}), Cause::kServiceFault, 1,
+         "The service has a fault (503). The album “Night Drive” was not taken; nothing is wrong with it."},
+        {of({answered(kFailed, 401)}), Cause::kExpired, 10,
+         "The service does not accept the stored sign-in any more. Nothing was sent."},
+        {of({lacking(answered(kMissingInformation, 422), {Detail::kSongArtist})}), Cause::kRefusedMissing, 7,
+         "The service refused “Harbour” because details are missing: song artist."},
+        {album({answered(kNone, 422, "did not contain a required property: 'isrc'")}), Cause::kRefusedMissing,
+         7,
+         "The service refused the album “Night Drive” because details are missing, but none is empty here: "
+         "did not contain a required property: 'isrc'"},
+        {of({broken(0, Fault::kNoServer)}), Cause::kUnreachable, 6,
+         "The service at https://service.example cannot be reached: Connection refused. Nothing was sent."},
+        {of({broken(0, Fault::kUntrusted)}), Cause::kUntrusted, 6,
+         "https://service.example could not prove its identity: Connection refused. Nothing was sent."},
+        {of({broken(38'600'000, Fault::kConnectionLost)}), Cause::kLost, 1,
+         "The connection broke after 38.6 of 94.1 MB. “Harbour” did not arrive."},
+        {of({broken(94'100'000, Fault::kConnectionLost)}), Cause::kLostUnsure, 1,
+         "The connection broke after all of “Harbour” was sent, before the service answered. It may be "
+         "published."},
+        {cancelled(of({broken(38'600'000, Fault::kCancelled), waiting})), Cause::kStopped, 130,
+         "Stopped. 0 of 2 songs are published. “Harbour” was stopped at 38.6 of 94.1 MB and did not arrive."},
+        {cancelled(of({broken(94'100'000, Fault::kCancelled)})), Cause::kStoppedUnsure, 130,
+         "Stopped after all of “Harbour” was sent, before the service answered. It may be published."},
+        {cancelled(of({waiting})), Cause::kStoppedBefore, 130, "Stopped. Nothing was sent."},
+        {cancelled(of({kTaken, waiting})), Cause::kStopped, 130,
+         "Stopped. 1 of 2 songs are published. “Harbour” was not sent."},
+        {without(of({waiting}), Fault::kMissing, "/m/harbour.wav"), Cause::kGone, 1,
+         "“harbour.wav” is no longer there. “Harbour” was not sent."},
+        {without(of({kTaken}), Fault::kChanged, "/m/harbour.wav"), Cause::kChanged, 1,
+         "“harbour.wav” changed while it was copied. “Harbour” was not sent."},
+        {without(album({kTaken, kTaken}), Fault::kMissing, "/m/harbour.wav"), Cause::kGone, 1,
+         "“harbour.wav” is no longer there. The album “Night Drive” is not complete."},
+        {without(of({waiting}), Fault::kDiskFull, "/tmp/payload.zip"), Cause::kDiskFull, 1,
+         "There is not enough room in “/tmp”: 200 MB are needed, 1.50 MB are free. “Harbour” was not sent."},
+        {without(of({waiting}), Fault::kNotWritable, "/tmp/payload.zip", "Permission denied"),
+         Cause::kNotPrepared, 1, "“Harbour” could not be prepared: Permission denied. It was not sent."},
+        {of({waiting}), Cause::kNotPrepared, 1, "“Harbour” could not be prepared. It was not sent."},
+        {of({answered(kFailed, 500), answered(kFailed, 401)}), Cause::kServiceFault, 1, nullptr},
+    };
+    for (const Case& each : cases) {
+        const Verdict verdict = judge(each.facts);
+        EXPECT_EQ(verdict.cause, each.cause) << nameOf(verdict.cause);
+        EXPECT_EQ(static_cast<int>(verdict.code), each.code) << verdict.sentence;
+        if (each.sentence) {
+            EXPECT_EQ(verdict.sentence, each.sentence);
+        }
+        EXPECT_EQ(verdict.songs.size(), each.facts.tracks.size());
+    }
+}
+
+TEST(Verdict, OfASignIn) {
+    ConfigurationReport complete;
+    complete.wasAsked = true;
+    complete.result = ConfigurationResult::kRead;
+    ConfigurationReport missing = complete;
+    missing.title = "Brindlex Client";
+    missing.path = "/home/services.ini";
+    missing.id = "brindlex";
+    missing.missingKeys = {"ServerURL", "ConsumerKey"};
+    const Problem refused{Fault::kSignInRefused, "https://service.example", 401, "invalid\ngrant", {}, {}};
+    const Problem nobody{Fault::kNoServer, "https://service.example", 0, "Connection refused", {}, {}};
+    const struct {
+        SignInFacts facts;
+        Cause cause;
+        int code;
+        const char* sentence;
+    } cases[] = {
+        {{true, "Mara", complete, {}, false, false}, Cause::kSignedIn, 0, "Signed in as Mara."},
+        {{true, "", complete, refused, false},
+         Cause::kExpired,
+         10,
+         "The service does not accept the stored sign-in any more."},
+        {{false, "", missing, {}, false},
+         Cause::kNotSetUp,
+         9,
+         "Brindlex Client is not set up: ServerURL, ConsumerKey is missing in “/home/services.ini”, section "
+         "[brindlex]."},
+        {{false, "", complete, nobody, false},
+         Cause::kUnreachable,
+         6,
+         "The service at https://service.example cannot be reached: Connection refused."},
+        {{false, "", complete, refused, false},
+         Cause::kNotSignedIn,
+         5,
+         "Not signed in: the service refused it: invalid grant."},
+        {{false, "", complete, {}, false},
+         Cause::kNotSignedIn,
+         5,
+         "Not signed in: the sign-in was given up."},
+        {{false, "", complete, {}, true, true}, Cause::kStoppedBefore, 130, "Stopped. Nothing was sent."},
+    };
+    for (const auto& each : cases) {
+        const Verdict verdict = judge(each.facts);
+        EXPECT_EQ(verdict.cause, each.cause) << nameOf(verdict.cause);
+        EXPECT_EQ(static_cast<int>(verdict.code), each.code);
+        EXPECT_EQ(verdict.sentence, each.sentence);
+    }
+}
+
+TEST(Words, AreForPeople) {
+    const std::pair<std::int64_t, const char*> sizes[] = {
+        {0, "0 B"}, {999, "999 B"}, {1000, "1.00 kB"}, {9'410'000, "9.41 MB"}, {1'060'000'000, "1.06 GB"}};
+    for (const auto& [bytes, words] : sizes) {
+        EXPECT_EQ(wordsOfSize(bytes), words);
+    }
+    EXPECT_EQ(wordsOfSizes(38'600'000, 1'060'000'000).first, "0.04") << "both in one unit";
+    EXPECT_EQ(quoted("a\n\tb\x1B[2J"), "a b [2J");
+    EXPECT_EQ(quoted(std::string(250, 'x')), std::string(199, 'x') + "…");
+    EXPECT_EQ(say("%1 and %2", std::string("%2"), std::string("b")), "%2 and b");
+}
+
+} // namespace
+} // namespace xbr::host
