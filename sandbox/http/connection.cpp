@@ -13,7 +13,7 @@ using std::chrono::milliseconds;
 using Clock = std::chrono::steady_clock;
 
 constexpr milliseconds kIdleTime{15'000};
-constexpr milliseconds kPatience{30'000}; // for a peer in the middle of something
+constexpr milliseconds kPeerPatience{30'000}; // for a peer in the middle of something
 constexpr milliseconds kLingerTime{2'000};
 constexpr std::size_t kLongestHead = 64U << 10U;
 
@@ -62,11 +62,11 @@ void Connection::closeGently() {
 }
 
 bool Connection::is_readable() const {
-    return !m_isReset && (m_begin < m_end || await(POLLIN, kPatience));
+    return !m_isReset && (m_begin < m_end || await(POLLIN, kPeerPatience));
 }
 
 bool Connection::is_writable() const {
-    return !m_isReset && await(POLLOUT, kPatience);
+    return !m_isReset && await(POLLOUT, kPeerPatience);
 }
 
 ssize_t Connection::fill() {

@@ -10,10 +10,10 @@
 namespace sandbox {
 namespace {
 
-using Json = nlohmann::json;
+using Json = nlohmann::ordered_json;
 
 constexpr std::int64_t kLongestWait = 600'000; // ms
-constexpr std::size_t kLargestBody = 256U << 20U;
+constexpr std::size_t kLargestReply = 256U << 20U;
 
 std::string textOf(const Json& value) {
     if (!value.is_string()) {
@@ -78,8 +78,8 @@ void setBody(Fault& fault, const Json& value) {
 }
 
 void repeatBody(Fault& fault, const Json& value) {
-    const auto count = static_cast<std::size_t>(numberOf(value, 1, kLargestBody));
-    if (fault.body.size() * count > kLargestBody) {
+    const auto count = static_cast<std::size_t>(numberOf(value, 1, kLargestReply));
+    if (fault.body.size() * count > kLargestReply) {
         throw std::invalid_argument("makes the body too large");
     }
     const auto once = fault.body;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -7,6 +8,9 @@
 #include <vector>
 
 namespace sandbox {
+
+// The longest form that is taken; a longer one is not a sign-in.
+inline constexpr std::size_t kLongestForm = 64U << 10U;
 
 // The fields of an application/x-www-form-urlencoded text: a request body or the query of a URL.
 //

@@ -18,7 +18,6 @@ using Json = nlohmann::ordered_json;
 
 constexpr std::size_t kMostEntries = 2000;
 constexpr std::size_t kLongestText = 200;
-constexpr std::size_t kLongestForm = 64U << 10U;
 
 std::string shortened(std::string text) {
     text.resize(std::min(text.size(), kLongestText));

@@ -8,7 +8,6 @@
 namespace sandbox {
 namespace {
 
-constexpr std::size_t kLongestForm = 64U << 10U;
 constexpr const char* kFormType = "application/x-www-form-urlencoded";
 
 // What the pages carry from step to step.

@@ -14,33 +14,33 @@ constexpr std::string_view kMetadataName = "metadata.json";
 constexpr std::string_view kAssetsFolder = "assets/";
 constexpr std::uint64_t kLargestMetadata = 4ULL << 20U;
 constexpr std::uint64_t kLargestRelease = 16ULL << 30U;
-constexpr zip_int64_t kMostEntries = 10000;
+constexpr zip_int64_t kMostArchiveEntries = 10000;
 
-[[noreturn]] void refuse(const std::string& why) {
+[[noreturn]] void refuseArchive(const std::string& why) {
     throw Refusal(400, "payload archive: " + why);
 }
 
-[[noreturn]] void refuse(const std::string& what, zip_error_t* error) {
+[[noreturn]] void refuseArchive(const std::string& what, zip_error_t* error) {
     std::string text = what + ": " + zip_error_strerror(error);
     zip_error_fini(error);
-    refuse(text);
+    refuseArchive(text);
 }
 
 zip_t* openRange(const std::filesystem::path& file, std::uint64_t offset, std::uint64_t length) {
     if (length == 0) {
-        refuse("it is empty");
+        refuseArchive("it is empty");
     }
     zip_error_t error;
     zip_error_init(&error);
     zip_source_t* source =
         zip_source_file_create(file.c_str(), offset, static_cast<zip_int64_t>(length), &error);
     if (source == nullptr) {
-        refuse("cannot be read", &error);
+        refuseArchive("cannot be read", &error);
     }
     zip_t* archive = zip_open_from_source(source, ZIP_RDONLY | ZIP_CHECKCONS, &error);
     if (archive == nullptr) {
         zip_source_free(source);
-        refuse("not a sound ZIP archive", &error);
+        refuseArchive("not a sound ZIP archive", &error);
     }
     zip_error_fini(&error);
     return archive;
@@ -53,7 +53,7 @@ void readEntry(zip_t* archive, zip_uint64_t index, const std::string& name, cons
     const auto close = [](zip_file_t* file) { zip_fclose(file); };
     const std::unique_ptr<zip_file_t, decltype(close)> file(zip_fopen_index(archive, index, 0), close);
     if (!file) {
-        refuse("entry '" + name + "' cannot be opened: " + zip_strerror(archive));
+        refuseArchive("entry '" + name + "' cannot be opened: " + zip_strerror(archive));
     }
     std::array<char, 1U << 16U> buffer;
     zip_int64_t count = 0;
@@ -61,7 +61,7 @@ void readEntry(zip_t* archive, zip_uint64_t index, const std::string& name, cons
         sink(std::string_view(buffer.data(), static_cast<std::size_t>(count)));
     }
     if (count < 0) {
-        refuse("entry '" + name + "' is damaged: " + zip_file_strerror(file.get()));
+        refuseArchive("entry '" + name + "' is damaged: " + zip_file_strerror(file.get()));
     }
 }
 
@@ -70,14 +70,14 @@ void readEntry(zip_t* archive, zip_uint64_t index, const std::string& name, cons
 Archive::Archive(const std::filesystem::path& file, std::uint64_t offset, std::uint64_t length)
     : m_archive(openRange(file, offset, length)) {
     const auto count = zip_get_num_entries(m_archive.get(), 0);
-    if (count > kMostEntries) {
-        refuse("it has too many entries");
+    if (count > kMostArchiveEntries) {
+        refuseArchive("it has too many entries");
     }
     for (zip_int64_t i = 0; i < count; ++i) {
         addEntry(static_cast<zip_uint64_t>(i));
     }
     if (m_indices.find(std::string(kMetadataName)) == m_indices.end()) {
-        refuse("metadata.json is missing");
+        refuseArchive("metadata.json is missing");
     }
 }
 
@@ -86,23 +86,23 @@ void Archive::addEntry(zip_uint64_t index) {
     zip_stat_init(&entry);
     // Names are taken by the letter of the format: outside ASCII only with the UTF-8 mark.
     if (zip_stat_index(m_archive.get(), index, ZIP_FL_ENC_STRICT, &entry) != 0) {
-        refuse(std::string("an entry cannot be read: ") + zip_strerror(m_archive.get()));
+        refuseArchive(std::string("an entry cannot be read: ") + zip_strerror(m_archive.get()));
     }
     const std::string name = (entry.valid & ZIP_STAT_NAME) != 0 ? entry.name : "";
     constexpr zip_uint64_t kNeeded = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_ENCRYPTION_METHOD;
     if ((entry.valid & kNeeded) != kNeeded || entry.encryption_method != ZIP_EM_NONE) {
-        refuse("entry '" + name + "' is encrypted or incomplete");
+        refuseArchive("entry '" + name + "' is encrypted or incomplete");
     }
     if (entry.comp_method != ZIP_CM_STORE && entry.comp_method != ZIP_CM_DEFLATE) {
-        refuse("entry '" + name + "' is neither stored nor deflated");
+        refuseArchive("entry '" + name + "' is neither stored nor deflated");
     }
     m_total += entry.size;
     if (entry.size > kLargestRelease || m_total > kLargestRelease) {
-        refuse("it unpacks to more than a release may hold");
+        refuseArchive("it unpacks to more than a release may hold");
     }
     addName(name, entry.size);
     if (!m_indices.emplace(name, index).second) {
-        refuse("entry '" + name + "' comes twice");
+        refuseArchive("entry '" + name + "' comes twice");
     }
 }
 
@@ -113,7 +113,7 @@ void Archive::addName(const std::string& name, std::uint64_t size) {
     const bool isBelowAssets = name.starts_with(kAssetsFolder);
     const auto file = isBelowAssets ? name.substr(kAssetsFolder.size()) : std::string();
     if (!isPlainFileName(file)) {
-        refuse("entry '" + name + "' is neither metadata.json nor a file directly in assets/");
+        refuseArchive("entry '" + name + "' is neither metadata.json nor a file directly in assets/");
     }
     m_assets[file] = size;
 }
@@ -123,7 +123,7 @@ std::string Archive::readMetadata() {
     const std::string name(kMetadataName);
     readEntry(m_archive.get(), m_indices.at(name), name, [&](std::string_view bytes) {
         if (text.size() + bytes.size() > kLargestMetadata) {
-            refuse("metadata.json is too large");
+            refuseArchive("metadata.json is too large");
         }
         text += bytes;
     });
@@ -138,7 +138,7 @@ void Archive::extractAsset(const std::string& name, const std::filesystem::path&
     readEntry(m_archive.get(), m_indices.at(entry), entry, [&](std::string_view bytes) {
         written += bytes.size();
         if (written > limit) {
-            refuse("entry '" + entry + "' is longer than it says");
+            refuseArchive("entry '" + entry + "' is longer than it says");
         }
         out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     });

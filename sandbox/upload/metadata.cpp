@@ -20,7 +20,7 @@ constexpr std::string_view kSongKeys[] = {"title", "audio_filename", "artists", 
 constexpr std::string_view kMainArtistKeys[] = {"name"};
 constexpr std::string_view kSongArtistKeys[] = {"name", "roles"};
 
-[[noreturn]] void refuse(const std::string& why) {
+[[noreturn]] void refuseMetadata(const std::string& why) {
     throw Refusal(400, "metadata.json: " + why);
 }
 
@@ -50,11 +50,11 @@ Json parse(std::string_view text) {
     try {
         auto tree = Json::parse(text, std::ref(watch));
         if (watch.repeated()) {
-            refuse("a key comes twice in one object");
+            refuseMetadata("a key comes twice in one object");
         }
         return tree;
     } catch (const Json::exception& error) {
-        refuse(std::string("not valid JSON: ") + error.what());
+        refuseMetadata(std::string("not valid JSON: ") + error.what());
     }
 }
 
@@ -86,13 +86,13 @@ private:
 void Checker::checkKeys(const Json& value, std::span<const std::string_view> known,
                         const std::string& where) {
     if (!value.is_object()) {
-        refuse(where + " is not an object");
+        refuseMetadata(where + " is not an object");
     }
     auto next = known.begin();
     for (const auto& item : value.items()) {
         const auto found = std::find(next, known.end(), item.key());
         if (found == known.end()) {
-            refuse(where + ": key '" + item.key() + "' is unknown or out of order");
+            refuseMetadata(where + ": key '" + item.key() + "' is unknown or out of order");
         }
         next = found + 1;
     }
@@ -101,7 +101,7 @@ void Checker::checkKeys(const Json& value, std::span<const std::string_view> kno
 const Json& Checker::member(const Json& object, const char* key, const std::string& where) {
     const auto found = object.find(key);
     if (found == object.end()) {
-        refuse(where + ": '" + key + "' is missing");
+        refuseMetadata(where + ": '" + key + "' is missing");
     }
     return *found;
 }
@@ -109,7 +109,7 @@ const Json& Checker::member(const Json& object, const char* key, const std::stri
 const Json& Checker::onlyElement(const Json& object, const char* key, const std::string& where) {
     const auto& list = member(object, key, where);
     if (!list.is_array() || list.size() != 1) {
-        refuse(where + ": '" + key + "' is not an array of exactly one element");
+        refuseMetadata(where + ": '" + key + "' is not an array of exactly one element");
     }
     return list.front();
 }
@@ -117,7 +117,7 @@ const Json& Checker::onlyElement(const Json& object, const char* key, const std:
 std::string Checker::text(const Json& object, const char* key, const std::string& where) {
     const auto& value = member(object, key, where);
     if (!value.is_string()) {
-        refuse(where + ": '" + key + "' is not a string");
+        refuseMetadata(where + ": '" + key + "' is not a string");
     }
     return value.get<std::string>();
 }
@@ -126,7 +126,7 @@ void Checker::required(const Json& object, const char* key, const std::string& w
     if (!object.contains(key)) {
         m_missing.push_back(where == "release" ? key : where + "." + key);
     } else if (text(object, key, where).empty()) {
-        refuse(where + ": '" + key + "' is empty; an empty property is to be left out");
+        refuseMetadata(where + ": '" + key + "' is empty; an empty property is to be left out");
     }
 }
 
@@ -134,14 +134,14 @@ Metadata Checker::check(const Json& release) {
     const std::string where = "release";
     checkKeys(release, kReleaseKeys, where);
     if (!text(release, "external_release_id", where).empty()) {
-        refuse("'external_release_id' is not empty");
+        refuseMetadata("'external_release_id' is not empty");
     }
     if (text(release, "client_id", where) != m_clientId) {
-        refuse("'client_id' is not the client that signed in");
+        refuseMetadata("'client_id' is not the client that signed in");
     }
     required(release, "title", where);
     if (release.contains("various") && text(release, "various", where) != "true") {
-        refuse("'various' is not the string \"true\"");
+        refuseMetadata("'various' is not the string \"true\"");
     }
     const auto& artist = onlyElement(release, "main_artists", where);
     checkKeys(artist, kMainArtistKeys, "main_artists[0]");
@@ -154,7 +154,7 @@ Metadata Checker::check(const Json& release) {
 
 void Checker::checkSongs(const Json& songs) {
     if (!songs.is_array() || songs.empty()) {
-        refuse("'songs' is not an array with at least one song");
+        refuseMetadata("'songs' is not an array with at least one song");
     }
     for (std::size_t i = 0; i < songs.size(); ++i) {
         checkSong(songs[i], "songs[" + std::to_string(i) + "]");
@@ -164,16 +164,16 @@ void Checker::checkSongs(const Json& songs) {
 void Checker::checkSong(const Json& song, const std::string& where) {
     checkKeys(song, kSongKeys, where);
     if (text(song, "title", where).empty()) {
-        refuse(where + ": 'title' is empty");
+        refuseMetadata(where + ": 'title' is empty");
     }
     auto file = text(song, "audio_filename", where);
     if (!isPlainFileName(file)) {
-        refuse(where + ": 'audio_filename' is not a plain file name");
+        refuseMetadata(where + ": 'audio_filename' is not a plain file name");
     }
     m_metadata.audioFiles.insert(std::move(file));
     checkSongArtist(song, where);
     if (song.contains("track_number") && !song["track_number"].is_number_integer()) {
-        refuse(where + ": 'track_number' is not an integer");
+        refuseMetadata(where + ": 'track_number' is not an integer");
     }
 }
 
@@ -182,7 +182,7 @@ void Checker::checkSongArtist(const Json& song, const std::string& where) {
     const auto& artist = onlyElement(song, "artists", where);
     checkKeys(artist, kSongArtistKeys, path);
     if (member(artist, "roles", path) != Json::array({"Main Artist"})) {
-        refuse(path + ": 'roles' is not [\"Main Artist\"]");
+        refuseMetadata(path + ": 'roles' is not [\"Main Artist\"]");
     }
     required(artist, "name", path);
 }

@@ -16,7 +16,7 @@ constexpr std::size_t kLongestHeaders = 8192;
 
 using Fields = std::map<std::string, std::string>;
 
-[[noreturn]] void refuse(const std::string& why) {
+[[noreturn]] void refuseMultipart(const std::string& why) {
     throw Refusal(400, "multipart body: " + why);
 }
 
@@ -32,7 +32,7 @@ bool isBoundaryChar(char c) {
            kSpecials.find(c) != std::string_view::npos;
 }
 
-std::string_view skipBlanks(std::string_view text) {
+std::string_view afterBlanks(std::string_view text) {
     const auto first = text.find_first_not_of(" \t");
     return first == std::string_view::npos ? std::string_view() : text.substr(first);
 }
@@ -41,7 +41,7 @@ std::string_view takeToken(std::string_view& text) {
     const auto end = std::find_if_not(text.begin(), text.end(), isTokenChar);
     const auto token = text.substr(0, static_cast<std::size_t>(end - text.begin()));
     if (token.empty()) {
-        refuse("a header value is malformed");
+        refuseMultipart("a header value is malformed");
     }
     text.remove_prefix(token.size());
     return token;
@@ -59,7 +59,7 @@ std::string takeQuoted(std::string_view& text) {
         }
         value += text[i];
     }
-    refuse("a quoted text has no end");
+    refuseMultipart("a quoted text has no end");
 }
 
 // `value; name=value; name="value"`: the first value goes to `main`, the rest is returned by lower-case name.
@@ -71,19 +71,19 @@ Fields splitParameters(std::string_view text, std::string& main) {
     Fields fields;
     while (!text.empty()) {
         if (text.front() != ';') {
-            refuse("a header's parameters are not separated by ';'");
+            refuseMultipart("a header's parameters are not separated by ';'");
         }
-        text = skipBlanks(text.substr(1));
+        text = afterBlanks(text.substr(1));
         auto name = lowerAscii(takeToken(text));
         if (text.empty() || text.front() != '=') {
-            refuse("a header's parameter has no value");
+            refuseMultipart("a header's parameter has no value");
         }
         text.remove_prefix(1);
         auto value = !text.empty() && text.front() == '"' ? takeQuoted(text) : std::string(takeToken(text));
         if (!fields.emplace(std::move(name), std::move(value)).second) {
-            refuse("a header's parameter comes twice");
+            refuseMultipart("a header's parameter comes twice");
         }
-        text = skipBlanks(text);
+        text = afterBlanks(text);
     }
     return fields;
 }
@@ -92,15 +92,15 @@ void addHeader(Fields& headers, std::string_view line) {
     const auto colon = line.find(':');
     if (colon == std::string_view::npos || colon == 0 ||
         !std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(colon), isTokenChar)) {
-        refuse("a part header is malformed");
+        refuseMultipart("a part header is malformed");
     }
-    const auto value = skipBlanks(line.substr(colon + 1));
+    const auto value = afterBlanks(line.substr(colon + 1));
     if (std::any_of(value.begin(), value.end(),
                     [](char c) { return static_cast<unsigned char>(c) < 0x20; })) {
-        refuse("a part header holds control characters");
+        refuseMultipart("a part header holds control characters");
     }
     if (!headers.emplace(lowerAscii(line.substr(0, colon)), value).second) {
-        refuse("a part header comes twice");
+        refuseMultipart("a part header comes twice");
     }
 }
 
@@ -110,7 +110,7 @@ std::size_t readHeaders(std::string_view text, Fields& headers) {
     for (;;) {
         const auto end = text.substr(0, kLongestHeaders).find(kLineEnd, at);
         if (end == std::string_view::npos) {
-            refuse("the part's headers have no end");
+            refuseMultipart("the part's headers have no end");
         }
         if (end == at) {
             return end + kLineEnd.size();
@@ -128,15 +128,15 @@ std::string headerOr(const Fields& headers, const std::string& name, const std::
 FilePart describePart(const Fields& headers) {
     const auto found = headers.find("content-disposition");
     if (found == headers.end()) {
-        refuse("the part has no Content-Disposition");
+        refuseMultipart("the part has no Content-Disposition");
     }
     std::string kind;
     auto parameters = splitParameters(found->second, kind);
     if (kind != "form-data") {
-        refuse("the part's Content-Disposition is not form-data");
+        refuseMultipart("the part's Content-Disposition is not form-data");
     }
     if (headerOr(headers, "content-transfer-encoding", "binary") != "binary") {
-        refuse("the part's Content-Transfer-Encoding is not binary");
+        refuseMultipart("the part's Content-Transfer-Encoding is not binary");
     }
     return {.name = parameters["name"], .filename = parameters["filename"]};
 }
@@ -147,7 +147,7 @@ std::size_t findDelimiter(std::string_view body, std::size_t from, const std::st
     const std::boyer_moore_horspool_searcher searcher(delimiter.begin(), delimiter.end());
     const auto found = std::search(body.begin() + static_cast<std::ptrdiff_t>(from), body.end(), searcher);
     if (found == body.end()) {
-        refuse("the closing delimiter is missing");
+        refuseMultipart("the closing delimiter is missing");
     }
     return static_cast<std::size_t>(found - body.begin());
 }
@@ -158,12 +158,12 @@ std::string boundaryOf(std::string_view contentType) {
     std::string type;
     auto parameters = splitParameters(contentType, type);
     if (type != "multipart/form-data") {
-        refuse("the content type is not multipart/form-data");
+        refuseMultipart("the content type is not multipart/form-data");
     }
     auto boundary = parameters["boundary"];
     if (boundary.empty() || boundary.size() > kLongestBoundary || boundary.back() == ' ' ||
         !std::all_of(boundary.begin(), boundary.end(), isBoundaryChar)) {
-        refuse("the content type names no proper boundary");
+        refuseMultipart("the content type names no proper boundary");
     }
     return boundary;
 }
@@ -171,7 +171,7 @@ std::string boundaryOf(std::string_view contentType) {
 FilePart parseSinglePart(std::string_view boundary, std::string_view body) {
     const auto opening = "--" + std::string(boundary) + "\r\n";
     if (!body.starts_with(opening)) {
-        refuse("it does not begin with its delimiter line");
+        refuseMultipart("it does not begin with its delimiter line");
     }
     Fields headers;
     const auto start = opening.size() + readHeaders(body.substr(opening.size()), headers);
@@ -181,10 +181,10 @@ FilePart parseSinglePart(std::string_view boundary, std::string_view body) {
     const auto end = findDelimiter(body, start - kLineEnd.size(), delimiter);
     const auto rest = body.substr(end + delimiter.size());
     if (rest.starts_with(kLineEnd)) {
-        refuse("it has more than one part");
+        refuseMultipart("it has more than one part");
     }
     if (rest != "--" && rest != "--\r\n") {
-        refuse("its closing delimiter is malformed or text follows it");
+        refuseMultipart("its closing delimiter is malformed or text follows it");
     }
     part.offset = start;
     part.length = end < start ? 0 : end - start;

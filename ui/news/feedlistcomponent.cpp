@@ -6,7 +6,7 @@ namespace brindlex {
 
 namespace {
 
-enum Tag : std::int32_t { kFeedList = 100 };
+enum FeedListTag : std::int32_t { kFeedList = 100 };
 
 } // namespace
 

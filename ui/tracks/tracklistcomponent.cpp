@@ -12,7 +12,7 @@ namespace brindlex {
 
 namespace {
 
-enum Tag : std::int32_t { kAddTracks = 100, kRemoveAll = 101, kAlbumUpload = 102 };
+enum TrackListTag : std::int32_t { kAddTracks = 100, kRemoveAll = 101, kAlbumUpload = 102 };
 
 } // namespace
 

@@ -24,7 +24,7 @@ std::string stringify(const Attributes& root) {
     return readAll(*stream);
 }
 
-std::string nested(int depth) {
+std::string nestedArrays(int depth) {
     std::string document = R"({"a":)";
     for (int i = 1; i < depth; ++i) {
         document += i % 2 == 0 ? R"({"a":)" : "[";
@@ -34,14 +34,6 @@ std::string nested(int depth) {
         document += i % 2 == 0 ? '}' : ']';
     }
     return document + '}';
-}
-
-std::string repeated(std::string_view piece, int count) {
-    std::string text;
-    for (int i = 0; i < count; ++i) {
-        text += piece;
-    }
-    return text;
 }
 
 TEST(JsonParseTest, RefusesWhatIsNoDocumentAndLeavesTheRootAlone) {
@@ -64,7 +56,7 @@ TEST(JsonParseTest, RefusesWhatIsNoDocumentAndLeavesTheRootAlone) {
         {"surrogate in UTF-8", "{\"a\":\"\xED\xA0\x80\"}"},
         {"lone surrogate", R"({"a":"\ud800"})"},
         {"control character", "{\"a\":\"\n\"}"},
-        {"too deep", nested(65)},
+        {"too deep", nestedArrays(65)},
         {"depth bomb", "{\"a\":" + repeated("[", 3'000'000)},
         {"too large", "{}" + repeated("        ", 8 << 20)},
     };
@@ -138,7 +130,7 @@ TEST(JsonTest, ReadsAndWritesTheSameTreeInItsOrder) {
     EXPECT_EQ(stringify(*twice), "{\n  \"a\": {\n    \"c\": 3\n  },\n  \"b\": 2\n}");
 
     const auto deep = make<Attributes>();
-    ASSERT_EQ(parse(nested(64), *deep), kOk);
+    ASSERT_EQ(parse(nestedArrays(64), *deep), kOk);
     EXPECT_NE(stringify(*deep), "failed");
     const auto outer = make<Attributes>();
     outer->set("a", objectValue(static_cast<IAttributes*>(deep.get())));

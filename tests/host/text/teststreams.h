@@ -41,4 +41,12 @@ private:
     std::string m_bytes;
 };
 
+inline std::string repeated(std::string_view piece, int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        text += piece;
+    }
+    return text;
+}
+
 } // namespace xbr::host::tests

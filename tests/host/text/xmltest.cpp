@@ -25,15 +25,7 @@ public:
     std::string log;
 };
 
-std::string repeated(std::string_view piece, int count) {
-    std::string text;
-    for (int i = 0; i < count; ++i) {
-        text += piece;
-    }
-    return text;
-}
-
-std::string nested(int depth) {
+std::string nestedElements(int depth) {
     return repeated("<a>", depth) + repeated("</a>", depth);
 }
 
@@ -77,7 +69,7 @@ TEST(XmlParseTest, HandsOutThePartsInOrder) {
 
 TEST(XmlParseTest, RefusesTheIllFormedAndTheDangerous) {
     for (const auto& document :
-         {nested(64), crowded(256), "<a><!--" + repeated("xxxxxxxxxx", 1'000'000) + "--></a>"}) {
+         {nestedElements(64), crowded(256), "<a><!--" + repeated("xxxxxxxxxx", 1'000'000) + "--></a>"}) {
         EXPECT_EQ(XBRXmlParse(streamOf(document).get(), make<Handler>().get()), kOk);
     }
 
@@ -101,8 +93,8 @@ TEST(XmlParseTest, RefusesTheIllFormedAndTheDangerous) {
         {"crowded tag", crowded(257)},
         {"crowded tag in a crowd", "<a><![CDATA[<]]>" + crowded(100'000) + "</a>"},
         {"crowded tag in UTF-16", utf16(crowded(100'000))},
-        {"too deep", nested(65)},
-        {"depth bomb", nested(1'000'000)},
+        {"too deep", nestedElements(65)},
+        {"depth bomb", nestedElements(1'000'000)},
         {"too large", "<a>" + std::string(16U << 20U, ' ') + "</a>"},
     };
     for (const auto& [what, document] : table) {
