@@ -58,6 +58,7 @@ class Bench:
         times = {work: [] for work in works}
         ours = []
         for _ in range(self.repetitions):
+            warm(3 * albums.size_of(album) // MEBIBYTE)
             ours.append(self.prepare(album))
             for work in works:
                 times[work].append(peers.timed(work, album))
@@ -70,6 +71,7 @@ class Bench:
 
     def latencies(self):
         album = self.wave_album(100 if self.quick else 1024)
+        warm(3 * albums.size_of(album) // MEBIBYTE)
         watched = [self.prepare(album) for _ in range(3 if self.quick else 9)]
         cancelled = self.program("cancel", 4 if self.quick else 20, *albums.files_of(album))
         print("| while packing | |")

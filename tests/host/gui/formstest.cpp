@@ -3,6 +3,7 @@
 #include "host/gui/hostwidgets.h"
 #include "tests/host/gui/accessibletree.h"
 #include "tests/host/gui/panel.h"
+#include "tests/host/gui/testskin.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -22,12 +23,6 @@ namespace {
 
 /// Every language of the extension, and one whose texts are twice as long.
 const std::vector<std::string> kLanguages = {"en", "de", "fr", "es", "pt", "ja", "xx"};
-
-void settle() {
-    for (int i = 0; i < 3; ++i) {
-        QApplication::processEvents();
-    }
-}
 
 /// The extension's forms in one of their states.
 class FormState {

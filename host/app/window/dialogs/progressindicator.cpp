@@ -22,7 +22,7 @@ constexpr int kWidth = 420;
 constexpr qint64 kShowAfter = 120;  ///< milliseconds
 constexpr qint64 kUpdateEvery = 16; ///< milliseconds
 
-QString toQString(Text text) {
+QString qText(Text text) {
     return QString::fromUtf8(text.data, static_cast<qsizetype>(text.length));
 }
 
@@ -96,7 +96,7 @@ ProgressIndicator::Work::Work(ProgressIndicator& indicator, WindowContext& conte
 }
 
 void ProgressIndicator::setTitle(Text title) noexcept {
-    m_title = toQString(title);
+    m_title = qText(title);
 }
 
 void ProgressIndicator::setOption(std::int32_t option) noexcept {
@@ -132,7 +132,7 @@ void ProgressIndicator::update(double fraction, Text what) noexcept {
         return;
     }
     m_work->updated = now;
-    m_work->sheet->tell(fraction, toQString(what));
+    m_work->sheet->tell(fraction, qText(what));
     const auto self = Ref<ProgressIndicator>::share(this);
     if (!isShown && now >= kShowAfter) {
         m_work->sheet->show();

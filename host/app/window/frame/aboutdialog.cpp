@@ -15,7 +15,7 @@ namespace xbr::host {
 
 namespace {
 
-constexpr int kIconSize = 64;
+constexpr int kLogoSize = 64;
 
 QLabel* makeLabel(const QString& text, const char* name, QWidget* parent) {
     auto* label = new QLabel(text, parent);
@@ -50,7 +50,7 @@ AboutDialog::AboutDialog(const std::vector<VersionLine>& modules, QWidget* paren
     layout->setSpacing(6);
     auto* picture = new QLabel(this);
     picture->setPixmap(
-        QIcon(":/xbrhost/icons/app.svg").pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
+        QIcon(":/xbrhost/icons/app.svg").pixmap(QSize(kLogoSize, kLogoSize), devicePixelRatioF()));
     layout->addWidget(picture);
     auto* title = makeLabel("xbrhost", "aboutTitle", this);
     title->setFont(scaledFont(1.5, QFont::DemiBold));

@@ -11,7 +11,7 @@ namespace xbr::host {
 
 namespace {
 
-constexpr int kIconSize = 56;
+constexpr int kPictureSize = 56;
 
 QLabel* addLine(QVBoxLayout& layout, const char* name, const QString& text) {
     auto* label = new QLabel(text);
@@ -31,7 +31,7 @@ EmptyState::EmptyState(QWidget* parent) : QFrame(parent), m_button(new QPushButt
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(8);
     layout->addStretch(3);
-    auto* picture = new IconLabel("waveform", kIconSize, this);
+    auto* picture = new IconLabel("waveform", kPictureSize, this);
     layout->addWidget(picture, 0, Qt::AlignHCenter);
     layout->addSpacing(8);
     addLine(*layout, "emptyTitle", tr("Drop your finished songs here"))

@@ -14,7 +14,7 @@ namespace xbr::host {
 
 namespace {
 
-constexpr int kIconSize = 18;
+constexpr int kToolSize = 18;
 
 } // namespace
 
@@ -31,7 +31,7 @@ Header::Header(const SongListModel& songs, QWidget* parent)
     m_summary->setObjectName("summary");
     m_publish->setObjectName("publish");
     m_publish->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_publish->setIconSize(QSize(kIconSize, kIconSize));
+    m_publish->setIconSize(QSize(kToolSize, kToolSize));
     m_publish->setFocusPolicy(Qt::StrongFocus);
     m_publish->setMenu(m_entries);
     m_publish->hide();
@@ -57,7 +57,7 @@ void Header::addButton(QAction& action) {
     auto* button = new QToolButton(this);
     button->setDefaultAction(&action);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setIconSize(QSize(kIconSize, kIconSize));
+    button->setIconSize(QSize(kToolSize, kToolSize));
     button->setFocusPolicy(Qt::StrongFocus);
     button->setAccessibleName(action.iconText());
     auto* row = qobject_cast<QHBoxLayout*>(layout());

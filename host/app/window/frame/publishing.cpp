@@ -11,7 +11,7 @@ namespace xbr::host {
 
 namespace {
 
-struct Texts {
+struct PublishingTexts {
     Q_DECLARE_TR_FUNCTIONS(xbr::host::Publishing)
 };
 
@@ -33,14 +33,15 @@ QString Publishing::ask(IPublisher& publisher, Passage& passage) {
     static constexpr std::string_view kRendered = "wav";
     const QString name = xbr::host::fileNameOf(*passage.song);
     if (!passage.song->problem.isEmpty() || !problemOfFile(passage.file).empty()) {
-        return Texts::tr("“%1” cannot be read.").arg(name);
+        return PublishingTexts::tr("“%1” cannot be read.").arg(name);
     }
     IFileType* type = fileTypeOf(passage.file).detach();
     const Result result = publisher.acceptFileType(&type);
     const auto wanted = Ref<IFileType>::adopt(type);
     passage.isToRender = result != kOk;
     const bool isPossible = result == kOk || (wanted && view(wanted->extension()) == kRendered);
-    return isPossible ? QString() : Texts::tr("“%1” is of a kind that cannot be published.").arg(name);
+    return isPossible ? QString()
+                      : PublishingTexts::tr("“%1” is of a kind that cannot be published.").arg(name);
 }
 
 QString Publishing::render(std::vector<Passage>& passages, RenderedSongs& rendered) {
@@ -60,7 +61,7 @@ QString Publishing::render(std::vector<Passage>& passages, RenderedSongs& render
             passage.file = target;
             break;
         case RenderResult::kGivenUp:
-            return Texts::tr("Rendering was cancelled; nothing was handed over.");
+            return PublishingTexts::tr("Rendering was cancelled; nothing was handed over.");
         case RenderResult::kFailed:
             return sentence("'" + fileNameOf(passage.file) + "' " + error);
         }
@@ -72,7 +73,7 @@ Notice Publishing::handOver(const PublishEntry& entry, const std::vector<Song>& 
     const auto publisher = createPublisher(entry);
     if (!publisher) {
         return {NoticeKind::kError,
-                Texts::tr("“%1” cannot be used.").arg(QString::fromStdString(entry.name))};
+                PublishingTexts::tr("“%1” cannot be used.").arg(QString::fromStdString(entry.name))};
     }
     std::vector<Passage> passages;
     for (const Song& song : songs) {
@@ -93,11 +94,12 @@ Notice Publishing::handOver(const PublishEntry& entry, const std::vector<Song>& 
     }
     if (publisher->publish(items.get()) != kOk) {
         return {NoticeKind::kError,
-                Texts::tr("“%1” does not take the songs.").arg(QString::fromStdString(entry.name))};
+                PublishingTexts::tr("“%1” does not take the songs.").arg(QString::fromStdString(entry.name))};
     }
     m_rendered = std::move(rendered); // the former ones are no longer in the module's list
-    return {NoticeKind::kInfo, Texts::tr("%n song(s) handed over. Complete the information, then upload.",
-                                         nullptr, static_cast<int>(songs.size()))};
+    return {NoticeKind::kInfo,
+            PublishingTexts::tr("%n song(s) handed over. Complete the information, then upload.", nullptr,
+                                static_cast<int>(songs.size()))};
 }
 
 } // namespace xbr::host

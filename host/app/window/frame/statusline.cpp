@@ -14,7 +14,7 @@ namespace xbr::host {
 
 namespace {
 
-constexpr int kIconSize = 18;
+constexpr int kNoticeIconSize = 18;
 
 struct Look {
     const char* icon;
@@ -40,7 +40,7 @@ Look lookOf(NoticeKind kind) {
 
 StatusLine::StatusLine(QWidget* parent)
     : QFrame(parent),
-      m_icon(new IconLabel("info", kIconSize, this)),
+      m_icon(new IconLabel("info", kNoticeIconSize, this)),
       m_text(new QLabel(this)),
       m_dismiss(new QToolButton(this)) {
     setObjectName("statusLine");
