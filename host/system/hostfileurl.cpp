@@ -1,6 +1,6 @@
 #include "host/system/hostfileurl.h"
 
-#include "framework/abi/uid.h"
+#include "host/base/textscan.h"
 
 #include <algorithm>
 
@@ -37,28 +37,6 @@ bool isPlainInPath(char c) {
 }
 
 } // namespace
-
-std::optional<std::string> percentDecoded(std::string_view text) {
-    std::string decoded;
-    decoded.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char c = text[i];
-        if (c == '%') {
-            const int high = i + 2 < text.size() ? detail::hexDigit(text[i + 1]) : -1;
-            const int low = high >= 0 ? detail::hexDigit(text[i + 2]) : -1;
-            if (low < 0) {
-                return std::nullopt;
-            }
-            c = static_cast<char>(high * 16 + low);
-            i += 2;
-        }
-        if (c == '\0') {
-            return std::nullopt;
-        }
-        decoded += c;
-    }
-    return decoded;
-}
 
 std::optional<std::string> localPath(std::string_view url) {
     if (!removeSchemeAndAuthority(url) || url.find_first_of("?#") != std::string_view::npos) {

@@ -14,7 +14,4 @@ namespace xbr::host {
 /// The file URL of an absolute path.
 [[gnu::visibility("default")]] std::string fileUrl(std::string_view path);
 
-/// Decodes percent-encoding; nothing when it is malformed or hides a zero byte.
-std::optional<std::string> percentDecoded(std::string_view text);
-
 } // namespace xbr::host

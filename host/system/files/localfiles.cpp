@@ -1,6 +1,7 @@
 #include "host/system/files/localfiles.h"
 
 #include "framework/support/objects/text.h"
+#include "host/base/textscan.h"
 #include "host/system/files/copyfile.h"
 #include "host/system/files/fileproblem.h"
 #include "host/system/files/filestore.h"

@@ -100,7 +100,8 @@ void Panel::parameterChanged(Parameter& parameter) {
     uploads += parameter.tag() == kUpload ? 1 : 0;
 }
 
-PanelSkin::PanelSkin(const std::string& archive, const std::string& language) : m_bytes(readFile(archive)) {
+PanelSkin::PanelSkin(const std::string& archive, const std::string& language)
+    : m_bytes(readFile(archive)), m_locale(qgetenv("LC_ALL")) {
     // English has no translations: a language that nobody carries stands for it.
     qputenv("LC_ALL", "en_US.UTF-8");
     qputenv("LANGUAGE", QByteArray::fromStdString(language));
@@ -121,6 +122,8 @@ PanelSkin::~PanelSkin() {
     XBRGetPlugInManager()->removeFactory(m_classes.get());
     setComponentSettings({});
     unregisterGuiClasses();
+    qputenv("LC_ALL", m_locale);
+    qunsetenv("LANGUAGE");
 }
 
 void PanelSkin::setNews(const std::string& url) {

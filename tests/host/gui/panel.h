@@ -5,6 +5,7 @@
 #include "framework/support/parts/component.h"
 #include "ui/tracks/tracklistcomponent.h"
 
+#include <QByteArray>
 #include <memory>
 #include <string>
 #include <vector>
@@ -72,6 +73,7 @@ public:
 
 private:
     std::string m_bytes;
+    QByteArray m_locale; // as it was before
     Ref<ClassFactory> m_classes;
     Ref<ITheme> m_theme;
 };
