@@ -46,7 +46,4 @@ constexpr char kRenewHint[] = " (xbrhost sign-in)";
 /// Writes "xbrhost: <text>" to standard error.
 void printError(std::string_view text);
 
-/// The text without control characters: what comes from outside must not steer the terminal.
-std::string plainText(std::string_view text);
-
 } // namespace xbr::host

@@ -22,7 +22,7 @@ constexpr std::uintmax_t kMaximumSize = std::uintmax_t{16} << 20U;
 constexpr int kMaximumDepth = 16;
 
 /// What is wrong with a release file, in words for the user.
-class Problem final : public std::runtime_error {
+class FileFault final : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
@@ -30,16 +30,16 @@ public:
 std::string readText(const std::string& path) {
     std::error_code failed;
     if (!fs::is_regular_file(path, failed)) {
-        throw Problem(fs::exists(path, failed) ? "is not a file" : "is not there");
+        throw FileFault(fs::exists(path, failed) ? "is not a file" : "is not there");
     }
     if (fs::file_size(path, failed) > kMaximumSize || failed) {
-        throw Problem("is too large for a release file");
+        throw FileFault("is too large for a release file");
     }
     std::ifstream file(path, std::ios::binary);
     std::ostringstream bytes;
     bytes << file.rdbuf();
     if (!file) {
-        throw Problem("cannot be read");
+        throw FileFault("cannot be read");
     }
     return bytes.str();
 }
@@ -56,7 +56,7 @@ Json parse(const std::string& text) {
     std::vector<std::set<std::string>> keys;
     const auto look = [&keys](int depth, Json::parse_event_t event, Json& parsed) {
         if (depth > kMaximumDepth) {
-            throw Problem("is nested too deeply");
+            throw FileFault("is nested too deeply");
         }
         if (event == Json::parse_event_t::object_start) {
             keys.emplace_back();
@@ -64,25 +64,25 @@ Json parse(const std::string& text) {
             keys.pop_back();
         } else if (event == Json::parse_event_t::key &&
                    !keys.back().insert(parsed.get<std::string>()).second) {
-            throw Problem("has the key '" + parsed.get<std::string>() + "' twice in one object");
+            throw FileFault("has the key '" + parsed.get<std::string>() + "' twice in one object");
         }
         return true;
     };
     try {
         return Json::parse(text, look);
     } catch (const Json::exception& error) {
-        throw Problem("is not valid JSON: " + describe(error));
+        throw FileFault("is not valid JSON: " + describe(error));
     }
 }
 
 /// Checks an object and its keys; `where` names it in messages.
 void checkObject(const Json& value, const std::string& where, const std::vector<std::string_view>& known) {
     if (!value.is_object()) {
-        throw Problem(where + " must be an object");
+        throw FileFault(where + " must be an object");
     }
     for (const auto& item : value.items()) {
         if (std::find(known.begin(), known.end(), item.key()) == known.end()) {
-            throw Problem(where + " has the unknown key '" + item.key() + "'");
+            throw FileFault(where + " has the unknown key '" + item.key() + "'");
         }
     }
 }
@@ -94,11 +94,11 @@ std::string textOf(const Json& object, const char* key, const std::string& where
     }
     const std::string name = "'" + std::string(key) + "' of " + where;
     if (!found->is_string()) {
-        throw Problem(name + " must be a text");
+        throw FileFault(name + " must be a text");
     }
     std::string text = found->get<std::string>();
     if (const std::string problem = problemOfText(name, text); !problem.empty()) {
-        throw Problem(problem);
+        throw FileFault(problem);
     }
     return text;
 }
@@ -110,7 +110,7 @@ std::int32_t trackNumberOf(const Json& song, const std::string& where) {
     }
     const bool isFit = found->is_number_integer() && *found >= 1 && *found <= kMaximumTrackNumber;
     if (!isFit) {
-        throw Problem("'trackNumber' of " + where + " must be a whole number from 1 to " +
+        throw FileFault("'trackNumber' of " + where + " must be a whole number from 1 to " +
                       std::to_string(kMaximumTrackNumber));
     }
     return found->get<std::int32_t>();
@@ -120,7 +120,7 @@ SongWish readSong(const Json& value, const std::string& where, const fs::path& f
     checkObject(value, where, {"file", "title", "artist", "genre", "trackNumber"});
     const std::string file = textOf(value, "file", where);
     if (file.empty()) {
-        throw Problem(where + " has no 'file'");
+        throw FileFault(where + " has no 'file'");
     }
     return {(folder / file).string(), textOf(value, "title", where), textOf(value, "artist", where),
             textOf(value, "genre", where), trackNumberOf(value, where)};
@@ -138,13 +138,13 @@ ReleaseWish readPlan(const Json& root, const fs::path& folder) {
     }
     const auto songs = root.find("songs");
     if (songs == root.end() || !songs->is_array() || songs->empty()) {
-        throw Problem("'songs' must be an array of at least one song");
+        throw FileFault("'songs' must be an array of at least one song");
     }
     for (const Json& song : *songs) {
         const std::string where = "song " + std::to_string(plan.songs.size() + 1);
         plan.songs.push_back(readSong(song, where, folder));
         if (plan.mode == ReleaseMode::kAlbum && !plan.songs.back().genre.empty()) {
-            throw Problem(where + " has a 'genre' of its own, but an album has one for all its songs");
+            throw FileFault(where + " has a 'genre' of its own, but an album has one for all its songs");
         }
     }
     return plan;
@@ -156,7 +156,7 @@ bool readReleaseFile(const std::string& path, ReleaseWish& plan, std::string& er
     try {
         plan = readPlan(parse(readText(path)), fs::path(path).parent_path());
         return true;
-    } catch (const Problem& problem) {
+    } catch (const FileFault& problem) {
         error = "the release file '" + path + "': " + problem.what();
         return false;
     }

@@ -1,4 +1,5 @@
 #include "host/app/headless/output.h"
+#include "host/base/textscan.h"
 
 #include <iostream>
 #include <map>

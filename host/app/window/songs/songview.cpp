@@ -14,7 +14,7 @@ namespace xbr::host {
 
 namespace {
 
-constexpr int kGreatestNumber = 9999;
+constexpr int kGreatestTypedNumber = 9999;
 
 bool isQuiet(int column) {
     return column == SongListModel::kNumber || column == SongListModel::kLength ||
@@ -63,7 +63,7 @@ QWidget* SongView::Delegate::createEditor(QWidget* parent, const QStyleOptionVie
         index.model()->headerData(index.column(), Qt::Horizontal, Qt::AccessibleTextRole).toString());
     if (index.column() == SongListModel::kNumber) {
         field->setAlignment(Qt::AlignRight);
-        field->setValidator(new QIntValidator(0, kGreatestNumber, field));
+        field->setValidator(new QIntValidator(0, kGreatestTypedNumber, field));
     } else if (index.column() == SongListModel::kGenre) {
         auto* completer = new QCompleter(m_genres, field);
         completer->setCaseSensitivity(Qt::CaseInsensitive);

@@ -66,7 +66,7 @@ UploadFacts without(UploadFacts facts, Fault fault, const std::string& path, con
     return facts;
 }
 
-struct Case {
+struct VerdictCase {
     UploadFacts facts;
     Cause cause;
     int code;
@@ -76,7 +76,7 @@ struct Case {
 TEST(Verdict, OfAnUpload) {
     using enum TrackState;
     const TrackFact waiting = track(kNone);
-    const Case cases[] = {
+    const VerdictCase cases[] = {
         {of({kTaken}), Cause::kPublished, 0, "Published “Harbour”."},
         {of({kTaken, kTaken}), Cause::kPublished, 0, "Published 2 songs as singles."},
         {album({kTaken, kTaken}), Cause::kPublished, 0, "Published the album “Night Drive” with 2 songs."},
@@ -130,7 +130,7 @@ TEST(Verdict, OfAnUpload) {
         {of({waiting}), Cause::kNotPrepared, 1, "“Harbour” could not be prepared. It was not sent."},
         {of({answered(kFailed, 500), answered(kFailed, 401)}), Cause::kServiceFault, 1, nullptr},
     };
-    for (const Case& each : cases) {
+    for (const VerdictCase& each : cases) {
         const Verdict verdict = judge(each.facts);
         EXPECT_EQ(verdict.cause, each.cause) << nameOf(verdict.cause);
         EXPECT_EQ(static_cast<int>(verdict.code), each.code) << verdict.sentence;
