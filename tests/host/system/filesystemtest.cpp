@@ -67,6 +67,7 @@ protected:
 
 TEST_F(FileSystemTest, LongWorkIsShownAndCanBeCancelled) {
     writeFile(at("song.wav"), std::string(5U << 20U, 's'));
+    takeFileProblem(); // of other cases
     const auto indicator = make<RecordingProgress>();
     setWorkProgress(indicator.get());
     Ref<IString> temporary;
