@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""scripts/setup with the real package manager on a system of its own, which has no packages and no sources."""
+"""scripts/setup with the real package manager on a system of its own, whose only source knows only g++."""
 
 import fcntl
 import os
@@ -19,7 +19,11 @@ class SetupTest(unittest.TestCase):
         for name in ("etc/apt/apt.conf.d", "etc/apt/preferences.d", "etc/apt/sources.list.d", "var/log/apt",
                      "var/lib/apt/lists/partial", "var/cache/apt/archives/partial", "var/lib/dpkg", "bin"):
             (self.root / name).mkdir(parents=True)
+        self.root.chmod(0o755)  # the package manager reads it as a user of its own
         (self.root / "var/lib/dpkg/status").touch()
+        (self.root / "Packages").write_text(
+            f"Package: g++\nVersion: 1\nArchitecture: all\nFilename: ./g++.deb\nSize: 1\nSHA256: {64 * '0'}\n")
+        (self.root / "etc/apt/sources.list").write_text(f"deb [trusted=yes] file:{self.root} ./\n")
         (self.root / "apt.conf").write_text(
             f'Dir "{self.root}";\nDir::State::status "{self.root}/var/lib/dpkg/status";\n')
         # The packages are those of this folder's owner: nobody's password is asked for.
@@ -43,7 +47,7 @@ class SetupTest(unittest.TestCase):
             fcntl.lockf(lock, fcntl.LOCK_UN)
         told, errors = setup.communicate(timeout=60)
         self.assertEqual(told, "")
-        self.assertRegex(errors, r"^setup: this machine's package sources do not have: g\+\+ cmake .*\n$")
+        self.assertRegex(errors, r"^setup: this machine's package sources do not have: cmake ninja-build .*\n$")
         self.assertEqual(setup.returncode, 1)
 
 
