@@ -8,13 +8,12 @@ namespace {
 using namespace xbr::host;
 
 ExitCode openWindow(int& argc, char** argv, const std::vector<std::string>& arguments) {
-    WindowOptions options;
-    std::string error;
-    if (!parseWindowOptions(arguments, options, error)) {
-        std::cerr << "xbrhost: " << error << " (see xbrhost --help)" << std::endl;
+    const auto options = parseWindowOptions(arguments);
+    if (!options) {
+        std::cerr << "xbrhost: " << options.problem().words << " (see xbrhost --help)" << std::endl;
         return ExitCode::kUsage;
     }
-    return runWindow(argc, argv, options);
+    return runWindow(argc, argv, *options);
 }
 
 } // namespace

@@ -72,7 +72,7 @@ TEST_F(WindowTest, closingInsideTheConnectDialogEndsItFirst) {
     click(window(), "connect");
     EXPECT_TRUE(wasInDialog);
     EXPECT_FALSE(window().isVisible());
-    EXPECT_TRUE(stage.host().context().modalRuns.isEmpty());
+    EXPECT_TRUE(stage.host().session().activity().isEmpty());
     stage.close();
 }
 
@@ -93,7 +93,7 @@ TEST_F(WindowTest, closingWhileSongsArePackedCancelsThat) {
     click(window(), "upload");
     EXPECT_TRUE(wasPacking);
     EXPECT_FALSE(window().isVisible());
-    EXPECT_TRUE(stage.host().context().modalRuns.isEmpty());
+    EXPECT_TRUE(stage.host().session().activity().isEmpty());
     stage.close();
     EXPECT_TRUE(std::filesystem::is_empty(stage.path("tmp")));
 }

@@ -1,4 +1,4 @@
-#include "host/app/window/start/programtexts.h"
+#include "host/app/window/start/window.h"
 
 #include <QApplication>
 #include <QStyleFactory>

@@ -1,7 +1,7 @@
 #include "host/app/window/dialogs/progressindicator.h"
 #include "host/app/window/frame/statusline.h"
 #include "host/app/window/songs/songview.h"
-#include "host/app/window/start/programtexts.h"
+#include "host/app/window/start/window.h"
 #include "tests/window/person.h"
 #include "tests/window/stage.h"
 

@@ -112,10 +112,10 @@ void Stage::configure(const std::string& server) const {
     }
 }
 
-WindowHost& Stage::open(const std::vector<std::string>& files, const std::string& module) {
+WindowFront& Stage::open(const std::vector<std::string>& files, const std::string& module) {
     m_host.reset();
-    m_host = std::make_unique<WindowHost>();
-    m_host->start({module.empty() ? TEST_MODULE : module, files});
+    m_host = std::make_unique<WindowFront>(WindowOptions{module.empty() ? TEST_MODULE : module, files});
+    m_host->start();
     activate();
     return *m_host;
 }

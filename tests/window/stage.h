@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/window/start/windowhost.h"
+#include "host/app/window/start/windowfront.h"
 #include "tests/sandbox/runningservice.h"
 
 #include <QTemporaryDir>
@@ -49,8 +49,8 @@ public:
     void configure(const std::string& server) const;
 
     /// Starts the window. `module` is the built extension unless something else is named.
-    WindowHost& open(const std::vector<std::string>& files = {}, const std::string& module = {});
-    WindowHost& host() { return *m_host; }
+    WindowFront& open(const std::vector<std::string>& files = {}, const std::string& module = {});
+    WindowFront& host() { return *m_host; }
     MainWindow& window() { return m_host->window(); }
 
     /// Gives the window the keyboard, as a desktop does when a dialog closes.
@@ -73,7 +73,7 @@ private:
     QTemporaryDir m_folder;
     std::unique_ptr<RunningService> m_service;
     std::vector<std::string> m_songs;
-    std::unique_ptr<WindowHost> m_host;
+    std::unique_ptr<WindowFront> m_host;
 };
 
 /// Runs the event loop until the condition holds; false when that takes too long.

@@ -1,6 +1,6 @@
 #include "host/app/headless/accountcommands.h"
 
-#include "host/app/headless/headlesshost.h"
+#include "host/app/headless/consolefront.h"
 #include "host/app/publishing/signin.h"
 
 #include <QEventLoop>
@@ -15,18 +15,18 @@ struct SignInOutcome {
 };
 
 /// Runs "connect" of the panel until it is over, or the user ends it.
-SignInOutcome connect(HeadlessHost& host, Expired expired) {
-    ConsoleContext& context = host.context();
+SignInOutcome connect(ConsoleSession& console, Expired expired) {
+    HostSession& session = console.session();
     SignInOutcome outcome;
     QEventLoop loop;
-    SignIn signIn(host.panel(), *context.configuration);
-    const auto interrupted = context.interruption.subscribe([&loop] { loop.quit(); });
+    SignIn signIn(console.panel(), session.settings());
+    const auto interrupted = session.interruption().subscribe([&loop] { loop.quit(); });
     const auto done = [&](SignInResult result, const std::string& detail) {
         outcome = {result, detail};
         loop.quit();
     };
     signIn.start(done, expired);
-    if (!context.interruption.isInterrupted()) {
+    if (!Interruption::isInterrupted()) {
         loop.exec();
     }
     return outcome;
@@ -61,54 +61,38 @@ void tellProblem(ExitCode code, const std::string& detail, const ConfigurationRe
 }
 
 /// Connects and tells who is signed in afterwards.
-ExitCode connectAndTell(HeadlessHost& host, Expired expired) {
-    const SignInOutcome outcome = connect(host, expired);
-    ConsoleContext& context = host.context();
-    const ExitCode code =
-        context.interruption.isInterrupted() ? ExitCode::kInterrupted : exitCodeOf(outcome.result);
+ExitCode connectAndTell(ConsoleSession& console, Expired expired) {
+    const SignInOutcome outcome = connect(console, expired);
+    const ExitCode code = Interruption::isInterrupted() ? ExitCode::kInterrupted : exitCodeOf(outcome.result);
     if (code == ExitCode::kDone || code == ExitCode::kNotSignedIn || code == ExitCode::kSignInExpired) {
-        context.output->account(code == ExitCode::kDone, host.panel().text("userName"));
+        console.output().account(code == ExitCode::kDone, console.panel().text("userName"));
     }
-    context.output->finished(code);
-    tellProblem(code, outcome.detail, *context.configuration);
+    console.output().finished(code);
+    tellProblem(code, outcome.detail, console.session().settings());
     return code;
-}
-
-ExitCode start(HeadlessHost& host) {
-    std::string error;
-    if (host.start(error)) {
-        return ExitCode::kDone;
-    }
-    host.context().output->finished(ExitCode::kModuleProblem);
-    printError(error);
-    return ExitCode::kModuleProblem;
 }
 
 } // namespace
 
 ExitCode runSignIn(const CommandLine& commandLine) {
-    HeadlessHost host(commandLine, Dialogs::kOffered);
-    const ExitCode started = start(host);
-    if (started != ExitCode::kDone) {
-        return started;
-    }
-    host.listenForCallbacks();
-    return connectAndTell(host, Expired::kRenew);
+    ConsoleSession console(commandLine, Dialogs::kOffered);
+    const ExitCode started = console.start();
+    return started == ExitCode::kDone ? connectAndTell(console, Expired::kRenew) : started;
 }
 
 ExitCode runSignOut(const CommandLine& commandLine) {
-    HeadlessHost host(commandLine, Dialogs::kNone);
-    const ExitCode started = start(host);
+    ConsoleSession console(commandLine, Dialogs::kNone);
+    const ExitCode started = console.start();
     if (started != ExitCode::kDone) {
         return started;
     }
-    const bool isDone = host.panel().set("Client/resetAuthorization", 1);
-    const ExitCode removed = host.context().hadStoreProblem ? ExitCode::kNotAllDone : ExitCode::kDone;
+    const bool isDone = console.panel().set("Client/resetAuthorization", 1);
+    const ExitCode removed = console.hadStoreProblem() ? ExitCode::kNotAllDone : ExitCode::kDone;
     const ExitCode code = isDone ? removed : ExitCode::kModuleProblem;
     if (code == ExitCode::kDone) {
-        host.context().output->account(false, {});
+        console.output().account(false, {});
     }
-    host.context().output->finished(code);
+    console.output().finished(code);
     if (!isDone) {
         printError("the module cannot sign out");
     }
@@ -117,9 +101,9 @@ ExitCode runSignOut(const CommandLine& commandLine) {
 
 ExitCode runStatus(const CommandLine& commandLine) {
     // Without a dialog "connect" uses a stored sign-in or gives up; no browser is opened.
-    HeadlessHost host(commandLine, Dialogs::kNone);
-    const ExitCode started = start(host);
-    return started == ExitCode::kDone ? connectAndTell(host, Expired::kTell) : started;
+    ConsoleSession console(commandLine, Dialogs::kNone);
+    const ExitCode started = console.start();
+    return started == ExitCode::kDone ? connectAndTell(console, Expired::kTell) : started;
 }
 
 } // namespace xbr::host

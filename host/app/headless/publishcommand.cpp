@@ -1,7 +1,7 @@
 #include "host/app/headless/publishcommand.h"
 
+#include "host/app/headless/consolefront.h"
 #include "host/app/headless/fieldnames.h"
-#include "host/app/headless/headlesshost.h"
 #include "host/app/headless/releasefile.h"
 #include "host/app/publishing/publishsession.h"
 
@@ -101,17 +101,17 @@ void tellTracks(const PublishOutcome& outcome) {
     }
 }
 
-ExitCode runSession(HeadlessHost& host, ReleaseWish plan) {
-    ConsoleContext& context = host.context();
+ExitCode runSession(ConsoleSession& console, ReleaseWish plan) {
+    HostSession& session = console.session();
     QEventLoop loop;
-    PublishView view(*context.output, loop);
-    PublishSession session(host.panel(), *context.configuration, context.activity, view);
-    const auto interrupted = context.interruption.subscribe([&session] { session.cancel(); });
-    session.start(std::move(plan));
+    PublishView view(console.output(), loop);
+    PublishSession publishing(console.panel(), session.settings(), session.activity(), view);
+    const auto interrupted = session.interruption().subscribe([&publishing] { publishing.cancel(); });
+    publishing.start(std::move(plan));
     loop.exec();
     const ExitCode code = exitCodeOf(view.outcome().result);
-    context.output->finished(code);
-    tellProblem(view.outcome(), *context.configuration);
+    console.output().finished(code);
+    tellProblem(view.outcome(), session.settings());
     tellTracks(view.outcome());
     return code;
 }
@@ -132,28 +132,28 @@ void tellMissing(const ReleaseDraft& release, std::size_t index) {
 }
 
 /// Shows what the module would send of the songs that it took.
-ExitCode showDrafts(HeadlessHost& host, const ReleaseWish& plan, const ReleaseIntake& intake) {
-    const auto releases = readDrafts(host.panel(), intake, plan.mode);
+ExitCode showDrafts(ConsoleSession& console, const ReleaseWish& plan, const ReleaseIntake& intake) {
+    const auto releases = readDrafts(console.panel(), intake, plan.mode);
     bool isComplete = true;
     for (std::size_t i = 0; i < releases.size(); ++i) {
-        host.context().output->draft(releases[i], i, releases.size());
+        console.output().draft(releases[i], i, releases.size());
         isComplete = isComplete && releases[i].isComplete();
     }
-    host.context().output->finished(isComplete ? ExitCode::kDone : ExitCode::kInformationMissing);
+    console.output().finished(isComplete ? ExitCode::kDone : ExitCode::kInformationMissing);
     for (std::size_t i = 0; i < releases.size(); ++i) {
         tellMissing(releases[i], i);
     }
     return isComplete ? ExitCode::kDone : ExitCode::kInformationMissing;
 }
 
-ExitCode runDry(HeadlessHost& host, const ReleaseWish& plan) {
-    ReleaseIntake intake(host.panel(), Rendering::kPretend);
+ExitCode runDry(ConsoleSession& console, const ReleaseWish& plan) {
+    ReleaseIntake intake(console.panel(), Rendering::kPretend);
     const ReleaseIntake::Outcome outcome = intake.take(plan);
     if (outcome.result == PublishResult::kDone) {
-        return showDrafts(host, plan, intake);
+        return showDrafts(console, plan, intake);
     }
     const ExitCode code = exitCodeOf(outcome.result);
-    host.context().output->finished(code);
+    console.output().finished(code);
     printError(outcome.detail);
     return code;
 }
@@ -164,20 +164,18 @@ ExitCode runPublish(const CommandLine& commandLine) {
     ReleaseWish plan = commandLine.publish.plan;
     const std::string& releaseFile = commandLine.publish.releaseFile;
     const bool isDryRun = commandLine.publish.isDryRun;
-    HeadlessHost host(commandLine, isDryRun ? Dialogs::kNone : Dialogs::kOffered);
+    ConsoleSession console(commandLine, isDryRun ? Dialogs::kNone : Dialogs::kOffered);
     std::string error;
-    const bool isPlanned = releaseFile.empty() || readReleaseFile(releaseFile, plan, error);
-    if (!isPlanned || !host.start(error)) {
-        const ExitCode code = isPlanned ? ExitCode::kModuleProblem : ExitCode::kUsage;
-        host.context().output->finished(code);
+    if (!releaseFile.empty() && !readReleaseFile(releaseFile, plan, error)) {
+        console.output().finished(ExitCode::kUsage);
         printError(error);
-        return code;
+        return ExitCode::kUsage;
     }
-    if (isDryRun) {
-        return runDry(host, plan);
+    const ExitCode started = console.start();
+    if (started != ExitCode::kDone) {
+        return started;
     }
-    host.listenForCallbacks();
-    return runSession(host, std::move(plan));
+    return isDryRun ? runDry(console, plan) : runSession(console, std::move(plan));
 }
 
 } // namespace xbr::host

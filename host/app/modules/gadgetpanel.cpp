@@ -97,21 +97,12 @@ private:
     std::function<void()> m_show;
 };
 
-std::unique_ptr<GadgetPanel> GadgetPanel::open(std::function<void()> show, std::string& error) {
-    const auto gadgets = findGadgets();
-    if (gadgets.empty()) {
-        error = "the module has no panel";
-        return nullptr;
-    }
-    return open(gadgets.front(), std::move(show), error);
-}
-
-std::unique_ptr<GadgetPanel> GadgetPanel::open(const GadgetClass& gadget, std::function<void()> show,
-                                               std::string& error) {
+Outcome<std::unique_ptr<GadgetPanel>> GadgetPanel::open(const GadgetClass& gadget,
+                                                        std::function<void()> show) {
     auto controller = create<IController>(gadget.uid);
     if (!controller) {
-        error = "the panel '" + gadget.name + "' cannot be made";
-        return nullptr;
+        return Problem{
+            Fault::kModule, gadget.name, 0, "the panel '" + gadget.name + "' cannot be made", {}, {}};
     }
     auto panelView = make<View>(gadget.formName, *controller, std::move(show));
     return std::unique_ptr<GadgetPanel>(new GadgetPanel(std::move(controller), std::move(panelView)));

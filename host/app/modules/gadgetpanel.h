@@ -5,6 +5,7 @@
 #include "framework/abi/publisher.h"
 #include "framework/abi/uid.h"
 #include "framework/support/objects/object.h"
+#include "host/base/problem.h"
 
 #include <cstdint>
 #include <functional>
@@ -35,13 +36,8 @@ std::vector<GadgetClass> findGadgets();
 /// model "TrackList/tracks", and parameters by path.
 class GadgetPanel {
 public:
-    /// Makes the panel of the first gadget that the plug-in manager knows. `show` is called when a module
-    /// wants the panel to be seen. Null, with the reason in `error`, when there is none.
-    static std::unique_ptr<GadgetPanel> open(std::function<void()> show, std::string& error);
-
-    /// Makes the panel of one gadget, in the same way.
-    static std::unique_ptr<GadgetPanel> open(const GadgetClass& gadget, std::function<void()> show,
-                                             std::string& error);
+    /// Makes the panel of a gadget. `show` is called when a module wants the panel to be seen.
+    static Outcome<std::unique_ptr<GadgetPanel>> open(const GadgetClass& gadget, std::function<void()> show);
 
     GadgetPanel(const GadgetPanel&) = delete;
     GadgetPanel& operator=(const GadgetPanel&) = delete;

@@ -25,79 +25,77 @@ Function lookUp(void* library, const char* name) {
 
 } // namespace
 
-std::unique_ptr<LoadedModule> LoadedModule::load(const std::string& path, IHostContext& context,
-                                                 std::string& error) {
+Outcome<std::unique_ptr<LoadedModule>> LoadedModule::load(const std::string& path, IHostContext& context) {
     auto module = std::unique_ptr<LoadedModule>(new LoadedModule(path));
-    std::string problem = module->open();
-    if (problem.empty()) {
-        problem = module->start();
+    auto loaded = module->open();
+    if (loaded) {
+        loaded = module->start();
     }
-    if (problem.empty()) {
-        problem = module->startServices(context);
+    if (loaded) {
+        loaded = module->startServices(context);
     }
-    if (!problem.empty()) {
-        error = "the module '" + path + "' " + problem;
-        return nullptr;
+    if (!loaded) {
+        return loaded.problem();
     }
     return module;
 }
 
-std::string LoadedModule::open() {
+Outcome<void> LoadedModule::open() {
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(m_path, ignored)) {
-        return "is not there";
+        return problem("is not there");
     }
     // A name without a slash would be searched for in the system's library folders.
     m_library = dlopen(std::filesystem::absolute(m_path).c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!m_library) {
         const char* reason = dlerror(); // NOLINT(concurrency-mt-unsafe): the C library keeps it per thread
-        return std::string("cannot be loaded: ") + (reason ? reason : "no reason was given");
+        return problem(std::string("cannot be loaded: ") + (reason ? reason : "no reason was given"));
     }
     m_main = lookUp<decltype(m_main)>(m_library, "XBRModuleMain");
     m_getFactory = lookUp<decltype(m_getFactory)>(m_library, "XBRGetClassFactory");
-    return m_main && m_getFactory ? "" : "is a library, but no module";
+    return m_main && m_getFactory ? Outcome<void>() : problem("is a library, but no module");
 }
 
-std::string LoadedModule::start() {
+Outcome<void> LoadedModule::start() {
     if (m_main(m_library, static_cast<std::int32_t>(ModuleReason::kLoad)) == 0) {
-        return "refuses to work (a part of it is missing or damaged)";
+        return problem("refuses to work (a part of it is missing or damaged)");
     }
     m_isStarted = true;
     m_factory = m_getFactory();
     if (!m_factory) {
-        return "offers no classes";
+        return problem("offers no classes");
     }
     const std::uint32_t version = m_factory->borderVersion();
     if (borderMajor(version) != borderMajor(kBorderVersion)) {
-        return "is made for border version " + versionText(version) + ", this host for " +
-               versionText(kBorderVersion);
+        return problem("is made for border version " + versionText(version) + ", this host for " +
+                       versionText(kBorderVersion));
     }
     return {};
 }
 
-std::string LoadedModule::startServices(IHostContext& context) {
+Outcome<void> LoadedModule::startServices(IHostContext& context) {
     for (std::int32_t i = 0; i < m_factory->countClasses(); ++i) {
         const ClassDescription* description = m_factory->classAt(i);
         if (description && view(description->category) == kServiceCategory) {
-            std::string problem = startService(*description, context);
-            if (!problem.empty()) {
-                return problem;
+            auto started = startService(*description, context);
+            if (!started) {
+                return started;
             }
         }
     }
-    return m_services.empty() ? "offers no service" : "";
+    return m_services.empty() ? problem("offers no service") : Outcome<void>();
 }
 
-std::string LoadedModule::startService(const ClassDescription& description, IHostContext& context) {
+Outcome<void> LoadedModule::startService(const ClassDescription& description, IHostContext& context) {
     const std::string name = "'" + toString(description.name) + "'";
     m_name = m_name.empty() ? toString(description.name) : m_name;
     void* created = nullptr;
     if (m_factory->createInstance(description.uid, IProgramService::kUid, &created) != kOk) {
-        return "cannot make its service " + name;
+        return problem("cannot make its service " + name);
     }
     auto service = Ref<IProgramService>::adopt(static_cast<IProgramService*>(created));
     if (!succeeded(service->initialise(&context))) {
-        return "cannot start its service " + name;
+        return problem("cannot start its service " + name);
     }
     Ref<IClassFactory> classes;
     service->getClasses(classes.out());

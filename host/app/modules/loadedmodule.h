@@ -2,6 +2,7 @@
 
 #include "framework/abi/module.h"
 #include "framework/support/objects/object.h"
+#include "host/base/problem.h"
 
 #include <memory>
 #include <string>
@@ -13,10 +14,8 @@ namespace xbr::host {
 /// takes everything back in the reverse order. Objects that the module made must be released before.
 class LoadedModule {
 public:
-    /// Loads the library at `path` and starts it. Null when that fails; `error` then says why, in one line
-    /// that names the path.
-    static std::unique_ptr<LoadedModule> load(const std::string& path, IHostContext& context,
-                                              std::string& error);
+    /// Loads the library at `path` and starts it. The words of the problem follow the path.
+    static Outcome<std::unique_ptr<LoadedModule>> load(const std::string& path, IHostContext& context);
 
     LoadedModule(const LoadedModule&) = delete;
     LoadedModule& operator=(const LoadedModule&) = delete;
@@ -37,10 +36,11 @@ private:
     };
 
     explicit LoadedModule(std::string path) : m_path(std::move(path)) {}
-    std::string open();
-    std::string start();
-    std::string startServices(IHostContext& context);
-    std::string startService(const ClassDescription& description, IHostContext& context);
+    Problem problem(const std::string& words) const { return {Fault::kModule, m_path, 0, words, {}, {}}; }
+    Outcome<void> open();
+    Outcome<void> start();
+    Outcome<void> startServices(IHostContext& context);
+    Outcome<void> startService(const ClassDescription& description, IHostContext& context);
     void stopServices() noexcept;
 
     std::string m_path;

@@ -61,10 +61,9 @@ Delivery sendToHosts(const std::string& url) {
     if (url.size() > kMaximumUrlSize || url.find('\n') != std::string::npos) {
         return Delivery::kTooLong;
     }
-    std::string error;
     const std::string folder = callbackFolder();
     std::error_code ignored;
-    if (!fs::exists(folder, ignored) || !makePrivateFolder(folder, error)) {
+    if (!fs::exists(folder, ignored) || !makePrivateFolder(folder)) {
         return Delivery::kNoHost;
     }
     bool isTaken = false;

@@ -23,18 +23,24 @@ std::string callbackFolder() {
     return QFile::encodeName(QDir::tempPath()).toStdString() + "/xbrhost-" + std::to_string(geteuid());
 }
 
-bool makePrivateFolder(const std::string& path, std::string& error) {
+Outcome<void> makePrivateFolder(const std::string& path) {
     if (mkdir(path.c_str(), S_IRWXU) != 0 && errno != EEXIST) {
-        error = "the folder '" + path + "' cannot be made: " + std::generic_category().message(errno);
-        return false;
+        const int error = errno;
+        return Problem{Fault::kNotWritable,
+                       path,
+                       error,
+                       "the folder '" + path + "' cannot be made: " + wordsOfErrno(error),
+                       {},
+                       {}};
     }
     struct stat status {};
     const bool isOurs = lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
                         status.st_uid == geteuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
     if (!isOurs) {
-        error = "the folder '" + path + "' is not private to this user";
+        return Problem{
+            Fault::kNotWritable, path, 0, "the folder '" + path + "' is not private to this user", {}, {}};
     }
-    return isOurs;
+    return {};
 }
 
 bool isOwnUser(int socket) {

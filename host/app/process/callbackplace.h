@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/problem.h"
+
 #include <cstddef>
 #include <string>
 
@@ -13,8 +15,8 @@ constexpr std::size_t kMaximumUrlSize = 8192;
 std::string callbackFolder();
 
 /// Makes the folder, or checks the one that is there: it has to be a real folder of this user that nobody
-/// else may enter. False, with the reason in plain words, when it is not: another user may have planted it.
-bool makePrivateFolder(const std::string& path, std::string& error);
+/// else may enter. Otherwise another user may have planted it. The words of a problem are a whole line.
+Outcome<void> makePrivateFolder(const std::string& path);
 
 /// True when the process at the other end of a local socket belongs to this user.
 bool isOwnUser(int socket);

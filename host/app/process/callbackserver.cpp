@@ -103,23 +103,28 @@ CallbackServer::~CallbackServer() {
     }
 }
 
-bool CallbackServer::start(std::string& error) {
+Outcome<void> CallbackServer::start() {
     // A host that ends at this moment may take the folder away between the two steps.
-    return listen(error) || listen(error);
+    return listen() ? Outcome<void>() : listen();
 }
 
-bool CallbackServer::listen(std::string& error) {
+Outcome<void> CallbackServer::listen() {
     m_folder = callbackFolder();
-    if (!makePrivateFolder(m_folder, error)) {
-        return false;
+    if (auto made = makePrivateFolder(m_folder); !made) {
+        return made;
     }
     const QString name = QFile::decodeName((m_folder + "/" + std::to_string(getpid()) + ".sock").c_str());
     QLocalServer::removeServer(name); // of a process that had our number and crashed
     if (!m_server.listen(name)) {
-        error = "cannot listen for callbacks in '" + m_folder + "': " + m_server.errorString().toStdString();
-        return false;
+        const std::string reason = m_server.errorString().toStdString();
+        return Problem{Fault::kNotWritable,
+                       m_folder,
+                       0,
+                       "cannot listen for callbacks in '" + m_folder + "': " + reason,
+                       {},
+                       {}};
     }
-    return true;
+    return {};
 }
 
 void CallbackServer::accept() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/problem.h"
+
 #include <QLocalServer>
 #include <QObject>
 
@@ -24,8 +26,8 @@ public:
     CallbackServer& operator=(const CallbackServer&) = delete;
     ~CallbackServer();
 
-    /// Begins to listen; false, with the reason in plain words, when that is not possible.
-    bool start(std::string& error);
+    /// Begins to listen. The words of a problem are a whole line.
+    Outcome<void> start();
 
     /// Is told after a URL was offered to the modules, whatever they did with it. An empty function ends it.
     void setUrlListener(std::function<void()> listener) { m_listener = std::move(listener); }
@@ -34,7 +36,7 @@ public:
     bool openUrl(const std::string& url);
 
 private:
-    bool listen(std::string& error);
+    Outcome<void> listen();
     void accept();
 
     QLocalServer m_server;

@@ -17,6 +17,9 @@ namespace xbr::host {
 
 namespace {
 
+/// The URL that stands for the window of a running host, among those that are sent to it.
+constexpr char kShowWindowUrl[] = "xbrhost:window";
+
 constexpr qint64 kPatience = 10000; ///< milliseconds that the other may take to get ready
 constexpr std::chrono::milliseconds kPause{100};
 
@@ -38,13 +41,13 @@ SingleInstance::~SingleInstance() {
     }
 }
 
-SingleInstance::Place SingleInstance::take(const std::vector<std::string>& files, std::string& error) {
+Outcome<SingleInstance::Place> SingleInstance::take(const std::vector<std::string>& files) {
     const std::string folder = callbackFolder();
     QElapsedTimer clock;
     clock.start();
     do {
-        if (!makePrivateFolder(folder, error)) {
-            return Place::kNoFolder;
+        if (const auto made = makePrivateFolder(folder); !made) {
+            return made.problem();
         }
         auto lock = std::make_unique<QLockFile>(QFile::decodeName((folder + "/window.lock").c_str()));
         lock->setStaleLockTime(0); // held for as long as the window is open

@@ -2,6 +2,7 @@
 
 #include "framework/abi/filetype.h"
 #include "framework/support/objects/object.h"
+#include "host/base/problem.h"
 
 #include <QLockFile>
 
@@ -19,7 +20,6 @@ public:
         kFirst,    ///< this process may open the window; the place is held as long as this object lives
         kSecond,   ///< another process has the window, and shows it now with the files
         kNoAnswer, ///< another process has the window, but does not answer
-        kNoFolder, ///< the folder in which windows find each other cannot be used
     };
 
     SingleInstance() = default;
@@ -27,17 +27,15 @@ public:
     SingleInstance& operator=(const SingleInstance&) = delete;
     ~SingleInstance();
 
-    /// Takes the place, or hands over to who has it. `error` tells more about kNoFolder.
-    Place take(const std::vector<std::string>& files, std::string& error);
+    /// Takes the place, or sends the files to who has it. A problem when the folder in which windows find
+    /// each other cannot be used; its words are a whole line.
+    Outcome<Place> take(const std::vector<std::string>& files);
 
 private:
     std::unique_ptr<QLockFile> m_lock;
 };
 
-/// The URL that stands for the window of a running host, among those that are handed to it.
-constexpr char kShowWindowUrl[] = "xbrhost:window";
-
-/// Takes what a second start of the program hands to the first: the wish to see the window, and songs. With
+/// Takes what a second start of the program sends to the first: the wish to see the window, and songs. With
 /// the file-type registry as long as this object is kept and `close` was not called.
 class OpenHandler final : public Object<IFileHandler> {
 public:

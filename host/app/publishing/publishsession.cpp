@@ -140,7 +140,7 @@ void PublishSession::upload() {
 }
 
 bool PublishSession::isIdle() const {
-    return m_calls == 0 && m_activity->openIndicators == 0 && !m_panel->isClient("isBusy") &&
+    return m_calls == 0 && !m_activity->isWorking() && !m_panel->isClient("isBusy") &&
            !m_follower->isUploading();
 }
 

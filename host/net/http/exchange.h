@@ -13,7 +13,8 @@ struct Exchange {
     std::string host;
     bool hadCredentials = false;
     bool hadBody = false;
-    std::int64_t sent = 0; ///< bytes of the body
+    std::int64_t size = 0; ///< bytes of the body
+    std::int64_t sent = 0; ///< bytes of the body that left
     int status = 0;        ///< 0: no answer came
     std::string said;      ///< what an answer that is no success says to people: one line of 200 characters
     Problem problem;       ///< why it was no success

@@ -107,14 +107,14 @@ Result WebRequest::send(IStream* body, IObserver* handler) noexcept {
     if (!content.open(body) || (content.exists() && m_method == "HEAD")) {
         return kInvalidArgument;
     }
-    const bool hasBody = content.exists();
+    m_exchange = {m_method, m_host, static_cast<bool>(m_credentials), content.exists(), content.size(), 0, 0,
+                  {},       {}};
     auto& loop = TransferLoop::instance();
     auto transfer = Transfer::create({m_method, m_url, m_host, buildHeaders(), std::move(content)}, *this);
     if (!transfer || !loop.start(*transfer)) {
         return kUnexpected;
     }
     m_transfer = std::move(transfer);
-    m_exchange = {m_method, m_host, static_cast<bool>(m_credentials), hasBody, 0, 0, {}, {}};
     m_credentials.reset();
     if (handler) {
         m_handler = Ref<IObserver>::share(handler);

@@ -1,10 +1,9 @@
-#include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "host/app/modules/publishentry.h"
-#include "host/app/window/start/programtexts.h"
-#include "host/app/window/start/windowhost.h"
-#include "host/gui/hostgui.h"
+#include "host/app/window/start/window.h"
+#include "host/app/window/start/windowfront.h"
+#include "tests/host/app/fakefront.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -30,45 +29,29 @@ void settle() {
     }
 }
 
-/// A module that is loaded, without a window.
-class RunningModule {
-public:
-    RunningModule() : m_classes(std::make_shared<ConfigurationReport>()) {
-        registerGuiClasses();
-        std::string error;
-        m_module = LoadedModule::load(BRINDLEX_MODULE, *m_context, error);
-    }
-    RunningModule(const RunningModule&) = delete;
-    RunningModule& operator=(const RunningModule&) = delete;
-    ~RunningModule() {
-        m_module.reset();
-        unregisterGuiClasses();
-    }
-
-private:
-    CoreClasses m_classes;
-    Ref<HostContext> m_context = make<HostContext>("bench", "1");
-    std::unique_ptr<LoadedModule> m_module;
-};
-
 /// From the module's class to pixels.
 void openPanel(benchmark::State& state) {
-    const RunningModule module;
-    WindowContext context;
+    FakeFront front;
+    HostSession session(front, {BRINDLEX_MODULE, false, false});
+    session.start();
     for (auto _ : state) {
-        GadgetDock dock(findGadgets().front(), context, nullptr);
-        dock.resize(kPanelSize);
-        dock.show();
-        settle();
-        benchmark::DoNotOptimize(dock.grab());
+        {
+            GadgetDock dock(
+                findGadgets().front(), session, [](const QString&) {}, nullptr);
+            dock.resize(kPanelSize);
+            dock.show();
+            settle();
+            benchmark::DoNotOptimize(dock.grab());
+        }
+        session.closePanels();
     }
 }
 
 /// The whole program: modules, window, panel.
 void openWindow(benchmark::State& state) {
     for (auto _ : state) {
-        WindowHost host;
-        host.start({BRINDLEX_MODULE, {}});
+        WindowFront host({BRINDLEX_MODULE, {}});
+        host.start();
         settle();
         benchmark::DoNotOptimize(host.window().grab());
     }
@@ -77,8 +60,8 @@ void openWindow(benchmark::State& state) {
 /// Tracks in the panel's list, the first in the editor.
 class FullPanel {
 public:
-    FullPanel(std::int64_t count, bool isAlbum) {
-        m_host.start({BRINDLEX_MODULE, {}});
+    FullPanel(std::int64_t count, bool isAlbum) : m_host({BRINDLEX_MODULE, {}}) {
+        m_host.start();
         const auto items = make<PublishedItems>();
         for (std::int64_t i = 0; i < count; ++i) {
             const auto media = make<Attributes>();
@@ -86,9 +69,7 @@ public:
             items->add("file:///music/take%20" + std::to_string(i) + ".wav", media);
         }
         const auto entries = findPublishEntries();
-        void* created = nullptr;
-        XBRGetPlugInManager()->createInstance(entries.front().uid, IPublisher::kUid, &created);
-        Ref<IPublisher>::adopt(static_cast<IPublisher*>(created))->publish(items.get());
+        createPublisher(entries.front())->publish(items.get());
         panel().set("TrackList/albumUpload", isAlbum ? 1 : 0);
         showTracks();
         panel().tracks()->setFocus(0);
@@ -106,7 +87,7 @@ private:
         pages->setCurrentIndex(1);
     }
 
-    WindowHost m_host;
+    WindowFront m_host;
 };
 
 void press(QWidget& field, int key, const QString& text) {

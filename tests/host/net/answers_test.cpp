@@ -23,16 +23,34 @@ struct AnswerCase {
     int status;
     std::string body;
     std::string error; ///< a part of the text; empty when there must be none
+    Fault fault = Fault::kNone;
 };
 
 void PrintTo(const AnswerCase& one, std::ostream* out) {
     *out << one.name;
 }
 
+/// What the host program hears.
+class Listener final : public ExchangeListener {
+public:
+    Listener() { setExchangeListener(this); }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+    ~Listener() { setExchangeListener(nullptr); }
+
+    void began(const Exchange&) override { ++beginnings; }
+    void ended(const Exchange& exchange) override { ends.push_back(exchange); }
+
+    int beginnings = 0;
+    std::vector<Exchange> ends;
+};
+
 class Answers : public ::testing::TestWithParam<AnswerCase> {
 protected:
     Answers() { setIdleLimit(std::chrono::milliseconds(600)); }
     ~Answers() override { setIdleLimit(std::chrono::seconds(60)); }
+
+    Listener m_listener;
 };
 
 TEST_P(Answers, reachTheHandlerOnce) {
@@ -44,6 +62,14 @@ TEST_P(Answers, reachTheHandlerOnce) {
     EXPECT_THAT(result.error, GetParam().error.empty() ? ::testing::Matcher<std::string>(IsEmpty())
                                                        : HasSubstr(GetParam().error));
     EXPECT_THAT(result.error, Not(HasSubstr("hidden")));
+
+    EXPECT_EQ(m_listener.beginnings, 1);
+    ASSERT_EQ(m_listener.ends.size(), 1U);
+    const Exchange& told = m_listener.ends.front();
+    EXPECT_EQ(told.method + " " + told.host, "GET 127.0.0.1");
+    EXPECT_EQ(told.status, GetParam().status);
+    EXPECT_EQ(told.problem.fault, GetParam().fault);
+    EXPECT_EQ(told.problem.words, result.error);
 }
 
 const std::string kStart = "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\nhalf";
@@ -88,8 +114,8 @@ INSTANTIATE_TEST_SUITE_P(
         AnswerCase{"ok", answering(answer(200, "fine")), 200, "fine", ""},
         AnswerCase{"emptyBody", answering(answer(200, "")), 200, "", ""},
         AnswerCase{"noContent", answering("HTTP/1.1 204 No Content\r\n\r\n"), 204, "", ""},
-        AnswerCase{"refused", answering(answer(401, "who?", "WWW-Authenticate: Bearer\r\n")), 401, "who?",
-                   ""},
+        AnswerCase{"refused", answering(answer(401, "who?", "WWW-Authenticate: Bearer\r\n")), 401, "who?", "",
+                   Fault::kRefused},
         AnswerCase{"chunked",
                    answering("HTTP/1.1 200 OK\r\nTransfer-Encoding: "
                              "chunked\r\n\r\n2\r\nab\r\n1\r\nc\r\n0\r\nX: y\r\n\r\n"),
@@ -100,41 +126,76 @@ INSTANTIATE_TEST_SUITE_P(
                              answer(200, "fine")),
                    200, "fine", ""},
         AnswerCase{"redirectIsNotFollowed", answering(answer(302, "", "Location: /elsewhere\r\n")), 302, "",
-                   ""},
+                   "", Fault::kRefused},
         AnswerCase{"slowButAlive", dribble, 200, "dddddddd", ""}),
     [](const auto& one) { return one.param.name; });
 
 INSTANTIATE_TEST_SUITE_P(
     Incomplete, Answers,
     ::testing::Values(
-        AnswerCase{"cutShort", answering(kStart), 0, "", "was cut short"},
+        AnswerCase{"cutShort", answering(kStart), 0, "", "was cut short", Fault::kConnectionLost},
         AnswerCase{"cutShortInAChunk",
                    answering("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n9\r\nhalf"), 0, "",
-                   "was cut short"},
-        AnswerCase{"cutShortInTheHeaders", answering("HTTP/1.1 200 OK\r\nContent-Le"), 0, "", "127.0.0.1"},
-        AnswerCase{"onlyInterim", answering("HTTP/1.1 103 Early Hints\r\n\r\n"), 0, "", "127.0.0.1"},
-        AnswerCase{"resetInTheBody", [](Peer& peer) { resetAfter(peer, kStart); }, 0, "", "was lost"},
-        AnswerCase{"resetAtOnce", [](Peer& peer) { resetAfter(peer, ""); }, 0, "", "was lost"},
-        AnswerCase{"closedWithoutAnswer", answering(""), 0, "", "without an answer"},
-        AnswerCase{"notHttp", answering("SSH-2.0-OpenSSH_9.2\r\n"), 0, "", "could not be understood"},
+                   "was cut short", Fault::kConnectionLost},
+        AnswerCase{"cutShortInTheHeaders", answering("HTTP/1.1 200 OK\r\nContent-Le"), 0, "", "127.0.0.1",
+                   Fault::kConnectionLost},
+        AnswerCase{"onlyInterim", answering("HTTP/1.1 103 Early Hints\r\n\r\n"), 0, "", "127.0.0.1",
+                   Fault::kConnectionLost},
+        AnswerCase{"resetInTheBody", [](Peer& peer) { resetAfter(peer, kStart); }, 0, "", "was lost",
+                   Fault::kConnectionLost},
+        AnswerCase{"resetAtOnce", [](Peer& peer) { resetAfter(peer, ""); }, 0, "", "was lost",
+                   Fault::kConnectionLost},
+        AnswerCase{"closedWithoutAnswer", answering(""), 0, "", "without an answer", Fault::kConnectionLost},
+        AnswerCase{"notHttp", answering("SSH-2.0-OpenSSH_9.2\r\n"), 0, "", "could not be understood",
+                   Fault::kConnectionLost},
         AnswerCase{"switchesProtocols", answering("HTTP/1.1 101 Switching\r\nUpgrade: x\r\n\r\nxxxx"), 0, "",
-                   "127.0.0.1"},
-        AnswerCase{"silent", [](Peer& peer) { stallAfter(peer, ""); }, 0, "", "has stalled"},
-        AnswerCase{"silentInTheBody", [](Peer& peer) { stallAfter(peer, kStart); }, 0, "", "has stalled"},
+                   "127.0.0.1", Fault::kConnectionLost},
+        AnswerCase{"silent", [](Peer& peer) { stallAfter(peer, ""); }, 0, "", "has stalled", Fault::kStalled},
+        AnswerCase{"silentInTheBody", [](Peer& peer) { stallAfter(peer, kStart); }, 0, "", "has stalled",
+                   Fault::kStalled},
         AnswerCase{"announcedTooLarge",
                    flood("HTTP/1.1 200 OK\r\nContent-Length: 99999999\r\n\r\n", kMegabyte), 0, "",
-                   "too large"},
-        AnswerCase{"endless", flood("HTTP/1.1 200 OK\r\n\r\n", kMegabyte), 0, "", "too large"},
+                   "too large", Fault::kReplyTooLarge},
+        AnswerCase{"endless", flood("HTTP/1.1 200 OK\r\n\r\n", kMegabyte), 0, "", "too large",
+                   Fault::kReplyTooLarge},
         AnswerCase{"endlessHeaders", flood("HTTP/1.1 200 OK\r\n", "X: " + std::string(8000, 'x') + "\r\n"), 0,
-                   "", "too large"},
+                   "", "too large", Fault::kReplyTooLarge},
         AnswerCase{"endlessInterim",
                    flood("", "HTTP/1.1 103 Early\r\nX: " + std::string(8000, 'x') + "\r\n\r\n"), 0, "",
-                   "too large"}),
+                   "too large", Fault::kReplyTooLarge}),
     [](const auto& one) { return one.param.name; });
+
+TEST(Words, ofRefusalsAreToldInOneLine) {
+    const std::string longWord(300, 'x');
+    const struct {
+        std::string body;
+        std::string said;
+    } cases[] = {
+        {R"({"message":"This title already exists"})", "This title already exists"},
+        {R"({"errors":["No title","No artist"],"message":"later"})", "No title; No artist"},
+        {R"({"errors":{"title":["is taken"],"year":[{"text":"is missing"}]}})", "is taken; is missing"},
+        {R"({"message":"two\nlines\u001b[2J\u0085"})", "two lines [2J "},
+        {R"({"message":")" + longWord + "\"}", longWord.substr(0, 200)},
+        {R"({"message":7})", ""},
+        {R"(["message"])", ""},
+        {R"({"message":"cut off)", ""},
+        {"<html>message</html>", ""},
+    };
+    for (const auto& one : cases) {
+        const ScriptedServer server(answering(answer(422, one.body)));
+        const Listener listener;
+        EXPECT_EQ(get(server.url()).body, one.body);
+        ASSERT_EQ(listener.ends.size(), 1U);
+        EXPECT_EQ(listener.ends.front().said, one.said) << one.body;
+        EXPECT_EQ(listener.ends.front().problem.words, one.said);
+        EXPECT_EQ(listener.ends.front().problem.code, 422);
+    }
+}
 
 TEST(Unreachable, tellsWhy) {
     std::uint16_t closedPort = 0;
     { closedPort = ScriptedServer(answering("")).port(); }
+    const Listener listener;
     const Exchanged refused = get("http://127.0.0.1:" + std::to_string(closedPort) + "/?code=hidden");
     EXPECT_EQ(refused.status, 0);
     EXPECT_EQ(refused.error, "No connection to 127.0.0.1 could be made.");
@@ -143,6 +204,10 @@ TEST(Unreachable, tellsWhy) {
     const Exchanged missing = get("http://missing.invalid/?code=hidden");
     EXPECT_EQ(missing.status, 0);
     EXPECT_EQ(missing.error, "The server missing.invalid could not be found.");
+    for (const Exchange& told : listener.ends) {
+        EXPECT_EQ(told.problem.fault, Fault::kNoServer);
+    }
+    EXPECT_EQ(listener.ends.size(), 2U);
 }
 
 } // namespace

@@ -15,9 +15,14 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class Lifetime : public ::testing::Test {
+class Lifetime : public ::testing::Test, private ExchangeListener {
 protected:
-    ~Lifetime() override { EXPECT_EQ(Recorder::alive(), 0) << "a handler was kept"; }
+    Lifetime() { setExchangeListener(this); }
+    ~Lifetime() override {
+        setExchangeListener(nullptr);
+        EXPECT_EQ(Recorder::alive(), 0) << "a handler was kept";
+        EXPECT_EQ(m_open, 0) << "the host program takes requests for flying that are over";
+    }
 
     /// Reads headers and a little of the body, then nothing.
     static void hang(Peer& peer) {
@@ -27,6 +32,12 @@ protected:
     }
 
     static Ref<MemoryStream> body() { return streamOf(std::string(std::size_t{16} << 20U, 'b')); }
+
+private:
+    void began(const Exchange&) override { ++m_open; }
+    void ended(const Exchange&) override { EXPECT_GE(--m_open, 0); }
+
+    int m_open = 0;
 };
 
 TEST_F(Lifetime, oneShot) {

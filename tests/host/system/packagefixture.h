@@ -2,6 +2,7 @@
 
 #include "framework/abi/package.h"
 #include "framework/support/objects/text.h"
+#include "host/system/hostsystem.h"
 #include "tests/host/system/testfiles.h"
 
 #include <gtest/gtest.h>
@@ -39,9 +40,11 @@ private:
 class PackageTest : public testing::Test {
 protected:
     PackageTest() {
+        setFileProblemListener([this](const Problem& problem) { problems.push_back(problem); });
         std::filesystem::create_directories(payload);
         start();
     }
+    ~PackageTest() override { setFileProblemListener({}); }
 
     /// A new package at the archive's place, and a new progress.
     void start() {
@@ -66,6 +69,7 @@ protected:
     std::filesystem::path archive = folder.path() / "payload.zip";
     Ref<IPackage> package;
     Ref<RecordingProgress> progress;
+    std::vector<Problem> problems; ///< that the host program hears of
 };
 
 } // namespace xbr::host::tests

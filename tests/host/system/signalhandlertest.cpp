@@ -233,5 +233,27 @@ TEST_F(SignalHandlerTest, DroppingAMessageMayEndObjectsThatForgetThemselves) {
     EXPECT_EQ(taken(), Log{"c<to c"});
 }
 
+TEST_F(SignalHandlerTest, QuietIsToldWhenTheLastDeliveryHasComeBack) {
+    setQuietListener([&] { log.push_back("quiet"); });
+    post(a, "x");
+    a->then = [&] {
+        a->then = nullptr;
+        post(b, "from x");
+        runLoop(); // as a dialog does
+        EXPECT_TRUE(hasPostedMessages()) << "the handler has not returned";
+        post(b, "last");
+    };
+    EXPECT_TRUE(hasPostedMessages());
+    runLoop();
+    EXPECT_EQ(taken(), (Log{"a<x", "b<from x", "b<last", "quiet"}));
+    EXPECT_FALSE(hasPostedMessages());
+
+    post(a, "dropped");
+    dropPostedMessages();
+    runLoop();
+    EXPECT_EQ(taken(), Log{"quiet"});
+    setQuietListener({});
+}
+
 } // namespace
 } // namespace xbr::host::tests

@@ -40,12 +40,12 @@ QString patternOf(const QString& extension) {
 
 } // namespace
 
-QStringList askForFiles(WindowContext& context, const FileQuestion& question) {
-    const QPointer<QFileDialog> dialog = new QFileDialog(context.window, question.title, lastFolder());
+QStringList askForFiles(DialogPlace& place, const FileQuestion& question) {
+    const QPointer<QFileDialog> dialog = new QFileDialog(place.window, question.title, lastFolder());
     dialog->setFileMode(modeOf(question));
     dialog->setAcceptMode(question.isSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setNameFilters(question.filters);
-    const ModalRuns::Run run(context.modalRuns, [&dialog] {
+    const Activity::Run run(place.session.activity(), Activity::Kind::kDialog, [&dialog] {
         if (dialog) {
             dialog->reject();
         }
@@ -84,7 +84,7 @@ QStringList FileSelector::nameFilters() const {
 
 Result FileSelector::run(Mode mode, Text title) noexcept {
     m_urls.clear();
-    if (m_context->modalRuns.isEnding()) {
+    if (m_place->session.activity().isEnding()) {
         return kFalse;
     }
     const auto self = Ref<FileSelector>::share(this);
@@ -93,7 +93,7 @@ Result FileSelector::run(Mode mode, Text title) noexcept {
     question.filters = nameFilters();
     question.isSaving = mode == Mode::kSaveFile;
     question.isForSeveral = mode == Mode::kOpenFiles;
-    for (const QString& path : askForFiles(*m_context, question)) {
+    for (const QString& path : askForFiles(*m_place, question)) {
         m_urls.push_back(fileUrl(QFile::encodeName(path).toStdString()));
     }
     return m_urls.empty() ? kFalse : kOk;

@@ -2,7 +2,7 @@
 
 #include "framework/abi/view.h"
 #include "framework/support/objects/object.h"
-#include "host/app/window/dialogs/windowcontext.h"
+#include "host/app/window/dialogs/dialogplace.h"
 
 #include <QStringList>
 
@@ -20,12 +20,12 @@ struct FileQuestion {
 
 /// Asks the user for files, beginning in the folder where they were last; empty when the user thinks better
 /// of it, or when the program is to end meanwhile. Runs the event loop.
-QStringList askForFiles(WindowContext& context, const FileQuestion& question);
+QStringList askForFiles(DialogPlace& place, const FileQuestion& question);
 
 /// Lets the user choose files, in the desktop's own dialog where there is one.
 class FileSelector final : public Object<IFileSelector> {
 public:
-    explicit FileSelector(WindowContext& context) : m_context(&context) {}
+    explicit FileSelector(DialogPlace& place) : m_place(&place) {}
 
     Result addFilter(IFileType* type) noexcept override;
     Result run(Mode mode, Text title) noexcept override;
@@ -39,7 +39,7 @@ private:
     };
     QStringList nameFilters() const;
 
-    WindowContext* m_context;
+    DialogPlace* m_place;
     std::vector<Filter> m_filters;
     std::vector<std::string> m_urls;
 };

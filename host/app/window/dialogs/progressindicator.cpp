@@ -83,15 +83,17 @@ void ProgressSheet::cancel() {
     }
 }
 
-ProgressIndicator::Work::Work(ProgressIndicator& indicator, WindowContext& context, const QString& title,
+ProgressIndicator::Work::Work(ProgressIndicator& indicator, DialogPlace& place, const QString& title,
                               bool isCancellable)
-    : scope(context.activity, indicator),
-      sheet(new ProgressSheet(context.window, title, isCancellable)),
-      run(context.modalRuns, [this] {
-          if (sheet) {
-              sheet->cancel();
-          }
-      }) {
+    : sheet(new ProgressSheet(place.window, title, isCancellable)),
+      run(
+          place.session.activity(), Activity::Kind::kPreparing,
+          [this] {
+              if (sheet) {
+                  sheet->cancel();
+              }
+          },
+          &indicator) {
     clock.start();
 }
 
@@ -106,7 +108,7 @@ void ProgressIndicator::setOption(std::int32_t option) noexcept {
 void ProgressIndicator::begin() noexcept {
     if (!m_work) {
         m_wasCancelled = false;
-        m_work = std::make_unique<Work>(*this, *m_context, m_title, m_isCancellable);
+        m_work = std::make_unique<Work>(*this, *m_place, m_title, m_isCancellable);
     }
 }
 
@@ -116,10 +118,10 @@ void ProgressIndicator::end() noexcept {
     }
     m_wasCancelled = isCancelled();
     delete m_work->sheet;
-    m_work.reset();
-    if (m_context->preparationEnded) {
-        m_context->preparationEnded(m_wasCancelled);
+    if (m_wasCancelled) {
+        m_work->run.cancelled();
     }
+    m_work.reset();
 }
 
 void ProgressIndicator::update(double fraction, Text what) noexcept {
@@ -146,7 +148,7 @@ bool ProgressIndicator::isCancelled() noexcept {
         return m_wasCancelled;
     }
     const bool isWanted = !m_work->sheet || m_work->sheet->isCancelled();
-    return m_isCancellable && (isWanted || m_context->modalRuns.isEnding());
+    return m_isCancellable && (isWanted || m_place->session.activity().isEnding());
 }
 
 } // namespace xbr::host

@@ -2,7 +2,7 @@
 
 #include "framework/abi/progress.h"
 #include "framework/support/objects/object.h"
-#include "host/app/window/dialogs/windowcontext.h"
+#include "host/app/window/dialogs/dialogplace.h"
 
 #include <QDialog>
 #include <QElapsedTimer>
@@ -43,7 +43,7 @@ private:
 /// of an eye shows nothing.
 class ProgressIndicator final : public Object<IProgressIndicator, IProgress> {
 public:
-    explicit ProgressIndicator(WindowContext& context) : m_context(&context) {}
+    explicit ProgressIndicator(DialogPlace& place) : m_place(&place) {}
     ~ProgressIndicator() override { end(); }
 
     void setTitle(Text title) noexcept override;
@@ -57,16 +57,15 @@ public:
 private:
     /// What there is between `begin` and `end`.
     struct Work {
-        Work(ProgressIndicator& indicator, WindowContext& context, const QString& title, bool isCancellable);
+        Work(ProgressIndicator& indicator, DialogPlace& place, const QString& title, bool isCancellable);
 
-        IndicatorScope scope;
         QPointer<ProgressSheet> sheet;
-        ModalRuns::Run run;
+        Activity::Run run;
         QElapsedTimer clock;
         qint64 updated = 0; ///< milliseconds of the clock
     };
 
-    WindowContext* m_context;
+    DialogPlace* m_place;
     QString m_title;
     bool m_isCancellable = false;
     bool m_wasCancelled = false;

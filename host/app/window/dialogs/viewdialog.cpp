@@ -72,8 +72,8 @@ Result ViewDialog::setTranslationTable(ITranslationTable* table) noexcept {
 }
 
 bool ViewDialog::isHopeless() const {
-    const ConfigurationReport& report = *m_context->configuration;
-    return m_context->modalRuns.isEnding() || (report.wasAsked && !report.isComplete());
+    const ConfigurationReport& report = m_place->session.settings();
+    return m_place->session.activity().isEnding() || (report.wasAsked && !report.isComplete());
 }
 
 Result ViewDialog::runModal(IView* view, std::int32_t styleFlags) noexcept {
@@ -88,19 +88,19 @@ Result ViewDialog::runModal(IView* view, std::int32_t styleFlags) noexcept {
     }
     const auto self = Ref<ViewDialog>::share(this); // whoever made it may let go of it meanwhile
     const auto shown = Ref<IView>::share(view);
-    const auto frame = makeFrame(m_context->window, styleFlags);
+    const auto frame = makeFrame(m_place->window, styleFlags);
     if (!frame->showView(*view)) {
         delete frame;
         return kInvalidArgument;
     }
-    const QScopedValueRollback<QPointer<ViewDialogFrame>> onTop(m_context->dialog, frame);
+    const QScopedValueRollback<QPointer<ViewDialogFrame>> onTop(m_place->dialog, frame);
     QEventLoop loop;
     m_loop = &loop;
-    const ModalRuns::Run run(m_context->modalRuns, [&loop] { loop.quit(); });
+    const Activity::Run run(m_place->session.activity(), Activity::Kind::kDialog, [&loop] { loop.quit(); });
     QObject::connect(frame, &QDialog::finished, &loop, &QEventLoop::quit);
     QObject::connect(frame, &QObject::destroyed, &loop, &QEventLoop::quit);
     Reachability reachability;
-    reachability.check(m_context->configuration->serverUrl, [&frame](const std::string& problem) {
+    reachability.check(m_place->session.settings().serverUrl, [&frame](const std::string& problem) {
         if (frame) {
             frame->setNotice(QString::fromStdString(problem));
         }

@@ -2,7 +2,7 @@
 
 #include "framework/abi/view.h"
 #include "framework/support/objects/object.h"
-#include "host/app/window/dialogs/windowcontext.h"
+#include "host/app/window/dialogs/dialogplace.h"
 
 #include <QDialog>
 #include <QEventLoop>
@@ -37,7 +37,7 @@ private:
 /// A dialog that shows a form of a module.
 class ViewDialog final : public Object<IDialog> {
 public:
-    explicit ViewDialog(WindowContext& context) : m_context(&context) {}
+    explicit ViewDialog(DialogPlace& place) : m_place(&place) {}
 
     Result setTheme(ITheme* theme) noexcept override;
     Result setTranslationTable(ITranslationTable* table) noexcept override;
@@ -50,7 +50,7 @@ public:
 private:
     bool isHopeless() const;
 
-    WindowContext* m_context;
+    DialogPlace* m_place;
     Ref<ITheme> m_theme;
     Ref<ITranslationTable> m_table;
     QEventLoop* m_loop = nullptr; ///< while the dialog runs

@@ -1,7 +1,7 @@
 #include "host/app/window/frame/mainwindow.h"
 
 #include "host/app/window/dialogs/fileselector.h"
-#include "host/app/window/frame/emptystate.h"
+#include "host/app/window/dialogs/viewdialog.h"
 #include "host/app/window/frame/header.h"
 #include "host/app/window/frame/statusline.h"
 #include "host/app/window/look/icon.h"
@@ -30,17 +30,18 @@ constexpr int kPanelWidth = 500;
 
 } // namespace
 
-MainWindow::MainWindow(WindowContext& context)
-    : m_context(&context),
+MainWindow::MainWindow(DialogPlace& place)
+    : m_place(&place),
       m_appearance(this),
       m_reader(this),
+      m_publishing(place.session.activity()),
       m_view(new SongView(m_songs, this)),
       m_empty(new EmptyState(this)),
       m_area(new QStackedWidget(this)),
       m_header(new Header(m_songs, this)),
       m_status(new StatusLine(this)),
       m_actions(std::make_unique<WindowActions>(*this, *m_view)) {
-    m_context->window = this;
+    m_place->window = this;
     build();
     connectActions();
     m_appearance.setChoice(m_layout.appearance());
@@ -119,7 +120,7 @@ void MainWindow::updateActions() {
 }
 
 void MainWindow::addSongs(const std::vector<std::string>& paths) {
-    if (m_context->activity.openIndicators > 0) {
+    if (m_place->session.activity().isWorking()) {
         return; // a drop from another program is no input that a sheet can block
     }
     m_reader.read(m_songs.addFiles(paths));
@@ -131,7 +132,7 @@ void MainWindow::askForSongs() {
     question.filters = QStringList{songFileFilter(), tr("All files (*)")};
     question.isForSeveral = true;
     QList<QUrl> chosen;
-    for (const QString& path : askForFiles(*m_context, question)) {
+    for (const QString& path : askForFiles(*m_place, question)) {
         chosen.append(QUrl::fromLocalFile(path));
     }
     addSongs(songFilesOf(chosen));
@@ -153,8 +154,14 @@ void MainWindow::showModules(std::vector<VersionLine> versions) {
     }
     m_header->setPublishEntries(m_actions->publishMenu->actions());
     number = 0;
+    // A dialog hides the status line; its form shows what the module knows, which may be nothing.
+    const auto tellInDialog = [this](const QString& text) {
+        if (m_place->dialog) {
+            m_place->dialog->setNotice(text);
+        }
+    };
     for (const GadgetClass& gadget : findGadgets()) {
-        auto* dock = new GadgetDock(gadget, *m_context, this);
+        auto* dock = new GadgetDock(gadget, m_place->session, tellInDialog, this);
         m_docks.push_back(dock);
         addDockWidget(Qt::RightDockWidgetArea, dock);
         connectDock(*dock, ++number);
@@ -162,13 +169,6 @@ void MainWindow::showModules(std::vector<VersionLine> versions) {
     if (!m_docks.empty()) {
         resizeDocks({m_docks.front()}, {kPanelWidth}, Qt::Horizontal);
     }
-    m_context->preparationEnded = [this](bool isCancelled) {
-        for (const GadgetDock* dock : m_docks) {
-            if (dock->watch()) {
-                dock->watch()->preparationEnded(isCancelled);
-            }
-        }
-    };
     m_layout.restore(*this, *m_view->header());
     updateActions();
 }
@@ -193,13 +193,13 @@ void MainWindow::connectDock(GadgetDock& dock, int number) {
 }
 
 void MainWindow::closePanels() {
-    m_context->preparationEnded = {};
     m_actions->publishMenu->clear();
     m_header->setPublishEntries({});
     const auto docks = std::exchange(m_docks, {});
     for (const GadgetDock* dock : docks) {
         delete dock;
     }
+    m_place->session.closePanels();
 }
 
 void MainWindow::showNotice(const Notice& notice) {
@@ -269,7 +269,8 @@ bool MainWindow::askWhetherToStop() {
     auto* goOn = question.addButton(tr("&Keep Uploading"), QMessageBox::RejectRole);
     question.setDefaultButton(goOn);
     question.setEscapeButton(goOn);
-    const ModalRuns::Run run(m_context->modalRuns, [&question] { question.reject(); });
+    const Activity::Run run(m_place->session.activity(), Activity::Kind::kDialog,
+                            [&question] { question.reject(); });
     question.exec();
     return question.clickedButton() == stop || m_isEnding;
 }
@@ -287,7 +288,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     m_isEnding = true;
     m_layout.save(*this, *m_view->header());
     event->accept();
-    m_context->modalRuns.endAll();
+    m_place->session.activity().endAll();
     emit closed();
 }
 

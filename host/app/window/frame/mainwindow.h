@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/window/dialogs/windowcontext.h"
+#include "host/app/window/dialogs/dialogplace.h"
 #include "host/app/window/frame/aboutdialog.h"
 #include "host/app/window/frame/layoutsettings.h"
 #include "host/app/window/frame/publishing.h"
@@ -30,7 +30,7 @@ class MainWindow final : public QMainWindow {
     Q_OBJECT
 
 public:
-    explicit MainWindow(WindowContext& context);
+    explicit MainWindow(DialogPlace& place);
     ~MainWindow() override;
 
     /// Appends songs; their tags follow as they are read. Paths are bytes.
@@ -72,7 +72,7 @@ private:
     bool isUploading() const;
     bool askWhetherToStop();
 
-    WindowContext* m_context;
+    DialogPlace* m_place;
     LayoutSettings m_layout;
     AppearanceSetting m_appearance;
     SongListModel m_songs;

@@ -45,6 +45,7 @@ QString Publishing::ask(IPublisher& publisher, Passage& passage) {
 }
 
 QString Publishing::render(std::vector<Passage>& passages, RenderedSongs& rendered) {
+    const Activity::Run rendering(*m_activity, Activity::Kind::kRendering, {});
     for (const Passage& passage : passages) {
         if (!passage.isToRender) {
             rendered.reserve(fileNameOf(passage.file));

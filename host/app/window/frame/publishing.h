@@ -3,6 +3,7 @@
 #include "host/app/audio/rendering.h"
 #include "host/app/modules/publishentry.h"
 #include "host/app/publishing/notice.h"
+#include "host/app/session/activity.h"
 #include "host/app/window/songs/song.h"
 
 #include <memory>
@@ -14,6 +15,8 @@ namespace xbr::host {
 /// Hands songs to publish entries of modules.
 class Publishing {
 public:
+    explicit Publishing(Activity& activity) : m_activity(&activity) {}
+
     /// Hands the songs over: those of a type that the entry does not take are rendered before. Runs the event
     /// loop meanwhile; a second call in there does nothing. What to tell the user is the result.
     Notice publish(const PublishEntry& entry, const std::vector<Song>& songs);
@@ -28,8 +31,9 @@ private:
 
     Notice handOver(const PublishEntry& entry, const std::vector<Song>& songs);
     static QString ask(IPublisher& publisher, Passage& passage);
-    static QString render(std::vector<Passage>& passages, RenderedSongs& rendered);
+    QString render(std::vector<Passage>& passages, RenderedSongs& rendered);
 
+    Activity* m_activity;
     bool m_isRunning = false;
     std::unique_ptr<RenderedSongs> m_rendered; ///< what the entry got last
 };

@@ -31,20 +31,20 @@ Ref<IView> makeView(const GadgetClass& gadget, IController& controller) {
 
 } // namespace
 
-GadgetDock::GadgetDock(const GadgetClass& gadget, const WindowContext& context, QWidget* parent)
+GadgetDock::GadgetDock(const GadgetClass& gadget, HostSession& session,
+                       std::function<void(const QString&)> tellInDialog, QWidget* parent)
     : QDockWidget(QString::fromStdString(gadget.name), parent) {
     setObjectName("gadget-" + QString::fromStdString(toString(gadget.uid)));
     setAccessibleName(windowTitle());
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     setTitleBarWidget(new DockTitle(*this));
-    std::string error;
-    m_panel = GadgetPanel::open(
-        gadget, [this] { bringToFront(); }, error);
-    if (!m_panel) {
-        showProblem(sentence(error));
+    const auto panel = session.openPanel(gadget, [this] { bringToFront(); });
+    if (!panel) {
+        showProblem(sentence(panel.problem().words));
         return;
     }
-    m_watch = new ServiceWatch(*m_panel, context, this);
+    m_panel = *panel;
+    m_watch = new ServiceWatch(*m_panel, session, std::move(tellInDialog), this);
     showForm(gadget);
 }
 
@@ -52,7 +52,6 @@ GadgetDock::~GadgetDock() {
     // The form first: it is bound to what the panel holds. The watch listens to it, too.
     delete m_form;
     delete m_watch;
-    m_panel.reset();
 }
 
 void GadgetDock::showForm(const GadgetClass& gadget) {

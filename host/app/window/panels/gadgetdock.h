@@ -5,21 +5,22 @@
 
 #include <QDockWidget>
 
-#include <memory>
+#include <functional>
 
 namespace xbr::host {
 
-/// The panel of a module, docked in the window. Must go before the module does.
+/// The panel of a module, docked in the window. Must go before the session closes its panels.
 class GadgetDock final : public QDockWidget {
     Q_OBJECT
 
 public:
     /// Opens the panel; one that cannot be opened says so in its place.
-    GadgetDock(const GadgetClass& gadget, const WindowContext& context, QWidget* parent);
+    GadgetDock(const GadgetClass& gadget, HostSession& session,
+               std::function<void(const QString&)> tellInDialog, QWidget* parent);
     ~GadgetDock() override;
 
     /// Null when the panel could not be opened.
-    GadgetPanel* panel() const { return m_panel.get(); }
+    GadgetPanel* panel() const { return m_panel; }
     ServiceWatch* watch() const { return m_watch; }
 
     /// To the user's sight, with the keyboard.
@@ -32,7 +33,7 @@ private:
     void showForm(const GadgetClass& gadget);
     void showProblem(const QString& text);
 
-    std::unique_ptr<GadgetPanel> m_panel;
+    GadgetPanel* m_panel = nullptr; ///< the session's
     ServiceWatch* m_watch = nullptr;
     QWidget* m_form = nullptr;
 };

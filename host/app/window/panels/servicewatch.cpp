@@ -4,7 +4,6 @@
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
 #include "host/app/publishing/preparationproblem.h"
-#include "host/app/window/dialogs/viewdialog.h"
 #include "host/app/window/panels/wording.h"
 #include "host/net/hostnet.h"
 
@@ -30,10 +29,12 @@ std::size_t countOf(const std::vector<TrackReport>& tracks, TrackState state) {
 
 } // namespace
 
-ServiceWatch::ServiceWatch(GadgetPanel& panel, const WindowContext& context, QObject* parent)
+ServiceWatch::ServiceWatch(GadgetPanel& panel, HostSession& session,
+                           std::function<void(const QString&)> tellInDialog, QObject* parent)
     : QObject(parent),
       m_panel(&panel),
-      m_context(&context),
+      m_session(&session),
+      m_tellInDialog(std::move(tellInDialog)),
       m_client([this](ISubject*, const IMessage& message) {
           if (isNamed(message, "propertyChanged")) {
               clientChanged();
@@ -41,7 +42,8 @@ ServiceWatch::ServiceWatch(GadgetPanel& panel, const WindowContext& context, QOb
       }),
       m_settling([this] { return isIdle(); }, [this] { rested(); }),
       m_state(clientStateOf(panel)),
-      m_refusals(countRefusedCredentials()) {
+      m_refusals(countRefusedCredentials()),
+      m_watching(session.activity().watch(*this)) {
     m_client.listen(findObject<ISubject>(panel.controller(), "Client"));
 }
 
@@ -49,22 +51,15 @@ void ServiceWatch::tell(NoticeKind kind, const QString& text) {
     emit noticed({kind, text});
 }
 
-/// A dialog hides the status line; its form shows what the module knows, which may be nothing.
-void ServiceWatch::tellInDialog(const QString& text) {
-    if (m_context->dialog) {
-        m_context->dialog->setNotice(text);
-    }
-}
-
 void ServiceWatch::callbackArrived() {
     if (clientStateOf(*m_panel) == kAwaitingCode) {
-        tellInDialog(
+        m_tellInDialog(
             tr("The browser came back without a permission. Allow the access there, or cancel here."));
     }
 }
 
 bool ServiceWatch::isUploading() const {
-    return m_context->activity.openIndicators > 0 || (m_follower && m_follower->isUploading());
+    return m_session->activity().isWorking() || (m_follower && m_follower->isUploading());
 }
 
 void ServiceWatch::clientChanged() {
@@ -81,11 +76,11 @@ void ServiceWatch::clientChanged() {
 }
 
 void ServiceWatch::tellState(std::int64_t state) {
-    const ConfigurationReport& report = *m_context->configuration;
+    const ConfigurationReport& report = m_session->settings();
     switch (state) {
     case kAwaitingCode:
         m_hasSignInFailed = false;
-        tellInDialog({});
+        m_tellInDialog({});
         if (report.wasAsked && !report.isComplete()) {
             tell(NoticeKind::kError, describeConfiguration(report));
         } else {
@@ -107,7 +102,10 @@ void ServiceWatch::tellState(std::int64_t state) {
     }
 }
 
-void ServiceWatch::preparationEnded(bool isCancelled) {
+void ServiceWatch::ended(Activity::Kind kind, bool isCancelled) {
+    if (kind != Activity::Kind::kPreparing) {
+        return;
+    }
     m_wasCancelled = isCancelled;
     tell(NoticeKind::kBusy, tr("Uploading…"));
     if (!m_follower) {
@@ -136,7 +134,7 @@ void ServiceWatch::trackChanged(const TrackReport& track) {
 }
 
 bool ServiceWatch::isIdle() const {
-    return m_context->activity.openIndicators == 0 && !m_panel->isClient("isBusy") &&
+    return !m_session->activity().isWorking() && !m_panel->isClient("isBusy") &&
            !(m_follower && m_follower->isUploading());
 }
 
@@ -169,14 +167,14 @@ void ServiceWatch::judgeSignIn() {
         }
     } else if (m_hasSignInFailed) {
         m_hasSignInFailed = false;
-        m_reachability.check(m_context->configuration->serverUrl, [this](const std::string& problem) {
+        m_reachability.check(m_session->settings().serverUrl, [this](const std::string& problem) {
             tell(NoticeKind::kError, problem.empty()
                                          ? tr("The service did not accept the sign-in. Try to connect again.")
                                          : sentence(problem));
         });
-    } else if (m_state == kAwaitingCode && m_context->dialog) {
+    } else if (m_state == kAwaitingCode && m_session->activity().isOpen(Activity::Kind::kDialog)) {
         m_settling.start(); // until somebody closes it
-    } else if (m_state == kAwaitingCode && m_context->configuration->isComplete()) {
+    } else if (m_state == kAwaitingCode && m_session->settings().isComplete()) {
         tell(NoticeKind::kInfo, tr("Not connected yet: the browser has not come back with a permission."));
     }
 }
@@ -206,7 +204,7 @@ void ServiceWatch::judgeFailure(const std::vector<TrackReport>& tracks, bool was
         return;
     }
     const int open = static_cast<int>(tracks.size() - countOf(tracks, TrackState::kDone));
-    m_reachability.check(m_context->configuration->serverUrl, [this, open](const std::string& unreachable) {
+    m_reachability.check(m_session->settings().serverUrl, [this, open](const std::string& unreachable) {
         tell(NoticeKind::kError,
              unreachable.empty() ? tr("The service did not take %n song(s). Try again later.", nullptr, open)
                                  : sentence(unreachable));

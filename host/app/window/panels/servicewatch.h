@@ -6,25 +6,25 @@
 #include "host/app/publishing/reachability.h"
 #include "host/app/publishing/settling.h"
 #include "host/app/publishing/trackfollower.h"
-#include "host/app/window/dialogs/windowcontext.h"
+#include "host/app/session/hostsession.h"
 
 #include <QObject>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 namespace xbr::host {
 
 /// Watches a panel, and tells the user in plain words what the module keeps silent about: missing settings, a
 /// sign-in that failed or has expired, a service that does not answer, an upload that came to nothing.
-class ServiceWatch final : public QObject {
+class ServiceWatch final : public QObject, private Activity::Watcher {
     Q_OBJECT
 
 public:
-    ServiceWatch(GadgetPanel& panel, const WindowContext& context, QObject* parent);
-
-    /// A progress indicator of the module was taken away.
-    void preparationEnded(bool isCancelled);
+    /// `tellInDialog` shows a line in the dialog of a module that is open, or takes it away.
+    ServiceWatch(GadgetPanel& panel, HostSession& session, std::function<void(const QString&)> tellInDialog,
+                 QObject* parent);
 
     /// The browser came back, and the module was told.
     void callbackArrived();
@@ -47,10 +47,11 @@ private:
     void trackChanged(const TrackReport& track);
     bool tellExpired();
     void tell(NoticeKind kind, const QString& text);
-    void tellInDialog(const QString& text);
+    void ended(Activity::Kind kind, bool isCancelled) override;
 
     GadgetPanel* m_panel;
-    const WindowContext* m_context;
+    HostSession* m_session;
+    std::function<void(const QString&)> m_tellInDialog;
     SignalListener m_client;
     Settling m_settling;
     Reachability m_reachability;
@@ -60,6 +61,7 @@ private:
     bool m_wasCancelled = false;
     bool m_hasSignInFailed = false;
     std::uint64_t m_refusals; ///< of credentials, as far as the user was told
+    Activity::Handle m_watching;
 };
 
 } // namespace xbr::host

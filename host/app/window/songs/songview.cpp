@@ -1,11 +1,17 @@
 #include "host/app/window/songs/songview.h"
 
+#include "host/app/window/look/icon.h"
+#include "host/app/window/look/tints.h"
+
 #include <QCompleter>
 #include <QHeaderView>
 #include <QIntValidator>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QResizeEvent>
 #include <QStyledItemDelegate>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <numeric>
@@ -32,6 +38,17 @@ QString widestFormat() {
     static constexpr int kRate = 44100;
     static constexpr int kBitRate = 320;
     return formatText({"MP3", 0, kRate, 0, kBitRate});
+}
+
+constexpr int kIconSize = 56;
+
+QLabel* addLine(QVBoxLayout& layout, const char* name, const QString& text) {
+    auto* label = new QLabel(text);
+    label->setObjectName(name);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    layout.addWidget(label);
+    return label;
 }
 
 } // namespace
@@ -207,6 +224,24 @@ void SongView::resizeEvent(QResizeEvent* event) {
 
 void SongView::setGenres(const QStringList& genres) {
     m_delegate->setGenres(genres);
+}
+
+EmptyState::EmptyState(QWidget* parent) : QFrame(parent), m_button(new QPushButton(tr("&Add Songs…"), this)) {
+    setObjectName("emptyState");
+    m_button->setObjectName("addFirst");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->setSpacing(8);
+    layout->addStretch(3);
+    auto* picture = new IconLabel("waveform", kIconSize, this);
+    layout->addWidget(picture, 0, Qt::AlignHCenter);
+    layout->addSpacing(8);
+    addLine(*layout, "emptyTitle", tr("Drop your finished songs here"))
+        ->setFont(scaledFont(1.25, QFont::DemiBold));
+    addLine(*layout, "emptyText", tr("WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder"));
+    layout->addSpacing(12);
+    layout->addWidget(m_button, 0, Qt::AlignHCenter);
+    layout->addStretch(4);
 }
 
 } // namespace xbr::host

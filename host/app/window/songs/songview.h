@@ -2,10 +2,13 @@
 
 #include "host/app/window/songs/songlistmodel.h"
 
+#include <QFrame>
 #include <QStringList>
 #include <QTreeView>
 
 #include <vector>
+
+class QPushButton;
 
 namespace xbr::host {
 
@@ -39,6 +42,19 @@ private:
 
     SongListModel* m_songs;
     Delegate* m_delegate;
+};
+
+/// What stands in the place of an empty list: what it is for, and how to fill it.
+class EmptyState final : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit EmptyState(QWidget* parent);
+
+    QPushButton& button() { return *m_button; }
+
+private:
+    QPushButton* m_button;
 };
 
 } // namespace xbr::host

@@ -1,14 +1,22 @@
 #include "host/app/window/start/window.h"
 
 #include "host/app/process/singleinstance.h"
-#include "host/app/window/start/programtexts.h"
-#include "host/app/window/start/windowhost.h"
+#include "host/app/window/start/windowfront.h"
 
 #include <QApplication>
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QStyleFactory>
 
 #include <cstdlib>
 #include <iostream>
+
+// The resources are in a static library: without this the linker would leave them out.
+static void initialiseResources() {
+    Q_INIT_RESOURCE(window);
+    Q_INIT_RESOURCE(windowtexts);
+}
 
 namespace xbr::host {
 
@@ -30,28 +38,47 @@ ExitCode fail(const std::string& text) {
 }
 
 ExitCode open(const WindowOptions& options) {
-    WindowHost host;
-    QObject::connect(&host.window(), &MainWindow::closed, qApp, &QCoreApplication::quit);
-    host.start(options);
+    WindowFront front(options);
+    QObject::connect(&front.window(), &MainWindow::closed, qApp, &QCoreApplication::quit);
+    front.start();
     QApplication::exec();
     return ExitCode::kDone;
 }
 
 } // namespace
 
+ProgramTexts::ProgramTexts() {
+    initialiseResources();
+    const QLocale locale;
+    // English has texts of its own, for plurals.
+    if (m_own.load(locale, "window", "_", ":/xbrhost/translations") ||
+        m_own.load("window_en", ":/xbrhost/translations")) {
+        QCoreApplication::installTranslator(&m_own);
+    }
+    if (m_library.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&m_library);
+    }
+}
+
+ProgramTexts::~ProgramTexts() {
+    QCoreApplication::removeTranslator(&m_library);
+    QCoreApplication::removeTranslator(&m_own);
+}
+
 ExitCode runWindow(int& argc, char** argv, const WindowOptions& options) {
     if (!hasDisplay()) {
         return fail("there is no display for the window (xbrhost --help lists what works without)");
     }
     SingleInstance instance;
-    std::string error;
-    switch (instance.take(options.files, error)) {
+    const auto place = instance.take(options.files);
+    if (!place) {
+        return fail(place.problem().words);
+    }
+    switch (*place) {
     case SingleInstance::Place::kSecond:
         return ExitCode::kDone;
     case SingleInstance::Place::kNoAnswer:
         return fail("another xbrhost has the window, but does not answer");
-    case SingleInstance::Place::kNoFolder:
-        return fail(error);
     case SingleInstance::Place::kFirst:
         break;
     }

@@ -13,14 +13,18 @@ std::string absolute(const std::string& path) {
     return failed ? path : result.lexically_normal().string();
 }
 
+Problem wish(std::string words) {
+    return {Fault::kWish, {}, 0, std::move(words), {}, {}};
+}
+
 } // namespace
 
 bool isForWindow(const std::vector<std::string>& arguments) {
     return arguments.empty() || arguments.front() == "window";
 }
 
-bool parseWindowOptions(const std::vector<std::string>& arguments, WindowOptions& options,
-                        std::string& error) {
+Outcome<WindowOptions> parseWindowOptions(const std::vector<std::string>& arguments) {
+    WindowOptions options;
     bool areOptionsOver = false;
     for (std::size_t next = 1; next < arguments.size(); ++next) {
         const std::string& argument = arguments[next];
@@ -29,14 +33,14 @@ bool parseWindowOptions(const std::vector<std::string>& arguments, WindowOptions
         } else if (argument == "--") {
             areOptionsOver = true;
         } else if (argument != "--module") {
-            error = "there is no option '" + argument + "' here";
+            return wish("there is no option '" + argument + "' here");
         } else if (++next < arguments.size()) {
             options.module = arguments[next];
         } else {
-            error = "something is missing after --module";
+            return wish("something is missing after --module");
         }
     }
-    return error.empty();
+    return options;
 }
 
 } // namespace xbr::host

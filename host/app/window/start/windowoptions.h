@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/problem.h"
+
 #include <string>
 #include <vector>
 
@@ -15,9 +17,7 @@ struct WindowOptions {
 /// "window".
 bool isForWindow(const std::vector<std::string>& arguments);
 
-/// Reads "window [--module PATH] [--] [FILE]...". False, with the reason in `error`, when that makes no
-/// sense.
-bool parseWindowOptions(const std::vector<std::string>& arguments, WindowOptions& options,
-                        std::string& error);
+/// Reads "window [--module PATH] [--] [FILE]...".
+Outcome<WindowOptions> parseWindowOptions(const std::vector<std::string>& arguments);
 
 } // namespace xbr::host

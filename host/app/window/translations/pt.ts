@@ -455,7 +455,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::WindowHost</name>
+    <name>xbr::host::WindowFront</name>
     <message>
         <source>%1, border %2.%3</source>
         <translation>%1, interface %2.%3</translation>

@@ -2,7 +2,6 @@
 #include "framework/support/objects/text.h"
 #include "host/app/modules/loadedmodule.h"
 #include "host/app/modules/modulesearch.h"
-#include "host/app/session/hostcontext.h"
 #include "tests/host/app/testfolder.h"
 
 #include <gmock/gmock.h>
@@ -28,21 +27,33 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
+class FakeContext final : public Object<IHostContext> {
+public:
+    std::uint32_t borderVersion() const noexcept override { return kBorderVersion; }
+    Text hostName() const noexcept override { return toText("test host"); }
+    Text hostVersion() const noexcept override { return toText("1"); }
+};
+
 class ModuleLoading : public testing::Test {
 protected:
     ModuleLoading() { events().clear(); }
 
     std::string load(const std::string& path) {
-        std::string error;
-        m_module = LoadedModule::load(path, *m_context, error);
-        return error;
+        m_module.reset();
+        auto loaded = LoadedModule::load(path, *m_context);
+        if (!loaded) {
+            EXPECT_EQ(loaded.problem().subject, path);
+            return loaded.problem().words;
+        }
+        m_module = std::move(*loaded);
+        return {};
     }
     static std::string testModule(const std::string& kind) {
         return std::string(TEST_MODULES) + "/testmodule_" + kind + ".so";
     }
     static std::int32_t countThings() { return XBRGetPlugInManager()->countClasses(toText("Test")); }
 
-    Ref<HostContext> m_context = make<HostContext>("test host", "1");
+    Ref<FakeContext> m_context = make<FakeContext>();
     std::unique_ptr<LoadedModule> m_module;
     TestFolder m_folder;
 };
@@ -71,7 +82,6 @@ TEST_F(ModuleLoading, everyProblemIsOneClearLine) {
         const std::string error = load(one.path);
         EXPECT_EQ(m_module, nullptr);
         EXPECT_THAT(error, HasSubstr(one.problem));
-        EXPECT_THAT(error, HasSubstr("'" + one.path + "'"));
         EXPECT_EQ(error.find('\n'), std::string::npos);
         EXPECT_EQ(events(), one.events) << one.path;
         EXPECT_EQ(countThings(), 0);

@@ -182,7 +182,8 @@ private:
         }
         {
             const auto progress = make<QuietProgress>();
-            const IndicatorScope indicator(m_script->activity, *progress);
+            const Activity::Run indicator(*m_script->activity, Activity::Kind::kPreparing, {},
+                                          progress.get());
             if (m_script->duringPreparation) {
                 m_script->duringPreparation();
             }

@@ -24,7 +24,7 @@ struct FakeScript {
     std::function<void()> duringConnect;     ///< as in the dialog
     std::function<void()> duringUpload;      ///< when "upload" is performed
     std::function<void()> duringPreparation; ///< as under the progress indicator
-    Activity activity;
+    Activity* activity = nullptr;
     std::vector<std::string> genres;    ///< of the editor's menu; none: it has no such menu
     std::vector<std::string> published; ///< what was handed over: file name, title, artist, genre
     int uploads = 0;                    ///< requests that were sent

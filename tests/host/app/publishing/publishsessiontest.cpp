@@ -2,9 +2,10 @@
 
 #include "framework/abi/filesystem.h"
 #include "framework/support/objects/text.h"
-#include "host/app/session/coreclasses.h"
+#include "host/app/session/hostsession.h"
 #include "tests/host/app/audio/soundfiles.h"
 #include "tests/host/app/audio/wavefile.h"
+#include "tests/host/app/fakefront.h"
 #include "tests/host/app/publishing/fakepanel.h"
 #include "tests/host/app/testfolder.h"
 
@@ -35,10 +36,10 @@ protected:
 
     /// Publishes the files; `act` runs once the session has begun.
     PublishOutcome publish(const std::function<void(PublishSession&)>& act = {}) {
+        m_script.activity = &m_host.activity();
         const FakeModule module(m_script);
-        std::string error;
-        const auto panel = GadgetPanel::open({}, error);
-        PublishSession session(*panel, *m_report, m_script.activity, *this);
+        const auto panel = GadgetPanel::open(findGadgets().front(), {});
+        PublishSession session(**panel, *m_report, m_host.activity(), *this);
         m_session = &session;
         for (const std::string& file : m_files) {
             m_plan.songs.push_back({file, {}, {}, {}, 0});
@@ -62,7 +63,8 @@ protected:
 
     TestFolder m_folder;
     std::shared_ptr<ConfigurationReport> m_report = std::make_shared<ConfigurationReport>();
-    CoreClasses m_classes{m_report};
+    FakeFront m_front;
+    HostSession m_host{m_front, {}};
     FakeScript m_script;
     std::vector<std::string> m_files;
     ReleaseWish m_plan; ///< what is said beside the files

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "host/app/headless/commandline.h"
+#include "host/app/headless/output.h"
+#include "host/app/process/exitcodes.h"
+#include "host/app/session/hostsession.h"
+
+#include <memory>
+
+namespace xbr::host {
+
+enum class Dialogs : std::uint8_t {
+    kOffered, ///< the browser may come back
+    kNone,    ///< a module that would ask the user gives up at once
+};
+
+class ConsoleDialog;
+
+/// The command line as a front end: progress on the output, and where wanted the dialog that waits for the
+/// browser.
+class ConsoleFront final : public FrontEnd {
+public:
+    ConsoleFront(std::unique_ptr<Output> output, Dialogs dialogs);
+    ConsoleFront(const ConsoleFront&) = delete;
+    ConsoleFront& operator=(const ConsoleFront&) = delete;
+    ~ConsoleFront() = default;
+
+    Output& output() { return *m_output; }
+
+    /// True when a sign-in could not be stored or removed.
+    bool hadStoreProblem() const { return m_hadStoreProblem; }
+
+    Ref<IObject> makeDialog(HostSession& session) override;
+    Ref<IObject> makeProgress(HostSession& session) override;
+    bool announceBrowser(std::string_view url) override;
+    void storeFailed(const Problem& problem) override;
+    void callbackCame() override;
+
+    /// The dialog that runs; null for none.
+    void setDialog(ConsoleDialog* dialog) { m_dialog = dialog; }
+
+private:
+    std::unique_ptr<Output> m_output;
+    Dialogs m_dialogs;
+    ConsoleDialog* m_dialog = nullptr;
+    bool m_hadStoreProblem = false;
+};
+
+/// A session for one command: one module and its panel.
+class ConsoleSession {
+public:
+    ConsoleSession(const CommandLine& commandLine, Dialogs dialogs);
+
+    /// Loads the module and makes its panel. When that is not possible the user is told, and it is the end.
+    ExitCode start();
+
+    HostSession& session() { return m_session; }
+    GadgetPanel& panel() { return *m_panel; }
+    Output& output() { return m_front.output(); }
+    bool hadStoreProblem() const { return m_front.hadStoreProblem(); }
+
+private:
+    Outcome<GadgetPanel*> openPanel(const std::vector<Problem>& problems);
+
+    ConsoleFront m_front;
+    HostSession m_session;
+    GadgetPanel* m_panel = nullptr;
+};
+
+} // namespace xbr::host

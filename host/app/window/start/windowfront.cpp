@@ -1,0 +1,122 @@
+#include "host/app/window/start/windowfront.h"
+
+#include "framework/abi/border.h"
+#include "host/app/window/dialogs/fileselector.h"
+#include "host/app/window/dialogs/progressindicator.h"
+#include "host/app/window/dialogs/viewdialog.h"
+#include "host/app/window/look/desktop.h"
+#include "host/app/window/panels/wording.h"
+
+#include <QApplication>
+
+namespace xbr::host {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(xbr::host::WindowFront)
+};
+
+VersionLine lineOf(const LoadedModule& module) {
+    const std::uint32_t version = module.borderVersion();
+    const QString name = QString::fromStdString(module.path().substr(module.path().rfind('/') + 1));
+    return {QString::fromStdString(module.name()),
+            Texts::tr("%1, border %2.%3").arg(name).arg(borderMajor(version)).arg(version & 0xFFFFU)};
+}
+
+Notice noticeOf(const Problem& problem) {
+    if (problem.fault == Fault::kModule) {
+        const QString reason = sentence("the module '" + problem.subject + "' " + problem.words);
+        return {NoticeKind::kError, Texts::tr("Songs cannot be published: %1").arg(reason)};
+    }
+    return {
+        NoticeKind::kWarning,
+        Texts::tr("The browser's answer to a sign-in cannot be received: %1").arg(sentence(problem.words))};
+}
+
+template <class T>
+Ref<IObject> makeFor(DialogPlace& place) {
+    const auto instance = make<T>(place);
+    return query<IObject>(instance.get());
+}
+
+} // namespace
+
+WindowFront::WindowFront(WindowOptions options)
+    : m_options(std::move(options)),
+      m_session(*this, {m_options.module, true, true}),
+      m_place{m_session} {
+    m_window = std::make_unique<MainWindow>(m_place);
+    m_opening = make<OpenHandler>([this](const std::string& path) { m_window->addSongs({path}); });
+    m_interrupted = m_session.interruption().subscribe([this] { m_window->end(); });
+}
+
+WindowFront::~WindowFront() {
+    m_interrupted.reset();
+    m_opening->close();
+    m_window.reset();
+}
+
+Ref<IObject> WindowFront::makeDialog(HostSession&) {
+    return makeFor<ViewDialog>(m_place);
+}
+
+Ref<IObject> WindowFront::makeProgress(HostSession&) {
+    return makeFor<ProgressIndicator>(m_place);
+}
+
+Ref<IObject> WindowFront::makeFileSelector(HostSession&) {
+    return makeFor<FileSelector>(m_place);
+}
+
+void WindowFront::storeFailed(const Problem& problem) {
+    if (m_window) {
+        // Later: it is told from within a call of a module.
+        QMetaObject::invokeMethod(
+            m_window.get(),
+            [this, words = problem.words] {
+                m_window->showNotice({NoticeKind::kWarning, sentence(words)});
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+void WindowFront::start() {
+    const auto problems = m_session.start();
+    std::vector<VersionLine> versions;
+    for (const auto& module : m_session.modules()) {
+        versions.push_back(lineOf(*module));
+    }
+    m_window->showModules(std::move(versions));
+    tell(problems);
+    m_window->addSongs(m_options.files);
+    m_window->show();
+}
+
+void WindowFront::tell(const std::vector<Problem>& problems) {
+    bool isAboutModules = false;
+    for (const Problem& problem : problems) {
+        const bool isModule = problem.fault == Fault::kModule;
+        if (!isModule || !std::exchange(isAboutModules, true)) { // the first of the modules' stands for all
+            m_window->showNotice(noticeOf(problem));
+        }
+    }
+    if (m_session.modules().empty() && !isAboutModules) {
+        m_window->showNotice(
+            {NoticeKind::kWarning, Texts::tr("Songs cannot be published: no module was found.")});
+    }
+}
+
+void WindowFront::callbackCame() {
+    raise(*m_window);
+    if (QWidget* modal = QApplication::activeModalWidget()) {
+        raise(*modal);
+    }
+    for (const GadgetDock* dock : m_window->docks()) {
+        if (dock->watch()) {
+            dock->watch()->callbackArrived();
+        }
+    }
+}
+
+} // namespace xbr::host

@@ -1,0 +1,111 @@
+#include "host/app/session/activity.h"
+
+#include "framework/abi/webservice.h"
+#include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
+#include "tests/host/app/testfolder.h"
+
+#include <gmock/gmock.h>
+
+namespace xbr::host {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Kind = Activity::Kind;
+
+class ActivityTest : public testing::Test, protected Activity::Watcher {
+protected:
+    void began(Kind kind) override { m_log.push_back("begins " + std::to_string(static_cast<int>(kind))); }
+    void ended(Kind, bool isCancelled) override { m_log.emplace_back(isCancelled ? "cancelled" : "ends"); }
+    void exchangeBegan(const Exchange&) override { m_log.emplace_back("request"); }
+    void exchangeEnded(const Exchange& exchange) override {
+        m_log.emplace_back(exchange.problem.fault == Fault::kNoServer ? "no server" : "answer");
+    }
+    void becameQuiet() override { m_log.emplace_back("quiet"); }
+
+    std::vector<std::string> log() { return std::exchange(m_log, {}); }
+    void runLoop() {
+        runUntil([] { return false; }, 20);
+    }
+
+    Activity m_activity;
+    Activity::Handle m_watching = m_activity.watch(*this);
+    std::vector<std::string> m_log;
+};
+
+class Receiver final : public Object<IObserver> {
+public:
+    explicit Receiver(std::function<void()> act) : m_act(std::move(act)) {}
+    void notify(ISubject*, IMessage*) noexcept override { m_act(); }
+
+private:
+    std::function<void()> m_act;
+};
+
+} // namespace
+
+TEST_F(ActivityTest, restComesWhenTheLastThingHasEnded) {
+    auto first = std::make_unique<Activity::Run>(m_activity, Kind::kPreparing, std::function<void()>());
+    first->cancelled();
+    first.reset();
+    EXPECT_TRUE(m_activity.isQuiet()) << "for a moment, inside a call that goes on";
+    {
+        const Activity::Run next(m_activity, Kind::kDialog, {});
+        runLoop();
+        EXPECT_THAT(log(), ElementsAre("begins 1", "cancelled", "begins 0"));
+    }
+    const auto receiver = make<Receiver>([this] {
+        m_log.emplace_back("message");
+        runLoop(); // as a dialog does
+    });
+    XBRGetSignalHandler()->post(receiver.get(), make<Message>("x").get(), 0);
+    EXPECT_FALSE(m_activity.isQuiet());
+    runLoop();
+    EXPECT_THAT(m_log, ElementsAre("ends", "message", "quiet"));
+    log();
+
+    m_activity.askForQuiet();
+    EXPECT_THAT(log(), IsEmpty());
+    runLoop();
+    EXPECT_THAT(log(), ElementsAre("quiet"));
+    m_watching.reset();
+    m_activity.askForQuiet();
+    runLoop();
+    EXPECT_THAT(log(), IsEmpty());
+}
+
+TEST_F(ActivityTest, requestsAreWaitedFor) {
+    Ref<IWebRequest> request;
+    XBRGetWebService()->createRequest(request.out());
+    ASSERT_EQ(request->open(toText("GET"), toText("http://127.0.0.1:1/"), nullptr), kOk);
+    const auto next = make<Receiver>([this] { m_log.emplace_back("handler"); });
+    ASSERT_EQ(request->send(nullptr, next.get()), kOk);
+    EXPECT_FALSE(m_activity.isQuiet());
+    EXPECT_TRUE(runUntil([this] { return m_activity.isQuiet(); }));
+    runLoop();
+    EXPECT_THAT(log(), ElementsAre("request", "handler", "no server", "quiet"));
+}
+
+TEST_F(ActivityTest, anIndicatorOfTheHostsOwnWorkBeginsNoUpload) {
+    const Activity::Run rendering(m_activity, Kind::kRendering, {});
+    { const Activity::Run indicator(m_activity, Kind::kPreparing, {}); }
+    EXPECT_THAT(log(), ElementsAre("begins 2", "begins 2", "ends"));
+    EXPECT_TRUE(m_activity.isWorking());
+    EXPECT_FALSE(m_activity.isOpen(Kind::kPreparing));
+}
+
+TEST_F(ActivityTest, theNewestEndsFirst) {
+    std::vector<int> order;
+    auto outer = std::make_unique<Activity::Run>(m_activity, Kind::kDialog, [&] { order.push_back(1); });
+    const Activity::Run inner(m_activity, Kind::kDialog, [&] {
+        order.push_back(2);
+        outer.reset();
+    });
+    m_activity.endAll();
+    EXPECT_EQ(order, (std::vector{2, 1}));
+    EXPECT_TRUE(m_activity.isEnding());
+}
+
+} // namespace xbr::host
