@@ -5,7 +5,7 @@
 #include "framework/abi/hostclasses.h"
 #include "framework/abi/system.h"
 #include "framework/support/data/memorystream.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 
 #include <cassert>

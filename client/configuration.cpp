@@ -1,7 +1,7 @@
 #include "client/configuration.h"
 
 #include "framework/abi/hostclasses.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
 

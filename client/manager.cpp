@@ -1,11 +1,11 @@
 #include "client/manager.h"
 
 #include "client/configuration.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
 #include "release/genrecatalogue.h"
-#include "ui/tracks/tracks.h"
+#include "ui/tracks/trackitem.h"
 
 namespace brindlex {
 

@@ -1,12 +1,12 @@
 #include "client/uploadqueue.h"
 
 #include "client/uploadreply.h"
-#include "framework/support/objects/hostobject.h"
 #include "framework/support/objects/message.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
 #include "release/payloadbuilder.h"
-#include "ui/tracks/tracks.h"
+#include "ui/tracks/trackitem.h"
 
 #include <algorithm>
 #include <unordered_set>

@@ -1,6 +1,6 @@
 #include "client/uploadreply.h"
 
-#include "framework/support/data/jsonarchive.h"
+#include "framework/support/data/attributes.h"
 #include "framework/support/data/memorystream.h"
 #include "framework/support/parts/xhrclient.h"
 

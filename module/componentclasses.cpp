@@ -4,7 +4,7 @@
 #include "framework/support/objects/text.h"
 #include "module/modulegate.h"
 #include "ui/news/feedlistcomponent.h"
-#include "ui/news/newsfeed.h"
+#include "ui/news/feedelement.h"
 #include "ui/pictures/imageelement.h"
 #include "ui/pictures/persistentimagecache.h"
 

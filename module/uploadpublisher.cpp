@@ -2,7 +2,7 @@
 
 #include "client/manager.h"
 #include "framework/support/data/attributes.h"
-#include "framework/support/objects/objectlist.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "release/audiofile.h"
 #include "ui/tracks/tracksources.h"

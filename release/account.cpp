@@ -1,6 +1,6 @@
 #include "release/account.h"
 
-#include "framework/support/data/jsonarchive.h"
+#include "framework/support/data/attributes.h"
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
 

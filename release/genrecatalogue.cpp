@@ -2,7 +2,6 @@
 
 #include "framework/abi/filesystem.h"
 #include "framework/abi/textformats.h"
-#include "framework/support/objects/casefolding.h"
 #include "framework/support/objects/text.h"
 
 #include <algorithm>

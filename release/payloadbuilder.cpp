@@ -1,7 +1,7 @@
 #include "release/payloadbuilder.h"
 
 #include "framework/abi/filesystem.h"
-#include "framework/support/data/jsonarchive.h"
+#include "framework/support/data/attributes.h"
 #include "framework/support/objects/text.h"
 #include "release/releasedocument.h"
 

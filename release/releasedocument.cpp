@@ -1,6 +1,5 @@
 #include "release/releasedocument.h"
 
-#include "framework/support/objects/casefolding.h"
 #include "framework/support/objects/text.h"
 
 namespace brindlex {

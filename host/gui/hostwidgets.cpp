@@ -1,13 +1,11 @@
 #include "host/gui/hostwidgets.h"
 
 #include "host/gui/build/viewwidget.h"
-#include "host/gui/skin/formview.h"
 
 namespace xbr::host {
 
 QWidget* createViewWidget(IView& view, QWidget* parent) {
-    FormView* const form = FormView::from(view);
-    return form ? ViewWidget::create(*form, parent) : nullptr;
+    return ViewWidget::create(view, parent);
 }
 
 void setShowAction(QWidget& viewWidget, std::function<void()> show) {

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "framework/abi/view.h"
+#include "host/gui/skin/palette.h"
 
-#include <cstdint>
 #include <functional>
 
-class QPalette;
 class QWidget;
 
 /// What a front end with windows uses of this library. Needs a QApplication; main thread. Modules never use
@@ -31,13 +30,5 @@ namespace xbr::host {
 /// What brings a widget made by `createViewWidget` to the user's sight when its module asks for that (IShow):
 /// opening a dock, say. Without one its window is raised.
 [[gnu::visibility("default")]] void setShowAction(QWidget& viewWidget, std::function<void()> show);
-
-enum class Appearance : std::uint8_t { kLight, kDark };
-
-/// A palette for a whole program, which skins go well with.
-[[gnu::visibility("default")]] QPalette hostPalette(Appearance appearance);
-
-/// Light when text is darker than what it stands on.
-[[gnu::visibility("default")]] Appearance appearanceOf(const QPalette& palette);
 
 } // namespace xbr::host

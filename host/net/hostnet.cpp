@@ -1,11 +1,34 @@
 #include "host/net/hostnet.h"
 
+#include "framework/abi/download.h"
+#include "framework/abi/feed.h"
+#include "framework/abi/webservice.h"
+#include "framework/support/objects/object.h"
+#include "framework/support/objects/text.h"
 #include "host/net/download/downloadqueue.h"
+#include "host/net/download/downloadtask.h"
+#include "host/net/feed/feedreader.h"
 #include "host/net/http/transfer.h"
 #include "host/net/http/transferloop.h"
+#include "host/net/http/webcredentials.h"
 #include "host/net/http/webrequest.h"
 
 namespace xbr::host {
+
+namespace {
+
+/// The border's web service.
+class WebService final : public Object<IWebService, IDownloadService, IFeedReader> {
+public:
+    WebService() { TransferLoop::setFarewell(&abortAllRequests); }
+
+    Result createCredentials(IWebCredentials** out) noexcept override;
+    Result createRequest(IWebRequest** out) noexcept override;
+    Result createTask(Text url, IDownloadTask** out) noexcept override;
+    Result readFeed(IStream* stream, Text location, Text mimeType, IFeed** out) noexcept override;
+};
+
+} // namespace
 
 void abortAllRequests() {
     WebRequest::endAll();
@@ -25,4 +48,34 @@ std::uint64_t countRefusedCredentials() noexcept {
     return WebRequest::countRefusedCredentials();
 }
 
+Result WebService::createCredentials(IWebCredentials** out) noexcept {
+    *out = make<WebCredentials>().detach();
+    return kOk;
+}
+
+Result WebService::createRequest(IWebRequest** out) noexcept {
+    *out = make<WebRequest>().detach();
+    return kOk;
+}
+
+Result WebService::createTask(Text url, IDownloadTask** out) noexcept {
+    *out = nullptr;
+    const DownloadSource source = downloadSource(view(url));
+    if (source == DownloadSource::kNone) {
+        return kInvalidArgument;
+    }
+    *out = make<DownloadTask>(toString(url), source).detach();
+    return kOk;
+}
+
+Result WebService::readFeed(IStream* stream, Text location, Text mimeType, IFeed** out) noexcept {
+    *out = nullptr;
+    return stream ? host::readFeed(*stream, location, mimeType, out) : kInvalidArgument;
+}
+
 } // namespace xbr::host
+
+xbr::IWebService* XBRGetWebService() noexcept {
+    static xbr::host::WebService service;
+    return &service;
+}

@@ -1,15 +1,29 @@
 #include "host/text/localemanager.h"
 
 #include "framework/abi/filesystem.h"
+#include "framework/abi/textformats.h"
 #include "framework/support/objects/text.h"
-#include "host/text/dateformats.h"
 #include "host/text/streams.h"
 
+#include <QDateTime>
+#include <QList>
+#include <QLocale>
+#include <QString>
 #include <QTranslator>
 
 #include <cstdlib>
 #include <sstream>
 #include <vector>
+
+xbr::Result XBRFoldCase(xbr::Text text, xbr::IString** out) noexcept {
+    // By code point: QChar folds simply, one code point to one; what QString does to a whole text may change.
+    auto codePoints = QString::fromUtf8(text.data, static_cast<qsizetype>(text.length)).toUcs4();
+    for (auto& codePoint : codePoints) {
+        codePoint = QChar::toCaseFolded(codePoint);
+    }
+    const auto* folded = reinterpret_cast<const char32_t*>(codePoints.constData());
+    return xbr::giveText(QString::fromUcs4(folded, codePoints.size()).toStdString(), out);
+}
 
 namespace xbr::host {
 
@@ -87,6 +101,21 @@ std::string readTranslations(const std::string& module) {
     return {};
 }
 
+constexpr int kFirstYear = 1;
+constexpr int kLastYear = 9999;
+
+/// Rationale: QLocale::system() reads the environment by the same rules, and keeps the first answer for ever.
+QLocale dateLocale() {
+    for (const auto* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const char* value =
+            std::getenv(variable); // NOLINT(concurrency-mt-unsafe): nothing in the host sets variables
+        if (value && *value != '\0') {
+            return QLocale(QString::fromUtf8(value));
+        }
+    }
+    return QLocale::c();
+}
+
 } // namespace
 
 Result LocaleManager::getTable(Text module, ITranslationTable** out) noexcept {
@@ -102,6 +131,31 @@ Result LocaleManager::getLocalDate(std::int64_t time, Date* out) noexcept {
 
 Result LocaleManager::formatDate(const Date& date, std::int32_t format, IString** out) noexcept {
     return formattedDate(date, format, out);
+}
+
+Result localDate(std::int64_t time, Date& out) {
+    static constexpr std::int64_t kFarthest = 400'000'000'000; // beyond any year that is answered
+    if (time < -kFarthest || time > kFarthest) {
+        return kInvalidArgument;
+    }
+    const QDate date = QDateTime::fromSecsSinceEpoch(time).date();
+    if (!date.isValid() || date.year() < kFirstYear || date.year() > kLastYear) {
+        return kInvalidArgument;
+    }
+    out = {date.year(), date.month(), date.day()};
+    return kOk;
+}
+
+Result formattedDate(const Date& date, std::int32_t format, IString** out) {
+    *out = nullptr;
+    const QDate day(date.year, date.month, date.day);
+    if (!day.isValid() || date.year < kFirstYear || date.year > kLastYear) {
+        return kInvalidArgument;
+    }
+    if (format != IDateFormats::kLongDate) {
+        return kNotImplemented;
+    }
+    return giveText(dateLocale().toString(day, QLocale::LongFormat).toStdString(), out);
 }
 
 } // namespace xbr::host

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "client/manager.h"
-#include "framework/support/objects/objectlist.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
 #include "tests/fakehost/fakehost.h"
-#include "ui/tracks/tracks.h"
+#include "ui/tracks/trackitem.h"
 
 #include <gtest/gtest.h>
 

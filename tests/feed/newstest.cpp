@@ -4,7 +4,7 @@
 #include "framework/support/objects/text.h"
 #include "host/net/hostnet.h"
 #include "tests/sandbox/runningservice.h"
-#include "ui/news/newsfeed.h"
+#include "ui/news/feedelement.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

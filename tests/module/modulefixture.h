@@ -5,7 +5,7 @@
 #include "framework/abi/publisher.h"
 #include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
-#include "ui/tracks/tracks.h"
+#include "ui/tracks/trackitem.h"
 
 #include <gtest/gtest.h>
 

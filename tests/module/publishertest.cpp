@@ -1,4 +1,4 @@
-#include "framework/support/objects/objectlist.h"
+#include "framework/support/objects/object.h"
 #include "module/uploadpublisher.h"
 #include "tests/module/modulefixture.h"
 

@@ -1,7 +1,7 @@
 #include "release/payload.h"
 
 #include "framework/support/data/memorystream.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "release/audiofile.h"
 #include "release/multipartbody.h"
 #include "release/payloadbuilder.h"

@@ -1,6 +1,6 @@
 #include "release/releasedocument.h"
 
-#include "framework/support/data/jsonarchive.h"
+#include "framework/support/data/attributes.h"
 #include "framework/support/data/memorystream.h"
 #include "tests/fakehost/fakehost.h"
 

@@ -101,20 +101,32 @@ def faults_of(room, name, text, files):
             yield f"{name}: the extension may not use <{path}>"
 
 
-def circles(graph):
-    """Files that include themselves by way of others."""
-    done, found = set(), []
+def unit_of(path):
+    """A header and its source are one unit: what either includes, both depend on."""
+    return path.rsplit(".", 1)[0]
 
-    def visit(node, trail):
-        if node in trail:
-            found.append(" -> ".join(trail[trail.index(node):] + [node]))
-        elif node not in done:
-            for following in graph.get(node, []):
-                visit(following, trail + [node])
-            done.add(node)
 
-    for start in graph:
-        visit(start, [])
+def loops(graph):
+    """Sets of units that reach each other, by Tarjan's algorithm."""
+    number, low, stack, found = {}, {}, [], []
+
+    def visit(unit):
+        number[unit] = low[unit] = len(number)
+        stack.append(unit)
+        for following in sorted(graph.get(unit, ())):
+            if following not in number:
+                visit(following)
+            if following in stack:
+                low[unit] = min(low[unit], low[following])
+        if low[unit] == number[unit]:
+            at = stack.index(unit)
+            if len(stack) - at > 1:
+                found.append(" <-> ".join(sorted(stack[at:])))
+            del stack[at:]
+
+    for start in sorted(graph):
+        if start not in number:
+            visit(start)
     return found
 
 
@@ -132,8 +144,9 @@ def main():
             faults.append(f"{name}: lies in no room")
             continue
         faults += faults_of(room, name, text, files)
-        graph[name] = [path for bracket, path in INCLUDE.findall(text) if bracket == '"']
-    faults += circles(graph)
+        graph.setdefault(unit_of(name), set()).update(
+            unit_of(path) for bracket, path in INCLUDE.findall(text) if bracket == '"')
+    faults += [f"a loop of units: {loop}" for loop in loops(graph)]
     print("\n".join(faults) if faults else f"{len(files)} files keep to the rooms")
     return 1 if faults else 0
 

@@ -3,7 +3,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
 #include "tests/fakehost/fakehost.h"
-#include "ui/news/newsfeed.h"
+#include "ui/news/feedelement.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "framework/support/objects/objectlist.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "release/genrecatalogue.h"
 #include "tests/fakehost/fakehost.h"
+#include "ui/tracks/trackitem.h"
 #include "ui/tracks/tracklistcomponent.h"
-#include "ui/tracks/tracks.h"
 
 #include <gtest/gtest.h>
 

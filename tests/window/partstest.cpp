@@ -1,7 +1,7 @@
 // The window's parts on their own.
 
 #include "framework/abi/view.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "host/app/window/dialogs/progressindicator.h"
 #include "host/app/window/frame/statusline.h"

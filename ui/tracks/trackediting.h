@@ -4,6 +4,12 @@
 
 namespace brindlex {
 
+/// How tracks become releases.
+enum class UploadMode { kSingles, kAlbum };
+
+/// Whether validation marks what is missing, or takes the marks away.
+enum class Marks { kClear, kSet };
+
 /// Tags of the property editor's parameters.
 enum TrackParameter : std::int32_t {
     kAlbumTitle = 100,

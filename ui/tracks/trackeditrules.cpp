@@ -1,15 +1,15 @@
 #include "ui/tracks/trackeditrules.h"
 
 #include "release/genrecatalogue.h"
-#include "ui/tracks/trackediting.h"
-#include "ui/tracks/tracks.h"
+#include "ui/tracks/trackitem.h"
 
 #include <algorithm>
 
 namespace brindlex {
 
-TrackEditRules::TrackEditRules(TrackPropertyComponent& editor, const xbr::ListViewModel& tracks)
+TrackEditRules::TrackEditRules(xbr::Component& editor, UploadMode mode, const xbr::ListViewModel& tracks)
     : m_editor(editor),
+      m_mode(mode),
       m_tracks(tracks) {
     m_values.albumTitle = editor.parameter(kAlbumTitle)->string();
     m_values.albumArtist = editor.parameter(kAlbumArtist)->string();

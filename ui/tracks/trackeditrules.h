@@ -1,8 +1,9 @@
 #pragma once
 
+#include "framework/support/parts/component.h"
 #include "framework/support/parts/listviewmodel.h"
+#include "ui/tracks/trackediting.h"
 #include "ui/tracks/trackitem.h"
-#include "ui/tracks/trackpropertycomponent.h"
 
 #include <cstdint>
 #include <functional>
@@ -16,7 +17,7 @@ namespace brindlex {
 class TrackEditRules {
 public:
     /// Works on the editor's parameters as they are now.
-    TrackEditRules(TrackPropertyComponent& editor, const xbr::ListViewModel& tracks);
+    TrackEditRules(xbr::Component& editor, UploadMode mode, const xbr::ListViewModel& tracks);
 
     /// Applies the change of parameter `tag` to `targets` in their order and, for what an album's tracks
     /// share, to all tracks of the list.
@@ -61,12 +62,13 @@ private:
     void showSongTitleMark(TrackItem& track);
     void showSongArtistMark(TrackItem& track);
 
-    bool isSingles() const { return m_editor.mode() == UploadMode::kSingles; }
+    bool isSingles() const { return m_mode == UploadMode::kSingles; }
     void set(std::int32_t tag, const std::string& value);
     void show(std::int32_t tag, bool missing);
     void clearMark(bool& missing, const std::string& value, std::int32_t markTag);
 
-    TrackPropertyComponent& m_editor;
+    xbr::Component& m_editor;
+    UploadMode m_mode;
     const xbr::ListViewModel& m_tracks;
     Values m_values;
     std::vector<std::int32_t> m_cleared; ///< parameters of marks that were taken away and have to be shown so

@@ -5,6 +5,14 @@
 
 namespace brindlex {
 
+namespace {
+
+TrackItem* asTrack(xbr::IObject* object) {
+    return static_cast<TrackItem*>(static_cast<xbr::IPropertySource*>(object));
+}
+
+} // namespace
+
 TrackItem::TrackItem(std::string itemTitle, xbr::Url location, xbr::Ref<TrackMetadata> record)
     : title(std::move(itemTitle)),
       file(std::move(location)),
@@ -47,6 +55,14 @@ xbr::Result TrackItem::getProperty(xbr::Text name, xbr::Value* out) noexcept {
 
 xbr::Result TrackItem::setProperty(xbr::Text, const xbr::Value&) noexcept {
     return xbr::kFalse;
+}
+
+TrackItem& trackAt(const xbr::ListViewModel& model, std::size_t index) {
+    return *asTrack(model.items()[index].get());
+}
+
+TrackItem* focusTrack(const xbr::ListViewModel& model) {
+    return asTrack(model.focusItem());
 }
 
 } // namespace brindlex

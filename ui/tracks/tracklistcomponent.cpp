@@ -4,8 +4,7 @@
 #include "framework/support/parts/modulecomponent.h"
 #include "ui/tracks/resetcommand.h"
 #include "ui/tracks/trackcells.h"
-#include "ui/tracks/trackfiledialog.h"
-#include "ui/tracks/tracks.h"
+#include "ui/tracks/trackitem.h"
 #include "ui/tracks/tracksources.h"
 
 namespace brindlex {

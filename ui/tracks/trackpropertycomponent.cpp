@@ -2,9 +2,8 @@
 
 #include "framework/support/objects/text.h"
 #include "release/genrecatalogue.h"
-#include "ui/tracks/trackediting.h"
 #include "ui/tracks/trackeditrules.h"
-#include "ui/tracks/tracks.h"
+#include "ui/tracks/trackitem.h"
 
 #include <algorithm>
 
@@ -178,7 +177,7 @@ void TrackPropertyComponent::parameterChanged(xbr::Parameter& parameter) {
     }
     const auto self = xbr::Ref<TrackPropertyComponent>::share(this);
     m_settled = {};
-    TrackEditRules(*this, *m_tracks).apply(parameter.tag(), edited);
+    TrackEditRules(*this, m_mode, *m_tracks).apply(parameter.tag(), edited);
     m_settled = {}; // again: who was told of a parameter meanwhile may have added tracks
     m_tracks->signalChanged();
     updateReady();

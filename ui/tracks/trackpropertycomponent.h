@@ -2,18 +2,13 @@
 
 #include "framework/support/parts/component.h"
 #include "framework/support/parts/listviewmodel.h"
+#include "ui/tracks/trackediting.h"
 #include "ui/tracks/trackitem.h"
 
 #include <cstdint>
 #include <vector>
 
 namespace brindlex {
-
-/// How tracks become releases.
-enum class UploadMode { kSingles, kAlbum };
-
-/// Whether validation marks what is missing, or takes the marks away.
-enum class Marks { kClear, kSet };
 
 /// Edits the metadata of the track with the focus, and tells whether anything can be uploaded. A component
 /// named "TrackProperties" with the parameters 100 "albumTitle" to 110 "songArtistMissing" and the property

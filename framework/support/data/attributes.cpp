@@ -1,5 +1,6 @@
 #include "framework/support/data/attributes.h"
 
+#include "framework/abi/textformats.h"
 #include "framework/support/objects/text.h"
 
 namespace xbr {
@@ -91,6 +92,15 @@ Result AttributeQueue::appendQueue(IAttributeQueue** out) noexcept {
     append(objectValue(child.get()));
     *out = child.detach();
     return kOk;
+}
+
+Ref<Attributes> readJson(IStream& stream) {
+    auto root = make<Attributes>();
+    return XBRJsonParse(&stream, root.get()) == kOk ? root : nullptr;
+}
+
+bool writeJson(const Attributes& root, IStream& stream) {
+    return XBRJsonStringify(&root, &stream) == kOk;
 }
 
 } // namespace xbr

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/abi/attributes.h"
+#include "framework/abi/stream.h"
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/value.h"
 
@@ -55,5 +56,11 @@ public:
 private:
     std::vector<OwnedValue> m_values;
 };
+
+/// Reads a JSON object from the stream's position; empty when there is none.
+Ref<Attributes> readJson(IStream& stream);
+
+/// Writes a tree as JSON; false when the stream does not take it.
+bool writeJson(const Attributes& root, IStream& stream);
 
 } // namespace xbr

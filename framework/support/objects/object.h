@@ -1,10 +1,13 @@
 #pragma once
 
+#include "framework/abi/listmodel.h"
 #include "framework/abi/object.h"
+#include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/ref.h"
 
 #include <tuple>
 #include <type_traits>
+#include <vector>
 
 namespace xbr {
 
@@ -58,6 +61,31 @@ using Object = Implements<RefCounted, Interfaces...>;
 template <class T, class... Arguments>
 [[nodiscard]] Ref<T> make(Arguments&&... arguments) {
     return Ref<T>::adopt(new T(std::forward<Arguments>(arguments)...));
+}
+
+/// Gives the objects of a list one after the other.
+class ObjectList final : public Object<IObjectIterator> {
+public:
+    void add(Ref<IObject> object) { m_objects.push_back(std::move(object)); }
+
+    Result next(IObject** out) noexcept override {
+        *out = m_next < m_objects.size() ? Ref<IObject>(m_objects[m_next++]).detach() : nullptr;
+        return *out ? kOk : kFalse;
+    }
+
+private:
+    std::vector<Ref<IObject>> m_objects;
+    std::size_t m_next = 0;
+};
+
+/// Creates an object of a class of the host, by the class UID of its interface; empty when the host does not
+/// offer it.
+template <class Interface>
+[[nodiscard]] Ref<Interface> createHostObject() {
+    void* created = nullptr;
+    const Result result =
+        XBRGetPlugInManager()->createInstance(Interface::kClassUid, Interface::kUid, &created);
+    return Ref<Interface>::adopt(result == kOk ? static_cast<Interface*>(created) : nullptr);
 }
 
 } // namespace xbr

@@ -1,5 +1,7 @@
 #include "framework/support/objects/text.h"
 
+#include "framework/abi/textformats.h"
+
 #include <algorithm>
 
 namespace xbr {
@@ -78,6 +80,11 @@ std::string toAscii(std::string_view text) {
         }
     }
     return ascii;
+}
+
+std::string foldCase(std::string_view text) {
+    Ref<IString> folded;
+    return XBRFoldCase(toText(text), folded.out()) == kOk ? take(folded) : std::string(text);
 }
 
 } // namespace xbr

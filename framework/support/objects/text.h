@@ -55,4 +55,7 @@ std::string asciiLower(std::string_view text);
 /// The text as 8-bit ASCII: every character beyond it becomes one "?".
 std::string toAscii(std::string_view text);
 
+/// The text folded for comparison without case, as Unicode folds it.
+std::string foldCase(std::string_view text);
+
 } // namespace xbr

@@ -1,6 +1,6 @@
 #include "framework/support/parts/modulecomponent.h"
 
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 
 namespace xbr {

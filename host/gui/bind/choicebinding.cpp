@@ -1,6 +1,6 @@
 #include "framework/support/objects/text.h"
 #include "host/gui/bind/bindings.h"
-#include "host/gui/bind/parameterbinding.h"
+#include "host/gui/bind/controlbinding.h"
 
 #include <QComboBox>
 #include <QCompleter>

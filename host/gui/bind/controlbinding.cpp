@@ -1,10 +1,17 @@
+#include "host/gui/bind/controlbinding.h"
+
+#include "framework/abi/listmodel.h"
+#include "framework/support/objects/text.h"
 #include "host/gui/bind/bindings.h"
-#include "host/gui/bind/parameterbinding.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
+#include <QEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QWidget>
 
 #include <algorithm>
 #include <limits>
@@ -109,6 +116,47 @@ bool bindButton(QAbstractButton& button, std::unique_ptr<ValueSource> source) {
 
 } // namespace
 
+ParameterBinding::ParameterBinding(QWidget& control, std::unique_ptr<ValueSource> source)
+    : QObject(&control),
+      m_control(&control),
+      m_source(std::move(source)) {}
+
+void ParameterBinding::start() {
+    m_source->observe([this] { refresh(); });
+    refresh();
+}
+
+void ParameterBinding::set(const Value& value) {
+    // The module may do anything now, closing the panel included.
+    const QPointer<ParameterBinding> self(this);
+    const auto kept = Ref<IParameter>::share(&parameter());
+    kept->setValue(value);
+    if (self) {
+        refresh();
+    }
+}
+
+void ParameterBinding::refresh() {
+    m_control->setEnabled(parameter().isEnabled());
+    show();
+}
+
+void ParameterBinding::nameField(QWidget& control, QWidget& field) {
+    // Asked the way a screen reader asks: the name may be that of a label beside the control.
+    if (QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&control)) {
+        field.setAccessibleName(accessible->text(QAccessible::Name));
+    }
+}
+
+bool ParameterBinding::eventFilter(QObject* watched, QEvent* event) {
+    // The wheel scrolls what lies below the pointer; a value that happens to come by is not to change.
+    if (event->type() == QEvent::Wheel && !m_control->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 bool bindParameter(QWidget& widget, std::unique_ptr<ValueSource> source) {
     if (!source->parameter()) {
         return false;
@@ -125,6 +173,23 @@ bool bindParameter(QWidget& widget, std::unique_ptr<ValueSource> source) {
         return true;
     }
     return bindChoice(widget, std::move(source));
+}
+
+bool bindCommand(QWidget& widget, IController& scope, const std::string& number) {
+    auto* button = qobject_cast<QAbstractButton*>(&widget);
+    auto commands = query<ICommandList>(&scope);
+    bool isNumber = false;
+    const int index = QString::fromStdString(number).toInt(&isNumber);
+    if (!button || !commands || !isNumber || index < 0 || index >= commands->count()) {
+        return false;
+    }
+    // A "&" of a name is a letter of it.
+    const QString name = QString::fromStdString(toString(commands->nameAt(index)));
+    button->setText(QString(name).replace(QLatin1Char('&'), QLatin1String("&&")));
+    button->setEnabled(commands->isEnabled(index));
+    QObject::connect(button, &QAbstractButton::clicked, button,
+                     [commands = std::move(commands), index] { commands->perform(index); });
+    return true;
 }
 
 } // namespace xbr::host

@@ -1,8 +1,10 @@
 #include "framework/abi/system.h"
 #include "framework/support/objects/text.h"
+#include "framework/support/parts/path.h"
 #include "host/gui/bind/bindings.h"
-#include "host/gui/bind/condition.h"
 #include "host/gui/bind/elidedtext.h"
+#include "host/gui/bind/valuesource.h"
+#include "host/gui/list/listview.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -140,6 +142,18 @@ bool bindStyle(QWidget& widget, std::unique_ptr<ValueSource> source, const std::
                      [&widget, condition = Condition::parse(expression)](const ValueSource& value) {
                          setStyled(widget, condition.holds(value.value().value()));
                      });
+    return true;
+}
+
+bool bindList(QWidget& widget, IController& scope, const std::string& path) {
+    auto* list = qobject_cast<ListView*>(&widget);
+    auto model = findObject<IListViewModel>(scope, path);
+    if (!list || !model) {
+        return false;
+    }
+    list->setPlaceholder(widget.property("xbrPlaceholder").toString());
+    list->setRemoveText(widget.property("xbrRemoveText").toString());
+    list->showModel(*new ListModelAdaptor(std::move(model), list));
     return true;
 }
 

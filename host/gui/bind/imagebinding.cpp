@@ -3,7 +3,9 @@
 #include "host/gui/bind/bindings.h"
 #include "host/gui/hostimages.h"
 #include "host/gui/listener.h"
+#include "host/gui/picture/svgimage.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QImage>
 #include <QLabel>
@@ -81,6 +83,31 @@ private:
     QImage m_shown; ///< in the size of the moment; null when it has to be made
 };
 
+/// Paints a picture over a label's area: sharp at every scale, and in the palette's colours of the moment.
+class LabelPicture final : public QObject {
+public:
+    LabelPicture(QLabel& label, const std::string& svg)
+        : QObject(&label),
+          m_label(&label),
+          m_icon(skinIcon(svg, label)) {
+        label.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::Paint) {
+            return QObject::eventFilter(watched, event);
+        }
+        QPainter painter(m_label);
+        m_icon.paint(&painter, m_label->contentsRect(), m_label->alignment(),
+                     m_label->isEnabled() ? QIcon::Normal : QIcon::Disabled);
+        return true;
+    }
+
+private:
+    QLabel* m_label;
+    QIcon m_icon;
+};
+
 } // namespace
 
 bool bindImage(QWidget& widget, IController& scope, const std::string& path) {
@@ -91,6 +118,22 @@ bool bindImage(QWidget& widget, IController& scope, const std::string& path) {
     }
     new SourcePicture(*label, std::move(source));
     return true;
+}
+
+bool bindIcon(QWidget& widget, const Skin& skin, const std::string& file) {
+    const auto image = skin.images.find(file);
+    if (image == skin.images.end()) {
+        return false;
+    }
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+        button->setIcon(skinIcon(image->second, *button));
+        return true;
+    }
+    auto* label = qobject_cast<QLabel*>(&widget);
+    if (label) {
+        new LabelPicture(*label, image->second);
+    }
+    return label != nullptr;
 }
 
 } // namespace xbr::host

@@ -1,15 +1,18 @@
 #pragma once
 
 #include "framework/abi/controller.h"
+#include "framework/abi/value.h"
 #include "framework/support/objects/value.h"
 #include "host/gui/listener.h"
 
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace xbr::host {
 
@@ -38,6 +41,18 @@ private:
     Ref<IParameter> m_parameter;
     std::string m_property;
     std::unique_ptr<Listener> m_listener;
+};
+
+/// What a form asks of a value before it shows something: "path" (true, not 0, not empty), "!path" (the
+/// contrary), or "path=1,4" (one of these integers).
+struct Condition {
+    static Condition parse(std::string_view text);
+
+    bool holds(const Value& value) const;
+
+    std::string path;
+    std::vector<std::int64_t> wanted; ///< empty for a question of true or false
+    bool isNegated = false;
 };
 
 } // namespace xbr::host

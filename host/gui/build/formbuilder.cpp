@@ -5,13 +5,11 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/path.h"
 #include "host/gui/bind/bindings.h"
-#include "host/gui/bind/condition.h"
+#include "host/gui/bind/valuesource.h"
 #include "host/gui/build/componentclass.h"
 #include "host/gui/build/formloader.h"
-#include "host/gui/build/formtranslation.h"
 #include "host/gui/build/rowlist.h"
 #include "host/gui/build/taborder.h"
-#include "host/gui/hostwidgets.h"
 
 #include <QBuffer>
 #include <QEvent>
@@ -38,21 +36,28 @@ void fill(QWidget& widget, QWidget& content) {
     placeInTabOrder(widget, content);
 }
 
+/// Null when the controller makes no such view.
+QWidget* viewOf(IController& scope, const std::string& name, const FormBuilder::ViewMaker& make,
+                QWidget& parent) {
+    Ref<IView> view;
+    const bool isMade = scope.createView(toText(name), view.out()) == kOk && view;
+    return isMade ? make(*view, &parent) : nullptr;
+}
+
 /// Puts a view into a widget when that is shown for the first time.
 class LaterView final : public QObject {
 public:
-    LaterView(QWidget& widget, Ref<IController> scope, std::string name)
+    LaterView(QWidget& widget, std::function<QWidget*()> makeView)
         : QObject(&widget),
           m_widget(&widget),
-          m_scope(std::move(scope)),
-          m_name(std::move(name)) {
+          m_makeView(std::move(makeView)) {
         widget.installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Show) {
             m_widget->removeEventFilter(this);
-            if (QWidget* content = makeView(*m_scope, m_name, *m_widget)) {
+            if (QWidget* content = m_makeView()) {
                 fill(*m_widget, *content);
                 content->show();
             }
@@ -60,17 +65,9 @@ public:
         return QObject::eventFilter(watched, event);
     }
 
-    /// Null when the controller makes no such view.
-    static QWidget* makeView(IController& scope, const std::string& name, QWidget& parent) {
-        Ref<IView> view;
-        const bool isMade = scope.createView(toText(name), view.out()) == kOk && view;
-        return isMade ? createViewWidget(*view, &parent) : nullptr;
-    }
-
 private:
     QWidget* m_widget;
-    Ref<IController> m_scope;
-    std::string m_name;
+    std::function<QWidget*()> m_makeView;
 };
 
 /// Fonts of a form are said in relation to the user's.
@@ -117,8 +114,9 @@ constexpr Conditional kConditions[] = {
 
 } // namespace
 
-FormBuilder::FormBuilder(const Skin& skin, std::vector<std::string> forms)
+FormBuilder::FormBuilder(const Skin& skin, ViewMaker makeView, std::vector<std::string> forms)
     : m_skin(skin),
+      m_makeView(std::move(makeView)),
       m_forms(std::move(forms)) {
     XBRGetLocaleManager()->getTable(toText(skin.module), m_translations.out());
 }
@@ -230,8 +228,12 @@ void FormBuilder::repeatForm(QWidget& widget, IController& scope) {
     const bool isPossible = RowList::fits(widget);
     check(isPossible, widget, form);
     if (isPossible) {
+        const auto builder = std::make_shared<FormBuilder>(m_skin, m_makeView, m_forms);
+        const auto make = [builder, form](IController& child, QWidget* parent) {
+            return builder->build(form, child, parent);
+        };
         new RowList(static_cast<QScrollArea&>(widget), Ref<IController>::share(&scope),
-                    propertyOf(widget, "xbrRowsOf"), form, FormBuilder(m_skin, m_forms));
+                    propertyOf(widget, "xbrRowsOf"), {make, [builder] { builder->takeComponents(); }});
     }
 }
 
@@ -253,8 +255,10 @@ void FormBuilder::embedView(QWidget& widget, IController& scope) {
     const bool isHidden =
         widget.testAttribute(Qt::WA_WState_ExplicitShowHide) && widget.testAttribute(Qt::WA_WState_Hidden);
     if (isHidden) {
-        new LaterView(widget, Ref<IController>::share(&scope), name);
-    } else if (QWidget* content = LaterView::makeView(scope, name, widget)) {
+        new LaterView(widget, [makeView = m_makeView, kept = Ref<IController>::share(&scope), name, &widget] {
+            return viewOf(*kept, name, makeView, widget);
+        });
+    } else if (QWidget* content = viewOf(scope, name, m_makeView, widget)) {
         fill(widget, *content);
     } else {
         warn(name, "the controller makes no such view");

@@ -6,6 +6,7 @@
 #include "host/gui/bind/valuesource.h"
 #include "host/gui/skin/skin.h"
 
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -21,8 +22,11 @@ namespace xbr::host {
 /// What cannot be bound is told once, with the form and the path, to developers; the rest of the form works.
 class FormBuilder {
 public:
+    /// Makes the widget of a view that a form embeds; null when it cannot be made.
+    using ViewMaker = std::function<QWidget*(IView& view, QWidget* parent)>;
+
     /// The skin must live as long as this builder. `forms` are those that enclose what is built.
-    explicit FormBuilder(const Skin& skin, std::vector<std::string> forms = {});
+    FormBuilder(const Skin& skin, ViewMaker makeView, std::vector<std::string> forms = {});
 
     /// `form` is one of the skin's. Null when it cannot be made; a warning says why.
     QWidget* build(const std::string& form, IController& controller, QWidget* parent);
@@ -49,6 +53,7 @@ private:
     void warn(const std::string& path, std::string_view fault);
 
     const Skin& m_skin;
+    ViewMaker m_makeView;
     Ref<ITranslationTable> m_translations;
     std::vector<std::string> m_forms; ///< the form that is being built, behind those that embed it
     std::set<std::string> m_told;

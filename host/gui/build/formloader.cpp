@@ -1,8 +1,30 @@
 #include "host/gui/build/formloader.h"
 
+#include "framework/support/objects/text.h"
 #include "host/gui/list/listview.h"
 
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
 namespace xbr::host {
+
+namespace {
+
+QString translate(const QString& source, ITranslationTable& translations) {
+    const std::string text = source.toStdString();
+    Ref<IString> translated;
+    return translations.translate(toText(text), translated.out()) == kOk
+               ? QString::fromStdString(take(translated))
+               : source;
+}
+
+/// True for the start of a <string> element that a person reads.
+bool startsText(const QXmlStreamReader& reader) {
+    return reader.isStartElement() && reader.name() == u"string" &&
+           reader.attributes().value(QStringLiteral("notr")) != u"true";
+}
+
+} // namespace
 
 FormLoader::FormLoader() {
     clearPluginPaths(); // a skin gets nothing from whatever else is installed here
@@ -16,6 +38,22 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
         return list;
     }
     return QUiLoader::createWidget(className, parent, name);
+}
+
+QByteArray translateForm(const std::string& form, ITranslationTable& translations) {
+    QByteArray translated;
+    QXmlStreamReader reader(QByteArray::fromRawData(form.data(), static_cast<qsizetype>(form.size())));
+    QXmlStreamWriter writer(&translated);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        writer.writeCurrentToken(reader);
+        if (startsText(reader)) {
+            const QString source = reader.readElementText();
+            writer.writeCharacters(source.isEmpty() ? source : translate(source, translations));
+            writer.writeEndElement();
+        }
+    }
+    return translated;
 }
 
 } // namespace xbr::host

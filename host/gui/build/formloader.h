@@ -1,6 +1,11 @@
 #pragma once
 
+#include "framework/abi/locale.h"
+
+#include <QByteArray>
 #include <QUiLoader>
+
+#include <string>
 
 namespace xbr::host {
 
@@ -13,5 +18,10 @@ public:
 
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override;
 };
+
+/// The form with its texts in the user's language. `form` is well-formed; texts marked as not to be
+/// translated
+/// (`notr`) stay as they are.
+QByteArray translateForm(const std::string& form, ITranslationTable& translations);
 
 } // namespace xbr::host

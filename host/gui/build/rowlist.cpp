@@ -21,14 +21,12 @@ QVBoxLayout* rowsOf(const QScrollArea& area) {
 
 } // namespace
 
-RowList::RowList(QScrollArea& area, Ref<IController> controller, std::string children, std::string form,
-                 FormBuilder builder)
+RowList::RowList(QScrollArea& area, Ref<IController> controller, std::string children, Rows rows)
     : QObject(&area),
       m_area(&area),
       m_controller(std::move(controller)),
       m_children(std::move(children)),
-      m_form(std::move(form)),
-      m_builder(std::move(builder)),
+      m_rows(std::move(rows)),
       m_lastStop(&area),
       m_listener([this](const IMessage& message) {
           if (isNamed(message, "changed")) {
@@ -74,7 +72,7 @@ void RowList::removeRows() {
     while (const auto* item = rowsOf(*m_area)->itemAt(0)) {
         delete item->widget(); // takes its place in the layout with it
     }
-    m_builder.takeComponents(); // the rows needed them
+    m_rows.release();
     m_lastStop = m_area;
     m_count = 0;
     m_isComplete = false;
@@ -97,7 +95,7 @@ void RowList::fill() {
 
 bool RowList::addRow() {
     const auto child = findObject<IController>(*m_controller, m_children + std::to_string(m_count));
-    QWidget* row = child ? m_builder.build(m_form, *child, m_area->widget()) : nullptr;
+    QWidget* row = child ? m_rows.make(*child, m_area->widget()) : nullptr;
     if (!row) {
         m_isComplete = true;
         return false;

@@ -1,11 +1,13 @@
 #pragma once
 
-#include "host/gui/build/formbuilder.h"
+#include "framework/abi/controller.h"
+#include "framework/support/objects/ref.h"
 #include "host/gui/listener.h"
 
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
 #include <string>
 
 class QScrollArea;
@@ -19,9 +21,14 @@ namespace xbr::host {
 /// it. They are made anew when the controller signals "changed".
 class RowList final : public QObject {
 public:
+    /// What rows are made by.
+    struct Rows {
+        std::function<QWidget*(IController& child, QWidget* parent)> make;
+        std::function<void()> release; ///< frees what the rows needed; they are gone
+    };
+
     /// Belongs to `area`, which has a widget with a vertical box layout for the rows.
-    RowList(QScrollArea& area, Ref<IController> controller, std::string children, std::string form,
-            FormBuilder builder);
+    RowList(QScrollArea& area, Ref<IController> controller, std::string children, Rows rows);
 
     static bool fits(const QWidget& widget);
 
@@ -38,8 +45,7 @@ private:
     QScrollArea* m_area;
     Ref<IController> m_controller;
     std::string m_children;
-    std::string m_form;
-    FormBuilder m_builder;
+    Rows m_rows;
     QWidget* m_lastStop; ///< of the Tab key, in the rows or before them
     int m_count = 0;
     bool m_isComplete = false;

@@ -20,14 +20,15 @@ ViewWidget::~ViewWidget() {
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
-ViewWidget* ViewWidget::create(FormView& view, QWidget* parent) {
-    auto widget = std::unique_ptr<ViewWidget>(new ViewWidget(view, parent));
-    return widget->build() ? widget.release() : nullptr;
+ViewWidget* ViewWidget::create(IView& view, QWidget* parent) {
+    FormView* const form = FormView::from(view);
+    auto widget = std::unique_ptr<ViewWidget>(form ? new ViewWidget(*form, parent) : nullptr);
+    return widget && widget->build() ? widget.release() : nullptr;
 }
 
 bool ViewWidget::build() {
     applyStyle(); // before there is anything that would be styled twice
-    FormBuilder builder(*m_view->skin());
+    FormBuilder builder(*m_view->skin(), &ViewWidget::create);
     const Text name = m_view->formName();
     QWidget* form = builder.build(std::string(name.data, name.length), *m_view->controller(), this);
     m_components = builder.takeComponents();

@@ -16,8 +16,8 @@ class ViewWidget final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Null when the form cannot be made.
-    static ViewWidget* create(FormView& view, QWidget* parent);
+    /// Null when the form cannot be made, and for a view that is not of this library.
+    static ViewWidget* create(IView& view, QWidget* parent);
 
     ~ViewWidget() override;
 

@@ -1,7 +1,5 @@
 #include "host/gui/list/celldelegate.h"
 
-#include "host/gui/list/listview.h"
-
 #include <QHelpEvent>
 #include <QToolTip>
 
@@ -10,12 +8,11 @@ namespace xbr::host {
 void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     const auto style = static_cast<CellStyle>(index.data(ListModelAdaptor::kCellStyleRole).toInt());
-    const auto* list = qobject_cast<const ListView*>(option->widget);
-    if (!list || style == CellStyle::kNormal) {
+    if (style == CellStyle::kNormal) {
         return;
     }
-    option->palette.setColor(QPalette::Text, list->colorOf(style));
-    option->palette.setColor(QPalette::HighlightedText, list->colorOf(style));
+    option->palette.setColor(QPalette::Text, m_colourOf(style));
+    option->palette.setColor(QPalette::HighlightedText, m_colourOf(style));
     option->font.setBold(true);
 }
 

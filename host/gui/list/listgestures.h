@@ -5,9 +5,14 @@
 
 class QMimeData;
 
+class QMenu;
+
 namespace xbr::host {
 
 /// The locations that are dragged, as objects (IUrlSource) in their order.
 Ref<IObjectIterator> draggedObjects(const QMimeData& data);
+
+/// Adds commands to a menu, with a line between their categories. The menu keeps the commands.
+void addCommands(QMenu& menu, const Ref<ICommandList>& commands);
 
 } // namespace xbr::host

@@ -35,7 +35,7 @@ std::vector<bool> marked(const QItemSelection& ranges, int rowCount) {
 
 } // namespace
 
-ListSelection::ListSelection(ListView& view, ListModelAdaptor& rows)
+ListSelection::ListSelection(QAbstractItemView& view, ListModelAdaptor& rows)
     : QObject(&view),
       m_view(&view),
       m_rows(&rows) {

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "host/gui/list/listview.h"
+#include "host/gui/list/listmodeladaptor.h"
 
+#include <QAbstractItemView>
 #include <QItemSelection>
 
 #include <vector>
@@ -14,14 +15,14 @@ class ListSelection final : public QObject {
 
 public:
     /// Belongs to `view`, which shows `rows`.
-    ListSelection(ListView& view, ListModelAdaptor& rows);
+    ListSelection(QAbstractItemView& view, ListModelAdaptor& rows);
 
 private:
     void takeFromSource();
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
     void currentChanged(const QModelIndex& current);
 
-    ListView* m_view;
+    QAbstractItemView* m_view;
     ListModelAdaptor* m_rows;
     std::vector<std::int32_t> m_order; ///< selected rows in the order of selection
     bool m_isTaking = false;           ///< what the view changes now comes from the model

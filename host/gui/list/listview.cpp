@@ -1,7 +1,6 @@
 #include "host/gui/list/listview.h"
 
 #include "host/gui/list/celldelegate.h"
-#include "host/gui/list/commandmenu.h"
 #include "host/gui/list/listgestures.h"
 #include "host/gui/list/listselection.h"
 
@@ -28,7 +27,7 @@ constexpr float kPlaceholderOpacity = 0.7F;
 } // namespace
 
 ListView::ListView(QWidget* parent) : QTreeView(parent) {
-    setItemDelegate(new CellDelegate(this));
+    setItemDelegate(new CellDelegate(this, [this](CellStyle style) { return colorOf(style); }));
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true); // else every row would be measured when a value changes

@@ -1,4 +1,4 @@
-#include "host/gui/hostwidgets.h"
+#include "host/gui/skin/palette.h"
 
 #include <QPalette>
 

@@ -3,8 +3,8 @@
 #include "framework/abi/filesystem.h"
 #include "framework/abi/system.h"
 #include "framework/support/objects/text.h"
-#include "host/gui/hostwidgets.h"
 #include "host/gui/picture/svgimage.h"
+#include "host/gui/skin/palette.h"
 
 #include <QCryptographicHash>
 #include <QPalette>

@@ -1,7 +1,5 @@
 #include "host/net/download/downloadqueue.h"
 
-#include "host/net/download/downloadtask.h"
-
 #include <algorithm>
 #include <deque>
 #include <vector>
@@ -10,12 +8,12 @@ namespace xbr::host {
 
 namespace {
 
-std::deque<DownloadTask*> g_waiting;
-std::vector<DownloadTask*> g_running;
+std::deque<Download*> g_waiting;
+std::vector<Download*> g_running;
 
 void giveTurns() {
     while (g_running.size() < DownloadQueue::kTurns && !g_waiting.empty()) {
-        DownloadTask* const next = g_waiting.front();
+        Download* const next = g_waiting.front();
         g_waiting.pop_front();
         g_running.push_back(next);
         next->takeTurn();
@@ -24,14 +22,14 @@ void giveTurns() {
 
 } // namespace
 
-void DownloadQueue::enter(DownloadTask& task) {
-    g_waiting.push_back(&task);
+void DownloadQueue::enter(Download& download) {
+    g_waiting.push_back(&download);
     giveTurns();
 }
 
-void DownloadQueue::leave(const DownloadTask& task) {
-    std::erase(g_waiting, &task);
-    if (std::erase(g_running, &task) > 0) {
+void DownloadQueue::leave(const Download& download) {
+    std::erase(g_waiting, &download);
+    if (std::erase(g_running, &download) > 0) {
         giveTurns();
     }
 }
@@ -41,8 +39,8 @@ void DownloadQueue::endAll() {
     ending.insert(ending.end(), g_waiting.begin(), g_waiting.end());
     g_running.clear();
     g_waiting.clear();
-    for (DownloadTask* task : ending) {
-        task->endSilently();
+    for (Download* download : ending) {
+        download->endSilently();
     }
 }
 

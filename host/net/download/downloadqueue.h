@@ -2,7 +2,17 @@
 
 namespace xbr::host {
 
-class DownloadTask;
+/// Waits for a turn.
+struct Download {
+    /// It is its turn to use the network.
+    virtual void takeTurn() = 0;
+
+    /// Ends it for good, without a message.
+    virtual void endSilently() = 0;
+
+protected:
+    ~Download() = default;
+};
 
 /// Lets a few downloads at a time use the network: a feed may ask for a thousand pictures at once, and an
 /// upload beside them should not notice.
@@ -10,13 +20,13 @@ class DownloadQueue {
 public:
     static constexpr int kTurns = 6;
 
-    /// Gives the task a turn, at once or when others are through. Not kept: it leaves before it dies.
-    static void enter(DownloadTask& task);
+    /// Gives the download a turn, at once or when others are through. Not kept: it leaves before it dies.
+    static void enter(Download& download);
 
-    /// The task is through, or has lost interest.
-    static void leave(const DownloadTask& task);
+    /// The download is through, or has lost interest.
+    static void leave(const Download& download);
 
-    /// Ends all tasks without a message.
+    /// Ends all without a message.
     static void endAll();
 };
 

@@ -3,7 +3,6 @@
 #include "framework/abi/filesystem.h"
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
-#include "host/net/download/downloadqueue.h"
 #include "host/net/http/request.h"
 #include "host/net/http/requesturl.h"
 #include "host/net/http/transferloop.h"

@@ -3,7 +3,7 @@
 #include "framework/abi/download.h"
 #include "framework/abi/message.h"
 #include "framework/support/objects/object.h"
-#include "host/net/download/cachepolicy.h"
+#include "host/net/download/downloadqueue.h"
 #include "host/net/download/downloadrules.h"
 #include "host/net/http/transfer.h"
 
@@ -13,7 +13,9 @@
 namespace xbr::host {
 
 /// One download, over the web or from the file system.
-class DownloadTask final : public Object<IDownloadTask, ISubject, IObserver>, private ITransferListener {
+class DownloadTask final : public Object<IDownloadTask, ISubject, IObserver>,
+                           private Download,
+                           private ITransferListener {
 public:
     DownloadTask(std::string url, DownloadSource source) : m_location(std::move(url)), m_source(source) {}
     ~DownloadTask() override;
@@ -30,13 +32,9 @@ public:
     /// What the task posted to itself.
     void notify(ISubject* subject, IMessage* message) noexcept override;
 
-    /// It is this task's turn to use the network.
-    void takeTurn();
-
-    /// Ends it for good, without a message.
-    void endSilently();
-
 private:
+    void takeTurn() override;
+    void endSilently() override;
     bool send();
     bool follow(const Answer& outcome);
     void endTransfer();

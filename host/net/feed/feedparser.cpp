@@ -1,7 +1,7 @@
 #include "host/net/feed/feedparser.h"
 
 #include "framework/support/objects/text.h"
-#include "host/net/feed/htmltext.h"
+#include "host/net/feed/plaintext.h"
 
 #include <algorithm>
 

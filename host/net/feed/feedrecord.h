@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/abi/feed.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -26,5 +28,8 @@ struct FeedRecord {
     std::string title;
     std::vector<FeedEntryRecord> entries;
 };
+
+/// Hands a feed that was read across the border.
+void giveFeed(FeedRecord record, IFeed** out);
 
 } // namespace xbr::host

@@ -38,4 +38,8 @@ std::string collapsed(std::string_view text);
 /// Elements whose contents are for programs, not for readers.
 bool isHiddenElement(std::string_view name);
 
+/// What a fragment of HTML says, as plain text; whatever the fragment is, something comes out, in time that
+/// grows with its length only. Nothing that it refers to is fetched.
+std::string plainTextOfHtml(std::string_view html);
+
 } // namespace xbr::host

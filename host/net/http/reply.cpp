@@ -1,12 +1,17 @@
 #include "host/net/http/reply.h"
 
+#include "framework/support/objects/text.h"
 #include "host/base/textscan.h"
+#include "host/net/http/request.h"
 
 #include <nlohmann/json.hpp>
 
 namespace xbr::host {
 
 namespace {
+
+constexpr std::array<std::string_view, ReplyHeaders::kNames> kHeaderNames = {
+    "Age", "Cache-Control", "Content-Type", "ETag", "Last-Modified", "Location"};
 
 using Json = nlohmann::ordered_json;
 
@@ -27,6 +32,20 @@ void addTexts(const Json& value, int depth, std::string& words) {
 }
 
 } // namespace
+
+void ReplyHeaders::addLine(std::string_view line) {
+    if (line.starts_with("HTTP/")) {
+        m_values = {};
+        return;
+    }
+    const auto colon = line.find(':');
+    for (std::size_t i = 0; colon != std::string_view::npos && i < kHeaderNames.size(); ++i) {
+        if (isSameHeader(line.substr(0, colon), kHeaderNames[i])) {
+            std::string& value = m_values[i];
+            value += (value.empty() ? "" : ", ") + std::string(trim(line.substr(colon + 1)));
+        }
+    }
+}
 
 bool Reply::addHeaderLine(std::string_view line) {
     if (line.starts_with("HTTP/")) {

@@ -1,7 +1,14 @@
 #pragma once
 
+#include "framework/abi/stream.h"
+#include "framework/support/objects/ref.h"
+
 #include <curl/curl.h>
 
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string>
 #include <string_view>
 
 namespace xbr::host {
@@ -19,6 +26,29 @@ bool isSameHeader(std::string_view left, std::string_view right) noexcept;
 /// True for the headers that frame the message or steer the connection (RFC 9112, sections 6 and 9). They are
 /// the transport's: a second opinion about the length of a body lets two requests be read out of one.
 bool isTransportHeader(std::string_view name) noexcept;
+
+/// A text that is overwritten before its memory is given back.
+class Secret {
+public:
+    Secret() = default;
+    Secret(const Secret&) = delete;
+    Secret& operator=(const Secret&) = delete;
+    ~Secret() { wipe(m_text); }
+
+    void assign(std::string_view text) {
+        // Wiped first: assigning may move to a larger block and leave the old one as it is.
+        wipe(m_text);
+        m_text.assign(text);
+    }
+    std::string_view view() const noexcept { return m_text; }
+    bool isEmpty() const noexcept { return m_text.empty(); }
+
+    /// Overwrites what is in `text`.
+    static void wipe(std::string& text) noexcept { explicit_bzero(text.data(), text.size()); }
+
+private:
+    std::string m_text;
+};
 
 /// The headers of one request as libcurl takes them.
 class RequestHeaders {
@@ -43,6 +73,43 @@ private:
     void append(std::string line);
 
     curl_slist* m_list = nullptr;
+};
+
+/// What a request sends: the bytes of a stream from the position where it stands to its end. The length is
+/// fixed when the body is opened; bytes that are appended later are not sent.
+class RequestBody {
+public:
+    RequestBody() = default;
+
+    /// Measures the stream (null: no body) and keeps it. False when it cannot be measured.
+    bool open(IStream* stream);
+
+    bool exists() const noexcept { return static_cast<bool>(m_stream); }
+    std::int64_t size() const noexcept { return m_size; }
+
+    /// Reads the next bytes. False when fewer than announced can be read.
+    bool read(char* buffer, std::size_t size, std::size_t& done);
+
+    /// How many bytes were read.
+    std::int64_t position() const noexcept { return m_read; }
+
+    /// Goes back to `offset` from the start of the body, to send it from there again.
+    bool rewindTo(std::int64_t offset);
+
+private:
+    Ref<IStream> m_stream;
+    std::int64_t m_start = 0;
+    std::int64_t m_size = 0;
+    std::int64_t m_read = 0;
+};
+
+/// What is sent.
+struct Request {
+    std::string method;
+    std::string url;
+    std::string host;
+    RequestHeaders headers;
+    RequestBody body;
 };
 
 } // namespace xbr::host

@@ -3,7 +3,6 @@
 #include "host/net/http/failure.h"
 #include "host/net/http/reply.h"
 #include "host/net/http/request.h"
-#include "host/net/http/requestbody.h"
 
 #include <curl/curl.h>
 
@@ -32,15 +31,6 @@ public:
 
 protected:
     ~ITransferListener() = default;
-};
-
-/// What is sent.
-struct Request {
-    std::string method;
-    std::string url;
-    std::string host;
-    RequestHeaders headers;
-    RequestBody body;
 };
 
 /// One request on its way: a libcurl handle and what its callbacks work on. TransferLoop drives it.

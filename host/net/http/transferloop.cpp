@@ -1,7 +1,5 @@
 #include "host/net/http/transferloop.h"
 
-#include "host/net/hostnet.h"
-
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 #include <QSocketNotifier>
@@ -12,11 +10,12 @@
 namespace xbr::host {
 
 TransferLoop* TransferLoop::s_instance = nullptr;
+void (*TransferLoop::s_farewell)() = nullptr;
 
 TransferLoop& TransferLoop::instance() {
     if (!s_instance) {
         s_instance = new TransferLoop();
-        qAddPostRoutine(abortAllRequests);
+        qAddPostRoutine(s_farewell);
     }
     return *s_instance;
 }
@@ -26,7 +25,7 @@ void TransferLoop::shutDown() {
     if (!loop) {
         return;
     }
-    qRemovePostRoutine(abortAllRequests);
+    qRemovePostRoutine(s_farewell);
     if (loop->m_depth == 0) {
         delete loop;
         return;

@@ -20,6 +20,10 @@ public:
     /// Made on first use; ends with the QCoreApplication.
     static TransferLoop& instance();
 
+    /// What to call when the QCoreApplication ends while there is an instance: it ends all transfers, and
+    /// then the instance.
+    static void setFarewell(void (*farewell)()) { s_farewell = farewell; }
+
     /// Ends the instance, if there is one. No transfer may be left.
     static void shutDown();
 
@@ -59,6 +63,7 @@ private:
     int m_depth = 0; ///< how many calls that may lead to listeners or streams are on the stack
 
     static TransferLoop* s_instance;
+    static void (*s_farewell)();
 };
 
 } // namespace xbr::host

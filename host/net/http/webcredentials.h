@@ -2,7 +2,7 @@
 
 #include "framework/abi/webservice.h"
 #include "framework/support/objects/object.h"
-#include "host/net/http/secret.h"
+#include "host/net/http/request.h"
 
 #include <string>
 

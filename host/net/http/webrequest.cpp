@@ -2,7 +2,6 @@
 
 #include "framework/support/objects/text.h"
 #include "host/net/http/request.h"
-#include "host/net/http/requestmessage.h"
 #include "host/net/http/requesturl.h"
 #include "host/net/http/transferloop.h"
 

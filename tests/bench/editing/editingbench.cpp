@@ -1,4 +1,4 @@
-#include "framework/support/objects/objectlist.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "release/genrecatalogue.h"
 #include "tests/fakehost/fakehost.h"

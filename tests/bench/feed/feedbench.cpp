@@ -4,7 +4,7 @@
 #include "framework/abi/webservice.h"
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
-#include "ui/news/newsfeed.h"
+#include "ui/news/feedelement.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

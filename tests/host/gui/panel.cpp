@@ -2,16 +2,15 @@
 
 #include "framework/abi/filesystem.h"
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/objects/hostobject.h"
 #include "framework/support/objects/message.h"
-#include "framework/support/objects/objectlist.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
 #include "host/gui/hostcomponents.h"
 #include "host/gui/hostgui.h"
 #include "host/gui/hostwidgets.h"
 #include "release/genrecatalogue.h"
-#include "ui/news/newsfeed.h"
+#include "ui/news/feedelement.h"
 
 #include <QFile>
 #include <QWidget>

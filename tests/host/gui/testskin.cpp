@@ -1,7 +1,7 @@
 #include "tests/host/gui/testskin.h"
 
-#include "framework/support/objects/hostobject.h"
 #include "framework/support/objects/message.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "host/gui/hostgui.h"
 #include "host/gui/hostwidgets.h"

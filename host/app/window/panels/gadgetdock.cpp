@@ -1,7 +1,7 @@
 #include "host/app/window/panels/gadgetdock.h"
 
 #include "framework/abi/view.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/parts/path.h"
 #include "host/app/window/look/desktop.h"
 #include "host/app/window/panels/docktitle.h"

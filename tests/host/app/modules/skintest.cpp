@@ -1,5 +1,5 @@
 #include "framework/abi/view.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/component.h"
 #include "host/gui/hostgui.h"

@@ -1,4 +1,4 @@
-#include "host/net/feed/feedobjects.h"
+#include "host/net/feed/feedrecord.h"
 
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"

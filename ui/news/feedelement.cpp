@@ -1,4 +1,4 @@
-#include "ui/news/newsfeed.h"
+#include "ui/news/feedelement.h"
 
 #include "framework/abi/view.h"
 #include "framework/abi/webservice.h"
@@ -6,7 +6,7 @@
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
-#include "ui/news/feeddate.h"
+#include "ui/news/feedentry.h"
 #include "ui/pictures/persistentimagecache.h"
 #include "ui/pictures/picturechoice.h"
 

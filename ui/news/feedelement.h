@@ -2,7 +2,7 @@
 
 #include "framework/abi/feed.h"
 #include "framework/abi/listmodel.h"
-#include "ui/news/newsentry.h"
+#include "ui/news/feedentry.h"
 #include "ui/pictures/element.h"
 #include "ui/pictures/imageelement.h"
 

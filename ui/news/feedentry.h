@@ -1,8 +1,10 @@
 #pragma once
 
+#include "framework/abi/feed.h"
 #include "framework/support/parts/component.h"
 #include "ui/pictures/imageelement.h"
 
+#include <string>
 #include <vector>
 
 namespace brindlex {
@@ -27,5 +29,9 @@ private:
     xbr::IController* m_owner = nullptr;
     Parameters m_parameters;
 };
+
+/// When an entry was published, or else changed last, as the user's locale writes dates. The date of an entry
+/// without any is 1 January 1900.
+std::string feedDate(const xbr::IFeedEntry& entry);
 
 } // namespace brindlex
