@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/gui/build/componentclass.h" // setComponentSettings
+
 /// What the host program sets up in this library. Modules never use it.
 namespace xbr::host {
 

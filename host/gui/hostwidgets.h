@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/abi/view.h"
+#include "host/gui/picture/image.h" // pixelsOf
 #include "host/gui/skin/palette.h"
 
 #include <functional>

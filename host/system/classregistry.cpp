@@ -1,7 +1,7 @@
 #include "host/system/classregistry.h"
 
 #include "framework/support/objects/text.h"
-#include "host/system/mainthread.h"
+#include "host/base/mainthread.h"
 
 #include <algorithm>
 

@@ -1,7 +1,8 @@
 #include "host/system/filetyperegistry.h"
 
 #include "framework/support/objects/text.h"
-#include "host/system/mainthread.h"
+#include "host/base/mainthread.h"
+#include "host/base/qttext.h"
 
 #include <QMimeType>
 
@@ -29,7 +30,7 @@ private:
 };
 
 QString toLowerQString(Text text) {
-    return QString::fromUtf8(text.data, static_cast<qsizetype>(text.length)).trimmed().toLower();
+    return toQString(text).trimmed().toLower();
 }
 
 Result giveType(const QString& extension, const QMimeType& type, IFileType** out) {

@@ -1,7 +1,6 @@
 #include "host/system/signalhandler.h"
 
-#include "host/system/hostsystem.h"
-#include "host/system/mainthread.h"
+#include "host/base/mainthread.h"
 
 #include <QDeadlineTimer>
 #include <QMetaObject>
@@ -187,18 +186,6 @@ void SignalHandler::dropPosted(Predicate predicate) {
         }
         queue->swap(kept);
     }
-}
-
-void dropPostedMessages() noexcept {
-    SignalHandler::instance().dropPosted();
-}
-
-bool hasPostedMessages() noexcept {
-    return SignalHandler::instance().hasPosted();
-}
-
-void setQuietListener(std::function<void()> listener) {
-    SignalHandler::instance().setQuietListener(std::move(listener));
 }
 
 } // namespace xbr::host

@@ -1,7 +1,8 @@
 #include "host/system/systemshell.h"
 
 #include "framework/support/objects/text.h"
-#include "host/system/mainthread.h"
+#include "host/base/mainthread.h"
+#include "host/base/weburl.h"
 
 #include <QByteArray>
 #include <QProcess>
@@ -10,10 +11,6 @@
 namespace xbr::host {
 
 namespace {
-
-bool isWebUrl(const QUrl& url) {
-    return url.isValid() && !url.host().isEmpty() && (url.scheme() == "http" || url.scheme() == "https");
-}
 
 /// Starts the browser by itself: no shell reads the URL, and nothing that the browser prints reaches the
 /// host's own output.
@@ -38,7 +35,7 @@ Result SystemShell::openUrl(Text url) noexcept {
     assertMainThread();
     const auto bytes = QByteArray::fromRawData(url.data, static_cast<qsizetype>(url.length));
     const QUrl parsed = QUrl::fromEncoded(bytes, QUrl::StrictMode);
-    if (!isWebUrl(parsed)) {
+    if (!isWebAddress(parsed)) {
         return kInvalidArgument;
     }
     const QByteArray encoded = parsed.toEncoded();
@@ -48,11 +45,6 @@ Result SystemShell::openUrl(Text url) noexcept {
         announcer(std::string_view(encoded.constData(), static_cast<std::size_t>(encoded.size())));
     const bool isStarted = startBrowser(QString::fromLatin1(encoded));
     return isStarted || isReachable ? kOk : kUnexpected;
-}
-
-void setBrowserAnnouncer(BrowserAnnouncer announcer) {
-    assertMainThread();
-    SystemShell::instance().setAnnouncer(std::move(announcer));
 }
 
 } // namespace xbr::host

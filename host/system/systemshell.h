@@ -2,9 +2,15 @@
 
 #include "framework/abi/system.h"
 #include "framework/support/objects/object.h"
-#include "host/system/hostsystem.h"
+
+#include <functional>
+#include <string_view>
 
 namespace xbr::host {
+
+/// Is told the URL before a browser is started for it, so that a front end can show it. Answers true when the
+/// user can reach the URL without that browser; opening it is a success then in any case.
+using BrowserAnnouncer = std::function<bool(std::string_view url)>;
 
 class SystemShell final : public Object<ISystemShell> {
 public:

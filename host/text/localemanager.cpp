@@ -3,6 +3,7 @@
 #include "framework/abi/filesystem.h"
 #include "framework/abi/textformats.h"
 #include "framework/support/objects/text.h"
+#include "host/base/qttext.h"
 #include "host/text/streams.h"
 
 #include <QDateTime>
@@ -17,7 +18,7 @@
 
 xbr::Result XBRFoldCase(xbr::Text text, xbr::IString** out) noexcept {
     // By code point: QChar folds simply, one code point to one; what QString does to a whole text may change.
-    auto codePoints = QString::fromUtf8(text.data, static_cast<qsizetype>(text.length)).toUcs4();
+    auto codePoints = xbr::host::toQString(text).toUcs4();
     for (auto& codePoint : codePoints) {
         codePoint = QChar::toCaseFolded(codePoint);
     }

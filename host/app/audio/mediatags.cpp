@@ -4,7 +4,7 @@
 #include "framework/support/objects/value.h"
 #include "host/app/audio/mediasignature.h"
 #include "host/app/audio/tagbounds.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 
 #include <sndfile.h>
 #include <taglib/fileref.h>

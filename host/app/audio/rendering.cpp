@@ -2,10 +2,10 @@
 
 #include "framework/abi/progress.h"
 #include "framework/abi/system.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "host/app/audio/soundfile.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 
 #include <chrono>
 #include <filesystem>

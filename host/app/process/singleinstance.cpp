@@ -3,7 +3,7 @@
 #include "framework/support/objects/text.h"
 #include "host/app/process/callbackclient.h"
 #include "host/app/process/callbackplace.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 
 #include <QElapsedTimer>
 #include <QFile>

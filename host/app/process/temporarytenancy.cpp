@@ -2,7 +2,7 @@
 
 #include "framework/abi/system.h"
 #include "framework/support/objects/text.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 #include "host/system/hostsystem.h"
 
 #include <fcntl.h>

@@ -3,7 +3,7 @@
 #include "framework/abi/system.h"
 #include "framework/support/objects/text.h"
 #include "host/app/modules/publishentry.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 #include "host/system/hostsystem.h"
 
 #include <filesystem>

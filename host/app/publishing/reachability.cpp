@@ -27,7 +27,7 @@ Reachability::~Reachability() {
 void Reachability::check(const std::string& url, Done done) {
     m_server = serverOf(url);
     m_done = std::move(done);
-    m_listener = std::make_unique<SignalListener>([this](ISubject*, const IMessage& message) {
+    m_listener = std::make_unique<Listener>([this](ISubject*, const IMessage& message) {
         if (isNamed(message, "onloadend") || isNamed(message, "onabort")) {
             finish();
         }

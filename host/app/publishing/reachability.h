@@ -2,7 +2,7 @@
 
 #include "framework/abi/webservice.h"
 #include "framework/support/objects/object.h"
-#include "host/app/modules/signallistener.h"
+#include "host/base/listener.h"
 
 #include <functional>
 #include <memory>
@@ -31,7 +31,7 @@ private:
 
     std::string m_server;
     Done m_done;
-    std::unique_ptr<SignalListener> m_listener;
+    std::unique_ptr<Listener> m_listener;
     Ref<IWebRequest> m_request;
 };
 

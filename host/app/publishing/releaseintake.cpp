@@ -5,7 +5,7 @@
 #include "host/app/audio/mediasignature.h"
 #include "host/app/audio/mediatags.h"
 #include "host/app/audio/soundfile.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 
 #include <QString>
 #include <QStringDecoder>

@@ -4,7 +4,7 @@
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 
 #include <algorithm>
 

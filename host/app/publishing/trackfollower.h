@@ -2,8 +2,8 @@
 
 #include "framework/abi/listmodel.h"
 #include "framework/support/objects/object.h"
-#include "host/app/modules/signallistener.h"
 #include "host/app/publishing/release.h"
+#include "host/base/listener.h"
 
 #include <QTimer>
 
@@ -53,7 +53,7 @@ private:
     Changed m_changed;
     std::vector<TrackReport> m_reports;
     QTimer m_later; ///< runs while the list has changed and was not read since
-    SignalListener m_listener;
+    Listener m_listener;
 };
 
 } // namespace xbr::host

@@ -58,11 +58,6 @@ std::string valueOf(const Settings& settings, std::string_view key) {
     return found == settings.end() ? std::string() : found->second;
 }
 
-bool isWebAddress(const std::string& value) {
-    const QUrl url(QString::fromStdString(value), QUrl::StrictMode);
-    return url.isValid() && (url.scheme() == "http" || url.scheme() == "https") && !url.host().isEmpty();
-}
-
 std::string configurationPath() {
     // The environment is read on the main thread, and nothing in the host writes it.
     const char* path = std::getenv("XBRHOST_CONFIG"); // NOLINT(concurrency-mt-unsafe)

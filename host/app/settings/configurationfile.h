@@ -30,7 +30,4 @@ ConfigurationResult readConfiguration(const std::string& path, std::string_view 
 /// The value of a key; empty when there is none.
 std::string valueOf(const Settings& settings, std::string_view key);
 
-/// Whether a value is an http or https address with a host.
-bool isWebAddress(const std::string& value);
-
 } // namespace xbr::host

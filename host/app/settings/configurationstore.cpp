@@ -3,6 +3,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "host/app/settings/configurationfile.h"
+#include "host/base/weburl.h"
 
 #include <QUrl>
 

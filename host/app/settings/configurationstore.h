@@ -3,7 +3,7 @@
 #include "framework/abi/hostclasses.h"
 #include "framework/support/objects/object.h"
 #include "host/app/settings/configurationfile.h"
-#include "host/gui/hostcomponents.h"
+#include "host/gui/hostgui.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,7 @@
 #include "framework/abi/system.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/path.h"
+#include "host/base/weburl.h"
 #include "host/gui/bind/bindings.h"
 #include "host/gui/bind/elidedtext.h"
 #include "host/gui/bind/valuesource.h"
@@ -16,11 +17,6 @@
 namespace xbr::host {
 
 namespace {
-
-bool isWebAddress(const QUrl& url) {
-    return url.isValid() && !url.host().isEmpty() &&
-           (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https"));
-}
 
 /// The first widget of a page that the Tab key would stop at; null when there is none.
 QWidget* firstStop(QWidget& page) {

@@ -1,8 +1,8 @@
 #include "framework/abi/graphics.h"
 #include "framework/support/parts/path.h"
+#include "host/base/listener.h"
 #include "host/gui/bind/bindings.h"
-#include "host/gui/hostimages.h"
-#include "host/gui/listener.h"
+#include "host/gui/picture/image.h"
 #include "host/gui/picture/svgimage.h"
 
 #include <QAbstractButton>
@@ -24,7 +24,7 @@ public:
         : QObject(&label),
           m_label(&label),
           m_source(std::move(source)),
-          m_listener([this](const auto&) { refresh(); }) {
+          m_listener([this](ISubject*, const IMessage&) { refresh(); }) {
         label.installEventFilter(this);
         m_listener.listen(query<ISubject>(m_source.get()));
         refresh();

@@ -3,6 +3,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
+#include "host/base/qttext.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -37,7 +38,8 @@ std::unique_ptr<ValueSource> ValueSource::find(IController& scope, std::string_v
 }
 
 void ValueSource::observe(std::function<void()> changed) {
-    m_listener = std::make_unique<Listener>([changed = std::move(changed)](const auto&) { changed(); });
+    m_listener =
+        std::make_unique<Listener>([changed = std::move(changed)](ISubject*, const IMessage&) { changed(); });
     m_listener->listen(query<ISubject>(m_parameter.get()));
     // Also for a parameter: a controller may set one without telling, and tell of itself afterwards.
     m_listener->listen(query<ISubject>(m_controller.get()));
@@ -56,7 +58,7 @@ QString ValueSource::text() const {
     const OwnedValue held = value();
     const Value now = held.value();
     if (now.kind == ValueKind::kText) {
-        return QString::fromUtf8(now.text.data, static_cast<qsizetype>(now.text.length));
+        return toQString(now.text);
     }
     return now.kind == ValueKind::kNone ? QString() : QString::number(integerOf(now));
 }

@@ -3,7 +3,7 @@
 #include "framework/abi/controller.h"
 #include "framework/abi/value.h"
 #include "framework/support/objects/value.h"
-#include "host/gui/listener.h"
+#include "host/base/listener.h"
 
 #include <QString>
 

@@ -3,7 +3,6 @@
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
-#include "host/gui/hostcomponents.h"
 
 namespace xbr::host {
 

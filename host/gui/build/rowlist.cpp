@@ -28,7 +28,7 @@ RowList::RowList(QScrollArea& area, Ref<IController> controller, std::string chi
       m_children(std::move(children)),
       m_rows(std::move(rows)),
       m_lastStop(&area),
-      m_listener([this](const IMessage& message) {
+      m_listener([this](ISubject*, const IMessage& message) {
           if (isNamed(message, "changed")) {
               m_rebuilding.start(0); // once for several, and not within a call of the module
           }

@@ -2,7 +2,7 @@
 
 #include "framework/abi/controller.h"
 #include "framework/support/objects/ref.h"
-#include "host/gui/listener.h"
+#include "host/base/listener.h"
 
 #include <QObject>
 #include <QTimer>

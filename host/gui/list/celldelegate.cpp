@@ -1,5 +1,6 @@
 #include "host/gui/list/celldelegate.h"
 
+#include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QToolTip>
 

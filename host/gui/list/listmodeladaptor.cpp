@@ -2,6 +2,7 @@
 
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
+#include "host/base/qttext.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -10,20 +11,14 @@
 
 namespace xbr::host {
 
-namespace {
-
-QString toQString(Text text) {
-    return QString::fromUtf8(text.data, static_cast<qsizetype>(text.length));
-}
-
-} // namespace
+namespace {} // namespace
 
 ListModelAdaptor::ListModelAdaptor(Ref<IListViewModel> model, QObject* parent)
     : QAbstractTableModel(parent),
       m_model(std::move(model)),
       m_columns(readColumns()),
       m_rows(readRows()),
-      m_listener([this](const IMessage& message) { hear(message); }) {
+      m_listener([this](ISubject*, const IMessage& message) { hear(message); }) {
     m_listener.listen(query<ISubject>(m_model.get()));
 }
 

@@ -1,7 +1,5 @@
 #include "host/gui/picture/image.h"
 
-#include "host/gui/hostimages.h"
-
 namespace xbr::host {
 
 namespace {

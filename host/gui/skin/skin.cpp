@@ -3,7 +3,7 @@
 #include "framework/abi/filesystem.h"
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
-#include "host/gui/xmlcheck.h"
+#include "host/base/xmlscan.h"
 
 #include <QByteArray>
 #include <QStringDecoder>

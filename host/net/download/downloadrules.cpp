@@ -2,6 +2,7 @@
 
 #include "framework/support/data/url.h"
 #include "framework/support/objects/text.h"
+#include "host/base/qttext.h"
 #include "host/net/http/requesturl.h"
 
 #include <QUrl>
@@ -14,7 +15,7 @@ namespace xbr::host {
 namespace {
 
 QUrl parse(std::string_view text) {
-    return QUrl(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    return QUrl(toQString(text));
 }
 
 /// Seconds as these headers give them (RFC 9111, section 1.2.2): too many are very many, anything else none.

@@ -3,12 +3,10 @@
 #include "framework/abi/filesystem.h"
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
+#include "host/base/mainthread.h"
 #include "host/net/http/request.h"
 #include "host/net/http/requesturl.h"
 #include "host/net/http/transferloop.h"
-
-#include <QCoreApplication>
-#include <QThread>
 
 #include <algorithm>
 
@@ -51,8 +49,7 @@ Result DownloadTask::setCopy(Text entityTag, Text lastModified) noexcept {
 }
 
 Result DownloadTask::start() noexcept {
-    Q_ASSERT(QCoreApplication::instance() &&
-             QThread::currentThread() == QCoreApplication::instance()->thread());
+    assertMainThread();
     if (m_started) {
         return kUnexpected;
     }

@@ -1,12 +1,10 @@
 #include "host/net/http/webrequest.h"
 
 #include "framework/support/objects/text.h"
+#include "host/base/mainthread.h"
 #include "host/net/http/request.h"
 #include "host/net/http/requesturl.h"
 #include "host/net/http/transferloop.h"
-
-#include <QCoreApplication>
-#include <QThread>
 
 #include <algorithm>
 
@@ -24,11 +22,6 @@ ExchangeListener* g_listener = nullptr;
 
 bool isOwing(const WebRequest* request) {
     return std::find(g_owing.begin(), g_owing.end(), request) != g_owing.end();
-}
-
-void assertMainThread() {
-    Q_ASSERT(QCoreApplication::instance() &&
-             QThread::currentThread() == QCoreApplication::instance()->thread());
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "host/system/files/backgroundwork.h"
 
+#include "framework/support/objects/ref.h"
 #include "framework/support/objects/text.h"
-#include "host/system/filedescriptor.h"
+#include "host/base/filedescriptor.h"
+#include "host/base/mainthread.h"
 
 #include <algorithm>
 #include <poll.h>
@@ -20,6 +22,16 @@ bool report(IProgress* progress, const PackageProgress& state) {
     const std::string name = state.name();
     progress->update(state.fraction(), toText(name));
     return !progress->isCancelled();
+}
+
+struct Indicator {
+    IProgress* progress = nullptr; ///< null while none is shown
+    std::chrono::steady_clock::time_point told;
+};
+
+Indicator& indicator() {
+    static Indicator shown;
+    return shown;
 }
 
 } // namespace
@@ -60,6 +72,32 @@ Result runReporting(IProgress* progress, const PackageProgress& state, const Pac
     }
     worker.join();
     return result;
+}
+
+void setWorkProgress(IProgress* progress) {
+    assertMainThread();
+    indicator() = {progress, {}};
+}
+
+Result runForIndicator(std::string_view what, const PackageWork& work) {
+    const auto progress = Ref<IProgress>::share(indicator().progress);
+    if (!progress) {
+        return work({});
+    }
+    PackageProgress state(0);
+    state.start(what);
+    return runReporting(progress.get(), state, work);
+}
+
+bool keepIndicatorAlive() {
+    const auto progress = Ref<IProgress>::share(indicator().progress);
+    const auto now = std::chrono::steady_clock::now();
+    if (!progress || now - indicator().told < kReportInterval) {
+        return true;
+    }
+    indicator().told = now;
+    progress->update(1.0, Text{});
+    return !progress->isCancelled();
 }
 
 } // namespace xbr::host

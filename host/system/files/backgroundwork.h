@@ -46,4 +46,17 @@ constexpr std::chrono::duration<int, std::milli> kReportInterval{40};
 /// when the user cancels: neither a slow disk nor a slow window holds up the other.
 Result runReporting(IProgress* progress, const PackageProgress& state, const PackageWork& work);
 
+/// For front ends: names the indicator that is shown now, or none (null); not kept. Work that the border
+/// gives no progress for, such as copying a file, tells it what is done and ends when the user cancels there.
+/// Main thread.
+[[gnu::visibility("default")]] void setWorkProgress(IProgress* progress);
+
+/// Runs `work` as runReporting does, on behalf of the indicator that the front end shows (setWorkProgress);
+/// at once and on this thread when it shows none. kFalse, too, when the user has cancelled already.
+Result runForIndicator(std::string_view what, const PackageWork& work);
+
+/// Tells the indicator, some times a second, that reading goes on. False when the user cancelled: who reads
+/// gives up. Runs the event loop.
+bool keepIndicatorAlive();
+
 } // namespace xbr::host

@@ -1,6 +1,5 @@
 #include "host/system/files/copyfile.h"
 
-#include "host/system/files/fileidentity.h"
 #include "host/system/files/filestream.h"
 #include "host/system/files/pendingfile.h"
 

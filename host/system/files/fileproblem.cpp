@@ -1,7 +1,5 @@
 #include "host/system/files/fileproblem.h"
 
-#include "host/system/hostsystem.h"
-
 #include <utility>
 
 namespace xbr::host {

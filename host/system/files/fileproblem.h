@@ -2,6 +2,7 @@
 
 #include "host/base/problem.h"
 
+#include <functional>
 #include <string>
 
 namespace xbr::host {
@@ -10,5 +11,15 @@ namespace xbr::host {
 /// plain words; only those of the first problem are kept until `takeFileProblem` takes them: the others
 /// follow from it.
 void noteFileProblem(const std::string& what, const Problem& problem);
+
+/// For front ends: hears of everything that modules could not read, write or copy, from within their calls;
+/// an empty function ends it. Main thread.
+[[gnu::visibility("default")]] void setFileProblemListener(std::function<void(const Problem&)> listener);
+
+/// For front ends: the first thing since the last call that modules could not write or copy, in plain words
+/// that name the system's reason ("'/music/a.wav' cannot be copied: No space left on device"); empty when
+/// there was none. Modules are silent about it: a front end asks when something that a module prepared did
+/// not come about. Main thread.
+[[gnu::visibility("default")]] std::string takeFileProblem();
 
 } // namespace xbr::host

@@ -2,9 +2,9 @@
 
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
+#include "host/base/fileurl.h"
 #include "host/system/files/filestream.h"
 #include "host/system/files/pendingfile.h"
-#include "host/system/hostfileurl.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 #include "host/system/files/filestream.h"
 
+#include "host/system/files/backgroundwork.h"
 #include "host/system/files/fileproblem.h"
-#include "host/system/files/workprogress.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -11,10 +11,32 @@ namespace xbr::host {
 
 namespace {
 
+std::optional<FileIdentity> toIdentity(bool isKnown, const struct stat& status) {
+    if (!isKnown || !S_ISREG(status.st_mode)) {
+        return std::nullopt;
+    }
+    return FileIdentity{status.st_dev, status.st_ino, status.st_size, status.st_mtim};
+}
+
 /// Who reads pieces of this size reads a whole song or archive.
 constexpr std::uint64_t kLongRead = std::uint64_t{256} << 10U;
 
 } // namespace
+
+bool FileIdentity::operator==(const FileIdentity& other) const {
+    return device == other.device && inode == other.inode && size == other.size &&
+           modified.tv_sec == other.modified.tv_sec && modified.tv_nsec == other.modified.tv_nsec;
+}
+
+std::optional<FileIdentity> identityOf(int descriptor) {
+    struct stat status {};
+    return toIdentity(fstat(descriptor, &status) == 0, status);
+}
+
+std::optional<FileIdentity> identityAt(const std::string& path) {
+    struct stat status {};
+    return toIdentity(lstat(path.c_str(), &status) == 0, status);
+}
 
 FileDescriptor openRegularFile(const std::string& path, int flags) {
     FileDescriptor file(::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666));

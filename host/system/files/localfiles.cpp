@@ -1,15 +1,15 @@
 #include "host/system/files/localfiles.h"
 
 #include "framework/support/objects/text.h"
+#include "host/base/fileurl.h"
+#include "host/base/mainthread.h"
 #include "host/base/textscan.h"
+#include "host/system/files/backgroundwork.h"
 #include "host/system/files/copyfile.h"
 #include "host/system/files/fileproblem.h"
 #include "host/system/files/filestore.h"
 #include "host/system/files/filestream.h"
 #include "host/system/files/temporaryfolder.h"
-#include "host/system/files/workprogress.h"
-#include "host/system/hostfileurl.h"
-#include "host/system/mainthread.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/system/filedescriptor.h"
+#include "host/base/filedescriptor.h"
 
 #include <optional>
 #include <string>

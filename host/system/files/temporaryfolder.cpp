@@ -1,7 +1,5 @@
 #include "host/system/files/temporaryfolder.h"
 
-#include "host/system/hostsystem.h"
-
 #include <QDir>
 #include <QFile>
 

@@ -8,4 +8,9 @@ namespace xbr::host {
 /// when none can be made. Only its owner may enter it. It goes with the process, through exit().
 const std::string& temporaryFolder();
 
+/// For the host program: removes the temporary folder with everything in it, if this process made one.
+/// Happens by itself when the process ends through exit(); a next request for the folder makes a new one.
+/// Main thread.
+[[gnu::visibility("default")]] void removeTemporaryFolder() noexcept;
+
 } // namespace xbr::host

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/system/filedescriptor.h"
-#include "host/system/files/fileidentity.h"
+#include "host/base/filedescriptor.h"
+#include "host/system/files/filestream.h"
 
 #include <cstddef>
 #include <cstdint>

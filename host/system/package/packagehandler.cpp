@@ -1,8 +1,8 @@
 #include "host/system/package/packagehandler.h"
 
 #include "framework/support/objects/text.h"
-#include "host/system/hostfileurl.h"
-#include "host/system/mainthread.h"
+#include "host/base/fileurl.h"
+#include "host/base/mainthread.h"
 #include "host/system/package/zippackage.h"
 
 namespace xbr::host {

@@ -1,9 +1,9 @@
 #include "host/system/package/zippackage.h"
 
 #include "framework/support/objects/text.h"
+#include "host/base/fileurl.h"
+#include "host/base/mainthread.h"
 #include "host/system/files/fileproblem.h"
-#include "host/system/hostfileurl.h"
-#include "host/system/mainthread.h"
 #include "host/system/package/archivewriter.h"
 #include "host/system/package/folderscan.h"
 

@@ -3,7 +3,7 @@
 #include "framework/support/data/memorystream.h"
 #include "framework/support/data/url.h"
 #include "framework/support/objects/text.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 #include "release/payloadbuilder.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "framework/abi/webservice.h"
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 #include "tests/bench/publish/preparation.h"
 
 #include <QCoreApplication>

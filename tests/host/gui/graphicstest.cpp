@@ -3,8 +3,8 @@
 #include "framework/abi/filesystem.h"
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
-#include "host/gui/hostimages.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
+#include "host/gui/hostwidgets.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>

@@ -6,7 +6,6 @@
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
-#include "host/gui/hostcomponents.h"
 #include "host/gui/hostgui.h"
 #include "host/gui/hostwidgets.h"
 #include "release/genrecatalogue.h"
@@ -100,7 +99,8 @@ void Panel::parameterChanged(Parameter& parameter) {
 }
 
 PanelSkin::PanelSkin(const std::string& archive, const std::string& language)
-    : m_bytes(readFile(archive)), m_locale(qgetenv("LC_ALL")) {
+    : m_bytes(readFile(archive)),
+      m_locale(qgetenv("LC_ALL")) {
     // English has no translations: a language that nobody carries stands for it.
     qputenv("LC_ALL", "en_US.UTF-8");
     qputenv("LANGUAGE", QByteArray::fromStdString(language));

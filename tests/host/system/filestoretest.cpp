@@ -3,7 +3,7 @@
 #include "framework/abi/filesystem.h"
 #include "framework/support/objects/ref.h"
 #include "framework/support/objects/text.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 #include "tests/host/system/testfiles.h"
 
 #include <gtest/gtest.h>

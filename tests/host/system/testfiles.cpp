@@ -1,6 +1,6 @@
 #include "tests/host/system/testfiles.h"
 
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 
 #include <algorithm>
 #include <csignal>

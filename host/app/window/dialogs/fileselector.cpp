@@ -1,7 +1,8 @@
 #include "host/app/window/dialogs/fileselector.h"
 
 #include "framework/support/objects/text.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
+#include "host/base/qttext.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -23,10 +24,6 @@ QFileDialog::FileMode modeOf(const FileQuestion& question) {
         return QFileDialog::AnyFile;
     }
     return question.isForSeveral ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile;
-}
-
-QString toQString(Text text) {
-    return QString::fromUtf8(text.data, static_cast<qsizetype>(text.length));
 }
 
 struct Texts {

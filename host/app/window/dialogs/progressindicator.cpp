@@ -2,6 +2,7 @@
 
 #include "framework/support/objects/text.h"
 #include "host/app/window/look/tints.h"
+#include "host/base/qttext.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -21,10 +22,6 @@ constexpr int kWidth = 420;
 
 constexpr qint64 kShowAfter = 120;  ///< milliseconds
 constexpr qint64 kUpdateEvery = 16; ///< milliseconds
-
-QString qText(Text text) {
-    return QString::fromUtf8(text.data, static_cast<qsizetype>(text.length));
-}
 
 } // namespace
 
@@ -98,7 +95,7 @@ ProgressIndicator::Work::Work(ProgressIndicator& indicator, DialogPlace& place, 
 }
 
 void ProgressIndicator::setTitle(Text title) noexcept {
-    m_title = qText(title);
+    m_title = toQString(title);
 }
 
 void ProgressIndicator::setOption(std::int32_t option) noexcept {
@@ -134,7 +131,7 @@ void ProgressIndicator::update(double fraction, Text what) noexcept {
         return;
     }
     m_work->updated = now;
-    m_work->sheet->tell(fraction, qText(what));
+    m_work->sheet->tell(fraction, toQString(what));
     const auto self = Ref<ProgressIndicator>::share(this);
     if (!isShown && now >= kShowAfter) {
         m_work->sheet->show();

@@ -2,7 +2,7 @@
 
 #include "framework/support/objects/text.h"
 #include "host/app/window/panels/wording.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 
 #include <QCoreApplication>
 #include <QScopedValueRollback>

@@ -2,7 +2,7 @@
 #include "framework/support/objects/text.h"
 #include "host/app/audio/mediasignature.h"
 #include "host/app/audio/mediatags.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 #include "tests/host/app/audio/wavefile.h"
 #include "tests/host/app/testfolder.h"
 

@@ -2,8 +2,8 @@
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/component.h"
+#include "host/base/fileurl.h"
 #include "host/gui/hostgui.h"
-#include "host/system/hostfileurl.h"
 #include "tests/host/app/testfolder.h"
 
 #include <gtest/gtest.h>

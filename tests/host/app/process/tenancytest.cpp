@@ -1,7 +1,7 @@
 #include "framework/abi/system.h"
 #include "framework/support/objects/text.h"
 #include "host/app/process/temporarytenancy.h"
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 #include "host/system/hostsystem.h"
 #include "tests/host/app/testfolder.h"
 

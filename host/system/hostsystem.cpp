@@ -1,9 +1,11 @@
-#include "host/system/system.h"
+#include "host/system/hostsystem.h"
 
+#include "framework/abi/system.h"
+#include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
-#include "host/system/files/temporaryfolder.h"
-#include "host/system/hostfileurl.h"
-#include "host/system/mainthread.h"
+#include "host/base/fileurl.h"
+#include "host/base/mainthread.h"
+#include "host/system/signalhandler.h"
 
 #include <algorithm>
 #include <chrono>
@@ -11,6 +13,18 @@
 #include <cstdlib>
 
 namespace xbr::host {
+
+namespace {
+
+/// The clock, the temporary folder, warnings.
+class System final : public Object<ISystem> {
+public:
+    std::int64_t currentTime() const noexcept override;
+    Result getTemporaryFolder(IString** out) noexcept override;
+    void writeDebugWarning(Text message) noexcept override;
+};
+
+} // namespace
 
 std::int64_t System::currentTime() const noexcept {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
@@ -39,6 +53,23 @@ void System::writeDebugWarning(Text message) noexcept {
         line.begin(), line.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
     line += '\n';
     [[maybe_unused]] const auto written = std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void setBrowserAnnouncer(BrowserAnnouncer announcer) {
+    assertMainThread();
+    SystemShell::instance().setAnnouncer(std::move(announcer));
+}
+
+void dropPostedMessages() noexcept {
+    SignalHandler::instance().dropPosted();
+}
+
+bool hasPostedMessages() noexcept {
+    return SignalHandler::instance().hasPosted();
+}
+
+void setQuietListener(std::function<void()> listener) {
+    SignalHandler::instance().setQuietListener(std::move(listener));
 }
 
 } // namespace xbr::host

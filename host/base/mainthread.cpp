@@ -1,4 +1,4 @@
-#include "host/system/mainthread.h"
+#include "host/base/mainthread.h"
 
 #include <QCoreApplication>
 #include <QThread>

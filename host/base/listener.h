@@ -8,17 +8,18 @@
 
 namespace xbr::host {
 
-/// Lets a function of the program hear the messages of subjects, until this object dies.
-class SignalListener {
+/// Lets a function hear the messages of subjects until this object dies, which may happen within a call of
+/// the function. The subjects are kept.
+class Listener {
 public:
     using Handler = std::function<void(ISubject* subject, const IMessage& message)>;
 
-    explicit SignalListener(Handler handler);
-    SignalListener(const SignalListener&) = delete;
-    SignalListener& operator=(const SignalListener&) = delete;
-    ~SignalListener();
+    explicit Listener(Handler handler);
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+    ~Listener();
 
-    /// Listens to a subject; kept, so that it cannot go while it is listened to. Null is ignored.
+    /// Null is ignored.
     void listen(Ref<ISubject> subject);
 
     /// For calls that want an observer; borrowed.

@@ -1,8 +1,8 @@
-#include "host/app/modules/signallistener.h"
+#include "host/base/listener.h"
 
 namespace xbr::host {
 
-class SignalListener::Observer final : public Object<IObserver> {
+class Listener::Observer final : public Object<IObserver> {
 public:
     explicit Observer(Handler handler) : m_handler(std::move(handler)) {}
 
@@ -22,21 +22,21 @@ private:
     Handler m_handler;
 };
 
-SignalListener::SignalListener(Handler handler) : m_observer(make<Observer>(std::move(handler))) {}
+Listener::Listener(Handler handler) : m_observer(make<Observer>(std::move(handler))) {}
 
-SignalListener::~SignalListener() {
+Listener::~Listener() {
     m_observer->disconnect();
 }
 
-void SignalListener::listen(Ref<ISubject> subject) {
+IObserver* Listener::observer() const {
+    return m_observer.get();
+}
+
+void Listener::listen(Ref<ISubject> subject) {
     if (subject) {
         XBRGetSignalHandler()->addObserver(subject.get(), m_observer.get());
         m_subjects.push_back(std::move(subject));
     }
-}
-
-IObserver* SignalListener::observer() const {
-    return m_observer.get();
 }
 
 } // namespace xbr::host

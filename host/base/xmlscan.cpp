@@ -1,4 +1,6 @@
-#include "host/gui/xmlcheck.h"
+#include "host/base/xmlscan.h"
+
+#include "host/base/qttext.h"
 
 #include <QByteArray>
 #include <QXmlStreamReader>
@@ -21,7 +23,7 @@ bool isXmlDocument(std::string_view document, std::string_view root) {
             found = reader.name().toString();
         }
     }
-    return !reader.hasError() && found == QString::fromUtf8(root.data(), static_cast<qsizetype>(root.size()));
+    return !reader.hasError() && found == toQString(root);
 }
 
 } // namespace xbr::host

@@ -1,4 +1,4 @@
-#include "host/system/hostfileurl.h"
+#include "host/base/fileurl.h"
 
 #include "host/base/textscan.h"
 

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+class QUrl;
+
+namespace xbr::host {
+
+/// True for an http or https address with a host: what a browser opens and a request can be sent to.
+bool isWebAddress(const QUrl& url);
+bool isWebAddress(std::string_view url);
+
+} // namespace xbr::host
