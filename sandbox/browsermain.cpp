@@ -1,10 +1,15 @@
 #include "sandbox/commandline.h"
-#include "sandbox/launcher.h"
 #include "sandbox/pages/settings.h"
 #include "sandbox/visitor.h"
 
+#include <cerrno>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <unistd.h>
 
 namespace {
 
@@ -51,6 +56,14 @@ Options readOptions(const std::vector<std::string>& words) {
     return options;
 }
 
+// `name` in the folder of this program's own file; empty when there is no such executable.
+std::string findBeside(const std::string& name) {
+    std::error_code error;
+    const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
+    const auto candidate = self.parent_path() / name;
+    return !error && ::access(candidate.c_str(), X_OK) == 0 ? candidate.string() : std::string();
+}
+
 std::string callbackProgram(const std::string& given) {
     if (!given.empty()) {
         return given;
@@ -60,14 +73,38 @@ std::string callbackProgram(const std::string& given) {
     if (configured != nullptr && *configured != '\0') {
         return configured;
     }
-    const auto beside = sandbox::findBeside("xbrhost");
+    const auto beside = findBeside("xbrhost");
     return beside.empty() ? "xbrhost" : beside;
 }
 
+// Runs a program (found in PATH when its name has no '/') without a shell and waits for it. Returns its exit
+// code, or 128 plus the signal that ended it. Throws std::system_error when it cannot be started.
+int runProgram(const std::vector<std::string>& words) {
+    auto copies = words;
+    std::vector<char*> pointers;
+    pointers.reserve(copies.size() + 1);
+    for (auto& word : copies) {
+        pointers.push_back(word.data());
+    }
+    pointers.push_back(nullptr);
+    pid_t child = 0;
+    const int error = ::posix_spawnp(&child, pointers.front(), nullptr, nullptr, pointers.data(), environ);
+    if (error != 0) {
+        throw std::system_error(error, std::generic_category(), "cannot start " + words.front());
+    }
+    int status = 0;
+    while (::waitpid(child, &status, 0) < 0) {
+        if (errno != EINTR) {
+            throw std::system_error(errno, std::generic_category(), "cannot wait for " + words.front());
+        }
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
 int visit(const Options& options) {
-    sandbox::Visitor visitor(options.account.user, options.account.password, !options.deny);
+    const sandbox::Visitor visitor(options.account.user, options.account.password, !options.deny);
     const auto callback = visitor.authorize(options.url);
-    return sandbox::runProgram({callbackProgram(options.program), "open-url", callback});
+    return runProgram({callbackProgram(options.program), "open-url", callback});
 }
 
 } // namespace

@@ -1,137 +1,114 @@
 #include "sandbox/visitor.h"
 
 #include "sandbox/http/text.h"
-#include "sandbox/webpage.h"
 
-#include <algorithm>
-#include <array>
+#include <curl/curl.h>
+
+#include <memory>
 
 namespace sandbox {
 namespace {
 
-constexpr int kMostSteps = 10;
-constexpr std::string_view kScheme = "http://";
+constexpr long kPatience = 60; // seconds
+constexpr std::size_t kLargestPage = 1U << 20U;
+constexpr long kShown = 200;
+constexpr long kSentOn = 302;
 
-bool isPort(std::string_view text) {
-    return !text.empty() && text.size() <= 5 &&
-           text.find_first_not_of("0123456789") == std::string_view::npos;
+using Handle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+using Url = std::unique_ptr<CURLU, decltype(&curl_url_cleanup)>;
+
+std::string partOf(const Url& url, CURLUPart part) {
+    char* text = nullptr;
+    if (curl_url_get(url.get(), part, &text, 0) != CURLUE_OK) {
+        return {};
+    }
+    const std::unique_ptr<char, decltype(&curl_free)> owned(text, curl_free);
+    return text;
 }
 
-bool isLoopback(std::string_view authority) {
-    constexpr std::array<std::string_view, 3> kHosts = {"127.0.0.1", "localhost", "[::1]"};
-    return std::any_of(kHosts.begin(), kHosts.end(), [&](std::string_view host) {
-        return authority == host ||
-               (authority.starts_with(host) && authority.substr(host.size()).starts_with(':') &&
-                isPort(authority.substr(host.size() + 1)));
-    });
+Url parse(const std::string& text) {
+    Url url(curl_url(), curl_url_cleanup);
+    if (curl_url_set(url.get(), CURLUPART_URL, text.c_str(), 0) != CURLUE_OK) {
+        url.reset();
+    }
+    return url;
 }
 
-bool hasScheme(const std::string& location) {
-    const auto colon = location.find(':');
-    return colon != std::string::npos && colon != 0 && location.find_first_of("/?#") > colon;
+struct Page {
+    long status = 0;
+    std::string location; // byte for byte as sent
+    std::string body;
+};
+
+std::size_t takeBody(const char* bytes, std::size_t size, std::size_t count, void* target) {
+    auto& body = *static_cast<std::string*>(target);
+    body.append(bytes, size * count);
+    return body.size() > kLargestPage ? 0 : size * count;
 }
 
-bool isWebScheme(const std::string& location) {
-    const auto lower = lowerAscii(location);
-    return lower.starts_with(kScheme) || lower.starts_with("https://");
+// Gets a page, or posts `form` when it is not empty.
+Page fetch(const std::string& url, const std::string& form = {}) {
+    const Handle handle(curl_easy_init(), curl_easy_cleanup);
+    Page page;
+    curl_easy_setopt(handle.get(), CURLOPT_URL, url.c_str());
+    curl_easy_setopt(handle.get(), CURLOPT_PROXY, "");
+    curl_easy_setopt(handle.get(), CURLOPT_TIMEOUT, kPatience);
+    curl_easy_setopt(handle.get(), CURLOPT_WRITEFUNCTION, takeBody);
+    curl_easy_setopt(handle.get(), CURLOPT_WRITEDATA, &page.body);
+    if (!form.empty()) {
+        curl_easy_setopt(handle.get(), CURLOPT_COPYPOSTFIELDS, form.c_str());
+    }
+    if (const auto result = curl_easy_perform(handle.get()); result != CURLE_OK) {
+        throw VisitError(std::string("the server does not answer: ") + curl_easy_strerror(result));
+    }
+    curl_easy_getinfo(handle.get(), CURLINFO_RESPONSE_CODE, &page.status);
+    curl_header* location = nullptr;
+    if (curl_easy_header(handle.get(), "Location", 0, CURLH_HEADER, -1, &location) == CURLHE_OK) {
+        page.location = location->value;
+    }
+    return page;
+}
+
+// What the consent page has been given for those who signed in; base64, so nothing in it is escaped.
+std::string ticketOf(const Page& page) {
+    constexpr std::string_view kField = "name=\"ticket\" value=\"";
+    const auto start = page.body.find(kField);
+    if (page.status != kShown || start == std::string::npos) {
+        throw VisitError("the sign-in was refused (status " + std::to_string(page.status) + ")");
+    }
+    const auto value = start + kField.size();
+    return page.body.substr(value, page.body.find('"', value) - value);
 }
 
 } // namespace
 
-LocalUrl LocalUrl::parse(const std::string& url) {
-    if (!lowerAscii(url).starts_with(kScheme)) {
-        throw VisitError("only http addresses are opened");
+bool isOfThisComputer(const std::string& url) {
+    const auto parsed = parse(url);
+    if (!parsed || partOf(parsed, CURLUPART_SCHEME) != "http" || !partOf(parsed, CURLUPART_USER).empty()) {
+        return false;
     }
-    const auto rest = url.substr(kScheme.size(), url.find('#') - kScheme.size());
-    const auto end = std::min(rest.find_first_of("/?"), rest.size());
-    const auto authority = rest.substr(0, end);
-    if (!isLoopback(lowerAscii(authority))) {
-        throw VisitError("only addresses of this computer are opened (127.0.0.1, localhost, [::1])");
-    }
-    const auto target = rest.substr(end);
-    return {std::string(kScheme) + authority, target.starts_with('/') ? target : "/" + target};
+    const auto host = lowerAscii(partOf(parsed, CURLUPART_HOST));
+    return host == "127.0.0.1" || host == "localhost" || host == "[::1]";
 }
 
-std::string Visitor::authorize(const std::string& url) {
-    m_next = LocalUrl::parse(url);
-    m_body.clear();
-    m_signedIn = false;
-    for (int i = 0; i < kMostSteps; ++i) {
-        std::string callback;
-        if (step(fetch(m_next.origin + m_next.target, m_body), callback)) {
-            return callback;
-        }
+std::string Visitor::authorize(const std::string& url) const {
+    if (!isOfThisComputer(url)) {
+        throw VisitError("only http addresses of this computer are opened (127.0.0.1, localhost, [::1])");
     }
-    throw VisitError("the pages lead in a circle");
-}
-
-bool Visitor::step(const WebPage& page, std::string& callback) {
-    if (page.status >= 300 && page.status < 400) {
-        follow(page.location, callback);
-        return !callback.empty();
-    }
-    const auto form = findForm(page.body);
-    if (m_signedIn && form && form->hasType("password")) {
-        throw VisitError("the sign-in was refused");
-    }
-    if (page.status != 200 || !form) {
+    if (const auto page = fetch(url); page.status != kShown) {
         throw VisitError("the page cannot be used (status " + std::to_string(page.status) + ")");
     }
-    submit(*form);
-    return false;
-}
-
-void Visitor::follow(const std::string& location, std::string& callback) {
-    m_body.clear();
-    if (location.empty()) {
-        throw VisitError("a redirect leads nowhere");
+    // The pages' hidden fields are those of the query; a form is encoded like one.
+    const auto parsed = parse(url);
+    const auto fields = partOf(parsed, CURLUPART_QUERY) + "&decision=";
+    const auto consent = fetch(url, fields + "sign-in&email=" + percentEncode(m_user) +
+                                        "&password=" + percentEncode(m_password));
+    const auto decision = m_allows ? "allow" : "deny";
+    const auto end = fetch(url, fields + decision + "&ticket=" + percentEncode(ticketOf(consent)));
+    if (end.status != kSentOn || end.location.find("://") == std::string::npos || parse(end.location)) {
+        throw VisitError("the pages do not lead to the program (status " + std::to_string(end.status) + ")");
     }
-    if (hasScheme(location) && !isWebScheme(location)) {
-        callback = location;
-    } else if (location.starts_with('/')) {
-        m_next.target = location.substr(0, location.find('#'));
-    } else {
-        m_next = LocalUrl::parse(location);
-    }
-}
-
-void Visitor::submit(const HtmlForm& form) {
-    if (form.method != "post" || !form.action.starts_with('/')) {
-        throw VisitError("the page's form is of an unknown kind");
-    }
-    m_signedIn = m_signedIn || form.hasType("password");
-    m_next.target = form.action;
-    m_body = fill(form);
-}
-
-std::string Visitor::valueFor(const HtmlForm::Control& control) const {
-    if (control.type == "password") {
-        return m_password;
-    }
-    return control.type == "email" || control.type == "text" ? m_user : control.value;
-}
-
-// Every field, and of the buttons the one that is pressed: the decision if the page has one, else the first.
-std::string Visitor::fill(const HtmlForm& form) const {
-    const std::string decision = m_allows ? "allow" : "deny";
-    const HtmlForm::Control* pressed = nullptr;
-    std::string body;
-    const auto add = [&](const std::string& name, const std::string& value) {
-        body += (body.empty() ? "" : "&") + percentEncode(name) + "=" + percentEncode(value);
-    };
-    const bool canDecide = !form.hasType("password");
-    for (const auto& control : form.controls) {
-        if (control.type == "button" || control.type == "submit") {
-            const bool isBetter = pressed == nullptr || (canDecide && control.value == decision);
-            pressed = isBetter ? &control : pressed;
-        } else if (!control.name.empty()) {
-            add(control.name, valueFor(control));
-        }
-    }
-    if (pressed != nullptr && !pressed->name.empty()) {
-        add(pressed->name, pressed->value);
-    }
-    return body;
+    return end.location;
 }
 
 } // namespace sandbox
