@@ -1,12 +1,12 @@
 #pragma once
 
 #include "host/app/modules/gadgetpanel.h"
-#include "host/app/modules/signallistener.h"
 #include "host/app/publishing/notice.h"
 #include "host/app/publishing/reachability.h"
 #include "host/app/publishing/settling.h"
 #include "host/app/publishing/trackfollower.h"
 #include "host/app/session/hostsession.h"
+#include "host/base/listener.h"
 
 #include <QObject>
 
@@ -52,7 +52,7 @@ private:
     GadgetPanel* m_panel;
     HostSession* m_session;
     std::function<void(const QString&)> m_tellInDialog;
-    SignalListener m_client;
+    Listener m_client;
     Settling m_settling;
     Reachability m_reachability;
     std::unique_ptr<TrackFollower> m_follower; ///< from the preparation of an upload until nothing moves

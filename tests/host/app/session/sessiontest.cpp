@@ -1,5 +1,5 @@
 #include "framework/abi/hostclasses.h"
-#include "framework/support/objects/hostobject.h"
+#include "framework/support/objects/object.h"
 #include "host/app/session/hostsession.h"
 #include "tests/host/app/fakefront.h"
 #include "tests/host/app/testfolder.h"
