@@ -60,3 +60,11 @@ function(xbr_room name)
         set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${folder})
     endforeach()
 endfunction()
+
+# Links the host's five libraries to what holds rooms that call them. The rooms themselves do not link them, so that unit
+# tests can put fakes in their place; so a linker that keeps only libraries that somebody asked for so far would drop
+# them before it comes to the room that asks.
+function(xbr_link_host name)
+    target_link_libraries(${name} PRIVATE xbrsystem xbrtext xbrgui xbrnet xbrsecurity)
+    target_link_options(${name} PRIVATE -Wl,--no-as-needed)
+endfunction()
