@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string temporaryFolder() {
+std::string askedFolder() {
     Ref<IString> url;
     XBRGetSystem()->getTemporaryFolder(url.out());
     return localPath(take(url)).value_or("");
@@ -52,7 +52,7 @@ TEST(Tenancy, onlyFoldersOfDeadHostsGo) {
     std::string own;
     {
         const TemporaryTenancy tenancy;
-        own = temporaryFolder();
+        own = askedFolder();
         EXPECT_TRUE(own.starts_with(folder.path() + "/xbr-")) << own;
         EXPECT_FALSE(fs::exists(dead));
         for (const auto& kept : {alive, unmarked, open, other, fs::path(own)}) {
