@@ -3,8 +3,8 @@
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 #include "module/modulegate.h"
-#include "ui/news/feedlistcomponent.h"
 #include "ui/news/feedelement.h"
+#include "ui/news/feedlistcomponent.h"
 #include "ui/pictures/imageelement.h"
 #include "ui/pictures/persistentimagecache.h"
 

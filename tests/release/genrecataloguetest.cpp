@@ -14,8 +14,8 @@ namespace {
 constexpr const char* kResource = "resource://brindlex/brindlex_genres.csv";
 
 // The catalogue is filled once per process, so what fills it another way runs in a process of its own.
-#define IN_ITS_OWN_PROCESS(check)                                                                              \
-    GTEST_FLAG_SET(death_test_style, "threadsafe");                                                            \
+#define IN_ITS_OWN_PROCESS(check)                   \
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); \
     EXPECT_EXIT((check, std::exit(HasFailure() ? 1 : 0)), testing::ExitedWithCode(0), "")
 
 class GenreCatalogueTest : public testing::Test, public xbr::IParameterOwner {

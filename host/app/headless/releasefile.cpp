@@ -111,7 +111,7 @@ std::int32_t trackNumberOf(const Json& song, const std::string& where) {
     const bool isFit = found->is_number_integer() && *found >= 1 && *found <= kMaximumTrackNumber;
     if (!isFit) {
         throw FileFault("'trackNumber' of " + where + " must be a whole number from 1 to " +
-                      std::to_string(kMaximumTrackNumber));
+                        std::to_string(kMaximumTrackNumber));
     }
     return found->get<std::int32_t>();
 }

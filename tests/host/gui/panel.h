@@ -6,6 +6,7 @@
 #include "ui/tracks/tracklistcomponent.h"
 
 #include <QByteArray>
+
 #include <memory>
 #include <string>
 #include <vector>
