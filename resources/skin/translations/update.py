@@ -28,7 +28,7 @@ PUBLISHER = re.compile(r'"(?:Publisher|Gadget)",\s*' + TEXT)
 def texts_of_code():
     texts = []
     for room in ROOMS:
-        for path in sorted((ROOT / room).glob("*.cpp")):
+        for path in sorted((ROOT / room).rglob("*.cpp")):
             code = path.read_text(encoding="utf-8")
             texts += CALL.findall(code) + PUBLISHER.findall(code)
             if path.name == "trackcells.cpp":

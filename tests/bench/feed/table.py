@@ -1,16 +1,12 @@
 """Runs the news feed's benchmark and prints what each entry costs in feeds of different lengths.
 
 usage: table.py FOLDER_OF_PROGRAMS [--quick]
-
-Ends with 1 when a feed of 1,000 entries does not open within 200 ms.
 """
 
 import json
 import statistics
 import subprocess
 import sys
-
-LIMIT_MS = 200
 
 
 def measure(program, quick):
@@ -40,7 +36,6 @@ def main(program, quick):
         each = {size: 1000 * cost / size for size, cost in sizes.items()}
         print("| %s | %.1f | %.1f | %.2f | %.1f ms |"
               % (what, each[100], each[1000], each[1000] / each[100], sizes[1000]))
-    return 0 if costs["openNews"][1000] < LIMIT_MS else 1
 
 
-sys.exit(main(sys.argv[1] + "/feed_bench", "--quick" in sys.argv[2:]))
+main(sys.argv[1] + "/feed_bench", "--quick" in sys.argv[2:])
