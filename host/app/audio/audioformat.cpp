@@ -4,6 +4,7 @@
 #include "host/app/audio/soundfile.h"
 
 #include <taglib/mpegfile.h>
+#include <taglib/xingheader.h>
 
 #include <algorithm>
 
@@ -46,29 +47,44 @@ int bitsOf(int format) {
     return found == std::end(kDepths) ? 0 : found->bits;
 }
 
-AudioFormat mpegFormat(const std::string& path) {
-    const TagLib::MPEG::File file(path.c_str(), true, TagLib::AudioProperties::Fast);
+/// Programs that cut songs leave the count of the whole in there; but what holds next to nothing of it was
+/// cut off.
+constexpr long kLeastPart = 10;
+
+constexpr int kShortest = 50; ///< milliseconds; two frames
+
+Outcome<AudioFormat> mpegFormat(const std::string& path) {
+    TagLib::MPEG::File file(path.c_str(), true, TagLib::AudioProperties::Fast);
+    const auto* properties = file.audioProperties();
+    if (!properties || properties->sampleRate() <= 0 || properties->lengthInMilliseconds() < kShortest) {
+        return Problem{Fault::kNotAudio, path, 0, "holds no audio", {}, {}};
+    }
+    const auto* header = properties->xingHeader();
+    if (header &&
+        file.length() - file.firstFrameOffset() < static_cast<long>(header->totalSize()) / kLeastPart) {
+        return Problem{Fault::kCutShort, path, 0, {}, {}, {}};
+    }
     AudioFormat format;
     format.name = "MP3";
-    if (const auto* properties = file.audioProperties()) {
-        format.milliseconds = properties->lengthInMilliseconds();
-        format.sampleRate = properties->sampleRate();
-        format.bitRate = properties->bitrate();
-    }
+    format.milliseconds = properties->lengthInMilliseconds();
+    format.sampleRate = properties->sampleRate();
+    format.bitRate = properties->bitrate();
     return format;
 }
 
 } // namespace
 
-std::optional<AudioFormat> readAudioFormat(const std::string& path) {
+Outcome<AudioFormat> readAudioFormat(const std::string& path) {
     static constexpr std::int64_t kMilliseconds = 1000;
     if (recognise(path) == MediaKind::kMp3) {
         return mpegFormat(path);
     }
-    std::string ignored;
-    const auto file = SoundFile::open(path, ignored);
-    if (!file || file->info().samplerate <= 0) {
-        return std::nullopt;
+    const auto file = SoundFile::open(path);
+    if (!file) {
+        return file.problem();
+    }
+    if (Problem problem = findNotNumbers(*file, path)) {
+        return problem;
     }
     AudioFormat format;
     format.name = nameOf(file->info().format);

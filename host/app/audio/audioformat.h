@@ -1,7 +1,8 @@
 #pragma once
 
+#include "host/base/problem.h"
+
 #include <cstdint>
-#include <optional>
 #include <string>
 
 namespace xbr::host {
@@ -15,8 +16,9 @@ struct AudioFormat {
     int bitRate = 0;    ///< kbit/s; where it was compressed with loss
 };
 
-/// Looks into a file; nothing when it is no audio that can be read. May read all of an MP3 file to find its
-/// length. Any thread.
-std::optional<AudioFormat> readAudioFormat(const std::string& path);
+/// Looks into a file; a problem when it is no audio that can be published: none that can be read, less than
+/// it says, at a rate that cannot be right, or with samples that are not numbers. May read all of an MP3 file
+/// to find its length, and all of one in floating point. Any thread.
+Outcome<AudioFormat> readAudioFormat(const std::string& path);
 
 } // namespace xbr::host

@@ -128,8 +128,9 @@ private:
 
 RenderResult renderToWav(const std::string& from, const std::string& to, const RenderProgress& goOn,
                          std::string& error) {
-    auto source = SoundFile::open(from, error);
+    auto source = SoundFile::open(from);
     if (!source) {
+        error = source.problem().words;
         return RenderResult::kFailed;
     }
     const WavFormat format = wavFormatFor(source->info());
@@ -137,9 +138,9 @@ RenderResult renderToWav(const std::string& from, const std::string& to, const R
     info.samplerate = source->info().samplerate;
     info.channels = source->info().channels;
     info.format = format.format;
-    auto target = SoundFile::create(to, info, error);
+    auto target = SoundFile::create(to, info);
     if (!target) {
-        error = "cannot be rendered to WAV: " + error;
+        error = "cannot be rendered to WAV: " + target.problem().words;
         return RenderResult::kFailed;
     }
     RenderResult result = copy(*source, *target, format.samples, goOn, error);

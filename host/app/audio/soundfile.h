@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/base/problem.h"
+
 #include <sndfile.h>
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -12,13 +13,13 @@ namespace xbr::host {
 /// A file that libsndfile reads or writes. Closes with this object.
 class SoundFile {
 public:
-    /// Opens audio for reading; nothing, with the reason in plain words, when it is none that can be read, or
-    /// is damaged so that a part of it is missing. Files without a header are refused: they could be
-    /// anything.
-    static std::optional<SoundFile> open(const std::string& path, std::string& error);
+    /// Opens audio for reading. A problem when it is none that can be read (kNotAudio), holds less than it
+    /// says (kCutShort), or has a rate that no audio has (kWrongRate); `words` go on after the file's name.
+    /// Files without a header are refused: they could be anything.
+    static Outcome<SoundFile> open(const std::string& path);
 
     /// Creates a file, replacing an old one.
-    static std::optional<SoundFile> create(const std::string& path, const SF_INFO& info, std::string& error);
+    static Outcome<SoundFile> create(const std::string& path, const SF_INFO& info);
 
     SoundFile(SoundFile&& other) noexcept
         : m_file(std::exchange(other.m_file, nullptr)),
@@ -38,9 +39,16 @@ public:
 private:
     SoundFile(SNDFILE* file, const SF_INFO& info) : m_file(file), m_info(info) {}
 
+    /// Compares what the file says with what it holds.
+    Problem check(const std::string& path);
+    bool hasLastFrame();
+
     SNDFILE* m_file;
     SF_INFO m_info;
 };
+
+/// Reads all samples in floating point, where they can be none: kNotNumbers when one is not finite.
+Problem findNotNumbers(const SoundFile& file, const std::string& path);
 
 /// In which form samples travel without loss from a format to another.
 enum class SampleForm : std::uint8_t { kInteger, kFloat, kDouble };

@@ -132,8 +132,8 @@ std::string ReleaseIntake::look(IPublisher& publisher, TakenSong& song) const {
         return "would have to be rendered to " + wanted + ", which this host cannot";
     }
     song.isRendered = true;
-    SoundFile::open(song.source, problem);
-    return problem;
+    const auto sound = SoundFile::open(song.source);
+    return sound ? problem : sound.problem().words;
 }
 
 ReleaseIntake::Outcome ReleaseIntake::check(const ReleaseWish& plan) {

@@ -50,7 +50,7 @@ Problem readAudio(SongFile& song) {
     const auto format = readAudioFormat(song.path);
     song.kind = nameOf(recognise(song.path));
     if (!format) {
-        return {Fault::kNotAudio, song.path, 0, {}, {}, {}};
+        return format.problem();
     }
     song.format = *format;
     if (song.kind.empty()) {

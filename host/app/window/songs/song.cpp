@@ -94,7 +94,8 @@ Song readSong(const std::string& path) {
     song.path = path;
     song.isBeingRead = false;
     const std::string problem = problemOfFile(path);
-    const auto format = problem.empty() ? readAudioFormat(path) : std::nullopt;
+    const auto format = problem.empty() ? readAudioFormat(path)
+                                        : Outcome<AudioFormat>(fileProblem(path, 0, Fault::kUnreadable));
     if (!format) {
         song.problem = problem.empty() ? Texts::tr("This is no audio that can be read.")
                                        : Texts::tr("The file cannot be read.");

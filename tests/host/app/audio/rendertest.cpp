@@ -140,9 +140,7 @@ TEST_F(Renderer, whatDoesNotFitIntoFourGibibytesIsRf64) {
 
 TEST_F(Renderer, damagedFilesAreToldAndLeaveNothing) {
     writeSound(m_folder.path("whole.aiff"), SF_FORMAT_AIFF | SF_FORMAT_PCM_24);
-    writeSound(m_folder.path("whole.ogg"), SF_FORMAT_OGG | SF_FORMAT_VORBIS, 44100, 44100);
     const std::string aiff = bytesOf(m_folder.path("whole.aiff"));
-    const std::string ogg = bytesOf(m_folder.path("whole.ogg"));
     const struct {
         const char* name;
         std::string bytes;
@@ -150,7 +148,6 @@ TEST_F(Renderer, damagedFilesAreToldAndLeaveNothing) {
     } cases[] = {
         {"cut.aiff", aiff.substr(0, aiff.size() - 4000), "a part of the audio is missing"},
         {"head.aiff", aiff.substr(0, 40), "is "},
-        {"cut.ogg", ogg.substr(0, ogg.size() / 2), "a part of the audio is missing"},
         {"empty.aiff", "", "not audio"},
         {"text.aiff", "just some words in a file", "not audio"},
         {"any.vox", aiff.substr(100, 1000), "not audio"}, // of a kind that has no header
