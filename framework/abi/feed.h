@@ -45,7 +45,7 @@ struct IFeed : IObject {
 struct IFeedReader : IObject {
     static constexpr Uid kUid = uid("926982b8-2118-4dc5-bc32-3f117ed0968e");
 
-    /// Reads an Atom 1.0 (RFC 4287) or RSS 2.0 document from the stream's position, handed over. `location`
+    /// Reads an Atom 1.0 document (RFC 4287) from the stream's position, handed over. `location`
     /// is where it was found, for its relative references; `mimeType` what the server declared, for the
     /// encoding (RFC 7303). Either may be empty.
     ///

@@ -1,52 +1,18 @@
-#include "host/text/xmlreader.h"
-
 #include "framework/abi/textformats.h"
 #include "framework/support/objects/text.h"
+#include "host/base/xmlscan.h"
 #include "host/text/streams.h"
 
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
-#include <algorithm>
 #include <optional>
 
 namespace xbr::host {
 
 namespace {
 
-struct Section {
-    QStringView start;
-    QStringView end;
-};
-
-/// What starts like a tag and is none.
-constexpr Section kSections[] = {{u"<!--", u"-->"}, {u"<![CDATA[", u"]]>"}, {u"<?", u"?>"}};
-
-/// The position behind the next `what`, or the end.
-qsizetype behind(QStringView document, QStringView what, qsizetype from) {
-    const auto found = document.indexOf(what, from);
-    return found < 0 ? document.size() : found + what.size();
-}
-
-/// Moves `position` behind the tag there and answers how many quoted values it has.
-int attributesOfTag(QStringView document, qsizetype& position) {
-    int count = 0;
-    while (position < document.size() && document[position] != u'>') {
-        const QChar c = document[position++];
-        if (c == u'"' || c == u'\'') {
-            position = behind(document, QStringView(&c, 1), position);
-            ++count;
-        }
-    }
-    return count;
-}
-
 constexpr std::uint64_t kMaximumSize = std::uint64_t{16} << 20U;
-constexpr int kMaximumDepth = 64;
-
-/// More attributes in one element are refused: comparing each with each, the parser needs minutes for a
-/// megabyte of them.
-constexpr int kMaximumAttributes = 256;
 
 /// The document as text: UTF-8 or UTF-16, which is what XML 1.0 asks of every reader (2.2, 4.3.3).
 std::optional<QString> decoded(const std::string& bytes) {
@@ -101,7 +67,7 @@ private:
     }
 
     bool startElement() {
-        if (++m_depth > kMaximumDepth) {
+        if (++m_depth > kMaximumXmlDepth) {
             return false;
         }
         Ref<IStringDictionary> attributes;
@@ -123,21 +89,6 @@ private:
 
 } // namespace
 
-int mostAttributes(QStringView document) {
-    int most = 0;
-    for (auto position = document.indexOf(u'<'); position >= 0; position = document.indexOf(u'<', position)) {
-        const auto rest = document.sliced(position);
-        const auto* section = std::find_if(std::begin(kSections), std::end(kSections),
-                                           [&](const Section& one) { return rest.startsWith(one.start); });
-        if (section != std::end(kSections)) {
-            position = behind(document, section->end, position + section->start.size());
-        } else {
-            most = std::max(most, attributesOfTag(document, position));
-        }
-    }
-    return most;
-}
-
 } // namespace xbr::host
 
 xbr::Result XBRXmlParse(xbr::IStream* stream, xbr::IXmlHandler* handler) noexcept {
@@ -151,7 +102,7 @@ xbr::Result XBRXmlParse(xbr::IStream* stream, xbr::IXmlHandler* handler) noexcep
         return contents.result;
     }
     const auto document = host::decoded(contents.bytes);
-    const bool isRead = document && host::mostAttributes(*document) <= host::kMaximumAttributes &&
-                        host::XmlReader(*document, *handler).read();
+    const bool isRead =
+        document && !host::hasTooManyAttributes(*document) && host::XmlReader(*document, *handler).read();
     return isRead ? kOk : kInvalidArgument;
 }

@@ -13,7 +13,7 @@
 namespace {
 
 constexpr std::string_view kMimeTypes[] = {"", "application/atom+xml", "text/xml; charset=\"iso-8859-1\"",
-                                           "application/rss+xml;charset=utf-16"};
+                                           "application/xml;charset=utf-16"};
 
 void expect(bool isSo) {
     if (!isSo) {

@@ -1,7 +1,11 @@
 #include "host/net/feed/feedbuilder.h"
 
 #include "framework/support/objects/text.h"
-#include "host/net/feed/timestamps.h"
+#include "host/base/qttext.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -22,10 +26,6 @@ std::string relationName(std::string_view relation) {
     return relation.empty() ? std::string(kAlternate) : std::string(relation);
 }
 
-bool isAlternate(const FeedLink& link) {
-    return attributeOf(link, "rel") == kAlternate;
-}
-
 /// The first of several counts.
 void keepFirst(std::string& present, std::string text) {
     if (present.empty()) {
@@ -33,10 +33,28 @@ void keepFirst(std::string& present, std::string text) {
     }
 }
 
-void keepFirst(std::optional<std::int64_t>& present, FeedText kind, std::string_view text) {
+/// A date and time of RFC 3339 (section 5.6): any number of fraction digits, "T" and "Z" in either case or a
+/// blank between, leap seconds. Seconds since 1970-01-01T00:00:00Z; nothing without an offset from UTC.
+std::optional<std::int64_t> parseTime(std::string_view text) {
+    static const QRegularExpression kForm(
+        QStringLiteral("^([0-9]{4}-[0-9]{2}-[0-9]{2})[Tt ]([01][0-9]|2[0-3]):([0-5][0-9]):([0-5][0-9]|60)"
+                       "(?:\\.[0-9]+)?(?:[Zz]|([+-])([01][0-9]|2[0-3]):?([0-5][0-9]))$"));
+    static constexpr qint64 kMinute = 60;
+    static constexpr qint64 kHour = 60 * kMinute;
+    const auto found = kForm.match(toQString(trim(text)));
+    const QDate day = QDate::fromString(found.captured(1), Qt::ISODate);
+    if (!day.isValid()) {
+        return std::nullopt;
+    }
+    const auto number = [&](int group) { return found.captured(group).toLongLong(); };
+    const qint64 ahead = (number(6) * kHour + number(7) * kMinute) * (found.captured(5) == u"-" ? -1 : 1);
+    return day.startOfDay(Qt::UTC).toSecsSinceEpoch() + number(2) * kHour + number(3) * kMinute + number(4) -
+           ahead;
+}
+
+void keepFirst(std::optional<std::int64_t>& present, std::string_view text) {
     if (!present) {
-        // Dublin Core's dates may be days only; a day without a clock is not an instant and does not count.
-        present = kind == FeedText::kRfc822Date ? parseRfc822(text) : parseRfc3339(text);
+        present = parseTime(text);
     }
 }
 
@@ -63,7 +81,7 @@ QUrl resolved(const QUrl& base, std::string_view reference) {
     if (reference.size() > kMaximumAddress) {
         return {};
     }
-    const QUrl relative(QString::fromUtf8(reference.data(), static_cast<qsizetype>(reference.size())));
+    const QUrl relative(toQString(reference));
     if (!relative.isValid() && !reference.empty()) {
         return {};
     }
@@ -83,21 +101,12 @@ void FeedBuilder::begin(FeedPart part, const FeedAttributes& attributes, const Q
     case FeedPart::kLink:
         addLink(attributes, base);
         break;
-    case FeedPart::kEnclosure:
-        addEnclosure(attributes, base);
-        break;
     case FeedPart::kCategory:
         addCategory(std::string(attributeOf(attributes, "term")));
         break;
     default:
         break;
     }
-}
-
-void FeedBuilder::addEnclosure(FeedLink link, const QUrl& base) {
-    setAttribute(link, "href", std::string(attributeOf(link, "url")));
-    setAttribute(link, "rel", "enclosure");
-    addLink(std::move(link), base);
 }
 
 void FeedBuilder::addLink(FeedLink link, const QUrl& base) {
@@ -115,16 +124,6 @@ void FeedBuilder::addLink(FeedLink link, const QUrl& base) {
     links.push_back(std::move(link));
 }
 
-void FeedBuilder::addAddress(const std::string& address, const QUrl& base) {
-    addLink({{"rel", std::string(kAlternate)}, {"href", address}}, base);
-}
-
-void FeedBuilder::addGuid(const FeedAttributes& attributes, std::string text) {
-    if (attributeOf(attributes, "isPermaLink") != "false") {
-        m_permanentLink = std::move(text);
-    }
-}
-
 void FeedBuilder::addCategory(std::string term) {
     auto& categories = m_feed.entries.back().categories;
     if (categories.size() < kMaximumOfEntry) {
@@ -132,8 +131,7 @@ void FeedBuilder::addCategory(std::string term) {
     }
 }
 
-void FeedBuilder::end(FeedPart part, FeedText kind, const FeedAttributes& attributes, const QUrl& base,
-                      std::string text) {
+void FeedBuilder::end(FeedPart part, std::string text) {
     if (part == FeedPart::kFeedTitle) {
         return keepFirst(m_feed.title, std::move(text));
     }
@@ -149,29 +147,11 @@ void FeedBuilder::end(FeedPart part, FeedText kind, const FeedAttributes& attrib
     case FeedPart::kContent:
         return keepFirst(entry.content, std::move(text));
     case FeedPart::kPublished:
-        return keepFirst(entry.published, kind, text);
+        return keepFirst(entry.published, text);
     case FeedPart::kUpdated:
-        return keepFirst(entry.updated, kind, text);
-    case FeedPart::kAddress:
-        return addAddress(text, base);
-    case FeedPart::kGuid:
-        return addGuid(attributes, std::move(text));
-    case FeedPart::kSubject:
-        return addCategory(std::move(text));
-    case FeedPart::kEntry:
-        return endEntry();
+        return keepFirst(entry.updated, text);
     default:
         return;
-    }
-}
-
-void FeedBuilder::endEntry() {
-    const std::string permanent = std::exchange(m_permanentLink, {});
-    const auto& links = m_feed.entries.back().links;
-    // A permanent link is a whole address; what is not is a number or a name that nobody can follow.
-    const bool isWeb = permanent.starts_with("http://") || permanent.starts_with("https://");
-    if (isWeb && std::none_of(links.begin(), links.end(), &isAlternate)) {
-        addAddress(permanent, {});
     }
 }
 

@@ -1,16 +1,33 @@
 #pragma once
 
 #include "host/net/feed/feedrecord.h"
-#include "host/net/feed/feedvocabulary.h"
 
 #include <QUrl>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace xbr::host {
 
-/// An element's own attributes by local name; those of the namespace "xmlns" are left out.
+/// What an element of a feed is to its reader.
+enum class FeedPart : std::uint8_t {
+    kOutside, ///< above the root
+    kSkipped, ///< neither it nor what is in it is read
+    kFeed,
+    kFeedTitle,
+    kEntry,
+    kTitle,
+    kSummary,
+    kContent,
+    kPublished,
+    kUpdated,
+    kLink,
+    kCategory,
+    kMarkup, ///< XHTML in a text
+};
+
+/// An element's attributes by local name.
 using FeedAttributes = FeedLink;
 
 std::string_view attributeOf(const FeedAttributes& attributes, std::string_view name);
@@ -33,8 +50,7 @@ public:
     void begin(FeedPart part, const FeedAttributes& attributes, const QUrl& base);
 
     /// The element `part` ends; its text is plain.
-    void end(FeedPart part, FeedText kind, const FeedAttributes& attributes, const QUrl& base,
-             std::string text);
+    void end(FeedPart part, std::string text);
 
     /// True when the feed has more than a feed has. What came after that was left out.
     bool isOverLimits() const { return m_isOverLimits; }
@@ -43,14 +59,9 @@ public:
 
 private:
     void addLink(FeedLink link, const QUrl& base);
-    void addEnclosure(FeedLink link, const QUrl& base);
-    void addAddress(const std::string& address, const QUrl& base);
-    void addGuid(const FeedAttributes& attributes, std::string text);
     void addCategory(std::string term);
-    void endEntry();
 
     FeedRecord m_feed;
-    std::string m_permanentLink;    ///< of an RSS entry that may have no other
     std::size_t m_addressBytes = 0; ///< what all links take, see kMaximumAddressBytes
     bool m_isOverLimits = false;
 };

@@ -1,14 +1,18 @@
 #include "host/net/feed/feedreader.h"
 
-#include "framework/abi/textformats.h"
-#include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
+#include "host/base/qttext.h"
+#include "host/net/feed/feedbuilder.h"
 #include "host/net/feed/feedparser.h"
 #include "host/net/feed/feedrecord.h"
 
+#include <QRegularExpression>
 #include <QStringDecoder>
+#include <QXmlStreamReader>
 
 #include <algorithm>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace xbr::host {
@@ -35,56 +39,48 @@ Result readBytes(IStream& stream, std::string& bytes) {
     }
 }
 
-Ref<MemoryStream> streamOf(std::string_view bytes) {
-    auto stream = make<MemoryStream>();
-    stream->write(bytes);
-    rewind(*stream);
-    return stream;
-}
-
 /// All bytes at once: a character that is cut off at the end is a fault.
 constexpr auto kWhole = QStringDecoder::Flag::Stateless;
 
-/// The value behind `name` and "=", with or without quotes.
-std::string valueBehind(std::string_view text, std::string_view name) {
-    const auto found = text.find(name);
-    const auto equals = found == std::string_view::npos ? found : text.find('=', found + name.size());
-    if (equals == std::string_view::npos ||
-        !trim(text.substr(found + name.size(), equals - found - name.size())).empty()) {
-        return {};
-    }
-    text = trim(text.substr(equals + 1));
-    if (!text.empty() && (text.front() == '"' || text.front() == '\'')) {
-        const char quote = text.front();
-        text.remove_prefix(1);
-        return std::string(text.substr(0, text.find(quote)));
-    }
-    return std::string(text.substr(0, text.find_first_of("; \t")));
+/// The parameter "charset" of a media type; empty when there is none.
+QByteArray charsetOf(std::string_view mimeType) {
+    static const QRegularExpression kCharset(QStringLiteral("charset\\s*=\\s*[\"']?([^\\s;\"']+)"),
+                                             QRegularExpression::CaseInsensitiveOption);
+    return kCharset.match(toQString(mimeType)).captured(1).toUtf8();
 }
 
-/// The XML declaration at the start; empty when there is none.
-std::string_view declarationOf(std::string_view text) {
-    static constexpr std::size_t kLongest = 1024;
-    const auto end = text.substr(0, kLongest).find("?>");
-    const bool isDeclaration =
-        text.starts_with("<?xml") && end != std::string_view::npos && trim(text.substr(5, 1)).empty();
-    return isDeclaration ? text.substr(0, end + 2) : std::string_view();
+/// What the XML declaration says; empty when there is none.
+QByteArray declaredEncoding(QByteArrayView bytes) {
+    static constexpr qsizetype kLongest = 1024;
+    QXmlStreamReader reader(QString::fromLatin1(bytes.first(std::min(bytes.size(), kLongest))));
+    reader.readNext();
+    return reader.documentEncoding().toUtf8();
 }
 
-QStringDecoder decoderFor(std::string_view bytes, std::string_view mimeType) {
-    const QByteArrayView data(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    if (const auto marked = QStringConverter::encodingForData(data)) {
+/// The encoding is told by a byte order mark, else by the media type (RFC 7303, section 3), else by the
+/// declaration, and is UTF-8 or UTF-16 otherwise.
+QStringDecoder decoderFor(QByteArrayView bytes, std::string_view mimeType) {
+    if (const auto marked = QStringConverter::encodingForData(bytes)) {
         return QStringDecoder(*marked, kWhole);
     }
-    if (const std::string declared = valueBehind(asciiLower(mimeType), "charset"); !declared.empty()) {
-        return QStringDecoder(declared.c_str(), kWhole);
-    }
-    if (const auto guessed = QStringConverter::encodingForData(data, u'<')) {
+    const auto guessed = QStringConverter::encodingForData(bytes, u'<');
+    const QByteArray charset = charsetOf(mimeType);
+    if (charset.isEmpty() && guessed) {
         return QStringDecoder(*guessed, kWhole);
     }
-    const std::string declared = valueBehind(declarationOf(bytes), "encoding");
-    return declared.empty() ? QStringDecoder(QStringDecoder::Utf8, kWhole)
-                            : QStringDecoder(declared.c_str(), kWhole);
+    const QByteArray name = charset.isEmpty() ? declaredEncoding(bytes) : charset;
+    return name.isEmpty() ? QStringDecoder(QStringDecoder::Utf8, kWhole) : QStringDecoder(name, kWhole);
+}
+
+/// The document as text; nothing when the encoding is unknown or the bytes are not of it.
+std::optional<QString> decoded(std::string_view text, std::string_view mimeType) {
+    const QByteArrayView bytes(text.data(), static_cast<qsizetype>(text.size()));
+    QStringDecoder decoder = decoderFor(bytes, mimeType);
+    if (!decoder.isValid()) {
+        return std::nullopt;
+    }
+    QString document = decoder.decode(bytes);
+    return decoder.hasError() || !document.isValidUtf16() ? std::nullopt : std::optional(std::move(document));
 }
 
 } // namespace
@@ -94,31 +90,13 @@ Result readFeed(IStream& stream, Text location, Text mimeType, IFeed** out) {
     if (const Result result = readBytes(stream, bytes); result != kOk) {
         return result;
     }
-    const auto document = utf8Document(bytes, view(mimeType));
-    if (!document) {
+    const auto document = decoded(bytes, view(mimeType));
+    auto feed = document ? parseFeed(*document, resolved({}, view(location))) : std::nullopt;
+    if (!feed) {
         return kInvalidArgument;
     }
-    const auto parser = make<FeedParser>(resolved({}, view(location)));
-    // The parser refuses document types, and documents that are too deep or ill-formed.
-    if (XBRXmlParse(streamOf(*document).get(), parser.get()) != kOk || !parser->isFeed()) {
-        return kInvalidArgument;
-    }
-    giveFeed(parser->take(), out);
+    giveFeed(*std::move(feed), out);
     return kOk;
-}
-
-std::optional<std::string> utf8Document(std::string_view bytes, std::string_view mimeType) {
-    QStringDecoder decoder = decoderFor(bytes, mimeType);
-    if (!decoder.isValid()) {
-        return std::nullopt;
-    }
-    const QString text = decoder.decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-    if (decoder.hasError() || !text.isValidUtf16()) {
-        return std::nullopt;
-    }
-    std::string document = text.toStdString();
-    document.erase(0, declarationOf(document).size());
-    return document;
 }
 
 } // namespace xbr::host

@@ -41,14 +41,6 @@ inline std::string atomEntry(std::string_view inside) {
     return atom("<entry>" + std::string(inside) + "</entry>");
 }
 
-/// An RSS feed with one item.
-inline std::string rssItem(std::string_view inside) {
-    return "<rss version=\"2.0\" xmlns:content=\"http://purl.org/rss/1.0/modules/content/\""
-           " xmlns:dc=\"http://purl.org/dc/elements/1.1/\" xmlns:a=\"http://www.w3.org/2005/Atom\"><channel>"
-           "<title>News</title><item>" +
-           std::string(inside) + "</item></channel></rss>";
-}
-
 /// "rel type href" of each link, in lines.
 inline std::string linksOf(const IFeedEntry& entry) {
     std::string text;

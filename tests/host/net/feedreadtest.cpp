@@ -51,23 +51,6 @@ TEST(FeedDates, areReadInEveryLegalForm) {
         EXPECT_EQ(dateOf(atomEntry("<published>" + std::string(text) + "</published>")), time) << text;
         EXPECT_EQ(dateOf(atomEntry("<updated>" + std::string(text) + "</updated>"), true), time) << text;
     }
-    const std::pair<const char*, std::optional<std::int64_t>> rssDates[] = {
-        {"Sat, 13 Dec 2003 18:30:02 GMT", kTime},
-        {"13 Dec 2003 18:30:02 +0000", kTime},
-        {"Sat, 13 Dec 03 18:30:02 Z", kTime},
-        {"Sat,13 December 2003  18:30:02 EST", kTime + 18000},
-        {"Sat, 13 Dec 2003 18:30:02 +01:30", kTime - 5400},
-        {"13 Dec 2003 18:30 UT", kTime - 2},
-        {"1 Jan 70 0:00 GMT", 0},
-        {"Sat, 32 Dec 2003 18:30:02 GMT", {}},
-        {"Sat, 13 Foo 2003 18:30:02 GMT", {}},
-        {"2003-12-13T18:30:02Z", {}},
-        {"Sat", {}},
-    };
-    for (const auto& [text, time] : rssDates) {
-        EXPECT_EQ(dateOf(rssItem("<pubDate>" + std::string(text) + "</pubDate>")), time) << text;
-    }
-    EXPECT_EQ(dateOf(rssItem("<dc:date>2003-12-13T18:30:02Z</dc:date>"), true), kTime);
 }
 
 struct LinkCase {
@@ -113,16 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
                            "x:type='image/png'/>"),
                  "enclosure image/png https://news.example/feeds/right\n"},
         LinkCase{"withoutLocation", atomEntry("<link href='a/b'/><link href='https://c.example/'/>"),
-                 "alternate  a/b\nalternate  https://c.example/\n", ""},
-        LinkCase{"rss",
-                 rssItem("<link> /a </link><enclosure url='b.png' type='image/png' length='1'/>"
-                         "<guid>https://c.example/</guid><a:link rel='related' href='d'/>"),
-                 "alternate  https://news.example/a\nenclosure image/png https://news.example/feeds/b.png\n"
-                 "related  https://news.example/feeds/d\n"},
-        LinkCase{"permanentLink", rssItem("<guid>https://c.example/</guid>"),
-                 "alternate  https://c.example/\n"},
-        LinkCase{"noPermanentLink", rssItem("<guid isPermaLink='false'>https://c.example/</guid>"), ""},
-        LinkCase{"numberForALink", rssItem("<guid>4711</guid>"), ""}),
+                 "alternate  a/b\nalternate  https://c.example/\n", ""}),
     [](const auto& one) { return one.param.name; });
 
 TEST(FeedEntries, tellTheirCategoriesAndAttributesInOrder) {
@@ -207,7 +181,7 @@ TEST(FeedLimits, refuseWhatIsNoFeedAsAWhole) {
         "<html><body>Sign in to this network</body></html>",
         "<feed><entry/></feed>",
         "<entry xmlns='http://www.w3.org/2005/Atom'/>",
-        "<rss version='2.0'/>",
+        "<rss version='2.0'><channel><title>News</title></channel></rss>",
         half,
         half + "</fed>",
         half + "<entry>&nbsp;</entry></feed>",
