@@ -8,14 +8,6 @@ namespace xbr::host {
 
 namespace {
 
-std::uint64_t littleEndian(std::string_view bytes) {
-    std::uint64_t value = 0;
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte) {
-        value = value << 8U | static_cast<unsigned char>(*byte);
-    }
-    return value;
-}
-
 std::uint64_t bigEndian(std::string_view bytes) {
     return littleEndian(std::string(bytes.rbegin(), bytes.rend()));
 }
@@ -40,6 +32,14 @@ std::array<char, size> readAt(std::ifstream& file, std::uint64_t position) {
 }
 
 } // namespace
+
+std::uint64_t littleEndian(std::string_view bytes) {
+    std::uint64_t value = 0;
+    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte) {
+        value = value << 8U | static_cast<unsigned char>(*byte);
+    }
+    return value;
+}
 
 std::vector<RiffChunk> readChunks(std::ifstream& file) {
     file.clear();

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace xbr::host {
@@ -16,6 +17,9 @@ struct RiffChunk {
 
 /// More chunks than this are no recording, but an attempt to keep us busy.
 constexpr std::size_t kMaximumChunks = 1000;
+
+/// A number of up to eight bytes, the lowest first.
+std::uint64_t littleEndian(std::string_view bytes);
 
 /// The chunks in their order, at most `kMaximumChunks`; none when it is no such file. Reads the headers
 /// only.

@@ -2,8 +2,6 @@
 
 #include "host/app/audio/riffchunks.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -109,15 +107,15 @@ std::int64_t claimedFrames(const std::string& path) {
 /// W64 is the one format whose header the library does not believe: the file's whole size is its
 /// third word.
 bool isCutW64(const std::string& path, int format) {
-    std::array<unsigned char, 24> head{};
+    std::array<char, 24> head{};
     const File file(std::fopen(path.c_str(), "rbe"), &std::fclose);
     if ((format & SF_FORMAT_TYPEMASK) != SF_FORMAT_W64 || !file ||
         std::fread(head.data(), 1, head.size(), file.get()) != head.size()) {
         return false;
     }
-    const auto claimed = qFromLittleEndian<quint64>(head.data() + 16);
+    const auto claimed = littleEndian({head.data() + 16, 8});
     return std::fseek(file.get(), 0, SEEK_END) == 0 &&
-           claimed > static_cast<quint64>(std::ftell(file.get())) &&
+           claimed > static_cast<std::uint64_t>(std::ftell(file.get())) &&
            claimed < std::uint64_t{Pretence::kLength};
 }
 
@@ -133,8 +131,7 @@ std::int64_t framesOfUnfinished(const std::string& path, const SF_INFO& info) {
     file.seekg(0);
     file.read(head.data(), head.size());
     const std::uint64_t size = std::filesystem::file_size(path);
-    if (data == chunks.end() || data->size != 0 ||
-        qFromLittleEndian<quint32>(head.data() + 4) + head.size() == size) {
+    if (data == chunks.end() || data->size != 0 || littleEndian({head.data() + 4, 4}) + head.size() == size) {
         return 0; // not WAV, or really without audio
     }
     const auto frame = std::int64_t{depthFor(info.format & SF_FORMAT_SUBMASK).bytes} * info.channels;
