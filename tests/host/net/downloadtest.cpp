@@ -1,6 +1,7 @@
 // Downloads: which end they take, what goes over the wire, and who hears of it.
 
 #include "framework/abi/download.h"
+
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
 #include "host/net/hostnet.h"
