@@ -51,12 +51,10 @@ int bitsOf(int format) {
 /// cut off.
 constexpr long kLeastPart = 10;
 
-constexpr int kShortest = 50; ///< milliseconds; two frames
-
 Outcome<AudioFormat> mpegFormat(const std::string& path) {
     TagLib::MPEG::File file(path.c_str(), true, TagLib::AudioProperties::Fast);
     const auto* properties = file.audioProperties();
-    if (!properties || properties->sampleRate() <= 0 || properties->lengthInMilliseconds() < kShortest) {
+    if (!properties || properties->sampleRate() <= 0 || properties->lengthInMilliseconds() <= 0) {
         return Problem{Fault::kNotAudio, path, 0, "holds no audio", {}, {}};
     }
     const auto* header = properties->xingHeader();
