@@ -31,7 +31,7 @@ bool packFolder(const xbr::Url& folder, const xbr::Url& archive, xbr::IProgress&
     return true;
 }
 
-/// The whole body in memory; empty when the archive cannot be read.
+/// The whole body in memory; empty when the archive cannot be read, or there is no memory for it.
 xbr::Ref<xbr::MemoryStream> makeBody(const xbr::Url& archive, std::string_view boundary) {
     xbr::Ref<xbr::IStream> stream;
     if (XBRGetFileSystem()->openForReading(xbr::toText(archive.toString()), stream.out()) != xbr::kOk) {
@@ -39,13 +39,10 @@ xbr::Ref<xbr::MemoryStream> makeBody(const xbr::Url& archive, std::string_view b
     }
     const auto size = xbr::measure(*stream);
     auto body = xbr::make<xbr::MemoryStream>();
-    body->write(partHead(boundary, archive.fileName()));
-    if (size < 0 || !xbr::copyStream(*stream, *body, static_cast<std::uint64_t>(size))) {
-        return {};
-    }
-    body->write(partTail(boundary));
-    xbr::rewind(*body);
-    return body;
+    const bool isWhole = size >= 0 && body->write(partHead(boundary, archive.fileName())) &&
+                         xbr::copyStream(*stream, *body, static_cast<std::uint64_t>(size)) &&
+                         body->write(partTail(boundary)) && xbr::rewind(*body);
+    return isWhole ? body : nullptr;
 }
 
 } // namespace

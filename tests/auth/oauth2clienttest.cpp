@@ -39,8 +39,8 @@ protected:
         fakehost::resetHost();
         client = xbr::make<OAuth2Client>();
         brindlex::ServiceConfiguration configuration;
-        configuration.serverUrl = Url("https://service.example/base");
-        configuration.callbackUrl = Url("brindlex://authorize?x=\xC3\xA9");
+        configuration.serverUrl = Url("https://service.example/base?tenant=1#top");
+        configuration.callbackUrl = Url("brindlex://authorize?next=/a&flag&x=%20~");
         configuration.consumerKey = "key";
         configuration.consumerSecret = "se&cret";
         configuration.joinToken = "join";
@@ -75,8 +75,9 @@ protected:
 };
 
 TEST_F(OAuth2ClientTest, OpensTheExactAuthorizationUrl) {
-    const std::string expected = "https://service.example/base/oauth/authorize?client_id=key&redirect_uri="
-                                 "brindlex%3A%2F%2Fauthorize%3Fx%3D%25C3%25A9&response_type=code";
+    const std::string expected =
+        "https://service.example/base/oauth/authorize?client_id=key&redirect_uri="
+        "brindlex%3A%2F%2Fauthorize%3Fnext%3D%2Fa%26flag%26x%3D%2520%7E&response_type=code";
     struct Case {
         bool has;
         bool allowed;
@@ -102,9 +103,9 @@ TEST_F(OAuth2ClientTest, ExchangesTheCodeAndStoresTheTokens) {
     EXPECT_EQ(request.url, "https://service.example/base/oauth/token");
     EXPECT_EQ(request.headers.at("Content-Type"), "application/x-www-form-urlencoded");
     EXPECT_FALSE(request.headers.contains("Authorization"));
-    EXPECT_EQ(request.body,
-              "client_id=key&client_secret=se%26cret&redirect_uri=brindlex%3A%2F%2Fauthorize%3Fx%3D%25C3"
-              "%25A9&grant_type=authorization_code&code=a%2Bb%2Fc%3D%26%25+%C3%A9");
+    EXPECT_EQ(request.body, "client_id=key&client_secret=se%26cret&redirect_uri=brindlex%3A%2F%2Fauthorize%"
+                            "3Fnext%3D%2Fa%26flag%26x%3D%2520%7E"
+                            "&grant_type=authorization_code&code=a%2Bb%2Fc%3D%26%25+%C3%A9");
     host().web.answer(200, kReply);
     EXPECT_THAT(told(), ElementsAre("1", "2", "3", "authorizationCompleted"));
     EXPECT_EQ(host().credentials.stored->password, "A&R");

@@ -1,5 +1,7 @@
 #include "framework/support/data/url.h"
 
+#include "framework/support/data/formencoding.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -9,7 +11,9 @@ using xbr::Url;
 TEST(Url, ComesOutAsItWentIn) {
     for (const char* text :
          {"https://example.org/a/b?c=d&e=f#g", "file:///home/mara/My%20Song.wav", "brindlex:ok",
-          "https://[::1]:8080/x", "relative/path", "brindlex://authorize?code=a%2Bb%2Fc%3D"}) {
+          "https://[::1]:8080/x", "relative/path", "brindlex://authorize?code=a%2Bb%2Fc%3D",
+          "Brindlex://Authorize?next=/a/b&flag", "https://h/~me?a=%20&b=~&&c=*+x", "https://h/?",
+          "https://h?#", "https://h/p#f?no=query", "https://"}) {
         EXPECT_EQ(Url(text).toString(), text);
     }
 }
@@ -42,7 +46,7 @@ TEST(Url, AppendsPathsWithOneSlash) {
     const Case cases[] = {{"https://h", "https://h/oauth/token"},
                           {"https://h/", "https://h/oauth/token"},
                           {"https://h/base", "https://h/base/oauth/token"},
-                          {"https://h/base/?q=1", "https://h/base/oauth/token?q=1"}};
+                          {"https://h/base/?q=1#f", "https://h/base/oauth/token"}};
     for (const auto& [base, expected] : cases) {
         Url url(base);
         url.appendPath("oauth/token");
@@ -57,6 +61,17 @@ TEST(Url, JoinsFileNamesAsPeopleWriteThem) {
         EXPECT_EQ(file.fileName(), name);
         EXPECT_EQ(Url(file.toString()).fileName(), name) << "survives being written and read";
         EXPECT_EQ(file.parent().toString(), "file:///tmp/a");
+        EXPECT_EQ(Url(file.toString() + "?q#f").parent().toString(), "file:///tmp/a");
+    }
+}
+
+TEST(Url, AddsParametersToWhatIsThere) {
+    for (const auto& [base, expected] : {std::pair{"https://h/p", "https://h/p?a+b=c%26"},
+                                         {"https://h/p?x=%7e#f", "https://h/p?x=%7e&a+b=c%26#f"}}) {
+        Url url(base);
+        url.addQueryParameter("a b", "c&");
+        EXPECT_EQ(url.toString(), expected);
+        EXPECT_EQ(url.queryParameter("a b"), "c&");
     }
 }
 

@@ -2,10 +2,15 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
+#include <new>
 
 namespace xbr {
 
 namespace {
+
+constexpr auto kFarthest =
+    static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()); // that can be sought
 
 /// Calls `step(chunk, offset, count)` for the pieces of chunks that make up [position, position + size).
 template <class Step>
@@ -36,43 +41,49 @@ Result MemoryStream::read(void* buffer, std::uint64_t size, std::uint64_t* done)
     return kOk;
 }
 
-void MemoryStream::grow(std::uint64_t size) {
-    while (m_chunks.size() * kChunkSize < size) {
-        // Uninitialised on purpose: a gigabyte that is about to be written need not be cleared first.
-        m_chunks.push_back(std::make_unique_for_overwrite<std::byte[]>(kChunkSize));
+/// Makes room for `count` bytes at the position. False, with the size as it was, when there is none.
+bool MemoryStream::grow(std::uint64_t count) noexcept {
+    const auto gap = m_position > m_size ? m_position - m_size : 0;
+    std::uint64_t size = 0;
+    if (gap > kWidestGap || __builtin_add_overflow(m_position, count, &size) || size > kFarthest) {
+        return false;
     }
-    if (m_size < m_position) {
-        // A gap left by seeking past the end reads as zeros.
-        forEachPiece(m_size, m_position - m_size,
-                     [&](std::size_t chunk, std::uint64_t offset, std::uint64_t piece) {
-                         std::memset(m_chunks[chunk].get() + offset, 0, piece);
-                     });
+    try {
+        while (m_chunks.size() * kChunkSize < size) {
+            // Uninitialised on purpose: a gigabyte that is about to be written need not be cleared first.
+            m_chunks.push_back(std::make_unique_for_overwrite<std::byte[]>(kChunkSize));
+        }
+    } catch (const std::bad_alloc&) {
+        return false; // an archive can be larger than the machine's memory
     }
+    forEachPiece(m_size, gap, [&](std::size_t chunk, std::uint64_t offset, std::uint64_t piece) {
+        std::memset(m_chunks[chunk].get() + offset, 0, piece);
+    });
     m_size = std::max(m_size, size);
+    return true;
 }
 
 Result MemoryStream::write(const void* buffer, std::uint64_t size, std::uint64_t* done) noexcept {
-    if (size > 0) {
-        grow(m_position + size);
-        const auto* source = static_cast<const std::byte*>(buffer);
-        forEachPiece(m_position, size, [&](std::size_t chunk, std::uint64_t offset, std::uint64_t piece) {
-            std::memcpy(m_chunks[chunk].get() + offset, source, piece);
-            source += piece;
-        });
-        m_position += size;
-    }
+    const bool hasRoom = size == 0 || grow(size);
     if (done) {
-        *done = size;
+        *done = hasRoom ? size : 0;
     }
+    if (!hasRoom) {
+        return kUnexpected;
+    }
+    const auto* source = static_cast<const std::byte*>(buffer);
+    forEachPiece(m_position, size, [&](std::size_t chunk, std::uint64_t offset, std::uint64_t piece) {
+        std::memcpy(m_chunks[chunk].get() + offset, source, piece);
+        source += piece;
+    });
+    m_position += size;
     return kOk;
 }
 
 bool MemoryStream::writeFrom(IStream& source, std::uint64_t size) noexcept {
     const auto before = m_size;
-    try {
-        grow(m_position + size);
-    } catch (const std::bad_alloc&) {
-        return false; // an archive can be larger than the machine's memory
+    if (!grow(size)) {
+        return false;
     }
     bool isWhole = true;
     std::uint64_t came = 0;
@@ -87,8 +98,8 @@ bool MemoryStream::writeFrom(IStream& source, std::uint64_t size) noexcept {
     return isWhole;
 }
 
-void MemoryStream::write(std::string_view bytes) {
-    write(bytes.data(), bytes.size(), nullptr);
+bool MemoryStream::write(std::string_view bytes) noexcept {
+    return write(bytes.data(), bytes.size(), nullptr) == kOk;
 }
 
 Result MemoryStream::seek(std::int64_t offset, SeekOrigin origin, std::int64_t* position) noexcept {
@@ -98,12 +109,13 @@ Result MemoryStream::seek(std::int64_t offset, SeekOrigin origin, std::int64_t* 
     } else if (origin == SeekOrigin::kEnd) {
         base = static_cast<std::int64_t>(m_size);
     }
-    if (base + offset < 0) {
+    std::int64_t sought = 0;
+    if (__builtin_add_overflow(base, offset, &sought) || sought < 0) {
         return kInvalidArgument;
     }
-    m_position = static_cast<std::uint64_t>(base + offset);
+    m_position = static_cast<std::uint64_t>(sought);
     if (position) {
-        *position = base + offset;
+        *position = sought;
     }
     return kOk;
 }

@@ -1,5 +1,6 @@
 #include "framework/support/data/url.h"
 
+#include "framework/support/data/formencoding.h"
 #include "framework/support/objects/text.h"
 
 #include <algorithm>
@@ -30,22 +31,18 @@ Url::Url(std::string_view text) {
     text = trim(text);
     if (const auto colon = text.find(':');
         colon != std::string_view::npos && isSchemeText(text.substr(0, colon))) {
-        m_protocol = asciiLower(text.substr(0, colon));
+        m_scheme = text.substr(0, colon);
+        m_protocol = asciiLower(m_scheme);
         text.remove_prefix(colon + 1);
     }
     if (text.substr(0, 2) == "//") {
-        m_hasAuthority = true;
         text.remove_prefix(2);
-        m_authority = cutAt(text, "/?#");
+        m_authority = "//";
+        m_authority += cutAt(text, "/?#");
     }
     m_path = cutAt(text, "?#");
-    if (!text.empty() && text.front() == '?') {
-        text.remove_prefix(1);
-        m_query = formDecode(cutAt(text, "#"));
-    }
-    if (!text.empty()) {
-        m_fragment = text.substr(1);
-    }
+    m_query = cutAt(text, "#");
+    m_fragment = text;
 }
 
 bool Url::isLocalFile() const {
@@ -72,6 +69,12 @@ void Url::appendPath(std::string_view relative) {
         m_path += '/';
     }
     m_path += relative;
+    dropQuery();
+}
+
+void Url::dropQuery() {
+    m_query.clear();
+    m_fragment.clear();
 }
 
 Url Url::join(std::string_view name) const {
@@ -88,35 +91,25 @@ Url Url::parent() const {
     const auto slash = m_path.rfind('/');
     result.m_path =
         slash == std::string::npos ? std::string() : m_path.substr(0, std::max<std::size_t>(slash, 1));
+    result.dropQuery();
     return result;
 }
 
 std::string Url::queryParameter(std::string_view name) const {
+    const Pairs pairs =
+        formDecode(m_query.empty() ? std::string_view() : std::string_view(m_query).substr(1));
     const auto found =
-        std::find_if(m_query.begin(), m_query.end(), [&](const auto& pair) { return pair.first == name; });
-    return found == m_query.end() ? std::string() : found->second;
+        std::find_if(pairs.begin(), pairs.end(), [&](const auto& pair) { return pair.first == name; });
+    return found == pairs.end() ? std::string() : found->second;
 }
 
 void Url::addQueryParameter(std::string_view name, std::string_view value) {
-    m_query.emplace_back(name, value);
+    m_query += m_query.empty() ? "?" : m_query == "?" ? "" : "&";
+    m_query += formEncode({{std::string(name), std::string(value)}});
 }
 
 std::string Url::toString() const {
-    std::string text;
-    if (!m_protocol.empty()) {
-        text += m_protocol + ':';
-    }
-    if (m_hasAuthority) {
-        text += "//" + m_authority;
-    }
-    text += m_path;
-    if (!m_query.empty()) {
-        text += '?' + formEncode(m_query);
-    }
-    if (!m_fragment.empty()) {
-        text += '#' + m_fragment;
-    }
-    return text;
+    return (m_scheme.empty() ? std::string() : m_scheme + ':') + m_authority + m_path + m_query + m_fragment;
 }
 
 } // namespace xbr

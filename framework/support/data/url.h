@@ -1,13 +1,12 @@
 #pragma once
 
-#include "framework/support/data/formencoding.h"
-
 #include <string>
 #include <string_view>
 
 namespace xbr {
 
-/// A URL (RFC 3986) in its parts. A value; an empty one has no protocol and no path.
+/// A URL (RFC 3986) in its parts, which keep their text: what was read is written again byte for byte, as
+/// services compare URLs so. A value; an empty one has no protocol and no path.
 class Url {
 public:
     Url() = default;
@@ -32,14 +31,15 @@ public:
     /// The part of the file name after its last ".", in lower case; empty when there is none.
     std::string extension() const;
 
-    /// Appends a relative path (already encoded) with exactly one "/" between.
+    /// Appends a relative path (already encoded) with exactly one "/" between. Query and fragment go: they
+    /// belong to the location before.
     void appendPath(std::string_view relative);
 
     /// The location of `name` in this folder. One "/" is inserted unless one is there; a "/" at the end of
     /// the result is removed.
     Url join(std::string_view name) const;
 
-    /// The folder that holds this location.
+    /// The folder that holds this location, without query and fragment.
     Url parent() const;
 
     /// First value of a query parameter, decoded; empty when it is absent.
@@ -53,12 +53,14 @@ public:
     friend bool operator==(const Url&, const Url&) = default;
 
 private:
-    std::string m_protocol;
-    std::string m_authority;
-    bool m_hasAuthority = false;
+    void dropQuery();
+
+    std::string m_scheme;    ///< as it is written, without ":"
+    std::string m_protocol;  ///< the same in lower case
+    std::string m_authority; ///< with its "//", if it has one
     std::string m_path;
-    Pairs m_query;
-    std::string m_fragment;
+    std::string m_query;    ///< with its "?", if it has one
+    std::string m_fragment; ///< with its "#", if it has one
 };
 
 } // namespace xbr

@@ -67,8 +67,7 @@ bool Reply::addBody(std::string_view bytes) {
     if (!m_body) {
         m_body = make<MemoryStream>();
     }
-    m_body->write(bytes);
-    return true;
+    return m_body->write(bytes);
 }
 
 bool Reply::hasBodyOf(std::int64_t length) const noexcept {
