@@ -23,7 +23,8 @@ struct IPackage : IObject {
     virtual Result create() noexcept = 0;
 
     /// Adds what a folder holds; `mode` is kRecursiveRelative. Progress may be null. kFalse when the user
-    /// cancelled; kUnexpected when something cannot be read.
+    /// cancelled; kUnexpected when something cannot be read, or did not come about whole when it was copied
+    /// or written there. Nothing is written by `flush` after either.
     virtual Result addFolder(Text folder, std::int32_t mode, IProgress* progress) noexcept = 0;
 
     /// Writes what was added. Progress may be null. kFalse when the user cancelled; kUnexpected when reading

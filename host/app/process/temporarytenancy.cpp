@@ -18,17 +18,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kMark[] = "/xbrhost.lock";
-
 std::string ownFolder() {
     Ref<IString> url;
     XBRGetSystem()->getTemporaryFolder(url.out());
     return localPath(take(url)).value_or("");
 }
 
+std::string markOf(const std::string& folder) {
+    return folder + '/' + std::string(kFolderMark);
+}
+
 /// The mark appears under its name locked: nobody may see it free while its owner lives.
 int makeMark(const std::string& folder) {
-    const std::string path = folder + kMark;
+    const std::string path = markOf(folder);
     const std::string hidden = path + ".new";
     const int mark = open(hidden.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (mark >= 0 && (flock(mark, LOCK_EX | LOCK_NB) != 0 || rename(hidden.c_str(), path.c_str()) != 0)) {
@@ -47,13 +49,12 @@ bool isOwnFolder(const fs::path& path) {
 
 /// Removes the folder if its mark is there, and free.
 void removeIfDead(const fs::path& folder) {
-    const int mark = open((folder.string() + kMark).c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+    const int mark = open(markOf(folder).c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
     if (mark < 0) {
         return;
     }
     if (flock(mark, LOCK_EX | LOCK_NB) == 0) {
-        std::error_code ignored; // what stays is found again by the next host
-        fs::remove_all(folder, ignored);
+        removeMarkedFolder(folder); // what stays is found again by the next host
     }
     close(mark);
 }

@@ -5,11 +5,23 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/statvfs.h>
 #include <vector>
 
 namespace xbr::host {
 
 namespace {
+
+/// False, with the system's word for it, when the disk has no room for a file of that size: known before the
+/// rest of the disk is filled with the beginning of it.
+bool hasRoom(int target, std::int64_t size) {
+    struct statvfs disk {};
+    if (fstatvfs(target, &disk) == 0 && disk.f_bavail * disk.f_frsize < static_cast<std::uint64_t>(size)) {
+        errno = ENOSPC;
+        return false;
+    }
+    return true;
+}
 
 /// Lets the system copy, which shares the blocks on file systems that can (and is as quick as anything else
 /// on those that cannot). Answers how far it came: not every pair of file systems can do it.
@@ -53,6 +65,9 @@ bool copyFile(const std::string& from, const std::string& to, const std::stop_to
         return false;
     }
     const auto before = identityOf(source.get());
+    if (!before || !hasRoom(target->descriptor(), before->size)) {
+        return false;
+    }
     const auto position = copyInSystem(source.get(), target->descriptor(), stop);
     if (!copyByHand(source.get(), target->descriptor(), position, stop)) {
         return false;

@@ -2,6 +2,7 @@
 
 #include "host/system/files/backgroundwork.h"
 #include "host/system/files/fileproblem.h"
+#include "host/system/files/incompletefiles.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -97,6 +98,18 @@ std::optional<std::int64_t> soughtPosition(std::int64_t offset, SeekOrigin origi
     return isOutside ? std::nullopt : std::optional(position);
 }
 
+FileStream::~FileStream() {
+    // Some file systems report a full disk only now.
+    if (!m_file.close() && m_access == StreamAccess::kReadWrite) {
+        writingFailed(errno);
+    }
+}
+
+void FileStream::writingFailed(int error) {
+    noteFileProblem("'" + m_path + "' cannot be written", fileProblem(m_path, error, Fault::kNotWritable));
+    noteIncompleteFile(m_path);
+}
+
 Result FileStream::read(void* buffer, std::uint64_t size, std::uint64_t* done) noexcept {
     *done = 0;
     if (m_isShown && size >= kLongRead && !keepIndicatorAlive()) {
@@ -116,7 +129,7 @@ Result FileStream::write(const void* buffer, std::uint64_t size, std::uint64_t* 
     *done = writeAt(m_file.get(), buffer, size, m_position);
     m_position += static_cast<std::int64_t>(*done);
     if (*done != size) {
-        noteFileProblem("a file cannot be written", fileProblem({}, errno, Fault::kNotWritable));
+        writingFailed(errno);
     }
     return *done == size ? kOk : kUnexpected;
 }

@@ -49,7 +49,12 @@ enum class StreamAccess { kRead, kReadWrite };
 /// A local file. It is not buffered: what `write` answered as done is with the system.
 class FileStream final : public Object<IStream> {
 public:
-    FileStream(FileDescriptor file, StreamAccess access) : m_file(std::move(file)), m_access(access) {}
+    /// `path` names a file that is written, for those who have to know when that fails.
+    FileStream(FileDescriptor file, StreamAccess access, std::string path = {})
+        : m_file(std::move(file)),
+          m_access(access),
+          m_path(std::move(path)) {}
+    ~FileStream() override;
 
     /// Long reads tell the front end's indicator, and fail when the user has cancelled there.
     void showReading() { m_isShown = true; }
@@ -59,8 +64,11 @@ public:
     Result seek(std::int64_t offset, SeekOrigin origin, std::int64_t* position) noexcept override;
 
 private:
+    void writingFailed(int error);
+
     FileDescriptor m_file;
     StreamAccess m_access;
+    std::string m_path;
     bool m_isShown = false;
     std::int64_t m_position = 0;
 };

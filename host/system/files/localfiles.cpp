@@ -9,9 +9,11 @@
 #include "host/system/files/fileproblem.h"
 #include "host/system/files/filestore.h"
 #include "host/system/files/filestream.h"
+#include "host/system/files/incompletefiles.h"
 #include "host/system/files/temporaryfolder.h"
 
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -110,9 +112,11 @@ Result FileSystem::createFile(Text url, IStream** out) noexcept {
     auto file = makeParents(*path) ? openRegularFile(*path, O_RDWR | O_CREAT | O_TRUNC) : FileDescriptor();
     if (!file.isOpen()) {
         noteFileProblem("'" + *path + "' cannot be created", fileProblem(*path, errno, Fault::kNotWritable));
+        noteIncompleteFile(*path);
         return kUnexpected;
     }
-    *out = make<FileStream>(std::move(file), StreamAccess::kReadWrite).detach();
+    forgetIncompleteFiles(*path);
+    *out = make<FileStream>(std::move(file), StreamAccess::kReadWrite, *path).detach();
     return kOk;
 }
 
@@ -134,7 +138,12 @@ Result FileSystem::copyFile(Text from, Text to) noexcept {
     if (result == kUnexpected) {
         noteFileProblem("'" + *source + "' cannot be copied", copyProblem(*source, *target, error));
     }
-    return result == kOk ? kOk : kUnexpected;
+    if (result != kOk) {
+        noteIncompleteFile(*target); // also when an older file of that name is still there
+        return kUnexpected;
+    }
+    forgetIncompleteFiles(*target);
+    return kOk;
 }
 
 bool FileSystem::fileExists(Text url) noexcept {
@@ -167,6 +176,7 @@ Result FileSystem::removeFile(Text url) noexcept {
         return kInvalidArgument;
     }
     if (unlink(path->c_str()) == 0) {
+        forgetIncompleteFiles(*path);
         return kOk;
     }
     const bool isNoFile = errno == ENOENT || errno == ENOTDIR || errno == EISDIR;
@@ -186,11 +196,16 @@ Result FileSystem::removeFolder(Text url) noexcept {
     }
     struct stat status {};
     if (lstat(path->c_str(), &status) != 0 || (!S_ISDIR(status.st_mode) && !S_ISLNK(status.st_mode))) {
+        forgetIncompleteFiles(*path); // it may never have come so far
         return kFalse;
     }
     std::error_code error;
     std::filesystem::remove_all(*path, error);
-    return error ? kUnexpected : kOk;
+    if (error) {
+        return kUnexpected;
+    }
+    forgetIncompleteFiles(*path);
+    return kOk;
 }
 
 Result FileSystem::registerResources(Text name, const void* bytes, std::uint64_t size) noexcept {
@@ -248,6 +263,11 @@ Result FileSystem::getFiles(Text folder, IFileList** out) noexcept {
 } // namespace xbr::host
 
 xbr::IFileSystem* XBRGetFileSystem() noexcept {
-    static auto* const fileSystem = xbr::make<xbr::host::FileSystem>().detach();
+    static auto* const fileSystem = [] {
+        // Whoever writes beyond the limit for files gets an error then, as on a full disk, and not a signal
+        // that ends the process.
+        [[maybe_unused]] const auto before = std::signal(SIGXFSZ, SIG_IGN);
+        return xbr::make<xbr::host::FileSystem>().detach();
+    }();
     return fileSystem;
 }

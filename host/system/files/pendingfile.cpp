@@ -1,5 +1,6 @@
 #include "host/system/files/pendingfile.h"
 
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -7,7 +8,7 @@
 namespace xbr::host {
 
 std::optional<PendingFile> PendingFile::start(std::string path) {
-    static unsigned counter = 0;
+    static std::atomic<unsigned> counter = 0; // songs are copied and archives written on threads of their own
     const auto slash = path.rfind('/');
     if (slash == std::string::npos || slash + 1 == path.size()) {
         return std::nullopt;

@@ -1,8 +1,8 @@
 #include "host/system/files/temporaryfolder.h"
 
-#include <QDir>
-#include <QFile>
+#include "host/system/files/fileproblem.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <unistd.h>
@@ -22,11 +22,39 @@ Folder& folder() {
 }
 
 std::string makeFolder() {
-    std::string path = QFile::encodeName(QDir::tempPath()).toStdString() + "/xbr-XXXXXX";
-    return mkdtemp(path.data()) ? path : std::string();
+    // As it is given: Qt would take another place without a word when this one is not there.
+    const char* given =
+        std::getenv("TMPDIR"); // NOLINT(concurrency-mt-unsafe): nothing in the host sets variables
+    const std::string place = given && *given ? given : "/tmp";
+    std::string path = place + "/xbr-XXXXXX";
+    if (mkdtemp(path.data())) {
+        return path;
+    }
+    noteFileProblem("no temporary folder can be made in '" + place + "' (TMPDIR names the place)",
+                    {Fault::kNoTemporaryFolder, place, errno, wordsOfErrno(errno), {}, {}});
+    return {};
 }
 
 } // namespace
+
+void removeMarkedFolder(const std::string& folder) noexcept {
+    namespace fs = std::filesystem;
+    std::error_code failed;
+    std::error_code unread;
+    const fs::path mark = fs::path(folder) / kFolderMark;
+    for (fs::directory_iterator entry(folder, unread), end; !unread && entry != end;
+         entry.increment(unread)) {
+        if (entry->path() != mark) {
+            std::error_code error;
+            fs::remove_all(entry->path(), error);
+            failed = error ? error : failed;
+        }
+    }
+    if (!failed && !unread) {
+        fs::remove(mark, failed);
+        fs::remove(folder, failed);
+    }
+}
 
 const std::string& temporaryFolder() {
     if (folder().path.empty()) {
@@ -38,8 +66,7 @@ const std::string& temporaryFolder() {
 
 void removeTemporaryFolder() noexcept {
     if (!folder().path.empty() && folder().owner == getpid()) {
-        std::error_code ignored; // nobody is left to be told; the system clears its folder some day
-        std::filesystem::remove_all(folder().path, ignored);
+        removeMarkedFolder(folder().path); // nobody is left to be told; the system clears its folder some day
         folder().path.clear();
     }
 }

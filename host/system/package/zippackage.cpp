@@ -4,6 +4,7 @@
 #include "host/base/fileurl.h"
 #include "host/base/mainthread.h"
 #include "host/system/files/fileproblem.h"
+#include "host/system/files/incompletefiles.h"
 #include "host/system/package/archivewriter.h"
 #include "host/system/package/folderscan.h"
 
@@ -64,13 +65,22 @@ Result ZipPackage::addFolder(Text folder, std::int32_t mode, IProgress* progress
     PackageProgress state(0);
     const Result result = runReporting(
         progress, state, [&](const std::stop_token& stop) { return scanFolder(*path, state, stop, added); });
-    m_state = State::kCreated;
-    if (result == kOk) {
-        std::move(added.begin(), added.end(), std::back_inserter(m_entries));
-    } else if (result == kUnexpected) {
+    if (result == kUnexpected) {
         noteFileProblem("'" + *path + "' cannot be read", {Fault::kUnreadable, *path, 0, {}, {}, {}});
     }
-    return result;
+    const std::string incomplete = incompleteFileIn(*path);
+    if (result == kOk && incomplete.empty()) {
+        std::move(added.begin(), added.end(), std::back_inserter(m_entries));
+        m_state = State::kCreated;
+        return kOk;
+    }
+    // An archive without something that it was told to hold is never written.
+    m_state = State::kRefused;
+    if (!incomplete.empty()) {
+        noteFileProblem("'" + incomplete + "' is not complete",
+                        {Fault::kUnreadable, incomplete, 0, {}, {}, {}});
+    }
+    return result == kFalse ? kFalse : kUnexpected;
 }
 
 Result ZipPackage::flush(IProgress* progress) noexcept {

@@ -23,7 +23,7 @@ public:
     Result close() noexcept override;
 
 private:
-    enum class State { kNew, kCreated, kBusy, kFlushed, kClosed };
+    enum class State { kNew, kCreated, kBusy, kRefused, kFlushed, kClosed };
 
     Result write(IProgress* progress);
 

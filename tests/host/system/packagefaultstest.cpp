@@ -73,6 +73,65 @@ TEST_F(PackageTest, CancellingLeavesNoArchiveNorAnOldOne) {
     EXPECT_EQ(add(), kFalse);
 }
 
+/// Modules go on when a copy fails; what they meant to pack must not go out without it.
+TEST_F(PackageTest, AFolderWithoutWhatWasMeantForItIsNotPacked) {
+    auto& files = *XBRGetFileSystem();
+    const auto copy = [&] {
+        return files.copyFile(toText(folder.url("song.wav")), toText(folder.url("payload/assets/song.wav")));
+    };
+    const auto write = [&] {
+        Ref<IStream> stream;
+        std::uint64_t done = 0;
+        files.createFile(toText(folder.url("payload/metadata.json")), stream.out());
+        return stream->write("{}{}{}{}{}", 10, &done);
+    };
+    const std::pair<const char*, std::function<void()>> faults[] = {
+        {"no song",
+         [&] {
+             fs::remove(folder.path() / "song.wav");
+             EXPECT_EQ(copy(), kUnexpected);
+         }},
+        {"no room",
+         [&] {
+             const FileSizeLimit full(5);
+             EXPECT_EQ(copy(), kUnexpected);
+         }},
+        {"no room for the document",
+         [&] {
+             const FileSizeLimit full(5);
+             EXPECT_EQ(write(), kUnexpected);
+         }},
+    };
+    for (const auto& [name, fault] : faults) {
+        for (const bool isOldOneThere : {false, true}) {
+            SCOPED_TRACE(name);
+            fs::remove_all(payload);
+            writeFile(payload / "other.wav", "x");
+            writeFile(folder.path() / "song.wav", "new song");
+            if (isOldOneThere) {
+                writeFile(payload / "assets/song.wav", "old song");
+            }
+            fault();
+            start();
+            EXPECT_EQ(add(), kUnexpected);
+            EXPECT_EQ(flush(), kUnexpected);
+            EXPECT_FALSE(fs::exists(archive));
+            writeFile(folder.path() / "song.wav", "new song");
+            EXPECT_EQ(copy(), kOk);
+            EXPECT_EQ(write(), kOk);
+            start();
+            EXPECT_EQ(add(), kOk) << "all that was missing is there now";
+            files.removeFolder(toText(folder.url("payload")));
+            fault();
+            files.removeFolder(toText(folder.url("payload")));
+            writeFile(payload / "other.wav", "x");
+            start();
+            EXPECT_EQ(add(), kOk) << "the folder is a new one";
+        }
+    }
+    takeFileProblem();
+}
+
 TEST_F(PackageTest, AFullDiskLeavesNoPartialArchive) {
     writeFile(payload / "1.mp3", noise(2'000'000));
     writeFile(payload / "2.mp3", noise(500'000));

@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 #include <ctime>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -40,6 +41,44 @@ void runInChild(Work work) {
 TEST(SystemTest, TellsTheTime) {
     EXPECT_NEAR(static_cast<double>(XBRGetSystem()->currentTime()), static_cast<double>(std::time(nullptr)),
                 2);
+}
+
+TEST(SystemTest, APlaceForTemporaryFilesThatIsNotThereIsNamed) {
+    removeTemporaryFolder();
+    qputenv("TMPDIR", "/nowhere/at all");
+    Ref<IString> url;
+    takeFileProblem();
+    EXPECT_EQ(XBRGetSystem()->getTemporaryFolder(url.out()), kUnexpected);
+    EXPECT_FALSE(url);
+    EXPECT_EQ(takeFileProblem(),
+              "no temporary folder can be made in '/nowhere/at all' (TMPDIR names the place): "
+              "No such file or directory");
+    qunsetenv("TMPDIR");
+}
+
+/// Whoever is ended in the middle leaves a folder that the next host knows for one of a dead host.
+TEST(SystemTest, TheMarkOfATemporaryFolderGoesLast) {
+    const TestFolder folder;
+    for (const auto* name : {"a file", "folder/song.wav", "xbrhost.lock", "xbrhost.lock.new", "z"}) {
+        writeFile(folder.path() / "own" / name, "x");
+    }
+    const int watch = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    inotify_add_watch(watch, (folder.path() / "own").c_str(), IN_DELETE);
+    removeMarkedFolder((folder.path() / "own").string());
+    EXPECT_FALSE(fs::exists(folder.path() / "own"));
+    alignas(inotify_event) char bytes[4096];
+    std::vector<std::string> removed;
+    const auto size = read(watch, bytes, sizeof bytes);
+    for (ssize_t at = 0; at < size;) {
+        const auto* event = reinterpret_cast<const inotify_event*>(bytes + at);
+        if (event->len > 0) {
+            removed.emplace_back(event->name);
+        }
+        at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+    }
+    close(watch);
+    ASSERT_EQ(removed.size(), 5U);
+    EXPECT_EQ(removed.back(), "xbrhost.lock");
 }
 
 TEST(SystemTest, TheTemporaryFolderIsPrivateAndGoesWithItsProcess) {

@@ -3,7 +3,6 @@
 #include "host/base/fileurl.h"
 
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -49,7 +48,7 @@ std::string noise(std::size_t size) {
 }
 
 FileSizeLimit::FileSizeLimit(std::uint64_t bytes) {
-    [[maybe_unused]] const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    XBRGetFileSystem(); // which keeps the signal away that would end the process
     rlimit limit{};
     getrlimit(RLIMIT_FSIZE, &limit);
     m_before = limit.rlim_cur;
