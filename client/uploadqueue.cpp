@@ -6,6 +6,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
 #include "release/payloadbuilder.h"
+#include "ui/tracks/requiredfields.h"
 #include "ui/tracks/trackitem.h"
 
 #include <algorithm>
@@ -195,7 +196,7 @@ TrackUploadState UploadQueue::stateAfter(TrackUploadState outcome, const TrackIt
     // service found incomplete is shown so even when all we ask for is there: it went alone, so there is no
     // other track the answer could mean.
     const bool goesAgain = m_transfer->mode == UploadMode::kAlbum &&
-                           outcome == TrackUploadState::kMissingInformation && track.metadata->isComplete();
+                           outcome == TrackUploadState::kMissingInformation && isComplete(*track.metadata);
     return goesAgain ? TrackUploadState::kNone : outcome;
 }
 

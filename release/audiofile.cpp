@@ -1,24 +1,11 @@
 #include "release/audiofile.h"
 
 #include "framework/abi/filesystem.h"
-#include "framework/abi/filetype.h"
 #include "framework/support/objects/text.h"
 
 #include <algorithm>
 
 namespace brindlex {
-
-namespace {
-
-std::string fileTypeExtension(const xbr::Url& location) {
-    const std::string extension = location.extension();
-    xbr::Ref<xbr::IFileType> type;
-    const bool known =
-        XBRGetFileTypeRegistry()->getTypeByExtension(xbr::toText(extension), type.out()) == xbr::kOk;
-    return known ? xbr::toString(type->extension()) : extension;
-}
-
-} // namespace
 
 bool isSupportedExtension(std::string_view extension) {
     const std::string lower = xbr::asciiLower(extension);
@@ -26,7 +13,7 @@ bool isSupportedExtension(std::string_view extension) {
 }
 
 bool isSupportedAudioFile(const xbr::Url& location) {
-    return location.isLocalFile() && isSupportedExtension(fileTypeExtension(location)) &&
+    return location.isLocalFile() && isSupportedExtension(location.extension()) &&
            !XBRGetFileSystem()->folderExists(xbr::toText(location.toString()));
 }
 

@@ -31,12 +31,6 @@ struct TrackFields {
     bool primaryGenreMissing = false;
     bool songTitleMissing = false;
     bool songArtistMissing = false;
-
-    /// True when every required value is there; the track number is not one of them.
-    bool isComplete() const {
-        return !albumTitle.empty() && !albumArtist.empty() && !primaryGenre.empty() && !songTitle.empty() &&
-               !songArtist.empty();
-    }
 };
 
 /// The fields of a track in the list, as its editor and its upload share them.

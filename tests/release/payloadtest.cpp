@@ -122,8 +122,8 @@ TEST_F(PayloadTest, OnlyAudioFilesOfTheServiceAreTaken) {
     for (const auto& [url, supported] :
          {Case{"file:///a/folder.wav", false}, Case{"file:///a/Song.FLAC", true},
           Case{"file:///a/s.wav", true}, Case{"file:///a/s.Mp3", true}, Case{"file:///a/s.aiff", false},
-          Case{"file:///a/wav", false}, Case{"file:///a/s.wav/", false}, Case{"https://h/s.wav", false},
-          Case{"file:///a/s.wav.zip", false}, Case{"", false}}) {
+          Case{"file:///a/wav", false}, Case{"file:///a/s.wav/", false}, Case{"file:///a/s.wav%20", false},
+          Case{"https://h/s.wav", false}, Case{"file:///a/s.wav.zip", false}, Case{"", false}}) {
         EXPECT_EQ(brindlex::isSupportedAudioFile(xbr::Url(url)), supported) << url;
     }
 }

@@ -219,6 +219,9 @@ private:
         switch (field) {
         case kAlbumTitle:
             filled(track, kAlbumTitle, value);
+            if (value != values[kSongTitle]) {
+                track.title = value;
+            }
             copyTo(track, kSongTitle, value, values);
             break;
         case kSongTitle:

@@ -1,21 +1,17 @@
 #include "ui/tracks/resetcommand.h"
 
 #include "framework/support/objects/text.h"
-#include "framework/support/parts/modulecomponent.h"
 
 namespace brindlex {
 
-ResetCommand::ResetCommand(xbr::Ref<xbr::ListViewModel> tracks)
-    : m_tracks(std::move(tracks)),
-      m_category(xbr::translate("Tracks")),
-      m_name(xbr::translate("Reset")) {}
+ResetCommand::ResetCommand(xbr::Ref<xbr::ListViewModel> tracks) : m_tracks(std::move(tracks)) {}
 
 xbr::Text ResetCommand::categoryAt(std::int32_t index) const noexcept {
-    return xbr::toText(index == 0 ? m_category : std::string_view());
+    return xbr::toText(index == 0 ? "Tracks" : "");
 }
 
 xbr::Text ResetCommand::nameAt(std::int32_t index) const noexcept {
-    return xbr::toText(index == 0 ? m_name : std::string_view());
+    return xbr::toText(index == 0 ? "Reset" : "");
 }
 
 std::vector<TrackItem*> ResetCommand::resettable() const {

@@ -26,8 +26,6 @@ private:
     std::vector<TrackItem*> resettable() const;
 
     xbr::Ref<xbr::ListViewModel> m_tracks;
-    std::string m_category;
-    std::string m_name;
 };
 
 } // namespace brindlex

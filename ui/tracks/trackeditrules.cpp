@@ -1,6 +1,8 @@
 #include "ui/tracks/trackeditrules.h"
 
+#include "framework/support/objects/text.h"
 #include "release/genrecatalogue.h"
+#include "ui/tracks/requiredfields.h"
 #include "ui/tracks/trackitem.h"
 
 #include <algorithm>
@@ -11,22 +13,19 @@ TrackEditRules::TrackEditRules(xbr::Component& editor, UploadMode mode, const xb
     : m_editor(editor),
       m_mode(mode),
       m_tracks(tracks) {
-    m_values.albumTitle = editor.parameter(kAlbumTitle)->string();
-    m_values.albumArtist = editor.parameter(kAlbumArtist)->string();
+    m_values.albumTitle = xbr::toSingleLine(editor.parameter(kAlbumTitle)->string());
+    m_values.albumArtist = xbr::toSingleLine(editor.parameter(kAlbumArtist)->string());
     m_values.genre = getGenreText(*editor.parameter(kPrimaryGenre));
     m_values.trackNumber = static_cast<std::int32_t>(editor.parameter(kTrackNumber)->integer());
-    m_values.songTitle = editor.parameter(kSongTitle)->string();
-    m_values.songArtist = editor.parameter(kSongArtist)->string();
+    m_values.songTitle = xbr::toSingleLine(editor.parameter(kSongTitle)->string());
+    m_values.songArtist = xbr::toSingleLine(editor.parameter(kSongArtist)->string());
 }
 
 const std::vector<TrackEditRules::Row>& TrackEditRules::singlesRows() {
     static const std::vector<Row> rows{{kAlbumTitle, &TrackEditRules::singlesAlbumTitle},
                                        {kAlbumArtist, &TrackEditRules::singlesAlbumArtist},
                                        {kPrimaryGenre, &TrackEditRules::singlesGenre},
-                                       {kTrackNumber, &TrackEditRules::singlesTrackNumber},
-                                       {kAlbumTitleMissing, &TrackEditRules::showAlbumTitleMark},
-                                       {kAlbumArtistMissing, &TrackEditRules::showAlbumArtistMark},
-                                       {kPrimaryGenreMissing, &TrackEditRules::showGenreMark}};
+                                       {kTrackNumber, &TrackEditRules::singlesTrackNumber}};
     return rows;
 }
 
@@ -37,19 +36,14 @@ const std::vector<TrackEditRules::Row>& TrackEditRules::albumRows() {
 
 const std::vector<TrackEditRules::Row>& TrackEditRules::commonRows() {
     static const std::vector<Row> rows{{kSongTitle, &TrackEditRules::songTitle},
-                                       {kSongArtist, &TrackEditRules::songArtist},
-                                       {kSongTitleMissing, &TrackEditRules::showSongTitleMark},
-                                       {kSongArtistMissing, &TrackEditRules::showSongArtistMark}};
+                                       {kSongArtist, &TrackEditRules::songArtist}};
     return rows;
 }
 
 const std::vector<TrackEditRules::Row>& TrackEditRules::wholeAlbumRows() {
     static const std::vector<Row> rows{{kAlbumTitle, &TrackEditRules::wholeAlbumTitle},
                                        {kAlbumArtist, &TrackEditRules::wholeAlbumArtist},
-                                       {kPrimaryGenre, &TrackEditRules::wholeAlbumGenre},
-                                       {kAlbumTitleMissing, &TrackEditRules::showAlbumTitleMark},
-                                       {kAlbumArtistMissing, &TrackEditRules::showAlbumArtistMark},
-                                       {kPrimaryGenreMissing, &TrackEditRules::showGenreMark}};
+                                       {kPrimaryGenre, &TrackEditRules::wholeAlbumGenre}};
     return rows;
 }
 
@@ -68,8 +62,26 @@ void TrackEditRules::apply(std::int32_t tag, const std::vector<xbr::Ref<TrackIte
     if (!isSingles()) {
         forEachTrack(m_tracks, [&](TrackItem& track) { run(wholeAlbumRows(), tag, track); });
     }
+    showMarks(tag, targets);
     for (const std::int32_t markTag : std::exchange(m_cleared, {})) {
-        apply(markTag, targets);
+        showMarks(markTag, targets);
+    }
+}
+
+void TrackEditRules::showMarks(std::int32_t markTag, const std::vector<xbr::Ref<TrackItem>>& targets) {
+    const auto* const field = std::find_if(kRequiredFields.begin(), kRequiredFields.end(),
+                                           [&](const auto& each) { return each.markTag == markTag; });
+    if (field == kRequiredFields.end()) {
+        return;
+    }
+    const auto showOne = [&](const TrackItem& track) { show(markTag, (*track.metadata).*field->missing); };
+    const bool isOfSong = markTag == kSongTitleMissing || markTag == kSongArtistMissing;
+    if (isSingles() || isOfSong) {
+        for (const auto& target : targets) {
+            showOne(*target);
+        }
+    } else {
+        forEachTrack(m_tracks, showOne);
     }
 }
 
@@ -81,13 +93,15 @@ void TrackEditRules::show(std::int32_t tag, bool missing) {
     m_editor.parameter(tag)->set(xbr::integerValue(missing ? 1 : 0));
 }
 
-void TrackEditRules::clearMark(bool& missing, const std::string& value, std::int32_t markTag) {
-    if (!missing || value.empty()) {
+void TrackEditRules::clearMark(TrackFields& record, std::int32_t tag) {
+    const auto* const field = std::find_if(kRequiredFields.begin(), kRequiredFields.end(),
+                                           [&](const auto& each) { return each.valueTag == tag; });
+    if (!(record.*field->missing) || (record.*field->value).empty()) {
         return;
     }
-    missing = false;
-    if (std::find(m_cleared.begin(), m_cleared.end(), markTag) == m_cleared.end()) {
-        m_cleared.push_back(markTag);
+    record.*field->missing = false;
+    if (std::find(m_cleared.begin(), m_cleared.end(), field->markTag) == m_cleared.end()) {
+        m_cleared.push_back(field->markTag);
     }
 }
 
@@ -96,9 +110,10 @@ void TrackEditRules::clearMark(bool& missing, const std::string& value, std::int
 void TrackEditRules::singlesAlbumTitle(TrackItem& track) {
     TrackMetadata& record = *track.metadata;
     record.albumTitle = m_values.albumTitle;
-    clearMark(record.albumTitleMissing, m_values.albumTitle, kAlbumTitleMissing);
+    clearMark(record, kAlbumTitle);
     if (m_values.albumTitle != m_values.songTitle) {
         record.songTitle = m_values.albumTitle;
+        track.title = m_values.albumTitle;
         set(kSongTitle, m_values.albumTitle);
     }
 }
@@ -115,14 +130,14 @@ void TrackEditRules::singlesAlbumArtist(TrackItem& track) {
             show(kSongArtistMissing, record.songArtistMissing);
         }
     }
-    clearMark(record.albumArtistMissing, m_values.albumArtist, kAlbumArtistMissing);
+    clearMark(record, kAlbumArtist);
 }
 
 void TrackEditRules::singlesGenre(TrackItem& track) {
     TrackMetadata& record = *track.metadata;
     record.primaryGenre = m_values.genre;
     record.singlesGenre = m_values.genre;
-    clearMark(record.primaryGenreMissing, m_values.genre, kPrimaryGenreMissing);
+    clearMark(record, kPrimaryGenre);
 }
 
 void TrackEditRules::singlesTrackNumber(TrackItem& track) {
@@ -139,7 +154,7 @@ void TrackEditRules::songTitle(TrackItem& track) {
     TrackMetadata& record = *track.metadata;
     record.songTitle = m_values.songTitle;
     track.title = m_values.songTitle;
-    clearMark(record.songTitleMissing, m_values.songTitle, kSongTitleMissing);
+    clearMark(record, kSongTitle);
     if (isSingles() && m_values.songTitle != m_values.albumTitle) {
         record.albumTitle = m_values.songTitle;
         set(kAlbumTitle, m_values.songTitle);
@@ -159,7 +174,7 @@ void TrackEditRules::songArtist(TrackItem& track) {
             show(kSongArtistMissing, record.albumArtistMissing);
         }
     }
-    clearMark(record.songArtistMissing, m_values.songArtist, kSongArtistMissing);
+    clearMark(record, kSongArtist);
 }
 
 // What an album's tracks share is edited once for all of them.
@@ -168,36 +183,20 @@ void TrackEditRules::wholeAlbumTitle(TrackItem& track) {
     TrackMetadata& record = *track.metadata;
     record.albumModeTitle = m_values.albumTitle;
     record.albumTitle = m_values.albumTitle;
-    clearMark(record.albumTitleMissing, m_values.albumTitle, kAlbumTitleMissing);
+    clearMark(record, kAlbumTitle);
 }
 
 void TrackEditRules::wholeAlbumArtist(TrackItem& track) {
     TrackMetadata& record = *track.metadata;
     record.albumArtist = m_values.albumArtist;
-    clearMark(record.albumArtistMissing, m_values.albumArtist, kAlbumArtistMissing);
+    clearMark(record, kAlbumArtist);
 }
 
 void TrackEditRules::wholeAlbumGenre(TrackItem& track) {
     TrackMetadata& record = *track.metadata;
     record.albumGenre = m_values.genre;
     record.primaryGenre = m_values.genre;
-    clearMark(record.primaryGenreMissing, m_values.genre, kPrimaryGenreMissing);
-}
-
-void TrackEditRules::showAlbumTitleMark(TrackItem& track) {
-    show(kAlbumTitleMissing, track.metadata->albumTitleMissing);
-}
-void TrackEditRules::showAlbumArtistMark(TrackItem& track) {
-    show(kAlbumArtistMissing, track.metadata->albumArtistMissing);
-}
-void TrackEditRules::showGenreMark(TrackItem& track) {
-    show(kPrimaryGenreMissing, track.metadata->primaryGenreMissing);
-}
-void TrackEditRules::showSongTitleMark(TrackItem& track) {
-    show(kSongTitleMissing, track.metadata->songTitleMissing);
-}
-void TrackEditRules::showSongArtistMark(TrackItem& track) {
-    show(kSongArtistMissing, track.metadata->songArtistMissing);
+    clearMark(record, kPrimaryGenre);
 }
 
 } // namespace brindlex

@@ -56,16 +56,13 @@ private:
     void wholeAlbumTitle(TrackItem& track);
     void wholeAlbumArtist(TrackItem& track);
     void wholeAlbumGenre(TrackItem& track);
-    void showAlbumTitleMark(TrackItem& track);
-    void showAlbumArtistMark(TrackItem& track);
-    void showGenreMark(TrackItem& track);
-    void showSongTitleMark(TrackItem& track);
-    void showSongArtistMark(TrackItem& track);
 
     bool isSingles() const { return m_mode == UploadMode::kSingles; }
     void set(std::int32_t tag, const std::string& value);
     void show(std::int32_t tag, bool missing);
-    void clearMark(bool& missing, const std::string& value, std::int32_t markTag);
+    void showMarks(std::int32_t markTag, const std::vector<xbr::Ref<TrackItem>>& targets);
+    /// The mark of value `tag` goes when the record has that value now.
+    void clearMark(TrackFields& record, std::int32_t tag);
 
     xbr::Component& m_editor;
     UploadMode m_mode;

@@ -2,6 +2,7 @@
 
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/modulecomponent.h"
+#include "ui/tracks/requiredfields.h"
 #include "ui/tracks/resetcommand.h"
 #include "ui/tracks/trackcells.h"
 #include "ui/tracks/trackitem.h"
@@ -61,6 +62,10 @@ xbr::Ref<TrackItem> TrackListComponent::makeItem(xbr::IObject& object) const {
 
 void TrackListComponent::insert(const xbr::Ref<TrackItem>& item) {
     TrackMetadata& record = *item->metadata;
+    for (const RequiredField& field : kRequiredFields) {
+        record.*field.value = xbr::toSingleLine(record.*field.value);
+    }
+    item->title = xbr::toSingleLine(item->title);
     record.albumGenre = record.primaryGenre;
     record.singlesGenre = record.primaryGenre;
     if (mode() == UploadMode::kAlbum) {
@@ -68,8 +73,7 @@ void TrackListComponent::insert(const xbr::Ref<TrackItem>& item) {
     }
     item->enabled = true;
     m_model->append(xbr::query<xbr::IObject>(item.get()));
-    m_editor->applyMode();
-    m_editor->updateReady();
+    m_editor->trackAdded();
     signalTracksChanged();
 }
 

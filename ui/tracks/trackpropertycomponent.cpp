@@ -2,6 +2,7 @@
 
 #include "framework/support/objects/text.h"
 #include "release/genrecatalogue.h"
+#include "ui/tracks/requiredfields.h"
 #include "ui/tracks/trackeditrules.h"
 #include "ui/tracks/trackitem.h"
 
@@ -25,7 +26,7 @@ std::vector<std::string> genreChoices() {
 }
 
 /// The first track of an album speaks for all of them.
-void beginAlbum(TrackMetadata& first) {
+void beginAlbum(TrackFields& first) {
     if (!first.albumGenre.empty()) {
         first.primaryGenre = first.albumGenre;
     } else if (!first.singlesGenre.empty()) {
@@ -34,14 +35,14 @@ void beginAlbum(TrackMetadata& first) {
     first.albumTitle = first.albumModeTitle;
 }
 
-void followAlbum(TrackMetadata& record, const TrackMetadata& first) {
+void followAlbum(TrackFields& record, const TrackFields& first) {
     record.trackNumber = record.albumTrackNumber;
     record.albumTitle = first.albumTitle;
     record.albumArtist = first.albumArtist;
     record.primaryGenre = first.primaryGenre;
 }
 
-void standAlone(TrackMetadata& record) {
+void standAlone(TrackFields& record) {
     record.albumTitle = record.songTitle;
     record.albumArtist = record.songArtist;
     if (!record.singlesGenre.empty()) {
@@ -72,18 +73,16 @@ TrackPropertyComponent::TrackPropertyComponent(xbr::Ref<xbr::ListViewModel> trac
     setItem(nullptr);
 }
 
-void TrackPropertyComponent::loadParameters(const TrackMetadata& record) {
-    parameter(kAlbumTitle)->set(xbr::textValue(record.albumTitle));
-    parameter(kAlbumArtist)->set(xbr::textValue(record.albumArtist));
-    getGenreIndex(*parameter(kPrimaryGenre), record.primaryGenre);
+void TrackPropertyComponent::loadParameters(const TrackFields& record) {
+    for (const RequiredField& field : kRequiredFields) {
+        if (field.valueTag == kPrimaryGenre) {
+            getGenreIndex(*parameter(kPrimaryGenre), record.primaryGenre);
+        } else {
+            parameter(field.valueTag)->set(xbr::textValue(record.*field.value));
+        }
+        parameter(field.markTag)->set(xbr::integerValue(record.*field.missing ? 1 : 0));
+    }
     parameter(kTrackNumber)->set(xbr::integerValue(record.trackNumber));
-    parameter(kSongTitle)->set(xbr::textValue(record.songTitle));
-    parameter(kSongArtist)->set(xbr::textValue(record.songArtist));
-    parameter(kAlbumTitleMissing)->set(xbr::integerValue(record.albumTitleMissing ? 1 : 0));
-    parameter(kAlbumArtistMissing)->set(xbr::integerValue(record.albumArtistMissing ? 1 : 0));
-    parameter(kPrimaryGenreMissing)->set(xbr::integerValue(record.primaryGenreMissing ? 1 : 0));
-    parameter(kSongTitleMissing)->set(xbr::integerValue(record.songTitleMissing ? 1 : 0));
-    parameter(kSongArtistMissing)->set(xbr::integerValue(record.songArtistMissing ? 1 : 0));
 }
 
 void TrackPropertyComponent::setItem(TrackItem* item) {
@@ -100,58 +99,66 @@ void TrackPropertyComponent::setItem(TrackItem* item) {
 
 void TrackPropertyComponent::setMode(UploadMode mode) {
     m_mode = mode;
-    m_settled = {};
+    m_isInLine = false;
 }
 
 void TrackPropertyComponent::clearReady() {
-    m_ready = false;
-    m_settled = {};
+    m_isInLine = false;
+    setReady(false);
 }
 
 void TrackPropertyComponent::applyMode() {
-    const auto count = countTracks(*m_tracks);
-    if (count == 0) {
+    if (countTracks(*m_tracks) == 0) {
         return;
     }
-    TrackMetadata& first = *trackAt(*m_tracks, 0).metadata;
-    if (m_settled.mode == 0) {
-        m_settled.ready = 0;
-        if (m_mode == UploadMode::kAlbum) {
-            beginAlbum(first);
-        }
+    if (m_mode == UploadMode::kAlbum) {
+        beginAlbum(*trackAt(*m_tracks, 0).metadata);
     }
-    for (; m_settled.mode < count; ++m_settled.mode) {
-        TrackMetadata& record = *trackAt(*m_tracks, m_settled.mode).metadata;
-        if (m_mode == UploadMode::kAlbum) {
-            followAlbum(record, first);
-        } else {
-            standAlone(record);
-        }
-    }
+    forEachTrack(*m_tracks, [this](TrackItem& track) { bringInLine(*track.metadata); });
+    m_isInLine = true;
     m_tracks->signalChanged();
     updateReady();
+}
+
+void TrackPropertyComponent::trackAdded() {
+    if (!m_isInLine) {
+        applyMode();
+        return;
+    }
+    TrackFields& record = *trackAt(*m_tracks, countTracks(*m_tracks) - 1).metadata;
+    bringInLine(record);
+    m_tracks->signalChanged();
+    setReady(m_ready || isComplete(record));
+}
+
+void TrackPropertyComponent::bringInLine(TrackFields& record) const {
+    if (m_mode == UploadMode::kAlbum) {
+        followAlbum(record, *trackAt(*m_tracks, 0).metadata);
+    } else {
+        standAlone(record);
+    }
 }
 
 void TrackPropertyComponent::validateItem(Marks marks, std::size_t index) {
     TrackItem& item = trackAt(*m_tracks, index);
     setItem(&item);
-    TrackMetadata& record = *item.metadata;
-    const auto mark = [&](bool& missing, const std::string& value) {
-        missing = marks == Marks::kSet && (missing || value.empty());
-    };
-    mark(record.albumTitleMissing, parameter(kAlbumTitle)->string());
-    mark(record.albumArtistMissing, parameter(kAlbumArtist)->string());
-    mark(record.primaryGenreMissing, getGenreText(*parameter(kPrimaryGenre)));
-    mark(record.songTitleMissing, parameter(kSongTitle)->string());
-    mark(record.songArtistMissing, parameter(kSongArtist)->string());
+    for (const RequiredField& field : kRequiredFields) {
+        const bool isEmpty = field.valueTag == kPrimaryGenre ? getGenreText(*parameter(kPrimaryGenre)).empty()
+                                                             : parameter(field.valueTag)->string().empty();
+        bool& missing = (*item.metadata).*field.missing;
+        missing = marks == Marks::kSet && (missing || isEmpty);
+    }
 }
 
 void TrackPropertyComponent::updateReady() {
-    bool ready = m_settled.ready > 0 && m_ready;
-    for (auto i = m_settled.ready; !ready && i < countTracks(*m_tracks); ++i) {
-        ready = trackAt(*m_tracks, i).metadata->isComplete();
+    bool ready = false;
+    for (std::size_t i = 0; !ready && i < countTracks(*m_tracks); ++i) {
+        ready = isComplete(*trackAt(*m_tracks, i).metadata);
     }
-    m_settled.ready = countTracks(*m_tracks);
+    setReady(ready);
+}
+
+void TrackPropertyComponent::setReady(bool ready) {
     if (m_ready != ready) {
         m_ready = ready;
         signalChanged();
@@ -176,9 +183,9 @@ void TrackPropertyComponent::parameterChanged(xbr::Parameter& parameter) {
         return;
     }
     const auto self = xbr::Ref<TrackPropertyComponent>::share(this);
-    m_settled = {};
+    m_isInLine = false;
     TrackEditRules(*this, m_mode, *m_tracks).apply(parameter.tag(), edited);
-    m_settled = {}; // again: who was told of a parameter meanwhile may have added tracks
+    m_isInLine = false; // again: who was told of a parameter meanwhile may have added tracks
     m_tracks->signalChanged();
     updateReady();
 }

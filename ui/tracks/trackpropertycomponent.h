@@ -27,10 +27,12 @@ public:
     /// Loads a track into the parameters; null empties and disables them.
     void setItem(TrackItem* item);
 
-    /// Gives every track the release values of the present mode: one album's, or each song's own. Tracks that
-    /// were given them already and not touched since cost nothing, so that adding many tracks one by one
-    /// stays quick.
+    /// Gives every track the release values of the present mode: one album's, or each song's own.
     void applyMode();
+
+    /// The list has a new last track. The same as `applyMode`, but the others cost nothing while they have
+    /// those values still, so that adding many tracks one by one stays quick.
+    void trackAdded();
 
     /// Loads track `index` and marks its missing values, or clears all five marks.
     void validateItem(Marks marks, std::size_t index);
@@ -42,7 +44,7 @@ public:
     void clearReady();
 
     /// A track is being taken out of the list: others may come first now.
-    void tracksRemoved() { m_settled = {}; }
+    void tracksRemoved() { m_isInLine = false; }
 
     xbr::Result getProperty(xbr::Text name, xbr::Value* out) noexcept override;
 
@@ -52,17 +54,13 @@ protected:
 private:
     /// The selected tracks in the order of selection, and the one with the focus.
     std::vector<xbr::Ref<TrackItem>> editedTracks() const;
-    void loadParameters(const TrackMetadata& record);
-
-    /// How many tracks from the start of the list need no second look, as only this editor changes records.
-    struct Settled {
-        std::size_t mode = 0; ///< have the values of the present mode; applying it again would change nothing
-        std::size_t ready = 0; ///< are accounted for in `m_ready`
-    };
+    void loadParameters(const TrackFields& record);
+    void bringInLine(TrackFields& record) const;
+    void setReady(bool ready);
 
     xbr::Ref<xbr::ListViewModel> m_tracks;
     UploadMode m_mode = UploadMode::kSingles;
-    Settled m_settled;
+    bool m_isInLine = false; ///< all tracks have the mode's values and are accounted for in `m_ready`
     bool m_ready = false;
     bool m_hasItem = false;
     bool m_updating =

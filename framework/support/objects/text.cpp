@@ -62,6 +62,20 @@ std::string_view trim(std::string_view text) {
     return text.substr(first, text.find_last_not_of(kWhiteSpace) - first + 1);
 }
 
+std::string toSingleLine(std::string_view text) {
+    std::string line;
+    line.reserve(text.size());
+    char previous = ' ';
+    for (const char c : text) {
+        const bool isSecondOfTwo = previous == '\r' && c == '\n';
+        if (!isSecondOfTwo) {
+            line += c == '\n' || c == '\r' || c == '\t' || c == '\v' || c == '\f' ? ' ' : c;
+        }
+        previous = c;
+    }
+    return line;
+}
+
 std::string asciiLower(std::string_view text) {
     std::string lower(text);
     std::transform(lower.begin(), lower.end(), lower.begin(),

@@ -49,6 +49,9 @@ bool parseUid(std::string_view text, Uid& uid);
 /// Removes white space (space, tab, CR, LF, vertical tab, form feed) at both ends.
 std::string_view trim(std::string_view text);
 
+/// The text in one line: each line break (LF, CR, CR LF) or tab becomes a blank.
+std::string toSingleLine(std::string_view text);
+
 /// ASCII letters in lower case; everything else as it is. For extensions and protocol names.
 std::string asciiLower(std::string_view text);
 
