@@ -229,6 +229,24 @@ TEST_F(FeedTest, DoesNotMixOldAndNew) {
     EXPECT_FALSE(child("image1"));
 }
 
+TEST_F(FeedTest, LeavesNoOldEntriesBehind) {
+    show(manyEntries(3));
+    const auto observer = xbr::make<FeedObserver>(*feed);
+    observer->hook = [&] {
+        observer->hook = nullptr;
+        feed->setMaximumEntryCount(2);
+    };
+    post(*feed, "restartDownload");
+    host().downloads.complete(kFeed, "new");
+    feed->setMaximumEntryCount(1);
+    EXPECT_EQ(feed->countParameters(), 5);
+    EXPECT_FALSE(child("image1"));
+    feed->setLocation("https://other.example/feed");
+    EXPECT_EQ(feed->countParameters(), 0);
+    EXPECT_EQ(feed->itemCount(), 0);
+    EXPECT_FALSE(child("image0"));
+}
+
 TEST_F(FeedTest, ReloadsEveryPicture) {
     std::vector<FakeEntry> entries = manyEntries(3);
     for (int i = 0; i < 2; ++i) {

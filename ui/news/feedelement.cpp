@@ -67,11 +67,7 @@ bool isWeb(std::string_view location) {
 
 } // namespace
 
-FeedElement::FeedElement()
-    : Implements(kName),
-      m_cache(xbr::make<PersistentImageCache>()),
-      m_category(xbr::translate("Feed")),
-      m_command(xbr::translate("Reload All")) {}
+FeedElement::FeedElement() : Implements(kName), m_cache(xbr::make<PersistentImageCache>()) {}
 
 FeedElement::~FeedElement() {
     clearEntries();
@@ -100,10 +96,21 @@ void FeedElement::setMaximumEntryCount(std::int32_t count) {
 }
 
 void FeedElement::rebuildEntries() {
+    const auto self = xbr::Ref<FeedElement>::share(this);
+    const auto turn = ++m_rebuilds;
     clearEntries();
     signalChanged();
-    buildEntries();
-    signalChanged();
+    if (turn == m_rebuilds) { // else who was told had them built already
+        buildEntries();
+        signalChanged();
+    }
+}
+
+void FeedElement::locationChanged() {
+    if (m_feed) {
+        m_feed.reset();
+        rebuildEntries();
+    }
 }
 
 xbr::Ref<xbr::IFeed> FeedElement::readFeed(xbr::IDownloadTask& task) const {
@@ -131,7 +138,7 @@ void FeedElement::clearEntries() {
 }
 
 void FeedElement::buildEntries() {
-    const std::int32_t count = itemCount();
+    const auto count = itemCount();
     m_parameters.reserve(static_cast<std::size_t>(count) * kParametersOfEntry);
     m_images.reserve(static_cast<std::size_t>(count));
     for (std::int32_t i = 0; i < count; ++i) {
@@ -267,11 +274,11 @@ xbr::Result FeedElement::setProperty(xbr::Text name, const xbr::Value& value) no
 }
 
 xbr::Text FeedElement::categoryAt(std::int32_t index) const noexcept {
-    return index == 0 ? xbr::toText(m_category) : xbr::Text{};
+    return xbr::toText(index == 0 ? "Feed" : "");
 }
 
 xbr::Text FeedElement::nameAt(std::int32_t index) const noexcept {
-    return index == 0 ? xbr::toText(m_command) : xbr::Text{};
+    return xbr::toText(index == 0 ? "Reload All" : "");
 }
 
 xbr::Result FeedElement::perform(std::int32_t index) noexcept {

@@ -58,6 +58,7 @@ public:
 
 protected:
     void downloadCompleted(xbr::IDownloadTask& task) override;
+    void locationChanged() override;
 
 private:
     xbr::Ref<xbr::IFeed> readFeed(xbr::IDownloadTask& task) const;
@@ -76,8 +77,7 @@ private:
     std::vector<xbr::Ref<ImageElement>> m_images;
     std::vector<xbr::Ref<FeedEntry>> m_entries; ///< made when they are asked for; null before
     xbr::Ref<ImageElementCache> m_cache;
-    std::string m_category;
-    std::string m_command;
+    std::uint32_t m_rebuilds = 0;
 };
 
 } // namespace brindlex

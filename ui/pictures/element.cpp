@@ -14,6 +14,7 @@ Element::~Element() {
 
 void Element::setLocation(std::string_view location) {
     if (location != m_location) {
+        const auto self = xbr::Ref<Element>::share(this);
         dropTask();
         m_location = location;
         locationChanged();
