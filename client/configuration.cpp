@@ -15,7 +15,7 @@ constexpr std::int32_t kRead = 1;
 
 } // namespace
 
-ServiceConfiguration readConfiguration(const xbr::Attributes& attributes) {
+void applyConfiguration(OAuth2Client& client, const xbr::Attributes& attributes) {
     ServiceConfiguration configuration;
     configuration.serverUrl = xbr::Url(attributes.getString("ServerURL"));
     configuration.userUrl = xbr::Url(attributes.getString("UserURL"));
@@ -23,18 +23,17 @@ ServiceConfiguration readConfiguration(const xbr::Attributes& attributes) {
     configuration.consumerSecret = xbr::toAscii(attributes.getString("ConsumerSecret"));
     configuration.callbackUrl = xbr::Url(attributes.getString("CallbackURL"));
     configuration.joinToken = attributes.getString("JoinToken");
-    return configuration;
+    client.setConfiguration(std::move(configuration));
 }
 
-std::optional<ServiceConfiguration> loadStoredConfiguration() {
+void loadConfiguration(OAuth2Client& client) {
     const auto store = xbr::createHostObject<xbr::IConfigurationStore>();
     const auto attributes = xbr::make<xbr::Attributes>();
     const std::string title = xbr::translate("Brindlex Client");
-    if (!store ||
-        store->load(attributes.get(), xbr::toText(kId), xbr::toText(title), kProfile, kRead) != xbr::kOk) {
-        return std::nullopt;
+    if (store &&
+        store->load(attributes.get(), xbr::toText(kId), xbr::toText(title), kProfile, kRead) == xbr::kOk) {
+        applyConfiguration(client, *attributes);
     }
-    return readConfiguration(*attributes);
 }
 
 } // namespace brindlex

@@ -1,17 +1,15 @@
 #pragma once
 
-#include "auth/serviceconfiguration.h"
+#include "auth/oauth2client.h"
 #include "framework/support/data/attributes.h"
-
-#include <optional>
 
 namespace brindlex {
 
-/// Reads the six values "ServerURL", "UserURL", "ConsumerKey", "ConsumerSecret", "CallbackURL" and
-/// "JoinToken". A key that is absent gives an empty value; key and secret become 8-bit ASCII.
-ServiceConfiguration readConfiguration(const xbr::Attributes& attributes);
+/// Writes the six values "ServerURL", "UserURL", "ConsumerKey", "ConsumerSecret", "CallbackURL" and
+/// "JoinToken" into the client. A key that is absent gives an empty value; key and secret become 8-bit ASCII.
+void applyConfiguration(OAuth2Client& client, const xbr::Attributes& attributes);
 
-/// Asks the host's configuration store; empty when it has nothing for us or cannot be read.
-std::optional<ServiceConfiguration> loadStoredConfiguration();
+/// Applies what the host's configuration store has; nothing when it has none for us or cannot be read.
+void loadConfiguration(OAuth2Client& client);
 
 } // namespace brindlex

@@ -66,18 +66,11 @@ void Manager::connect() {
         return;
     }
     const auto self = xbr::Ref<Manager>::share(this);
-    loadConfiguration();
+    if (m_client->configuration().consumerKey.empty()) {
+        loadConfiguration(*m_client); // once for each client
+    }
     if (!m_client->restoreAuthorization()) {
         runConnectDialog();
-    }
-}
-
-void Manager::loadConfiguration() {
-    if (!m_client->configuration().consumerKey.empty()) {
-        return;
-    }
-    if (auto configuration = loadStoredConfiguration()) {
-        m_client->setConfiguration(*std::move(configuration));
     }
 }
 
@@ -119,6 +112,10 @@ void Manager::closeDialog() {
 
 void Manager::onAuthorizationCompleted() {
     closeDialog();
+    requestAccount();
+}
+
+void Manager::requestAccount() {
     m_client->sendAuthorizedQuery(
         [this](const auto& message, auto& request) { onAccountReply(message, request); }, kAccountPath);
 }

@@ -41,13 +41,13 @@ protected:
     void parameterChanged(xbr::Parameter& parameter) override;
 
 private:
-    void loadConfiguration();
     void runConnectDialog();
     bool isSignInPending() const;
     void closeDialog();
     void clientNotified(const xbr::IMessage& message);
     void onAuthorizationCompleted();
     void onAuthorizationCanceled();
+    void requestAccount();
     void onAccountReply(const xbr::IMessage& message, xbr::IWebRequest& request);
     void setUser(xbr::Ref<Account> account);
     void updateUploadEnabled();

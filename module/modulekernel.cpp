@@ -82,10 +82,4 @@ void ModuleKernel::tearDown() {
 
 void ModuleKernel::notify(xbr::ISubject*, xbr::IMessage*) noexcept {}
 
-ModuleRegistration::ModuleRegistration(ModuleKernel::InitialiseFunction initialise,
-                                       ModuleKernel::TerminateFunction terminate) {
-    ModuleKernel::instance().addInitialise(initialise);
-    ModuleKernel::instance().addTerminate(terminate);
-}
-
 } // namespace brindlex

@@ -8,8 +8,8 @@
 
 namespace brindlex {
 
-/// Loads and unloads the module: runs the functions that its parts registered before `XBRModuleMain`, and
-/// keeps what the whole module shares. One per module, created on first use.
+/// Loads and unloads the module: runs the functions that are registered for its parts, and keeps what the
+/// whole module shares. One per module, created on first use.
 class ModuleKernel final : public xbr::Object<xbr::IObserver> {
 public:
     /// Two words that travel with a registered function.
@@ -64,12 +64,6 @@ private:
     std::vector<Initialise> m_succeeded;
     std::vector<Terminate> m_terminate;
     std::vector<xbr::Ref<xbr::IObject>> m_objects;
-};
-
-/// Registers functions of a part of the module when the library is loaded: make one at namespace scope.
-struct ModuleRegistration {
-    ModuleRegistration(ModuleKernel::InitialiseFunction initialise,
-                       ModuleKernel::TerminateFunction terminate);
 };
 
 } // namespace brindlex

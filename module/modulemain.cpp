@@ -7,13 +7,38 @@
 #include "module/componentclasses.h"
 #include "module/modulegate.h"
 #include "module/modulekernel.h"
+#include "module/resources.h"
 #include "module/supportservice.h"
+
+#include <array>
 
 namespace brindlex {
 
 namespace {
 
-const ModuleRegistration kComponents(&addComponentClasses, &removeComponentClasses);
+/// A part of the module with what it does before the start and after the stop.
+struct Part {
+    ModuleKernel::InitialiseFunction initialise;
+    ModuleKernel::TerminateFunction terminate;
+};
+
+/// In the order in which they begin; they end in the reverse one.
+constexpr std::array<Part, 2> kParts{{
+    {&registerResources, &unregisterResources},
+    {&addComponentClasses, &removeComponentClasses},
+}};
+
+ModuleKernel& preparedKernel() {
+    static ModuleKernel& kernel = []() -> ModuleKernel& {
+        auto& fresh = ModuleKernel::instance();
+        for (const Part& part : kParts) {
+            fresh.addInitialise(part.initialise);
+            fresh.addTerminate(part.terminate);
+        }
+        return fresh;
+    }();
+    return kernel;
+}
 
 /// What the module does at start (1) and stop (2).
 bool startModule(std::int32_t argument) {
@@ -45,7 +70,7 @@ bool isModuleLoaded() {
 } // namespace brindlex
 
 std::int32_t XBRModuleMain(void* moduleHandle, std::int32_t reason) noexcept {
-    auto& kernel = brindlex::ModuleKernel::instance();
+    auto& kernel = brindlex::preparedKernel();
     switch (static_cast<xbr::ModuleReason>(reason)) {
     case xbr::ModuleReason::kLoad:
         return kernel.load(moduleHandle, &brindlex::startModule) ? 1 : 0;

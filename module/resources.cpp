@@ -1,6 +1,7 @@
+#include "module/resources.h"
+
 #include "framework/abi/filesystem.h"
 #include "framework/support/objects/text.h"
-#include "module/modulekernel.h"
 
 // The archive that the build packs from resources/, see resourcedata.S.
 extern "C" const char kBrindlexResourcesBegin[];
@@ -12,6 +13,8 @@ namespace {
 
 constexpr std::string_view kName = "brindlex";
 
+} // namespace
+
 bool registerResources(void*, void*) {
     const auto size = static_cast<std::uint64_t>(kBrindlexResourcesEnd - kBrindlexResourcesBegin);
     return XBRGetFileSystem()->registerResources(xbr::toText(kName), kBrindlexResourcesBegin, size) ==
@@ -21,9 +24,5 @@ bool registerResources(void*, void*) {
 void unregisterResources(void*) {
     XBRGetFileSystem()->unregisterResources(xbr::toText(kName));
 }
-
-const ModuleRegistration kRegistration(&registerResources, &unregisterResources);
-
-} // namespace
 
 } // namespace brindlex

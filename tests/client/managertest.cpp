@@ -79,7 +79,8 @@ TEST_F(ManagerTest, ConfigurationTakesWhatIsThere) {
     attributes->set("ConsumerKey", "k\xC3\xA9y");
     attributes->set("ConsumerSecret", xbr::integerValue(5));
     attributes->set("JoinToken", "j\xC3\xB6in");
-    const ServiceConfiguration configuration = readConfiguration(*attributes);
+    applyConfiguration(manager->client(), *attributes);
+    const ServiceConfiguration& configuration = manager->client().configuration();
     EXPECT_EQ(configuration.consumerKey, "k?y");
     EXPECT_EQ(configuration.consumerSecret, "");
     EXPECT_EQ(configuration.joinToken, "j\xC3\xB6in");

@@ -57,10 +57,11 @@ Outcome<void> LoadedModule::open() {
 }
 
 Outcome<void> LoadedModule::start() {
+    // Also when it fails half-way: what it registered until then has to go before its code does.
+    m_isStarted = true;
     if (m_main(m_library, static_cast<std::int32_t>(ModuleReason::kLoad)) == 0) {
         return problem("refuses to work (a part of it is missing or damaged)");
     }
-    m_isStarted = true;
     m_factory = m_getFactory();
     if (!m_factory) {
         return problem("offers no classes");

@@ -10,6 +10,7 @@
 #include "host/gui/build/formloader.h"
 #include "host/gui/build/rowlist.h"
 #include "host/gui/build/taborder.h"
+#include "host/gui/list/listview.h"
 
 #include <QBuffer>
 #include <QEvent>
@@ -143,6 +144,9 @@ void FormBuilder::bindTree(QWidget& widget, Ref<IController> scope) {
     // Listed before anything is embedded: forms in there are bound by themselves.
     const auto children = widget.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     bindWidget(widget, *scope);
+    if (auto* list = qobject_cast<ListView*>(&widget)) {
+        list->setTranslations(m_translations);
+    }
     for (QWidget* child : children) {
         bindTree(*child, scope);
     }

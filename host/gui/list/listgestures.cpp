@@ -32,7 +32,7 @@ Ref<IObjectIterator> draggedObjects(const QMimeData& data) {
     return objects;
 }
 
-void addCommands(QMenu& menu, const Ref<ICommandList>& commands) {
+void addCommands(QMenu& menu, const Ref<ICommandList>& commands, ITranslationTable* translations) {
     std::string category;
     for (std::int32_t i = 0; i < commands->count(); ++i) {
         if (std::string own = toString(commands->categoryAt(i)); own != category) {
@@ -40,7 +40,10 @@ void addCommands(QMenu& menu, const Ref<ICommandList>& commands) {
             category = std::move(own);
         }
         // A "&" of a name is a letter of it.
-        const QString name = QString::fromStdString(toString(commands->nameAt(i)));
+        const Text source = commands->nameAt(i);
+        Ref<IString> translated;
+        const bool isTranslated = translations && translations->translate(source, translated.out()) == kOk;
+        const auto name = QString::fromStdString(isTranslated ? take(translated) : toString(source));
         auto* action = menu.addAction(QString(name).replace(QLatin1Char('&'), QLatin1String("&&")));
         action->setEnabled(commands->isEnabled(i));
         QObject::connect(action, &QAction::triggered, &menu, [commands, i] { commands->perform(i); });

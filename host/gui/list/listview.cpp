@@ -208,7 +208,7 @@ void ListView::contextMenuEvent(QContextMenuEvent* event) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     Ref<ICommandList> commands;
     if (m_rows->source().getContextCommands(commands.out()) == kOk) {
-        addCommands(*menu, commands);
+        addCommands(*menu, commands, m_translations.get());
     }
     if (!m_removeText.isEmpty()) {
         const QString key = QKeySequence(QKeySequence::Delete).toString(QKeySequence::NativeText);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/abi/locale.h"
 #include "host/gui/list/listmodeladaptor.h"
 
 #include <QColor>
@@ -26,6 +27,9 @@ public:
 
     /// The name of the menu's entry for removing rows; empty for none.
     void setRemoveText(const QString& text) { m_removeText = text; }
+
+    /// The language in which the names of the model's commands are shown; as they are without.
+    void setTranslations(Ref<ITranslationTable> translations) { m_translations = std::move(translations); }
 
     QColor colorOf(CellStyle style) const;
 
@@ -56,6 +60,7 @@ private:
     QColor m_errorColor;
     QString m_placeholder;
     QString m_removeText;
+    Ref<ITranslationTable> m_translations;
     bool m_isDropTarget = false;
     bool m_isFitting = false;
     bool m_isFittedByHand = false; ///< the user chose the columns' widths

@@ -70,7 +70,7 @@ TEST_F(ModuleLoading, everyProblemIsOneClearLine) {
         {m_folder.path(), "is not there", {}},
         {m_folder.write("text.so", "no library"), "cannot be loaded", {}},
         {testModule("empty"), "no module", {}},
-        {testModule("refusing"), "refuses", {"load"}},
+        {testModule("refusing"), "refuses", {"load", "unload"}},
         {testModule("newer"), "border version 2.0, this host for 1.0", {"load", "unload"}},
         {testModule("serviceless"), "no service", {"load", "unload"}},
         {testModule("failing"),
