@@ -36,8 +36,34 @@ private:
         QLineEdit* edit = m_box->lineEdit();
         edit->setPlaceholderText(m_box->placeholderText());
         nameField(*m_box, *edit);
+        connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) { takeEntry(text); });
         connect(edit, &QLineEdit::returnPressed, this, [this] { take(Match::kFirst); });
         connect(edit, &QLineEdit::editingFinished, this, [this] { take(Match::kOnly); });
+    }
+
+    /// A whole entry counts as soon as it is typed: who leaves by a key or a button that takes no focus has
+    /// confirmed nothing. What stands in the field stays as it is typed.
+    void takeEntry(const QString& text) {
+        const int index = text.trimmed().isEmpty() ? current() : entryNamed(text.trimmed());
+        if (index < 0 || index == current()) {
+            return;
+        }
+        QLineEdit* edit = m_box->lineEdit();
+        const int cursor = edit->cursorPosition();
+        set(integerValue(index));
+        edit->setText(text);
+        edit->setCursorPosition(cursor);
+        edit->setModified(true);
+    }
+
+    /// The entry of that name without case; -1 for none.
+    int entryNamed(const QString& text) const {
+        for (int i = 0; i < m_box->count(); ++i) {
+            if (shown(m_box->itemText(i)).compare(text, Qt::CaseInsensitive) == 0) {
+                return i;
+            }
+        }
+        return -1;
     }
 
     /// Which of several entries that hold the typed text is meant.
@@ -57,14 +83,13 @@ private:
     /// The entry that the text names: itself without case, or else one that holds it; the present one when
     /// there is none. No text names the blank entry.
     int find(const QString& text, Match match) const {
+        if (const int named = entryNamed(text); named >= 0) {
+            return named;
+        }
         int found = -1;
         int count = 0;
         for (int i = 0; i < m_box->count(); ++i) {
-            const QString entry = shown(m_box->itemText(i));
-            if (entry.compare(text, Qt::CaseInsensitive) == 0) {
-                return i;
-            }
-            if (!text.isEmpty() && entry.contains(text, Qt::CaseInsensitive)) {
+            if (!text.isEmpty() && shown(m_box->itemText(i)).contains(text, Qt::CaseInsensitive)) {
                 found = count++ == 0 ? i : found;
             }
         }

@@ -80,6 +80,13 @@ void ListSelection::selectionChanged(const QItemSelection& selected, const QItem
         }
     }
     m_rows->source().setSelection(m_order.data(), static_cast<std::int32_t>(m_order.size()));
+    // The focus goes with the selection: what is typed next must not change a row that was just taken out of
+    // it.
+    const auto focus = static_cast<std::size_t>(m_view->currentIndex().row());
+    if (focus < gone.size() && gone[focus] && !come[focus] && !m_order.empty()) {
+        m_view->selectionModel()->setCurrentIndex(m_rows->index(m_order.back(), 0),
+                                                  QItemSelectionModel::NoUpdate);
+    }
 }
 
 void ListSelection::currentChanged(const QModelIndex& current) {

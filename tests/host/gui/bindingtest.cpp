@@ -117,9 +117,9 @@ TEST_F(Binding, findsAnEntryByWhatIsTyped) {
     };
     const std::vector<Row> table = {
         {"rock", true, 1}, // itself before one that holds it
-        {"acou", true, 2},  {"ro", true, 1},     {"azz", false, 3},
-        {"ro", false, 3},                                        // two entries hold it: left as it was
-        {"polka", true, 3}, {"polka", false, 3}, {"", false, 0}, // no text is the blank entry
+        {"jazz", true, 3},  {"rOck", false, 1},  {"acou", true, 2},
+        {"ro", true, 1},    {"azz", false, 3},   {"ro", false, 3}, // two entries hold it: left as it was
+        {"polka", true, 3}, {"polka", false, 3}, {"", false, 0},   // no text is the blank entry
     };
     QComboBox& box = at<QComboBox>("found");
     for (const auto& [typed, isConfirmed, chosen] : table) {
@@ -129,6 +129,10 @@ TEST_F(Binding, findsAnEntryByWhatIsTyped) {
         QTest::keyClicks(box.lineEdit(), typed);
         if (isConfirmed) {
             QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+        }
+        if (typed == std::string_view("rOck")) {
+            EXPECT_EQ(integer("choice"), chosen) << "without leaving the field";
+            EXPECT_EQ(box.currentText().toStdString(), typed);
         }
         box.completer()->popup()->hide();
         QApplication::setActiveWindow(form.get()); // a window system would do that

@@ -74,6 +74,7 @@ TEST_F(List, tellsTheModelWhatIsSelectedInTheOrderOfSelection) {
     EXPECT_EQ(list.selectedTexts(), (Texts{"c", "a", "d"}));
     click(0, Qt::ControlModifier);
     EXPECT_EQ(list.selectedTexts(), (Texts{"c", "d"}));
+    EXPECT_EQ(list.model().focus(), 3) << "not on the one that was taken out";
     click(1);
     click(3, Qt::ShiftModifier);
     EXPECT_EQ(list.selectedTexts(), (Texts{"b", "c", "d"}));
