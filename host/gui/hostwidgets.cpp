@@ -1,5 +1,6 @@
 #include "host/gui/hostwidgets.h"
 
+#include "host/gui/bind/controlbinding.h"
 #include "host/gui/build/viewwidget.h"
 
 namespace xbr::host {
@@ -12,6 +13,10 @@ void setShowAction(QWidget& viewWidget, std::function<void()> show) {
     if (auto* widget = qobject_cast<ViewWidget*>(&viewWidget)) {
         widget->setShowAction(std::move(show));
     }
+}
+
+void setCommandListener(std::function<void(IParameter& command)> listener) {
+    hearCommands(std::move(listener));
 }
 
 } // namespace xbr::host

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/abi/parameter.h"
 #include "framework/abi/view.h"
 #include "host/gui/picture/image.h" // pixelsOf
 #include "host/gui/skin/palette.h"
@@ -31,5 +32,9 @@ namespace xbr::host {
 /// What brings a widget made by `createViewWidget` to the user's sight when its module asks for that (IShow):
 /// opening a dock, say. Without one its window is raised.
 [[gnu::visibility("default")]] void setShowAction(QWidget& viewWidget, std::function<void()> show);
+
+/// Hears of each command that the user performed in a view of this library, once it has come back: modules
+/// do not say that a command came to nothing. An empty function ends it.
+[[gnu::visibility("default")]] void setCommandListener(std::function<void(IParameter& command)> listener);
 
 } // namespace xbr::host

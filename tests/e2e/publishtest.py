@@ -94,7 +94,7 @@ class PublishTest(unittest.TestCase):
         faults = [
             ({"status": 500}, 1, "failed"),
             ({"status": 422, "body": missing}, 7, "missing"),
-            ({"status": 401, "early": True}, 10, "the sign-in has expired"),
+            ({"status": 401, "early": True}, 10, "does not accept the stored sign-in any more"),
             ({"reset_after": 1000}, 1, "failed"),
             ({"truncate": True}, 1, "failed"),
             ({"redirect": "http://127.0.0.1:9/"}, 1, "failed"),
@@ -123,11 +123,15 @@ class PublishTest(unittest.TestCase):
         song.write_bytes(data[:4] + (end - 8).to_bytes(4, "little") + data[8:end])  # without its tags
         result = self.publish(song)
         self.assertEqual(result.returncode, 7, result.stderr_text)
-        self.assertIn("'untagged.wav': missing album title, album artist, genre", result.stderr_text)
-        self.assertEqual(self.stage.releases(), [])
-        result = self.publish(*self.songs, song, "--title", "New", "--artist", "Ann")
-        self.assertEqual(result.returncode, 1, result.stderr_text)
-        self.assertIn("'New': missing genre", result.stderr_text)
+        self.assertIn("“untagged” lacks: song artist, genre. Nothing was sent.", result.stderr_text)
+        incomplete = [*self.songs, song, "--title", "New", "--artist", "Ann"]
+        result = self.publish(*incomplete)
+        self.assertEqual(result.returncode, 7, result.stderr_text)
+        self.assertIn("“New” lacks: genre. Nothing was sent.", result.stderr_text)
+        self.assertFalse(self.stage.inbox.exists() and self.stage.releases())
+        result = self.publish("--skip-incomplete", *incomplete)
+        self.assertEqual(result.returncode, 0, result.stderr_text)
+        self.assertIn("“New” lacks: genre.", result.stderr_text)
         self.assertEqual(len(self.stage.releases()), 3, "nothing goes out with another song's genre")
         result = self.publish(self.songs[0], song, "--genre", "world", "--title", "New", "--artist", "Ann")
         self.assertEqual(result.returncode, 0, result.stderr_text)
@@ -140,7 +144,7 @@ class PublishTest(unittest.TestCase):
         self.stage.control("POST", "fault", account)
         result = self.publish(self.songs[0])
         self.assertEqual(result.returncode, 10, result.stderr_text)
-        self.assertIn("the sign-in has expired", result.stderr_text)
+        self.assertIn("does not accept the stored sign-in any more", result.stderr_text)
         self.assertEqual(self.stage.log(INGESTION), [], "nothing is sent in vain")
         self.stage.control("POST", "fault", account)
         result = self.stage.run("sign-in")

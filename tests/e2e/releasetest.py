@@ -29,7 +29,7 @@ class ReleaseTest(unittest.TestCase):
     def drafts(self, *arguments, code=0):
         result = self.publish("--dry-run", "--json", *arguments, code=code)
         events = [json.loads(line) for line in result.stdout_text.splitlines()]
-        self.assertEqual(events[-1], {"event": "finished", "exitCode": code})
+        self.assertEqual((events[-1]["event"], events[-1]["exitCode"]), ("finished", code))
         return [event for event in events if event["event"] == "draft"], result.stderr_text
 
     def test_aiff_and_mp3_arrive_as_one_album(self):
@@ -87,13 +87,13 @@ class ReleaseTest(unittest.TestCase):
             file.setparams((1, 2, 8000, 0, "NONE", ""))
             file.writeframes(bytes(1000))
         [_, single], errors = self.drafts(self.wav, bare, code=7)
-        self.assertEqual(single["missing"], ["albumTitle", "albumArtist", "primaryGenre"])
-        self.assertEqual(single["songs"][0]["missing"], ["songTitle", "songArtist"])
-        self.assertIn("release 2: missing album title, album artist, genre", errors)
+        self.assertEqual((single["title"], single["missing"]), ("bare", ["albumArtist", "primaryGenre"]))
+        self.assertEqual(single["songs"][0]["missing"], ["songArtist"])
+        self.assertIn("“bare” lacks: song artist, genre.", errors)
         [album], _ = self.drafts("--album", bare, "--album-title", "T", "--title", "S", code=7)
         self.assertEqual((album["title"], album["missing"]), ("T", ["albumArtist", "primaryGenre"]))
         _, errors = self.drafts(self.wav, "--genre", "Electronca", code=2)
-        self.assertIn("did you mean 'Electronica'", errors)
+        self.assertIn("Nearest: Electronica", errors)
 
     def test_release_file(self):
         release = self.stage.folder / "release.json"
@@ -110,7 +110,7 @@ class ReleaseTest(unittest.TestCase):
     def test_what_cannot_be_rendered_is_told(self):
         cut = self.stage.folder / "cut.aiff"
         cut.write_bytes(self.aiff.read_bytes()[:100000])
-        for song, words in ((cut, "is damaged"), (self.stage.folder / "services.ini", "is not audio")):
+        for song, words in ((cut, "is cut off"), (self.stage.folder / "services.ini", "holds no audio")):
             self.assertIn(words, self.publish(self.wav, song, code=3).stderr_text)
         self.assertEqual(self.stage.log("/oauth/token"), [], "nobody signs in for that")
 
@@ -126,7 +126,7 @@ class ReleaseTest(unittest.TestCase):
         data[4:8] = (start + 8 + frames * 6).to_bytes(4, "big")
         long.write_bytes(data[:start + 16 + size])
         os.truncate(long, start + 16 + frames * 6)
-        process = self.stage.start("publish", "--json", long)
+        process = self.stage.start("publish", "--json", long, "--artist", "Ann", "--genre", "Pop")
         wait_for(lambda: "Rendering" in process.stdout.readline(), "the rendering")
         _, errors = interrupt(process)
         self.assertEqual(process.returncode, 130, errors)
@@ -189,14 +189,14 @@ class SilentFailureTest(unittest.TestCase):
         return errors
 
     def test_song_that_vanished(self):
-        self.assertIn("Opening.wav' is not there any more", self.publish_and(self.song.unlink))
+        self.assertIn("“Opening.wav” is no longer there.", self.publish_and(self.song.unlink))
 
     def test_temporary_folder_that_is_gone(self):
         def remove():
             [folder] = (self.stage.folder / "tmp").iterdir()
             shutil.rmtree(folder)
             folder.write_text("in its place")
-        self.assertIn("annot be", self.publish_and(remove))
+        self.assertIn("The folder for copies", self.publish_and(remove))
 
 
 if __name__ == "__main__":

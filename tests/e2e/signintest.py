@@ -135,7 +135,7 @@ class SignInTest(unittest.TestCase):
             self.stage.control("POST", "fault", expired)
             result = self.stage.run(*command)
             self.assertEqual(result.returncode, 10, result.stderr_text)
-            self.assertIn("the sign-in has expired", result.stderr_text)
+            self.assertIn("does not accept the stored sign-in any more", result.stderr_text)
         self.stage.control("POST", "fault", expired)
         renewed = self.stage.run("sign-in")
         self.assertEqual(renewed.returncode, 0, renewed.stderr_text)

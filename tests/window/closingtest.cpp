@@ -39,7 +39,7 @@ TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
     stage.service().addFault(R"({"path":"/api/frontstage/release_ingestion","delay_ms":1500,"times":9})");
     makeAlbum();
     click(window(), "upload");
-    ASSERT_TRUE(statusSays("Uploading"));
+    ASSERT_TRUE(statusSays("Sending"));
 
     const auto keeping = answer("Keep Uploading");
     EXPECT_FALSE(window().close());
@@ -49,7 +49,7 @@ TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
     click(window(), "publish");
     makeAlbum();
     click(window(), "upload");
-    ASSERT_TRUE(statusSays("Uploading"));
+    ASSERT_TRUE(statusSays("Sending"));
     const auto stopping = answer("Stop and Quit");
     EXPECT_TRUE(window().close());
     stage.close();
@@ -109,7 +109,7 @@ TEST_F(WindowTest, theDialogsFrameAndKeysCloseItAndConnectWorksAgain) {
         return frame != nullptr;
     });
     click(window(), "connect");
-    EXPECT_TRUE(statusSays("Not connected yet"));
+    EXPECT_TRUE(statusSays("the sign-in was given up"));
     stage.setVisit(Stage::Visit::kAllow);
     signIn();
 }

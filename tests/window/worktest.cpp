@@ -46,7 +46,7 @@ TEST_F(WindowTest, aReleaseIsMadeFromDroppedFilesToTheService) {
     click(window(), "upload");
     ASSERT_TRUE(waitFor([&] { return states().find("Missing Information") != std::string::npos; }))
         << states();
-    EXPECT_TRUE(statusSays("needs more information"));
+    EXPECT_TRUE(statusSays("because details are missing: song artist")) << stage.status();
     selectRows(trackList(), {2});
     EXPECT_TRUE(find(window(), "songArtistMark"));
     EXPECT_EQ(stage.arrived(), 0U);
@@ -57,7 +57,7 @@ TEST_F(WindowTest, aReleaseIsMadeFromDroppedFilesToTheService) {
     click(window(), "upload");
     ASSERT_TRUE(waitFor([&] { return states() == "Done|Done|Done"; })) << states();
     EXPECT_EQ(stage.arrived(), 1U);
-    EXPECT_TRUE(statusSays("Published: 3 songs")) << stage.status();
+    EXPECT_TRUE(statusSays("Published the album “Night Drive” with 3 songs.")) << stage.status();
 
     click(window(), "disconnect");
     EXPECT_TRUE(waitFor([&] { return window().findChild<QPushButton*>("connect")->isVisible(); }));
@@ -100,9 +100,10 @@ TEST_F(WindowTest, aProblemOfTheServiceIsToldInPlainWords) {
         const char* states;
     };
     const Case cases[] = {
-        {R"({"path":"/api/frontstage/release_ingestion","status":500,"times":3})", "did not take 3 songs",
-         "Failed|Failed|Failed"},
-        {R"({"path":"/api/frontstage/release_ingestion","status":401,"times":3})", "expired", ""},
+        {R"({"path":"/api/frontstage/release_ingestion","status":500,"times":3})",
+         "The service has a fault (500)", "Failed|Failed|Failed"},
+        {R"({"path":"/api/frontstage/release_ingestion","status":401,"times":3})",
+         "does not accept the stored sign-in", ""},
     };
     openReady(stage.songs());
     for (const Case& one : cases) {
@@ -121,11 +122,11 @@ TEST_F(WindowTest, whatTheModuleKeepsSilentAboutIsTold) {
     std::filesystem::remove(stage.songs().front());
     click(window(), "singles");
     click(window(), "upload");
-    EXPECT_TRUE(statusSays("Nothing was sent")) << stage.status();
+    EXPECT_TRUE(statusSays("is no longer there.")) << stage.status();
     EXPECT_EQ(stage.arrived(), 0U);
 
     click(window(), "disconnect");
-    EXPECT_TRUE(statusSays("Disconnected"));
+    EXPECT_TRUE(statusSays("Signed out."));
     QTest::qWait(50); // the panel tells itself, too
     stage.stopService();
     bool isTold = false;
@@ -147,7 +148,7 @@ TEST_F(WindowTest, aSignInThatComesToNothingSaysWhy) {
     open({});
     stage.service().addFault(R"({"path":"/oauth/token","status":500})");
     click(window(), "connect");
-    EXPECT_TRUE(statusSays("did not accept the sign-in"));
+    EXPECT_TRUE(statusSays("Not signed in: the service did not accept it.")) << stage.status();
 
     QTest::qWait(50);
     // Who denies may think better of it: the dialog stays.
@@ -171,7 +172,7 @@ TEST_F(WindowTest, missingSettingsAreNamedAndNoDialogWaitsInVain) {
     stage.configure("");
     open({});
     click(window(), "connect");
-    EXPECT_TRUE(statusSays("not set up yet"));
+    EXPECT_TRUE(statusSays("is not set up: "));
     EXPECT_TRUE(statusSays("services.ini"));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 
@@ -181,7 +182,7 @@ TEST_F(WindowTest, missingSettingsAreNamedAndNoDialogWaitsInVain) {
 
 TEST_F(WindowTest, withoutAModuleSongsAreListedNonetheless) {
     stage.open(stage.songs(), stage.path("none.so"));
-    EXPECT_TRUE(statusSays("Songs cannot be published: The module"));
+    EXPECT_TRUE(statusSays("Songs cannot be published."));
     EXPECT_TRUE(waitFor([&] { return !cell(songList(), 2, SongListModel::kLength).empty(); }));
     EXPECT_FALSE(window().findChild<QWidget*>("publish")->isVisible());
     EXPECT_TRUE(window().docks().empty());

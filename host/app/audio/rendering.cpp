@@ -170,15 +170,6 @@ RenderedSongs::~RenderedSongs() {
     }
 }
 
-std::string RenderedSongs::choosePath(const std::string& song) {
-    const std::string stem = fs::path(song).stem().string();
-    std::string name = stem + ".wav";
-    for (int i = 2; !m_names.insert(name).second; ++i) {
-        name = stem + " (" + std::to_string(i) + ").wav";
-    }
-    return m_folder + "/" + name;
-}
-
 RenderResult RenderedSongs::render(const std::string& song, const std::string& path, std::string& error) {
     std::error_code failed;
     fs::create_directories(m_folder, failed);

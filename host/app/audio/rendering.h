@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <set>
 #include <string>
 
 namespace xbr::host {
@@ -30,19 +29,15 @@ public:
     RenderedSongs& operator=(const RenderedSongs&) = delete;
     ~RenderedSongs();
 
-    /// Takes a name that a rendered song may not have, because a song beside it has it.
-    void reserve(const std::string& fileName) { m_names.insert(fileName); }
+    /// The path for a rendering; its name has to be unlike all others.
+    std::string pathOf(const std::string& fileName) const { return m_folder + "/" + fileName; }
 
-    /// The path at which the rendering of a song goes: named like the song, and unlike all others.
-    std::string choosePath(const std::string& song);
-
-    /// Renders a song to a path that was chosen. Tells the progress through the front end's progress
+    /// Renders a song to such a path. Tells the progress through the front end's progress
     /// indicator, where the user may cancel it; runs the event loop meanwhile.
     RenderResult render(const std::string& song, const std::string& path, std::string& error);
 
 private:
     std::string m_folder; ///< empty when there is no temporary folder
-    std::set<std::string> m_names;
 };
 
 } // namespace xbr::host

@@ -1,7 +1,7 @@
 #include "host/app/headless/accountcommands.h"
 
 #include "host/app/headless/consolefront.h"
-#include "host/app/publishing/signin.h"
+#include "host/app/publishing/publishing.h"
 
 #include <QEventLoop>
 
@@ -9,67 +9,50 @@ namespace xbr::host {
 
 namespace {
 
-struct SignInOutcome {
-    SignInResult result = SignInResult::kNotSignedIn;
-    std::string detail;
+/// Remembers how it ended.
+class SignInView final : public PublishingListener {
+public:
+    explicit SignInView(QEventLoop& loop) : m_loop(&loop) {}
+
+    void ended(const Verdict& verdict) override {
+        m_verdict = verdict;
+        m_loop->quit();
+    }
+
+    const std::optional<Verdict>& verdict() const { return m_verdict; }
+
+private:
+    QEventLoop* m_loop;
+    std::optional<Verdict> m_verdict;
 };
 
 /// Runs "connect" of the panel until it is over, or the user ends it.
-SignInOutcome connect(ConsoleSession& console, Expired expired) {
+Verdict connect(ConsoleSession& console, Expired expired) {
     HostSession& session = console.session();
-    SignInOutcome outcome;
     QEventLoop loop;
-    SignIn signIn(console.panel(), session.settings());
-    const auto interrupted = session.interruption().subscribe([&loop] { loop.quit(); });
-    const auto done = [&](SignInResult result, const std::string& detail) {
-        outcome = {result, detail};
-        loop.quit();
-    };
-    signIn.start(done, expired);
-    if (!Interruption::isInterrupted()) {
+    SignInView view(loop);
+    Publishing publishing(session.activity(), session.settings(), console.panel(), view);
+    const auto interrupted = session.interruption().subscribe([&publishing] { publishing.cancel(); });
+    publishing.signIn(expired);
+    if (!view.verdict()) {
         loop.exec();
     }
-    return outcome;
-}
-
-ExitCode exitCodeOf(SignInResult result) {
-    switch (result) {
-    case SignInResult::kSignedIn:
-        return ExitCode::kDone;
-    case SignInResult::kExpired:
-        return ExitCode::kSignInExpired;
-    case SignInResult::kNotConfigured:
-        return ExitCode::kNotConfigured;
-    case SignInResult::kUnreachable:
-        return ExitCode::kUnreachable;
-    case SignInResult::kNotSignedIn:
-        break;
-    }
-    return ExitCode::kNotSignedIn;
-}
-
-void tellProblem(ExitCode code, const std::string& detail, const ConfigurationReport& report) {
-    if (code == ExitCode::kNotConfigured) {
-        printError(describeProblem(report));
-    } else if (code == ExitCode::kSignInExpired) {
-        printError(detail + kRenewHint);
-    } else if (code == ExitCode::kInterrupted) {
-        printError("interrupted");
-    } else if (!detail.empty()) {
-        printError(detail);
-    }
+    return *view.verdict();
 }
 
 /// Connects and tells who is signed in afterwards.
 ExitCode connectAndTell(ConsoleSession& console, Expired expired) {
-    const SignInOutcome outcome = connect(console, expired);
-    const ExitCode code = Interruption::isInterrupted() ? ExitCode::kInterrupted : exitCodeOf(outcome.result);
-    if (code == ExitCode::kDone || code == ExitCode::kNotSignedIn || code == ExitCode::kSignInExpired) {
-        console.output().account(code == ExitCode::kDone, console.panel().text("userName"));
+    const Verdict verdict = connect(console, expired);
+    const bool isAccountKnown =
+        verdict.isGood() || verdict.cause == Cause::kNotSignedIn || verdict.cause == Cause::kExpired;
+    if (isAccountKnown) {
+        console.output().account(verdict.isGood(), console.panel().text("userName"));
     }
-    console.output().finished(code);
-    tellProblem(code, outcome.detail, console.session().settings());
-    return code;
+    console.output().finished(verdict);
+    if (!verdict.isGood()) {
+        printVerdict(verdict);
+    }
+    return verdict.code;
 }
 
 } // namespace

@@ -19,7 +19,8 @@ constexpr Name kCommands[] = {
 
 /// Options that belong to a command; --module and --json to all that load the module.
 bool isOptionOf(Command command, const std::string& option) {
-    if (option == "--album" || option == "--dry-run" || isPublishValue(option)) {
+    if (option == "--album" || option == "--dry-run" || option == "--skip-unreadable" ||
+        option == "--skip-incomplete" || isPublishValue(option)) {
         return command == Command::kPublish;
     }
     return (option == "--json" || option == "--module") && command != Command::kOpenUrl &&
@@ -55,7 +56,7 @@ public:
 private:
     void takeArgument(const std::string& argument) {
         if (m_commandLine->command == Command::kPublish) {
-            m_commandLine->publish.plan.songs.push_back({argument, {}, {}, {}, 0});
+            m_commandLine->publish.wish.songs.push_back({argument, {}, {}, {}, 0});
         } else if (m_commandLine->command == Command::kOpenUrl && m_commandLine->url.empty()) {
             m_commandLine->url = argument;
         } else if (m_commandLine->command != Command::kHelp) {
@@ -71,9 +72,13 @@ private:
         } else if (option == "--json") {
             m_commandLine->isJson = true;
         } else if (option == "--album") {
-            m_commandLine->publish.plan.mode = ReleaseMode::kAlbum;
+            m_commandLine->publish.wish.mode = ReleaseMode::kAlbum;
         } else if (option == "--dry-run") {
             m_commandLine->publish.isDryRun = true;
+        } else if (option == "--skip-unreadable") {
+            m_commandLine->publish.wish.skipsUnreadable = true;
+        } else if (option == "--skip-incomplete") {
+            m_commandLine->publish.wish.skipsIncomplete = true;
         } else if (m_next == m_arguments->size()) {
             *m_error = "something is missing after " + option;
         } else if (option == "--module") {
@@ -145,6 +150,8 @@ Options of publish, which win over what the tags of the files say:
   --artist TEXT        artist of the song before it
   --track-number N     number of the song before it
   --dry-run            show what would be sent and what is missing; send nothing
+  --skip-unreadable    leave out files that cannot be published
+  --skip-incomplete    leave out singles with missing details
 
 Options:
   --json         tell what happens as one JSON object per line

@@ -62,20 +62,25 @@ public:
     void end() noexcept override;
 
     void update(double fraction, Text what) noexcept override;
-    bool isCancelled() noexcept override { return m_isCancellable && Interruption::isInterrupted(); }
+    bool isCancelled() noexcept override {
+        return m_isCancellable && (m_isEnded || Interruption::isInterrupted());
+    }
 
 private:
     Output* m_output;
     Activity* m_activity;
     std::string m_title;
     bool m_isCancellable = false;
+    bool m_isEnded = false;             ///< by the host
     std::optional<Activity::Run> m_run; ///< between begin and end
     QElapsedTimer m_told;
 };
 
 void ConsoleProgress::begin() noexcept {
     if (!m_run) {
-        m_run.emplace(*m_activity, Activity::Kind::kPreparing, std::function<void()>(), this);
+        m_isEnded = false;
+        m_run.emplace(
+            *m_activity, Activity::Kind::kPreparing, [this] { m_isEnded = true; }, this);
     }
     m_told.invalidate();
 }

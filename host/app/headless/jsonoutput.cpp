@@ -11,6 +11,14 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+Json namesOf(const std::vector<Detail>& details) {
+    Json names = Json::array();
+    for (const Detail detail : details) {
+        names.push_back(parameterOf(detail));
+    }
+    return names;
+}
+
 /// One object per line, for programs. "event" names the kind; what a kind holds only grows.
 class JsonOutput final : public Output {
 public:
@@ -43,29 +51,37 @@ public:
                {"progress", track.progress}});
     }
 
-    void draft(const ReleaseDraft& release, std::size_t index, std::size_t) override {
+    void draft(const Draft& draft) override {
+        const PlannedRelease& release = draft.release;
         Json songs = Json::array();
-        for (const SongDraft& song : release.songs) {
+        for (const PlannedSong& song : release.songs) {
             songs.push_back({{"title", song.title},
                              {"artist", song.artist},
-                             {"trackNumber", song.trackNumber},
+                             {"trackNumber", song.number},
                              {"source", song.source},
                              {"fileName", song.fileName},
                              {"rendered", song.isRendered},
-                             {"missing", song.missing}});
+                             {"missing", namesOf(song.missing)}});
         }
         write({{"event", "draft"},
-               {"index", index},
+               {"index", draft.index},
                {"title", release.title},
                {"artist", release.artist},
                {"genre", release.genre},
                {"songs", std::move(songs)},
-               {"missing", release.missing},
-               {"problem", release.genreProblem}});
+               {"missing", namesOf(release.missing)},
+               {"problem", draft.problem}});
     }
 
     void finished(ExitCode code) override {
         write({{"event", "finished"}, {"exitCode", static_cast<int>(code)}});
+    }
+
+    void finished(const Verdict& verdict) override {
+        write({{"event", "finished"},
+               {"exitCode", static_cast<int>(verdict.code)},
+               {"verdict", nameOf(verdict.cause)},
+               {"text", verdict.sentence}});
     }
 
 private:

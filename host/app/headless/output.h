@@ -1,14 +1,24 @@
 #pragma once
 
 #include "host/app/process/exitcodes.h"
-#include "host/app/publishing/releasedraft.h"
-#include "host/app/publishing/trackfollower.h"
+#include "host/app/publishing/plan.h"
+#include "host/app/publishing/tracks.h"
+#include "host/app/publishing/verdict.h"
 
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace xbr::host {
+
+/// A release as a run would send it.
+struct Draft {
+    const PlannedRelease& release;
+    std::string problem; ///< with its genre; empty when there is none
+    bool isIncomplete;
+    std::size_t index; ///< from 0
+    std::size_t count;
+};
 
 /// Tells the user, or a program that started us, what happens. Texts may come from outside and hold anything.
 class Output {
@@ -30,20 +40,20 @@ public:
     /// A track looks different from before.
     virtual void track(const TrackReport& track, std::size_t count) = 0;
 
-    /// A release that would be sent, number `index` (from 0) of `count`.
-    virtual void draft(const ReleaseDraft& release, std::size_t index, std::size_t count) = 0;
+    virtual void draft(const Draft& draft) = 0;
 
     /// The end; nothing follows.
     virtual void finished(ExitCode code) = 0;
+    virtual void finished(const Verdict& verdict) = 0;
 };
 
 std::unique_ptr<Output> makeTextOutput();
 std::unique_ptr<Output> makeJsonOutput();
 
-/// How a user of the command line signs in again.
-constexpr char kRenewHint[] = " (xbrhost sign-in)";
-
 /// Writes "xbrhost: <text>" to standard error.
 void printError(std::string_view text);
+
+/// Writes what is not good about a verdict, and what can be done about it, to standard error.
+void printVerdict(const Verdict& verdict);
 
 } // namespace xbr::host

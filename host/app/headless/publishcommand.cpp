@@ -1,51 +1,22 @@
 #include "host/app/headless/publishcommand.h"
 
 #include "host/app/headless/consolefront.h"
-#include "host/app/headless/fieldnames.h"
 #include "host/app/headless/releasefile.h"
-#include "host/app/publishing/publishsession.h"
+#include "host/app/publishing/publishing.h"
+#include "host/app/publishing/words.h"
 
 #include <QEventLoop>
+
+#include <algorithm>
+#include <iostream>
+#include <unistd.h>
 
 namespace xbr::host {
 
 namespace {
 
-ExitCode exitCodeOf(PublishResult result) {
-    switch (result) {
-    case PublishResult::kDone:
-        return ExitCode::kDone;
-    case PublishResult::kNotAllDone:
-        return ExitCode::kNotAllDone;
-    case PublishResult::kWrongPlan:
-        return ExitCode::kUsage;
-    case PublishResult::kFileProblem:
-        return ExitCode::kFileProblem;
-    case PublishResult::kNoPublisher:
-        return ExitCode::kModuleProblem;
-    case PublishResult::kNotConfigured:
-        return ExitCode::kNotConfigured;
-    case PublishResult::kNotSignedIn:
-        return ExitCode::kNotSignedIn;
-    case PublishResult::kSignInExpired:
-        return ExitCode::kSignInExpired;
-    case PublishResult::kUnreachable:
-        return ExitCode::kUnreachable;
-    case PublishResult::kInformationMissing:
-        return ExitCode::kInformationMissing;
-    case PublishResult::kCancelled:
-        break;
-    }
-    return ExitCode::kInterrupted;
-}
-
-std::string describe(const IncompleteTrack& track, const TrackReport& report) {
-    return "track " + std::to_string(track.index + 1) + " '" + labelOf(report) + "': missing " +
-           describeFields(track.fields);
-}
-
-/// Shows a session on the output and remembers how it ended.
-class PublishView final : public PublishListener {
+/// Shows what happens on the output, and remembers how it ended.
+class PublishView final : public PublishingListener {
 public:
     PublishView(Output& output, QEventLoop& loop) : m_output(&output), m_loop(&loop) {}
 
@@ -56,126 +27,151 @@ public:
         }
     }
     void trackChanged(const TrackReport& track) override { m_output->track(track, m_count); }
-    void finished(const PublishOutcome& outcome) override {
-        m_outcome = outcome;
+    void ended(const Verdict& verdict) override {
+        m_verdict = verdict;
         m_loop->quit();
     }
 
-    const PublishOutcome& outcome() const { return m_outcome; }
+    const Verdict& verdict() const { return m_verdict; }
 
 private:
     Output* m_output;
     QEventLoop* m_loop;
     std::size_t m_count = 0;
-    PublishOutcome m_outcome;
+    Verdict m_verdict;
 };
 
-void tellProblem(const PublishOutcome& outcome, const ConfigurationReport& report) {
-    if (outcome.result == PublishResult::kNotConfigured) {
-        printError(describeProblem(report));
-    } else if (outcome.result == PublishResult::kNotSignedIn) {
-        printError("not signed in: nothing was sent");
-    } else if (outcome.result == PublishResult::kCancelled) {
-        printError("interrupted");
-    } else if (outcome.result == PublishResult::kSignInExpired) {
-        printError(outcome.detail + kRenewHint);
-    } else if (!outcome.detail.empty()) {
-        printError(outcome.detail);
+std::vector<SongFile> readSongs(const ReleaseWish& wish) {
+    std::vector<SongFile> songs;
+    for (const SongWish& song : wish.songs) {
+        songs.push_back(readSongFile(song.path));
     }
-    for (const IncompleteTrack& track : outcome.incomplete) {
-        printError(describe(track, outcome.tracks[static_cast<std::size_t>(track.index)]));
-    }
+    return songs;
 }
 
-/// One line for the files that did not arrive; each of them was told of before.
-void tellTracks(const PublishOutcome& outcome) {
-    std::size_t open = 0;
-    for (const TrackReport& track : outcome.tracks) {
-        open += track.state == TrackState::kDone ? 0 : 1;
-    }
-    if (outcome.result == PublishResult::kNotAllDone && open > 0) {
-        printError(std::to_string(open) + " of " + std::to_string(outcome.tracks.size()) +
-                   " tracks were not taken by the service");
-    } else if (outcome.result == PublishResult::kInformationMissing) {
-        printError("nothing was taken: information is missing");
-    }
+bool isIncomplete(const PlannedRelease& release) {
+    return !release.missing.empty() || std::any_of(release.songs.begin(), release.songs.end(),
+                                                   [](const auto& song) { return !song.missing.empty(); });
 }
 
-ExitCode runSession(ConsoleSession& console, ReleaseWish plan) {
-    HostSession& session = console.session();
-    QEventLoop loop;
-    PublishView view(console.output(), loop);
-    PublishSession publishing(console.panel(), session.settings(), session.activity(), view);
-    const auto interrupted = session.interruption().subscribe([&publishing] { publishing.cancel(); });
-    publishing.start(std::move(plan));
-    loop.exec();
-    const ExitCode code = exitCodeOf(view.outcome().result);
-    console.output().finished(code);
-    tellProblem(view.outcome(), session.settings());
-    tellTracks(view.outcome());
-    return code;
-}
-
-void tellMissing(const ReleaseDraft& release, std::size_t index) {
-    const std::string where = "release " + std::to_string(index + 1);
-    if (!release.missing.empty()) {
-        printError(where + ": missing " + describeFields(release.missing));
-    }
-    if (!release.genreProblem.empty()) {
-        printError(where + ": " + release.genreProblem);
-    }
-    for (const SongDraft& song : release.songs) {
-        if (!song.missing.empty()) {
-            printError(where + ", '" + song.source + "': missing " + describeFields(song.missing));
+/// What is wrong with a release's genre; empty when nothing is.
+std::string genreProblem(const Plan& plan, const PlannedRelease& release) {
+    for (const Finding& finding : plan.findings) {
+        if (finding.kind == Finding::Kind::kUnknownGenre && finding.path == release.songs.front().source) {
+            return wordsOf(finding);
         }
     }
+    return {};
 }
 
-/// Shows what the module would send of the songs that it took.
-ExitCode showDrafts(ConsoleSession& console, const ReleaseWish& plan, const ReleaseIntake& intake) {
-    const auto releases = readDrafts(console.panel(), intake, plan.mode);
-    bool isComplete = true;
-    for (std::size_t i = 0; i < releases.size(); ++i) {
-        console.output().draft(releases[i], i, releases.size());
-        isComplete = isComplete && releases[i].isComplete();
+/// Shows what a run would send, unless it could not even be handed over.
+Verdict runDry(const Plan& plan, Output& output) {
+    const bool isShown = std::none_of(plan.findings.begin(), plan.findings.end(), [](const Finding& finding) {
+        return finding.weight == Finding::Weight::kFatal;
+    });
+    for (std::size_t i = 0; isShown && i < plan.releases.size(); ++i) {
+        const PlannedRelease& release = plan.releases[i];
+        output.draft({release, genreProblem(plan, release), isIncomplete(release), i, plan.releases.size()});
     }
-    console.output().finished(isComplete ? ExitCode::kDone : ExitCode::kInformationMissing);
-    for (std::size_t i = 0; i < releases.size(); ++i) {
-        tellMissing(releases[i], i);
-    }
-    return isComplete ? ExitCode::kDone : ExitCode::kInformationMissing;
+    return judge(plan);
 }
 
-ExitCode runDry(ConsoleSession& console, const ReleaseWish& plan) {
-    ReleaseIntake intake(console.panel(), Rendering::kPretend);
-    const ReleaseIntake::Outcome outcome = intake.take(plan);
-    if (outcome.result == PublishResult::kDone) {
-        return showDrafts(console, plan, intake);
+/// True when the user wants the others to go without the songs that cannot be published.
+bool isLeavingOutWanted(const Plan& plan, bool mayAsk) {
+    const auto isUnreadable = [](const Finding& finding) {
+        return finding.kind == Finding::Kind::kUnreadable && finding.weight == Finding::Weight::kFatal;
+    };
+    if (!mayAsk || plan.releases.empty() ||
+        std::none_of(plan.findings.begin(), plan.findings.end(), isUnreadable)) {
+        return false;
     }
-    const ExitCode code = exitCodeOf(outcome.result);
-    console.output().finished(code);
-    printError(outcome.detail);
-    return code;
+    for (const Finding& finding : plan.findings) {
+        if (isUnreadable(finding)) {
+            printError(wordsOf(finding));
+        }
+    }
+    std::cerr << "Publish the other songs? [y/N] " << std::flush;
+    std::string answer;
+    std::getline(std::cin, answer);
+    return answer == "y" || answer == "Y";
+}
+
+class PublishRun {
+public:
+    PublishRun(ConsoleSession& console, const PublishEntry& entry)
+        : m_console(&console),
+          m_entry(entry),
+          m_view(console.output(), m_loop),
+          m_publishing(console.session().activity(), console.session().settings(), console.panel(), m_view) {}
+
+    Verdict run(ReleaseWish wish, bool isDryRun, bool mayAsk) {
+        const std::vector<SongFile> songs = readSongs(wish);
+        Plan plan = m_publishing.plan(m_entry, wish, songs);
+        if (isDryRun) {
+            return runDry(plan, m_console->output());
+        }
+        if (isLeavingOutWanted(plan, mayAsk)) {
+            wish.skipsUnreadable = true;
+            plan = m_publishing.plan(m_entry, wish, songs);
+        }
+        const Verdict verdict = judge(plan);
+        return verdict.isGood() ? publish(std::move(plan), verdict.warnings) : verdict;
+    }
+
+private:
+    Verdict publish(Plan plan, const std::vector<std::string>& warnings) {
+        const auto interrupted =
+            m_console->session().interruption().subscribe([this] { m_publishing.cancel(); });
+        m_publishing.publish(m_entry, std::move(plan));
+        m_loop.exec();
+        Verdict verdict = m_view.verdict();
+        verdict.warnings.insert(verdict.warnings.begin(), warnings.begin(), warnings.end());
+        return verdict;
+    }
+
+    ConsoleSession* m_console;
+    PublishEntry m_entry;
+    QEventLoop m_loop;
+    PublishView m_view;
+    Publishing m_publishing;
+};
+
+ExitCode finish(Output& output, const Verdict& verdict) {
+    output.finished(verdict);
+    printVerdict(verdict);
+    return verdict.code;
 }
 
 } // namespace
 
 ExitCode runPublish(const CommandLine& commandLine) {
-    ReleaseWish plan = commandLine.publish.plan;
-    const std::string& releaseFile = commandLine.publish.releaseFile;
-    const bool isDryRun = commandLine.publish.isDryRun;
-    ConsoleSession console(commandLine, isDryRun ? Dialogs::kNone : Dialogs::kOffered);
+    const PublishOptions& options = commandLine.publish;
+    ReleaseWish wish = options.wish;
+    ConsoleSession console(commandLine, options.isDryRun ? Dialogs::kNone : Dialogs::kOffered);
     std::string error;
-    if (!releaseFile.empty() && !readReleaseFile(releaseFile, plan, error)) {
+    if (!options.releaseFile.empty() && !readReleaseFile(options.releaseFile, wish, error)) {
         console.output().finished(ExitCode::kUsage);
         printError(error);
         return ExitCode::kUsage;
     }
+    wish.skipsUnreadable = options.wish.skipsUnreadable;
+    wish.skipsIncomplete = options.wish.skipsIncomplete;
     const ExitCode started = console.start();
     if (started != ExitCode::kDone) {
         return started;
     }
-    return isDryRun ? runDry(console, plan) : runSession(console, std::move(plan));
+    const auto entries = findPublishEntries();
+    if (entries.empty() || !console.panel().tracks()) {
+        return finish(console.output(), judgeModule({Fault::kModule,
+                                                     commandLine.module,
+                                                     0,
+                                                     "it has no publish entry, or no list of songs",
+                                                     {},
+                                                     {}}));
+    }
+    const bool mayAsk = !commandLine.isJson && isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
+    return finish(console.output(),
+                  PublishRun(console, entries.front()).run(std::move(wish), options.isDryRun, mayAsk));
 }
 
 } // namespace xbr::host

@@ -75,17 +75,17 @@ bool isPublishValue(const std::string& option) {
 bool takePublishValue(const std::string& option, const std::string& value, PublishOptions& options,
                       std::string& error) {
     if (isSongOption(option)) {
-        error = takeSongOption(option, value, options.plan);
+        error = takeSongOption(option, value, options.wish);
     } else if (option == kReleaseFile) {
         error = setText(options.releaseFile, option, value);
     } else {
-        error = setText(options.plan.*find(kReleaseOptions, option)->field, option, value);
+        error = setText(options.wish.*find(kReleaseOptions, option)->field, option, value);
     }
     return error.empty();
 }
 
 std::string checkPublishOptions(const PublishOptions& options) {
-    const ReleaseWish& plan = options.plan;
+    const ReleaseWish& plan = options.wish;
     if (!options.releaseFile.empty()) {
         const bool isAlone = plan.songs.empty() && plan.mode == ReleaseMode::kSingles &&
                              plan.albumTitle.empty() && plan.albumArtist.empty() && plan.genre.empty();

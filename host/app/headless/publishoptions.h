@@ -8,8 +8,8 @@ namespace xbr::host {
 
 /// What `xbrhost publish` was asked for.
 struct PublishOptions {
-    ReleaseWish plan;
-    std::string releaseFile; ///< instead of the plan; empty for none
+    ReleaseWish wish;
+    std::string releaseFile; ///< instead of the wish; empty for none
     bool isDryRun = false;
 };
 

@@ -30,38 +30,26 @@ int percent(double fraction) {
     return static_cast<int>(fraction * 100.0);
 }
 
-/// The first `width` characters of a UTF-8 text.
-std::string cut(const std::string& text, std::size_t width) {
-    std::size_t characters = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isFirstByte = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80;
-        if (isFirstByte && ++characters > width) {
-            return text.substr(0, i);
-        }
-    }
-    return text;
-}
-
 std::string orNotSet(const std::string& text) {
     return text.empty() ? "(not set)" : text;
 }
 
-std::string describeSong(const SongDraft& song) {
+std::string describeSong(const PlannedSong& song) {
     const std::string origin = song.isRendered ? ", rendered from '" + song.source + "'" : "";
-    return "  " + std::to_string(song.trackNumber) + ". " + orNotSet(song.title) + " - " +
-           orNotSet(song.artist) + " (" + song.fileName + origin + ")";
+    return "  " + std::to_string(song.number) + ". " + orNotSet(song.title) + " - " + orNotSet(song.artist) +
+           " (" + song.fileName + origin + ")";
 }
 
-/// A release that would be sent, as lines: number `index` (from 0) of `count`. Texts from outside are in
-/// there as they are.
-std::vector<std::string> describeDraft(const ReleaseDraft& release, std::size_t index, std::size_t count) {
+/// A release that would be sent, as lines. Texts from outside are in there as they are.
+std::vector<std::string> describeDraft(const Draft& draft) {
+    const PlannedRelease& release = draft.release;
     std::vector<std::string> lines;
-    lines.push_back("Release " + std::to_string(index + 1) + " of " + std::to_string(count) +
-                    (release.isComplete() ? "" : " (incomplete)"));
+    lines.push_back("Release " + std::to_string(draft.index + 1) + " of " + std::to_string(draft.count) +
+                    (draft.isIncomplete ? " (incomplete)" : ""));
     lines.push_back("  Title:  " + orNotSet(release.title));
     lines.push_back("  Artist: " + orNotSet(release.artist));
     lines.push_back("  Genre:  " + orNotSet(release.genre));
-    for (const SongDraft& song : release.songs) {
+    for (const PlannedSong& song : release.songs) {
         lines.push_back(describeSong(song));
     }
     return lines;
@@ -111,13 +99,20 @@ public:
         }
     }
 
-    void draft(const ReleaseDraft& release, std::size_t index, std::size_t count) override {
-        for (const std::string& text : describeDraft(release, index, count)) {
+    void draft(const Draft& draft) override {
+        for (const std::string& text : describeDraft(draft)) {
             line(plainText(text));
         }
     }
 
     void finished(ExitCode) override { clearStatus(); }
+
+    void finished(const Verdict& verdict) override {
+        clearStatus();
+        if (verdict.isGood() && verdict.cause == Cause::kPublished && !verdict.sentence.empty()) {
+            line(plainText(verdict.sentence));
+        }
+    }
 
 private:
     void line(const std::string& text) {
@@ -128,7 +123,8 @@ private:
     void status(const std::string& text) {
         winsize size{};
         const bool isKnown = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 1;
-        std::cout << '\r' << cut(text, isKnown ? size.ws_col - 1U : 79U) << "\x1b[K" << std::flush;
+        std::cout << '\r' << firstCharacters(text, isKnown ? size.ws_col - 1U : 79U) << "\x1b[K"
+                  << std::flush;
         m_isStatusShown = true;
     }
 

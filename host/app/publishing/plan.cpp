@@ -146,18 +146,12 @@ private:
         return song;
     }
 
-    /// Without tags the file's name tells title and number.
     void nameSong(PlannedSong& song, const SongFile& file, const SongWish& wish) const {
-        const std::string tag = tagOf(file.tags, "Media:Title");
-        const bool isUntold = tag.empty() && file.tags.trackIndex == 0;
-        const NameTags name = isUntold ? readFileName(file.path)
-                                       : NameTags{0, std::filesystem::path(file.path).stem().string()};
-        song.title = firstOf(wish.title, firstOf(tag, name.title));
-        int number = wish.number > 0 ? wish.number : static_cast<int>(file.tags.trackIndex);
-        number = number > 0 ? number : name.number;
-        song.saidNumber = number;
+        const NameTags names = namesOf(file);
+        song.title = firstOf(wish.title, names.title);
+        song.saidNumber = wish.number > 0 ? wish.number : names.number;
         // The panel numbers a single 1, and an album's song without a number, too.
-        song.number = m_plan.isAlbum() && number > 0 ? number : 1;
+        song.number = m_plan.isAlbum() && song.saidNumber > 0 ? song.saidNumber : 1;
     }
 
     std::string chooseGenre(const SongFile& file, const SongWish& wish) {
@@ -260,7 +254,9 @@ private:
     void findMissing(const PlannedRelease& release) {
         std::vector<Detail> missing;
         for (const Detail detail : release.missing) {
-            const bool isTold = detail == Detail::kGenre && m_unknown.contains(release.songs.front().source);
+            const bool isTold =
+                detail == Detail::kGenre &&
+                (m_unknown.contains(release.songs.front().source) || !m_unknownWishes.empty());
             if (!isTold && (m_plan.isAlbum() || detail == Detail::kGenre)) {
                 missing.push_back(detail);
             }

@@ -1,15 +1,26 @@
 #include "host/app/publishing/signin.h"
 
-#include "host/net/hostnet.h"
+#include "host/system/hostsystem.h"
 
+#include <cassert>
 #include <utility>
 
 namespace xbr::host {
 
-SignIn::SignIn(GadgetPanel& panel, const ConfigurationReport& report)
+SignIn::SignIn(GadgetPanel& panel, Activity& activity, const ConfigurationReport& report)
     : m_panel(&panel),
+      m_activity(&activity),
       m_report(&report),
-      m_settling([this] { return !m_panel->isClient("isBusy"); }, [this] { look(); }) {}
+      m_watching(activity.watch(*this)) {
+    m_later.setSingleShot(true);
+    m_later.setInterval(0);
+    m_later.callOnTimeout([this] { look(); });
+}
+
+void SignIn::setPhase(Phase phase) {
+    assert(phase == Phase::kIdle || m_phase != Phase::kForgetting || phase == Phase::kConnecting);
+    m_phase = phase;
+}
 
 void SignIn::start(Done done, Expired expired) {
     m_done = std::move(done);
@@ -17,49 +28,80 @@ void SignIn::start(Done done, Expired expired) {
     connect();
 }
 
+void SignIn::follow(Done done) {
+    if (m_phase == Phase::kIdle) {
+        m_done = std::move(done);
+        m_expired = Expired::kTell;
+        m_problem = {};
+        setPhase(Phase::kConnecting);
+        lookLater();
+    }
+}
+
 void SignIn::connect() {
-    m_refusals = countRefusedCredentials();
+    m_problem = {};
+    setPhase(Phase::kConnecting);
     m_panel->set("connect", 1);
     // After the sign-in the panel asks for the account; an upload that starts before would find it busy.
-    m_settling.start();
+    lookLater();
+}
+
+void SignIn::ended(Activity::Kind, bool) {
+    lookLater();
+}
+
+void SignIn::exchangeEnded(const Exchange& exchange) {
+    // Without credentials and a body it is a question whether the service is there at all: every answer does.
+    const bool isSignIn = exchange.hadCredentials || exchange.hadBody;
+    const bool isGivenUp = exchange.problem.fault == Fault::kCancelled;
+    if (!isGivenUp && (exchange.status == 0 || isSignIn)) {
+        m_problem = exchange.problem;
+    }
+    lookLater();
+}
+
+void SignIn::lookLater() {
+    if (m_phase != Phase::kIdle) {
+        m_later.start();
+    }
+}
+
+bool SignIn::isAtRest() const {
+    return !m_activity->isOpen(Activity::Kind::kDialog) && !hasPostedMessages() &&
+           !m_panel->isClient("isBusy");
 }
 
 /// The panel asked for the account with the tokens that it has, and was refused.
 bool SignIn::isExpired() const {
-    return m_panel->isClient("isAuthorized") && countRefusedCredentials() != m_refusals;
-}
-
-void SignIn::forget() {
-    m_expired = Expired::kTell; // once: new tokens that are refused, too, are told of
-    m_isForgotten = true;
-    m_panel->set("Client/resetAuthorization", 1);
-    // The panel posts that to itself, and would take it for the end of the next sign-in.
-    m_settling.start();
+    return m_panel->isClient("isAuthorized") && m_problem.fault == Fault::kSignInRefused;
 }
 
 void SignIn::look() {
-    if (isExpired() && m_expired == Expired::kRenew) {
-        forget();
-    } else if (std::exchange(m_isForgotten, false)) {
+    if (m_phase == Phase::kIdle || !isAtRest()) {
+        return;
+    }
+    if (m_phase == Phase::kForgetting) {
         connect();
-    } else if (isExpired()) {
-        finish(SignInResult::kExpired, kExpiredAdvice);
-    } else if (m_report->wasAsked && !m_report->isComplete()) {
-        finish(SignInResult::kNotConfigured, {});
-    } else if (m_panel->isClient("isAuthorized")) {
-        finish(SignInResult::kSignedIn, {});
-    } else if (m_report->serverUrl.empty()) {
-        finish(SignInResult::kNotSignedIn, {});
+    } else if (isExpired() && m_expired == Expired::kRenew) {
+        m_expired = Expired::kTell; // once: new tokens that are refused, too, are told of
+        setPhase(Phase::kForgetting);
+        m_panel->set("Client/resetAuthorization", 1);
+        // The panel posts that to itself, and would take it for the end of the next sign-in.
+        lookLater();
     } else {
-        m_reachability.check(m_report->serverUrl, [this](const std::string& problem) {
-            finish(problem.empty() ? SignInResult::kNotSignedIn : SignInResult::kUnreachable, problem);
-        });
+        finish();
     }
 }
 
-void SignIn::finish(SignInResult result, const std::string& detail) {
-    const Done done = std::move(m_done);
-    done(result, detail);
+void SignIn::finish() {
+    setPhase(Phase::kIdle);
+    SignInFacts facts;
+    facts.isAuthorized = m_panel->isClient("isAuthorized");
+    facts.account = m_panel->text("userName");
+    facts.settings = *m_report;
+    facts.problem = m_problem;
+    const Done done = std::exchange(m_done, {});
+    done(facts);
 }
 
 } // namespace xbr::host

@@ -1,23 +1,15 @@
 #pragma once
 
 #include "host/app/modules/gadgetpanel.h"
-#include "host/app/publishing/reachability.h"
-#include "host/app/publishing/settling.h"
-#include "host/app/settings/configurationstore.h"
+#include "host/app/publishing/verdict.h"
+#include "host/app/session/activity.h"
+
+#include <QTimer>
 
 #include <cstdint>
 #include <functional>
-#include <string>
 
 namespace xbr::host {
-
-enum class SignInResult : std::uint8_t {
-    kSignedIn,
-    kExpired,       ///< stored tokens were there, but the service does not accept them any more
-    kNotConfigured, ///< the configuration report tells what is missing
-    kUnreachable,   ///< `detail` tells why
-    kNotSignedIn,   ///< refused, failed or given up
-};
 
 /// What to do with a stored sign-in that the service does not accept any more.
 enum class Expired : std::uint8_t {
@@ -25,15 +17,13 @@ enum class Expired : std::uint8_t {
     kRenew, ///< forget it, and let the user sign in again
 };
 
-/// What to tell the user then: modules do not renew it by themselves.
-constexpr char kExpiredAdvice[] = "the sign-in has expired or was withdrawn: a new sign-in is needed";
-
-/// Signs the user in through a panel's command "connect", and finds out what came of it. One-shot.
-class SignIn {
+/// Signs the user in through a panel's command "connect", and finds out what came of it. One at a time. Main
+/// thread.
+class SignIn final : private Activity::Watcher {
 public:
-    using Done = std::function<void(SignInResult result, const std::string& detail)>;
+    using Done = std::function<void(const SignInFacts& facts)>;
 
-    SignIn(GadgetPanel& panel, const ConfigurationReport& report);
+    SignIn(GadgetPanel& panel, Activity& activity, const ConfigurationReport& report);
     SignIn(const SignIn&) = delete;
     SignIn& operator=(const SignIn&) = delete;
 
@@ -42,21 +32,36 @@ public:
     /// destroy this object.
     void start(Done done, Expired expired = Expired::kTell);
 
+    /// Finds out in the same way what comes of a sign-in that somebody else began. Does nothing while one is
+    /// followed already.
+    void follow(Done done);
+
+    bool isBusy() const { return m_phase != Phase::kIdle; }
+
 private:
+    enum class Phase : std::uint8_t { kIdle, kConnecting, kForgetting };
+
+    void ended(Activity::Kind kind, bool isCancelled) override;
+    void exchangeEnded(const Exchange& exchange) override;
+    void becameQuiet() override { lookLater(); }
+
+    void setPhase(Phase phase);
     void connect();
+    void lookLater();
     void look();
-    void forget();
+    bool isAtRest() const;
     bool isExpired() const;
-    void finish(SignInResult result, const std::string& detail);
+    void finish();
 
     GadgetPanel* m_panel;
+    Activity* m_activity;
     const ConfigurationReport* m_report;
     Done m_done;
     Expired m_expired = Expired::kTell;
-    bool m_isForgotten = false;   ///< an expired sign-in; the next step is a new one
-    std::uint64_t m_refusals = 0; ///< of credentials, before the command
-    Settling m_settling;
-    Reachability m_reachability;
+    Phase m_phase = Phase::kIdle;
+    Problem m_problem; ///< of the last request that went wrong
+    QTimer m_later;
+    Activity::Handle m_watching;
 };
 
 } // namespace xbr::host

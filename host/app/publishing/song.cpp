@@ -86,6 +86,15 @@ NameTags readFileName(const std::string& path) {
     return number > 0 ? NameTags{number, stem.substr(title)} : NameTags{0, stem};
 }
 
+NameTags namesOf(const SongFile& song) {
+    const std::string title = tagOf(song.tags, "Media:Title");
+    const int number = static_cast<int>(song.tags.trackIndex);
+    if (title.empty() && number == 0) {
+        return readFileName(song.path);
+    }
+    return {number, title.empty() ? fs::path(song.path).stem().string() : title};
+}
+
 std::string fileNameOf(const std::string& path) {
     return fs::path(path).filename().string();
 }

@@ -36,6 +36,9 @@ struct NameTags {
 };
 NameTags readFileName(const std::string& path);
 
+/// What a song is called: by its tags, or by its file's name when they say nothing.
+NameTags namesOf(const SongFile& song);
+
 /// The last part of a path.
 std::string fileNameOf(const std::string& path);
 

@@ -8,10 +8,6 @@ namespace xbr::host {
 
 namespace {
 
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(xbr::host::Words)
-};
-
 struct CauseRow {
     const char* name;
     ExitCode code;
@@ -19,57 +15,49 @@ struct CauseRow {
     const char* next; ///< on the command line; null for nothing
 };
 
-#define XBR_NEXT(text) QT_TRANSLATE_NOOP("xbr::host::Words", text)
-
-constexpr const char* kSameAgain = XBR_NEXT("Run the same command again.");
-constexpr const char* kLater = XBR_NEXT("Try again later.");
+constexpr const char* kSameAgain = "Run the same command again.";
+constexpr const char* kLater = "Try again later.";
 
 /// In the order of the causes.
 constexpr CauseRow kCauses[] = {
     {"published", ExitCode::kDone, NoticeKind::kDone, nullptr},
     {"signed-in", ExitCode::kDone, NoticeKind::kDone, nullptr},
     {"partly", ExitCode::kNotAllDone, NoticeKind::kWarning,
-     XBR_NEXT("Run the same command with the songs that are not published to send the rest.")},
+     "Run the same command with the songs that are not published to send the rest."},
     {"missing-details", ExitCode::kInformationMissing, NoticeKind::kWarning,
-     XBR_NEXT("Add them in the files' tags, or with --title, --artist, --genre, --album-title and "
-              "--album-artist.")},
-    {"unknown-genre", ExitCode::kInformationMissing, NoticeKind::kWarning,
-     XBR_NEXT("Choose one with --genre.")},
+     "Add them in the files' tags, or with --title, --artist, --genre, --album-title and "
+     "--album-artist."},
+    {"unknown-genre", ExitCode::kInformationMissing, NoticeKind::kWarning, "Choose one with --genre."},
     {"refused-missing", ExitCode::kInformationMissing, NoticeKind::kWarning,
-     XBR_NEXT("Add them in the files' tags, or with --title, --artist, --genre, --album-title and "
-              "--album-artist.")},
-    {"same-file", ExitCode::kUsage, NoticeKind::kError, XBR_NEXT("Name it once.")},
-    {"same-name", ExitCode::kFileProblem, NoticeKind::kError, XBR_NEXT("Rename one of them.")},
-    {"unreadable", ExitCode::kFileProblem, NoticeKind::kError, XBR_NEXT("--skip-unreadable leaves it out.")},
-    {"gone", ExitCode::kNotAllDone, NoticeKind::kError,
-     XBR_NEXT("Put it back, then run the same command again.")},
+     "Add them in the files' tags, or with --title, --artist, --genre, --album-title and "
+     "--album-artist."},
+    {"same-file", ExitCode::kUsage, NoticeKind::kError, "Name it once."},
+    {"same-name", ExitCode::kFileProblem, NoticeKind::kError, "Rename one of them."},
+    {"unreadable", ExitCode::kFileProblem, NoticeKind::kError, "--skip-unreadable leaves it out."},
+    {"gone", ExitCode::kNotAllDone, NoticeKind::kError, "Put it back, then run the same command again."},
     {"changed", ExitCode::kNotAllDone, NoticeKind::kError, kSameAgain},
-    {"disk-full", ExitCode::kNotAllDone, NoticeKind::kError,
-     XBR_NEXT("Make room, or set TMPDIR to another folder.")},
-    {"no-folder", ExitCode::kNotAllDone, NoticeKind::kError, XBR_NEXT("Set TMPDIR to another folder.")},
+    {"disk-full", ExitCode::kNotAllDone, NoticeKind::kError, "Make room, or set TMPDIR to another folder."},
+    {"no-folder", ExitCode::kNotAllDone, NoticeKind::kError, "Set TMPDIR to another folder."},
     {"not-prepared", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
     {"nothing-waits", ExitCode::kNotAllDone, NoticeKind::kInfo, nullptr},
     {"stopped-before", ExitCode::kInterrupted, NoticeKind::kInfo, nullptr},
     {"stopped", ExitCode::kInterrupted, NoticeKind::kInfo, nullptr},
     {"stopped-unsure", ExitCode::kInterrupted, NoticeKind::kWarning,
-     XBR_NEXT("Look at your account page before you send it again.")},
+     "Look at your account page before you send it again."},
     {"lost-unsure", ExitCode::kNotAllDone, NoticeKind::kWarning,
-     XBR_NEXT("Look at your account page before you send it again.")},
+     "Look at your account page before you send it again."},
     {"refused", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
     {"too-large", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
     {"service-fault", ExitCode::kNotAllDone, NoticeKind::kError, kLater},
     {"too-many", ExitCode::kNotAllDone, NoticeKind::kError, kLater},
     {"lost", ExitCode::kNotAllDone, NoticeKind::kError, kSameAgain},
-    {"untrusted", ExitCode::kUnreachable, NoticeKind::kError,
-     XBR_NEXT("Check ServerURL and this computer's clock.")},
+    {"untrusted", ExitCode::kUnreachable, NoticeKind::kError, "Check ServerURL and this computer's clock."},
     {"unreachable", ExitCode::kUnreachable, NoticeKind::kError, kLater},
-    {"expired", ExitCode::kSignInExpired, NoticeKind::kWarning, XBR_NEXT("xbrhost sign-in renews it.")},
-    {"not-signed-in", ExitCode::kNotSignedIn, NoticeKind::kError, XBR_NEXT("xbrhost sign-in signs in.")},
+    {"expired", ExitCode::kSignInExpired, NoticeKind::kWarning, "xbrhost sign-in renews it."},
+    {"not-signed-in", ExitCode::kNotSignedIn, NoticeKind::kError, "xbrhost sign-in signs in."},
     {"not-set-up", ExitCode::kNotConfigured, NoticeKind::kError, nullptr},
-    {"no-module", ExitCode::kModuleProblem, NoticeKind::kError, XBR_NEXT("--module names one.")},
+    {"no-module", ExitCode::kModuleProblem, NoticeKind::kError, "--module names one."},
 };
-
-#undef XBR_NEXT
 
 const CauseRow& rowOf(Cause cause) {
     return kCauses[static_cast<std::size_t>(cause)];
@@ -82,12 +70,12 @@ Verdict verdictOf(Cause cause, std::string sentence) {
     verdict.code = row.code;
     verdict.kind = row.kind;
     verdict.sentence = std::move(sentence);
-    verdict.next = row.next ? say(Texts::tr(row.next)) : std::string();
+    verdict.next = row.next ? row.next : std::string();
     return verdict;
 }
 
 std::string nothingSent(const std::string& sentence) {
-    return sentence + " " + say(Texts::tr("Nothing was sent."));
+    return sentence + " " + say(QCoreApplication::translate("xbr::host::Words", "Nothing was sent."));
 }
 
 Cause causeOf(const Finding& finding) {
@@ -126,10 +114,17 @@ std::string wordsOfRefusal(const Sent& sent) {
     const std::string status = std::to_string(sent.track->status);
     const std::string words = quoted(sent.track->said);
     return words.empty()
-               ? sent.say(Texts::tr("The service refused “%1” (%2) and gave no reason."),
-                          Texts::tr("The service refused the album “%1” (%2) and gave no reason."), status)
-               : sent.say(Texts::tr("The service refused “%1” (%2): %3"),
-                          Texts::tr("The service refused the album “%1” (%2): %3"), status, words);
+               ? sent.say(
+                     QCoreApplication::translate("xbr::host::Words",
+                                                 "The service refused “%1” (%2) and gave no reason."),
+                     QCoreApplication::translate(
+                         "xbr::host::Words", "The service refused the album “%1” (%2) and gave no reason."),
+                     status)
+               : sent.say(
+                     QCoreApplication::translate("xbr::host::Words", "The service refused “%1” (%2): %3"),
+                     QCoreApplication::translate("xbr::host::Words",
+                                                 "The service refused the album “%1” (%2): %3"),
+                     status, words);
 }
 
 std::string wordsOfMissing(const Sent& sent) {
@@ -142,13 +137,19 @@ std::string wordsOfMissing(const Sent& sent) {
     std::sort(missing.begin(), missing.end());
     missing.erase(std::unique(missing.begin(), missing.end()), missing.end());
     if (!missing.empty()) {
-        return sent.say(Texts::tr("The service refused “%1” because details are missing: %2."),
-                        Texts::tr("The service refused the album “%1” because details are missing: %2."),
-                        wordsOf(missing));
+        return sent.say(
+            QCoreApplication::translate("xbr::host::Words",
+                                        "The service refused “%1” because details are missing: %2."),
+            QCoreApplication::translate(
+                "xbr::host::Words", "The service refused the album “%1” because details are missing: %2."),
+            wordsOf(missing));
     }
     return sent.say(
-        Texts::tr("The service refused “%1” because details are missing, but none is empty here: %2"),
-        Texts::tr(
+        QCoreApplication::translate(
+            "xbr::host::Words",
+            "The service refused “%1” because details are missing, but none is empty here: %2"),
+        QCoreApplication::translate(
+            "xbr::host::Words",
             "The service refused the album “%1” because details are missing, but none is empty here: %2"),
         quoted(sent.track->said));
 }
@@ -164,8 +165,10 @@ SongVerdict judgeAnswer(const Sent& sent) {
     const bool isIncomplete = track.state == TrackState::kMissingInformation ||
                               (track.state == TrackState::kNone && track.status < 500);
     if (track.status == 401) {
-        return songVerdict(track, Cause::kExpired,
-                           say(Texts::tr("The service does not accept the stored sign-in any more.")));
+        return songVerdict(
+            track, Cause::kExpired,
+            say(QCoreApplication::translate("xbr::host::Words",
+                                            "The service does not accept the stored sign-in any more.")));
     }
     if (isIncomplete) {
         return songVerdict(track, Cause::kRefusedMissing, wordsOfMissing(sent));
@@ -173,34 +176,49 @@ SongVerdict judgeAnswer(const Sent& sent) {
     if (track.status == 413) {
         return songVerdict(
             track, Cause::kTooLarge,
-            sent.say(Texts::tr("The service refused “%1” because it is too large (%2)."),
-                     Texts::tr("The service refused the album “%1” because it is too large (%2)."),
-                     wordsOfSize(track.total)));
+            sent.say(
+                QCoreApplication::translate("xbr::host::Words",
+                                            "The service refused “%1” because it is too large (%2)."),
+                QCoreApplication::translate(
+                    "xbr::host::Words", "The service refused the album “%1” because it is too large (%2)."),
+                wordsOfSize(track.total)));
     }
     if (track.status == 429) {
         return songVerdict(
             track, Cause::kTooMany,
-            sent.say(
-                Texts::tr("The service asks to wait a while before the next upload. “%1” was not taken."),
-                Texts::tr("The service asks to wait a while before the next upload. The album “%1” was not "
-                          "taken.")));
+            sent.say(QCoreApplication::translate(
+                         "xbr::host::Words",
+                         "The service asks to wait a while before the next upload. “%1” was not taken."),
+                     QCoreApplication::translate(
+                         "xbr::host::Words",
+                         "The service asks to wait a while before the next upload. The album “%1” was not "
+                         "taken.")));
     }
     if (track.status >= 500) {
         return songVerdict(
             track, Cause::kServiceFault,
-            sent.say(Texts::tr("The service has a fault (%2). “%1” was not taken; nothing is wrong with the "
-                               "song."),
-                     Texts::tr("The service has a fault (%2). The album “%1” was not taken; nothing is wrong "
-                               "with it."),
+            sent.say(QCoreApplication::translate(
+                         "xbr::host::Words",
+                         "The service has a fault (%2). “%1” was not taken; nothing is wrong with the "
+                         "song."),
+                     QCoreApplication::translate(
+                         "xbr::host::Words",
+                         "The service has a fault (%2). The album “%1” was not taken; nothing is wrong "
+                         "with it."),
                      status));
     }
     return songVerdict(track, Cause::kRefused, wordsOfRefusal(sent));
 }
 
 std::string wordsOfServer(const Problem& problem) {
+    const bool hasStop = problem.words.ends_with('.');
+    const std::string reason = problem.words.substr(0, problem.words.size() - (hasStop ? 1 : 0));
     return problem.fault == Fault::kUntrusted
-               ? say(Texts::tr("%1 could not prove its identity: %2."), problem.subject, problem.words)
-               : say(Texts::tr("The service at %1 cannot be reached: %2."), problem.subject, problem.words);
+               ? say(QCoreApplication::translate("xbr::host::Words", "%1 could not prove its identity: %2."),
+                     problem.subject, reason)
+               : say(QCoreApplication::translate("xbr::host::Words",
+                                                 "The service at %1 cannot be reached: %2."),
+                     problem.subject, reason);
 }
 
 bool isAboutServer(const Problem& problem) {
@@ -214,18 +232,25 @@ Cause causeOfServer(const Problem& problem) {
 /// All of it left, and nobody answered.
 SongVerdict judgeUnsure(const Sent& sent) {
     if (sent.facts->isCancelled) {
-        return songVerdict(*sent.track, Cause::kStoppedUnsure,
-                           sent.say(Texts::tr("Stopped after all of “%1” was sent, before the service "
-                                              "answered. It may be published."),
-                                    Texts::tr("Stopped after all of the album “%1” was sent, before the "
-                                              "service answered. It may be published.")));
+        return songVerdict(
+            *sent.track, Cause::kStoppedUnsure,
+            sent.say(QCoreApplication::translate("xbr::host::Words",
+                                                 "Stopped after all of “%1” was sent, before the service "
+                                                 "answered. It may be published."),
+                     QCoreApplication::translate("xbr::host::Words",
+                                                 "Stopped after all of the album “%1” was sent, before the "
+                                                 "service answered. It may be published.")));
     }
     return songVerdict(
         *sent.track, Cause::kLostUnsure,
-        sent.say(Texts::tr("The connection broke after all of “%1” was sent, before the service answered. It "
-                           "may be published."),
-                 Texts::tr("The connection broke after all of the album “%1” was sent, before the service "
-                           "answered. It may be published.")));
+        sent.say(QCoreApplication::translate(
+                     "xbr::host::Words",
+                     "The connection broke after all of “%1” was sent, before the service answered. It "
+                     "may be published."),
+                 QCoreApplication::translate(
+                     "xbr::host::Words",
+                     "The connection broke after all of the album “%1” was sent, before the service "
+                     "answered. It may be published.")));
 }
 
 SongVerdict judgeBroken(const Sent& sent) {
@@ -238,16 +263,22 @@ SongVerdict judgeBroken(const Sent& sent) {
     }
     const auto [part, whole] = wordsOfSizes(track.sent, track.total);
     if (sent.facts->isCancelled) {
-        return songVerdict(track, Cause::kStopped,
-                           sent.say(Texts::tr("“%1” was stopped at %2 of %3 and did not arrive."),
-                                    Texts::tr("The album “%1” was stopped at %2 of %3 and did not arrive."),
-                                    part, whole));
+        return songVerdict(
+            track, Cause::kStopped,
+            sent.say(QCoreApplication::translate("xbr::host::Words",
+                                                 "“%1” was stopped at %2 of %3 and did not arrive."),
+                     QCoreApplication::translate(
+                         "xbr::host::Words", "The album “%1” was stopped at %2 of %3 and did not arrive."),
+                     part, whole));
     }
     return songVerdict(
         track, Cause::kLost,
-        sent.say(Texts::tr("The connection broke after %2 of %3. “%1” did not arrive."),
-                 Texts::tr("The connection broke after %2 of %3. The album “%1” did not arrive."), part,
-                 whole));
+        sent.say(
+            QCoreApplication::translate("xbr::host::Words",
+                                        "The connection broke after %2 of %3. “%1” did not arrive."),
+            QCoreApplication::translate(
+                "xbr::host::Words", "The connection broke after %2 of %3. The album “%1” did not arrive."),
+            part, whole));
 }
 
 SongVerdict judgeFile(const Sent& sent, const Problem& problem) {
@@ -255,33 +286,48 @@ SongVerdict judgeFile(const Sent& sent, const Problem& problem) {
     const std::string file = fileNameOf(problem.subject);
     switch (problem.fault) {
     case Fault::kMissing:
-        return songVerdict(track, Cause::kGone,
-                           sent.say(Texts::tr("“%2” is no longer there. “%1” was not sent."),
-                                    Texts::tr("“%2” is no longer there. The album “%1” is not complete."),
-                                    file));
+        return songVerdict(
+            track, Cause::kGone,
+            sent.say(QCoreApplication::translate("xbr::host::Words",
+                                                 "“%2” is no longer there. “%1” was not sent."),
+                     QCoreApplication::translate("xbr::host::Words",
+                                                 "“%2” is no longer there. The album “%1” is not complete."),
+                     file));
     case Fault::kChanged:
         return songVerdict(
             track, Cause::kChanged,
-            sent.say(Texts::tr("“%2” changed while it was copied. “%1” was not sent."),
-                     Texts::tr("“%2” changed while it was copied. The album “%1” is not complete."), file));
+            sent.say(
+                QCoreApplication::translate("xbr::host::Words",
+                                            "“%2” changed while it was copied. “%1” was not sent."),
+                QCoreApplication::translate(
+                    "xbr::host::Words", "“%2” changed while it was copied. The album “%1” is not complete."),
+                file));
     case Fault::kDiskFull:
         return songVerdict(
             track, Cause::kDiskFull,
-            sent.say(Texts::tr("There is not enough room in “%2”: %3 are needed, %4 are free. “%1” was "
-                               "not sent."),
-                     Texts::tr("There is not enough room in “%2”: %3 are needed, %4 are free. The album “%1” "
-                               "was not sent."),
+            sent.say(QCoreApplication::translate(
+                         "xbr::host::Words",
+                         "There is not enough room in “%2”: %3 are needed, %4 are free. “%1” was "
+                         "not sent."),
+                     QCoreApplication::translate(
+                         "xbr::host::Words",
+                         "There is not enough room in “%2”: %3 are needed, %4 are free. The album “%1” "
+                         "was not sent."),
                      sent.facts->folder, wordsOfSize(sent.facts->neededSpace),
                      wordsOfSize(sent.facts->freeSpace)));
     case Fault::kNoTemporaryFolder:
-        return songVerdict(
-            track, Cause::kNoFolder,
-            say(Texts::tr("The folder for copies, “%1”, cannot be written."), sent.facts->folder));
+        return songVerdict(track, Cause::kNoFolder,
+                           say(QCoreApplication::translate("xbr::host::Words",
+                                                           "The folder for copies, “%1”, cannot be written."),
+                               sent.facts->folder));
     default:
-        return songVerdict(track, Cause::kNotPrepared,
-                           sent.say(Texts::tr("“%1” could not be prepared: %2. It was not sent."),
-                                    Texts::tr("The album “%1” could not be prepared: %2. It was not sent."),
-                                    problem.words));
+        return songVerdict(
+            track, Cause::kNotPrepared,
+            sent.say(QCoreApplication::translate("xbr::host::Words",
+                                                 "“%1” could not be prepared: %2. It was not sent."),
+                     QCoreApplication::translate(
+                         "xbr::host::Words", "The album “%1” could not be prepared: %2. It was not sent."),
+                     problem.words));
     }
 }
 
@@ -310,11 +356,15 @@ SongVerdict judgeTrack(const Sent& sent) {
     if (sent.facts->isCancelled) {
         return songVerdict(
             track, Cause::kStoppedBefore,
-            sent.say(Texts::tr("“%1” was not sent."), Texts::tr("The album “%1” was not sent.")));
+            sent.say(QCoreApplication::translate("xbr::host::Words", "“%1” was not sent."),
+                     QCoreApplication::translate("xbr::host::Words", "The album “%1” was not sent.")));
     }
-    return songVerdict(track, Cause::kNotPrepared,
-                       sent.say(Texts::tr("“%1” could not be prepared. It was not sent."),
-                                Texts::tr("The album “%1” could not be prepared. It was not sent.")));
+    return songVerdict(
+        track, Cause::kNotPrepared,
+        sent.say(
+            QCoreApplication::translate("xbr::host::Words", "“%1” could not be prepared. It was not sent."),
+            QCoreApplication::translate("xbr::host::Words",
+                                        "The album “%1” could not be prepared. It was not sent.")));
 }
 
 // What became of all of them.
@@ -323,11 +373,18 @@ std::string wordsOfSuccess(const UploadFacts& facts) {
     const std::string count = std::to_string(facts.tracks.size());
     if (facts.isAlbum) {
         return facts.tracks.size() == 1
-                   ? say(Texts::tr("Published the album “%1” with one song."), facts.albumTitle)
-                   : say(Texts::tr("Published the album “%1” with %2 songs."), facts.albumTitle, count);
+                   ? say(QCoreApplication::translate("xbr::host::Words",
+                                                     "Published the album “%1” with one song."),
+                         facts.albumTitle)
+                   : say(QCoreApplication::translate("xbr::host::Words",
+                                                     "Published the album “%1” with %2 songs."),
+                         facts.albumTitle, count);
     }
-    return facts.tracks.size() == 1 ? say(Texts::tr("Published “%1”."), facts.tracks.front().label)
-                                    : say(Texts::tr("Published %1 songs as singles."), count);
+    return facts.tracks.size() == 1
+               ? say(QCoreApplication::translate("xbr::host::Words", "Published “%1”."),
+                     facts.tracks.front().label)
+               : say(QCoreApplication::translate("xbr::host::Words", "Published %1 songs as singles."),
+                     count);
 }
 
 bool isDone(const SongVerdict& song) {
@@ -343,14 +400,15 @@ bool saysNothingSent(Cause cause) {
 Verdict judgeStop(std::vector<SongVerdict> songs, const SongVerdict& first) {
     const auto done = std::count_if(songs.begin(), songs.end(), &isDone);
     const bool isBefore = done == 0 && first.cause == Cause::kStoppedBefore;
-    std::string sentence = say(Texts::tr("Stopped."));
+    std::string sentence = say(QCoreApplication::translate("xbr::host::Words", "Stopped."));
     if (isBefore) {
         sentence = nothingSent(sentence);
     } else if (first.cause == Cause::kStoppedUnsure) {
         sentence = first.sentence;
     } else {
-        sentence += " " + say(Texts::tr("%1 of %2 songs are published."), std::to_string(done),
-                              std::to_string(songs.size()));
+        sentence +=
+            " " + say(QCoreApplication::translate("xbr::host::Words", "%1 of %2 songs are published."),
+                      std::to_string(done), std::to_string(songs.size()));
         sentence += " " + first.sentence;
     }
     Verdict verdict =
@@ -374,30 +432,40 @@ Verdict judgeFailure(std::vector<SongVerdict> songs) {
 
 Verdict judgeSignIn(const SignInFacts& facts) {
     if (facts.isCancelled) {
-        return verdictOf(Cause::kStoppedBefore, nothingSent(say(Texts::tr("Stopped."))));
+        return verdictOf(Cause::kStoppedBefore,
+                         nothingSent(say(QCoreApplication::translate("xbr::host::Words", "Stopped."))));
     }
     if (facts.isAuthorized && facts.problem.fault == Fault::kSignInRefused) {
-        return verdictOf(Cause::kExpired,
-                         say(Texts::tr("The service does not accept the stored sign-in any more.")));
+        return verdictOf(Cause::kExpired, say(QCoreApplication::translate(
+                                              "xbr::host::Words",
+                                              "The service does not accept the stored sign-in any more.")));
     }
     if (facts.settings.wasAsked && !facts.settings.isComplete()) {
         return verdictOf(Cause::kNotSetUp, wordsOf(facts.settings));
     }
     if (facts.isAuthorized) {
-        return verdictOf(Cause::kSignedIn, facts.account.empty()
-                                               ? say(Texts::tr("Signed in."))
-                                               : say(Texts::tr("Signed in as %1."), facts.account));
+        return verdictOf(
+            Cause::kSignedIn,
+            facts.account.empty()
+                ? say(QCoreApplication::translate("xbr::host::Words", "Signed in."))
+                : say(QCoreApplication::translate("xbr::host::Words", "Signed in as %1."), facts.account));
     }
     if (isAboutServer(facts.problem)) {
         return verdictOf(causeOfServer(facts.problem), wordsOfServer(facts.problem));
     }
     if (!facts.problem) {
-        return verdictOf(Cause::kNotSignedIn, say(Texts::tr("Not signed in: the sign-in was given up.")));
+        return verdictOf(
+            Cause::kNotSignedIn,
+            say(QCoreApplication::translate("xbr::host::Words", "Not signed in: the sign-in was given up.")));
     }
     const std::string words = quoted(facts.problem.words);
     return verdictOf(Cause::kNotSignedIn,
-                     words.empty() ? say(Texts::tr("Not signed in: the service did not accept it."))
-                                   : say(Texts::tr("Not signed in: the service refused it: %1."), words));
+                     words.empty()
+                         ? say(QCoreApplication::translate("xbr::host::Words",
+                                                           "Not signed in: the service did not accept it."))
+                         : say(QCoreApplication::translate("xbr::host::Words",
+                                                           "Not signed in: the service refused it: %1."),
+                               words));
 }
 
 } // namespace
@@ -428,9 +496,10 @@ Verdict judge(const UploadFacts& facts) {
         return verdictOf(causeOf(facts.findings.front()), nothingSent(wordsOf(facts.findings.front())));
     }
     if (facts.isNothingWaiting) {
-        return verdictOf(
-            Cause::kNothingWaits,
-            say(Texts::tr("Nothing waits to be sent. Choose “Reset” in the menu of a song first.")));
+        return verdictOf(Cause::kNothingWaits,
+                         say(QCoreApplication::translate(
+                             "xbr::host::Words",
+                             "Nothing waits to be sent. Choose “Reset” in the menu of a song first.")));
     }
     std::vector<SongVerdict> songs;
     for (const TrackFact& track : facts.tracks) {
@@ -449,9 +518,9 @@ Verdict judge(const UploadFacts& facts) {
     if (done == 0) {
         return judgeFailure(std::move(songs));
     }
-    Verdict verdict =
-        verdictOf(Cause::kPartly, say(Texts::tr("Published %1 of %2 songs. %3"), std::to_string(done),
-                                      std::to_string(songs.size()), first.sentence));
+    Verdict verdict = verdictOf(
+        Cause::kPartly, say(QCoreApplication::translate("xbr::host::Words", "Published %1 of %2 songs. %3"),
+                            std::to_string(done), std::to_string(songs.size()), first.sentence));
     verdict.songs = std::move(songs);
     return verdict;
 }
@@ -465,11 +534,13 @@ Verdict judge(const SignInFacts& facts) {
 }
 
 Verdict judgeModule(const Problem& problem) {
-    return verdictOf(Cause::kNoModule,
-                     problem.subject.empty()
-                         ? say(Texts::tr("No module was found. Songs cannot be published."))
-                         : say(Texts::tr("“%1” cannot be used: %2. Songs cannot be published."),
-                               problem.subject, problem.words));
+    return verdictOf(
+        Cause::kNoModule,
+        problem.subject.empty()
+            ? say(QCoreApplication::translate("xbr::host::Words",
+                                              "No module was found. Songs cannot be published."))
+            : say(QCoreApplication::translate("xbr::host::Words", "“%1” %2. Songs cannot be published."),
+                  problem.subject, problem.words));
 }
 
 } // namespace xbr::host

@@ -11,24 +11,20 @@ namespace xbr::host {
 
 namespace {
 
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(xbr::host::Words)
-};
-
 QString nameOf(Detail detail) {
     switch (detail) {
     case Detail::kAlbumTitle:
-        return Texts::tr("album title");
+        return QCoreApplication::translate("xbr::host::Words", "album title");
     case Detail::kAlbumArtist:
-        return Texts::tr("album artist");
+        return QCoreApplication::translate("xbr::host::Words", "album artist");
     case Detail::kGenre:
-        return Texts::tr("genre");
+        return QCoreApplication::translate("xbr::host::Words", "genre");
     case Detail::kSongTitle:
-        return Texts::tr("song title");
+        return QCoreApplication::translate("xbr::host::Words", "song title");
     case Detail::kSongArtist:
         break;
     }
-    return Texts::tr("song artist");
+    return QCoreApplication::translate("xbr::host::Words", "song artist");
 }
 
 std::string joined(const std::vector<std::string>& texts) {
@@ -42,23 +38,31 @@ std::string joined(const std::vector<std::string>& texts) {
 std::string wordsOfMissing(const Finding& finding) {
     const std::string details = wordsOf(finding.missing);
     if (!finding.isAlbum) {
-        return say(Texts::tr("“%1” lacks: %2."), finding.song, details);
+        return say(QCoreApplication::translate("xbr::host::Words", "“%1” lacks: %2."), finding.song, details);
     }
-    return finding.song.empty() ? say(Texts::tr("The album lacks: %1."), details)
-                                : say(Texts::tr("The album “%1” lacks: %2."), finding.song, details);
+    return finding.song.empty()
+               ? say(QCoreApplication::translate("xbr::host::Words", "The album lacks: %1."), details)
+               : say(QCoreApplication::translate("xbr::host::Words", "The album “%1” lacks: %2."),
+                     finding.song, details);
 }
 
 std::string wordsOfGenre(const Finding& finding) {
     if (finding.isWish) {
         return finding.near.empty()
-                   ? say(Texts::tr("The service does not know the genre “%1”."), finding.text)
-                   : say(Texts::tr("The service does not know the genre “%1”. Nearest: %2."), finding.text,
-                         joined(finding.near));
+                   ? say(QCoreApplication::translate("xbr::host::Words",
+                                                     "The service does not know the genre “%1”."),
+                         finding.text)
+                   : say(QCoreApplication::translate(
+                             "xbr::host::Words", "The service does not know the genre “%1”. Nearest: %2."),
+                         finding.text, joined(finding.near));
     }
     return finding.near.empty()
-               ? say(Texts::tr("“%1” has the genre “%2”, which the service does not know."), finding.song,
-                     finding.text)
-               : say(Texts::tr("“%1” has the genre “%2”, which the service does not know. Nearest: %3."),
+               ? say(QCoreApplication::translate("xbr::host::Words",
+                                                 "“%1” has the genre “%2”, which the service does not know."),
+                     finding.song, finding.text)
+               : say(QCoreApplication::translate(
+                         "xbr::host::Words",
+                         "“%1” has the genre “%2”, which the service does not know. Nearest: %3."),
                      finding.song, finding.text, joined(finding.near));
 }
 
@@ -99,46 +103,76 @@ std::string wordsOfFile(const Problem& problem) {
     const std::string name = fileNameOf(problem.subject);
     switch (problem.fault) {
     case Fault::kMissing:
-        return say(Texts::tr("“%1” cannot be published: it is not there."), name);
+        return say(
+            QCoreApplication::translate("xbr::host::Words", "“%1” cannot be published: it is not there."),
+            name);
     case Fault::kUnreadable:
         return problem.words.empty()
-                   ? say(Texts::tr("“%1” cannot be published: it cannot be read."), name)
-                   : say(Texts::tr("“%1” cannot be published: it cannot be read (%2)."), name, problem.words);
+                   ? say(QCoreApplication::translate("xbr::host::Words",
+                                                     "“%1” cannot be published: it cannot be read."),
+                         name)
+                   : say(QCoreApplication::translate("xbr::host::Words",
+                                                     "“%1” cannot be published: it cannot be read (%2)."),
+                         name, problem.words);
     case Fault::kNotFile:
-        return say(Texts::tr("“%1” cannot be published: it is not a file."), name);
+        return say(
+            QCoreApplication::translate("xbr::host::Words", "“%1” cannot be published: it is not a file."),
+            name);
     case Fault::kWrongKind:
-        return say(Texts::tr("“%1” cannot be published: it is %2, not %3 as its name says."), name,
-                   problem.found, problem.expected);
+        return say(QCoreApplication::translate(
+                       "xbr::host::Words", "“%1” cannot be published: it is %2, not %3 as its name says."),
+                   name, problem.found, problem.expected);
     case Fault::kCutShort:
-        return problem.found.empty() ? say(Texts::tr("“%1” cannot be published: it is cut off."), name)
-                                     : say(Texts::tr("“%1” cannot be published: it is cut off: %2 of %3."),
-                                           name, problem.found, problem.expected);
+        return problem.found.empty()
+                   ? say(QCoreApplication::translate("xbr::host::Words",
+                                                     "“%1” cannot be published: it is cut off."),
+                         name)
+                   : say(QCoreApplication::translate("xbr::host::Words",
+                                                     "“%1” cannot be published: it is cut off: %2 of %3."),
+                         name, problem.found, problem.expected);
     case Fault::kWrongRate:
-        return say(Texts::tr("“%1” cannot be published: its sample rate of %2 cannot be right."), name,
-                   problem.found);
+        return say(
+            QCoreApplication::translate("xbr::host::Words",
+                                        "“%1” cannot be published: its sample rate of %2 cannot be right."),
+            name, problem.found);
     case Fault::kNotNumbers:
-        return say(Texts::tr("“%1” cannot be published: it holds samples that are not numbers."), name);
+        return say(
+            QCoreApplication::translate("xbr::host::Words",
+                                        "“%1” cannot be published: it holds samples that are not numbers."),
+            name);
     case Fault::kNameNotUtf8:
-        return say(Texts::tr("“%1” cannot be published: its name is not UTF-8."), name);
+        return say(QCoreApplication::translate("xbr::host::Words",
+                                               "“%1” cannot be published: its name is not UTF-8."),
+                   name);
     case Fault::kNameControl:
-        return say(Texts::tr("“%1” cannot be published: its name holds control characters."), name);
+        return say(QCoreApplication::translate(
+                       "xbr::host::Words", "“%1” cannot be published: its name holds control characters."),
+                   name);
     case Fault::kModule:
-        return say(Texts::tr("“%1” cannot be published: it would have to become %2, which is not possible."),
+        return say(QCoreApplication::translate(
+                       "xbr::host::Words",
+                       "“%1” cannot be published: it would have to become %2, which is not possible."),
                    name, problem.expected);
     default:
-        return say(Texts::tr("“%1” cannot be published: it holds no audio that can be read."), name);
+        return say(QCoreApplication::translate(
+                       "xbr::host::Words", "“%1” cannot be published: it holds no audio that can be read."),
+                   name);
     }
 }
 
 std::string wordsOf(const ConfigurationReport& report) {
     if (report.result == ConfigurationResult::kUnreadable) {
-        return say(Texts::tr("The settings of %1 cannot be read from “%2”."), report.title, report.path);
+        return say(
+            QCoreApplication::translate("xbr::host::Words", "The settings of %1 cannot be read from “%2”."),
+            report.title, report.path);
     }
     return report.missingKeys.empty()
-               ? say(Texts::tr("%1 is not set up: %2 is wrong in “%3”, section [%4]."), report.title,
-                     joined(report.wrongKeys), report.path, report.id)
-               : say(Texts::tr("%1 is not set up: %2 is missing in “%3”, section [%4]."), report.title,
-                     joined(report.missingKeys), report.path, report.id);
+               ? say(QCoreApplication::translate("xbr::host::Words",
+                                                 "%1 is not set up: %2 is wrong in “%3”, section [%4]."),
+                     report.title, joined(report.wrongKeys), report.path, report.id)
+               : say(QCoreApplication::translate("xbr::host::Words",
+                                                 "%1 is not set up: %2 is missing in “%3”, section [%4]."),
+                     report.title, joined(report.missingKeys), report.path, report.id);
 }
 
 std::string wordsOf(const Finding& finding) {
@@ -146,19 +180,21 @@ std::string wordsOf(const Finding& finding) {
     case Finding::Kind::kUnknownGenre:
         return wordsOfGenre(finding);
     case Finding::Kind::kSameFile:
-        return say(Texts::tr("“%1” is there twice."), finding.song);
+        return say(QCoreApplication::translate("xbr::host::Words", "“%1” is there twice."), finding.song);
     case Finding::Kind::kUnreadable:
         return wordsOfFile(finding.problem);
     case Finding::Kind::kSameName:
-        return say(Texts::tr("“%1” and “%2” have the same file name; in an album each song needs its own."),
+        return say(QCoreApplication::translate(
+                       "xbr::host::Words",
+                       "“%1” and “%2” have the same file name; in an album each song needs its own."),
                    finding.text, finding.path);
     case Finding::Kind::kMissingDetails:
         return wordsOfMissing(finding);
     case Finding::Kind::kTwoNumbers:
         break;
     }
-    return say(Texts::tr("“%1” and “%2” both have the number %3."), finding.text, finding.song,
-               std::to_string(finding.number));
+    return say(QCoreApplication::translate("xbr::host::Words", "“%1” and “%2” both have the number %3."),
+               finding.text, finding.song, std::to_string(finding.number));
 }
 
 std::string wordsOfSize(std::int64_t bytes) {

@@ -90,23 +90,27 @@ void Activity::askForQuiet() {
 }
 
 void Activity::look() {
-    if (isQuiet()) {
+    if (m_runs.empty() && !hasPostedMessages()) {
         tell([](Watcher& watcher) { watcher.becameQuiet(); });
+    }
+}
+
+void Activity::end(std::optional<Kind> kind) {
+    // A copy: runs may come to their end while they are asked to.
+    std::vector<std::function<void()>> ends;
+    for (auto run = m_runs.rbegin(); run != m_runs.rend(); ++run) {
+        if (run->first == kind.value_or(run->first) && run->second) {
+            ends.push_back(run->second);
+        }
+    }
+    for (const auto& end : ends) {
+        end();
     }
 }
 
 void Activity::endAll() {
     m_isEnding = true;
-    // A copy: runs may come to their end while they are asked to.
-    std::vector<std::function<void()>> ends;
-    for (auto run = m_runs.rbegin(); run != m_runs.rend(); ++run) {
-        ends.push_back(run->second);
-    }
-    for (const auto& end : ends) {
-        if (end) {
-            end();
-        }
-    }
+    end({});
 }
 
 } // namespace xbr::host

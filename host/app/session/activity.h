@@ -9,6 +9,7 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace xbr::host {
@@ -82,6 +83,9 @@ public:
 
     /// Has `becameQuiet` told in a later turn of the event loop, or when it comes to that.
     void askForQuiet();
+
+    /// Asks the runs of a kind, or of all, to end, the newest first.
+    void end(std::optional<Kind> kind);
 
     /// Asks all runs to end, the newest first. Later ones are not to begin: see `isEnding`.
     void endAll();

@@ -114,7 +114,16 @@ bool bindButton(QAbstractButton& button, std::unique_ptr<ValueSource> source) {
     return true;
 }
 
+CommandListener& commandListener() {
+    static CommandListener listener;
+    return listener;
+}
+
 } // namespace
+
+void hearCommands(CommandListener listener) {
+    commandListener() = std::move(listener);
+}
 
 ParameterBinding::ParameterBinding(QWidget& control, std::unique_ptr<ValueSource> source)
     : QObject(&control),
@@ -133,6 +142,9 @@ void ParameterBinding::set(const Value& value) {
     kept->setValue(value);
     if (self) {
         refresh();
+    }
+    if (const auto hears = commandListener(); hears && kept->kind() == ParameterKind::kCommand) {
+        hears(*kept);
     }
 }
 

@@ -4,11 +4,16 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class QWidget;
 
 namespace xbr::host {
+
+/// Hears of each command that the user performed, once it has come back (empty: nobody does).
+using CommandListener = std::function<void(IParameter& command)>;
+void hearCommands(CommandListener listener);
 
 /// A control for a parameter. What the user sets and what the parameter reports are two ways: `show` is quiet
 /// when the control shows the value already, and never sets the parameter.

@@ -1,5 +1,6 @@
 #include "host/app/window/frame/header.h"
 
+#include "host/app/publishing/words.h"
 #include "host/app/window/look/tints.h"
 #include "host/app/window/songs/songlistmodel.h"
 
@@ -81,7 +82,7 @@ void Header::setPublishEntries(const QList<QAction*>& entries) {
 void Header::showSummary() {
     const int count = m_songs->rowCount();
     QString text = count == 0 ? tr("None yet") : tr("%n song(s)", nullptr, count);
-    const QString length = lengthText(m_songs->totalMilliseconds());
+    const QString length = QString::fromStdString(wordsOfLength(m_songs->totalMilliseconds()));
     m_summary->setText(length.isEmpty() ? text : text + QString::fromUtf8(" · ") + length);
 }
 

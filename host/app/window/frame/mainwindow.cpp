@@ -1,5 +1,7 @@
 #include "host/app/window/frame/mainwindow.h"
 
+#include "framework/support/parts/path.h"
+#include "host/app/publishing/words.h"
 #include "host/app/window/dialogs/fileselector.h"
 #include "host/app/window/dialogs/viewdialog.h"
 #include "host/app/window/frame/header.h"
@@ -8,6 +10,7 @@
 #include "host/app/window/look/tints.h"
 #include "host/app/window/songs/songfiles.h"
 #include "host/app/window/songs/songview.h"
+#include "host/gui/hostwidgets.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -15,6 +18,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -34,7 +38,6 @@ MainWindow::MainWindow(DialogPlace& place)
     : m_place(&place),
       m_appearance(this),
       m_reader(this),
-      m_publishing(place.session.activity()),
       m_view(new SongView(m_songs, this)),
       m_empty(new EmptyState(this)),
       m_area(new QStackedWidget(this)),
@@ -52,9 +55,11 @@ MainWindow::MainWindow(DialogPlace& place)
     connect(&m_appearance, &AppearanceSetting::applied, this, &MainWindow::applyAppearance);
     applyAppearance();
     updateActions();
+    setCommandListener([this](IParameter& command) { commandPerformed(command); });
 }
 
 MainWindow::~MainWindow() {
+    setCommandListener({});
     closePanels();
 }
 
@@ -183,8 +188,8 @@ void MainWindow::connectDock(GadgetDock& dock, int number) {
             dock.bringToFront();
         }
     });
-    if (dock.watch()) {
-        connect(dock.watch(), &ServiceWatch::noticed, this, &MainWindow::showNotice);
+    if (dock.notices()) {
+        connect(dock.notices(), &PanelNotices::noticed, this, &MainWindow::showNotice);
     }
     const QStringList genres = dock.genres();
     if (!genres.isEmpty()) {
@@ -222,13 +227,97 @@ void MainWindow::publish(const PublishEntry& entry) {
     } else if (isUploading()) {
         showNotice({NoticeKind::kWarning, tr("Wait until the upload that runs has ended.")});
     } else {
-        showNotice(m_publishing.publish(entry, songs));
+        const auto dock = std::find_if(m_docks.begin(), m_docks.end(),
+                                       [](const GadgetDock* each) { return each->notices(); });
+        if (dock == m_docks.end()) {
+            showNotice({NoticeKind::kError, QString::fromStdString(judgeModule({}).sentence)});
+        } else {
+            handOver((*dock)->notices()->publishing(), entry, songs);
+        }
+    }
+}
+
+void MainWindow::handOver(Publishing& publishing, const PublishEntry& entry, const std::vector<Song>& songs) {
+    ReleaseWish wish;
+    wish.mode = ReleaseMode::kPanel;
+    wish.songs.resize(songs.size());
+    std::vector<SongFile> files;
+    for (const Song& song : songs) {
+        files.push_back(fileOf(song));
+    }
+    Plan plan = publishing.plan(entry, wish, files);
+    if (askWhetherToLeaveOut(plan)) {
+        wish.skipsUnreadable = true;
+        plan = publishing.plan(entry, wish, files);
+    }
+    const QPointer<MainWindow> self(this);
+    const auto failed = publishing.handOver(entry, plan);
+    if (!self) {
+        return;
+    }
+    const Verdict verdict = failed ? *failed : judge(plan);
+    if (!verdict.isGood()) {
+        showNotice({failed ? verdict.kind : NoticeKind::kWarning, QString::fromStdString(verdict.sentence)});
+        return;
+    }
+    const auto count = plan.songs().size();
+    QString text =
+        count == 1
+            ? QCoreApplication::translate("xbr::host::Words",
+                                          "One song handed over to the panel; nothing is sent yet. Check the "
+                                          "details there, then upload.")
+            : QCoreApplication::translate("xbr::host::Words",
+                                          "%1 songs handed over to the panel; nothing is sent yet. Check the "
+                                          "details there, then upload.")
+                  .arg(count);
+    for (const std::string& warning : verdict.warnings) {
+        text += " " + QString::fromStdString(warning);
+    }
+    showNotice({verdict.warnings.empty() ? NoticeKind::kInfo : NoticeKind::kWarning, text});
+}
+
+/// Asked when some of the songs cannot be published, and others can.
+bool MainWindow::askWhetherToLeaveOut(const Plan& plan) {
+    QStringList sentences;
+    for (const Finding& finding : plan.findings) {
+        if (finding.kind == Finding::Kind::kUnreadable) {
+            sentences.append(QString::fromStdString(wordsOf(finding)));
+        }
+    }
+    if (sentences.isEmpty() || plan.releases.empty()) {
+        return false;
+    }
+    QMessageBox question(QMessageBox::Warning,
+                         QCoreApplication::translate("xbr::host::Words", "Leave out songs?"),
+                         sentences.join('\n'), QMessageBox::NoButton, this);
+    question.setInformativeText(
+        QCoreApplication::translate("xbr::host::Words", "The other songs can be handed over without them."));
+    question.setTextFormat(Qt::PlainText);
+    auto* leaveOut = question.addButton(QCoreApplication::translate("xbr::host::Words", "Leave out"),
+                                        QMessageBox::AcceptRole);
+    auto* keep = question.addButton(QCoreApplication::translate("xbr::host::Words", "Cancel"),
+                                    QMessageBox::RejectRole);
+    question.setDefaultButton(keep);
+    question.setEscapeButton(keep);
+    const Activity::Run run(m_place->session.activity(), Activity::Kind::kDialog,
+                            [&question] { question.reject(); });
+    question.exec();
+    return question.clickedButton() == leaveOut;
+}
+
+/// An upload that finds nothing to send is a word worth.
+void MainWindow::commandPerformed(IParameter& command) {
+    for (const GadgetDock* dock : m_docks) {
+        if (dock->notices() && findParameter(dock->panel()->controller(), "upload") == &command) {
+            dock->notices()->publishing().uploadAsked();
+        }
     }
 }
 
 bool MainWindow::isUploading() const {
-    return std::any_of(m_docks.begin(), m_docks.end(),
-                       [](const GadgetDock* dock) { return dock->watch() && dock->watch()->isUploading(); });
+    return std::any_of(m_docks.begin(), m_docks.end(), [](const GadgetDock* dock) {
+        return dock->notices() && dock->notices()->publishing().isBusy();
+    });
 }
 
 void MainWindow::focusNextArea() {

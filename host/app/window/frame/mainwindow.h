@@ -3,7 +3,6 @@
 #include "host/app/window/dialogs/dialogplace.h"
 #include "host/app/window/frame/aboutdialog.h"
 #include "host/app/window/frame/layoutsettings.h"
-#include "host/app/window/frame/publishing.h"
 #include "host/app/window/frame/windowactions.h"
 #include "host/app/window/look/appearance.h"
 #include "host/app/window/panels/gadgetdock.h"
@@ -71,13 +70,15 @@ private:
     void resetLayout();
     bool isUploading() const;
     bool askWhetherToStop();
+    bool askWhetherToLeaveOut(const Plan& plan);
+    void handOver(Publishing& publishing, const PublishEntry& entry, const std::vector<Song>& songs);
+    void commandPerformed(IParameter& command);
 
     DialogPlace* m_place;
     LayoutSettings m_layout;
     AppearanceSetting m_appearance;
     SongListModel m_songs;
     SongReader m_reader;
-    Publishing m_publishing;
     SongView* m_view;
     EmptyState* m_empty;
     QStackedWidget* m_area;

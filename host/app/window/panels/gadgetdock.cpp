@@ -5,7 +5,6 @@
 #include "framework/support/parts/path.h"
 #include "host/app/window/look/desktop.h"
 #include "host/app/window/panels/docktitle.h"
-#include "host/app/window/panels/wording.h"
 #include "host/gui/hostwidgets.h"
 
 #include <QLabel>
@@ -40,18 +39,18 @@ GadgetDock::GadgetDock(const GadgetClass& gadget, HostSession& session,
     setTitleBarWidget(new DockTitle(*this));
     const auto panel = session.openPanel(gadget, [this] { bringToFront(); });
     if (!panel) {
-        showProblem(sentence(panel.problem().words));
+        showProblem(QString::fromStdString(judgeModule(panel.problem()).sentence));
         return;
     }
     m_panel = *panel;
-    m_watch = new ServiceWatch(*m_panel, session, std::move(tellInDialog), this);
+    m_notices = new PanelNotices(*m_panel, session, std::move(tellInDialog), this);
     showForm(gadget);
 }
 
 GadgetDock::~GadgetDock() {
-    // The form first: it is bound to what the panel holds. The watch listens to it, too.
+    // The form first: it is bound to what the panel holds. The notices listen to it, too.
     delete m_form;
-    delete m_watch;
+    delete m_notices;
 }
 
 void GadgetDock::showForm(const GadgetClass& gadget) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/app/modules/gadgetpanel.h"
-#include "host/app/window/panels/servicewatch.h"
+#include "host/app/window/panels/panelnotices.h"
 
 #include <QDockWidget>
 
@@ -21,7 +21,7 @@ public:
 
     /// Null when the panel could not be opened.
     GadgetPanel* panel() const { return m_panel; }
-    ServiceWatch* watch() const { return m_watch; }
+    PanelNotices* notices() const { return m_notices; }
 
     /// To the user's sight, with the keyboard.
     void bringToFront();
@@ -34,7 +34,7 @@ private:
     void showProblem(const QString& text);
 
     GadgetPanel* m_panel = nullptr; ///< the session's
-    ServiceWatch* m_watch = nullptr;
+    PanelNotices* m_notices = nullptr;
     QWidget* m_form = nullptr;
 };
 

@@ -1,7 +1,6 @@
 #include "host/app/window/songs/song.h"
 
-#include "host/app/audio/mediatags.h"
-#include "host/app/modules/publishentry.h"
+#include "host/app/publishing/words.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -12,13 +11,7 @@ namespace xbr::host {
 
 namespace {
 
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(xbr::host::Song)
-};
-
 constexpr int kHertz = 1000;
-constexpr std::int64_t kMilliseconds = 1000;
-constexpr std::int64_t kSecondsOfMinute = 60;
 
 struct Field {
     const char* attribute;
@@ -39,7 +32,6 @@ void takeTags(const MediaTags& tags, Song& song) {
             }
         }
     }
-    song.number = static_cast<int>(tags.trackIndex);
 }
 
 } // namespace
@@ -48,67 +40,49 @@ QString fileNameOf(const Song& song) {
     return QFile::decodeName(song.path.substr(song.path.rfind('/') + 1).c_str());
 }
 
-QString lengthText(std::int64_t milliseconds) {
-    if (milliseconds <= 0) {
-        return {};
-    }
-    const std::int64_t seconds = (milliseconds + kMilliseconds / 2) / kMilliseconds;
-    const std::int64_t minutes = seconds / kSecondsOfMinute;
-    const auto twoDigits = [](std::int64_t number) { return QString("%1").arg(number, 2, 10, QChar('0')); };
-    const QString end = ":" + twoDigits(seconds % kSecondsOfMinute);
-    return minutes < kSecondsOfMinute ? QString::number(minutes) + end
-                                      : QString("%1:%2%3")
-                                            .arg(minutes / kSecondsOfMinute)
-                                            .arg(twoDigits(minutes % kSecondsOfMinute), end);
-}
-
 QString formatText(const AudioFormat& format) {
     QStringList parts(QString::fromStdString(format.name));
     if (format.bits > 0) {
-        parts.append(Texts::tr("%1 bit").arg(format.bits));
+        parts.append(QCoreApplication::translate("xbr::host::Song", "%1 bit").arg(format.bits));
     }
     if (format.bitRate > 0) {
-        parts.append(Texts::tr("%1 kbit/s").arg(format.bitRate));
+        parts.append(QCoreApplication::translate("xbr::host::Song", "%1 kbit/s").arg(format.bitRate));
     }
     if (format.sampleRate > 0) {
-        parts.append(Texts::tr("%1 kHz").arg(
-            QLocale().toString(static_cast<double>(format.sampleRate) / kHertz, 'g', 4)));
+        parts.append(QCoreApplication::translate("xbr::host::Song", "%1 kHz")
+                         .arg(QLocale().toString(static_cast<double>(format.sampleRate) / kHertz, 'g', 4)));
     }
     return parts.join(QString::fromUtf8(" · "));
 }
 
-Ref<Attributes> mediaOf(const Song& song) {
-    MediaTags tags;
+SongFile fileOf(const Song& song) {
+    SongFile file = song.file;
+    file.path = song.path;
+    file.tags = {};
     for (const Field& field : kFields) {
         const std::string text = (song.*field.text).toStdString();
         if (!text.empty()) {
-            tags.texts.emplace_back(field.attribute, text);
+            file.tags.texts.emplace_back(field.attribute, text);
         }
     }
-    tags.trackIndex = song.number;
-    return attributesOf(tags);
+    file.tags.trackIndex = song.number;
+    return file;
 }
 
 Song readSong(const std::string& path) {
     Song song;
     song.path = path;
     song.isBeingRead = false;
-    const std::string problem = problemOfFile(path);
-    const auto format = problem.empty() ? readAudioFormat(path)
-                                        : Outcome<AudioFormat>(fileProblem(path, 0, Fault::kUnreadable));
-    if (!format) {
-        song.problem = problem.empty() ? Texts::tr("This is no audio that can be read.")
-                                       : Texts::tr("The file cannot be read.");
+    song.file = readSongFile(path);
+    if (song.file.problem) {
+        song.problem = QString::fromStdString(wordsOfFile(song.file.problem));
         song.title = fileNameOf(song);
         return song;
     }
-    song.format = *format;
-    const auto tags = readTags(path);
-    takeTags(tags ? *tags : readForeignTags(path), song);
-    if (song.title.isEmpty()) {
-        const QString name = fileNameOf(song);
-        song.title = name.left(name.lastIndexOf('.'));
-    }
+    takeTags(song.file.tags, song);
+    const NameTags names = namesOf(song.file);
+    song.title = QString::fromStdString(names.title);
+    song.number = names.number;
     return song;
 }
 

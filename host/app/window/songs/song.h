@@ -1,7 +1,6 @@
 #pragma once
 
-#include "framework/support/data/attributes.h"
-#include "host/app/audio/audioformat.h"
+#include "host/app/publishing/song.h"
 
 #include <QString>
 
@@ -18,8 +17,8 @@ struct Song {
     QString album;
     QString albumArtist;
     QString genre;
-    int number = 0; ///< from 1; 0 for none
-    AudioFormat format;
+    int number = 0;          ///< from 1; 0 for none
+    SongFile file;           ///< as it was read
     QString problem;         ///< why it cannot be published; empty when it can
     bool isBeingRead = true; ///< its tags are still to come
 };
@@ -27,14 +26,11 @@ struct Song {
 /// The name of the song's file.
 QString fileNameOf(const Song& song);
 
-/// "3:07"; empty when it is unknown.
-QString lengthText(std::int64_t milliseconds);
-
 /// "WAV · 24 bit · 48 kHz"
 QString formatText(const AudioFormat& format);
 
-/// The song's texts as a module is given them.
-Ref<Attributes> mediaOf(const Song& song);
+/// The song's file, with the texts as the user has edited them in the place of its tags.
+SongFile fileOf(const Song& song);
 
 /// Reads tags and format of a file that the user chose. Any thread.
 Song readSong(const std::string& path);

@@ -1,5 +1,7 @@
 #include "host/app/window/songs/songlistmodel.h"
 
+#include "host/app/publishing/words.h"
+
 #include <QFont>
 #include <QPalette>
 
@@ -82,7 +84,7 @@ void SongListModel::setSong(const Song& song) {
 std::int64_t SongListModel::totalMilliseconds() const {
     std::int64_t total = 0;
     for (const Song& song : m_songs) {
-        total += song.format.milliseconds;
+        total += song.file.format.milliseconds;
     }
     return total;
 }
@@ -103,9 +105,9 @@ QString SongListModel::textAt(const Song& song, int column) const {
     case kNumber:
         return song.number > 0 ? QString::number(song.number) : QString();
     case kLength:
-        return lengthText(song.format.milliseconds);
+        return QString::fromStdString(wordsOfLength(song.file.format.milliseconds));
     default:
-        return song.isBeingRead ? tr("Reading…") : formatText(song.format);
+        return song.isBeingRead ? tr("Reading…") : formatText(song.file.format);
     }
 }
 

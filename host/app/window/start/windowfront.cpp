@@ -1,11 +1,11 @@
 #include "host/app/window/start/windowfront.h"
 
 #include "framework/abi/border.h"
+#include "host/app/publishing/words.h"
 #include "host/app/window/dialogs/fileselector.h"
 #include "host/app/window/dialogs/progressindicator.h"
 #include "host/app/window/dialogs/viewdialog.h"
 #include "host/app/window/look/desktop.h"
-#include "host/app/window/panels/wording.h"
 
 #include <QApplication>
 
@@ -13,25 +13,24 @@ namespace xbr::host {
 
 namespace {
 
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(xbr::host::WindowFront)
-};
-
 VersionLine lineOf(const LoadedModule& module) {
     const std::uint32_t version = module.borderVersion();
     const QString name = QString::fromStdString(module.path().substr(module.path().rfind('/') + 1));
     return {QString::fromStdString(module.name()),
-            Texts::tr("%1, border %2.%3").arg(name).arg(borderMajor(version)).arg(version & 0xFFFFU)};
+            QCoreApplication::translate("xbr::host::WindowFront", "%1, border %2.%3")
+                .arg(name)
+                .arg(borderMajor(version))
+                .arg(version & 0xFFFFU)};
 }
 
 Notice noticeOf(const Problem& problem) {
     if (problem.fault == Fault::kModule) {
-        const QString reason = sentence("the module '" + problem.subject + "' " + problem.words);
-        return {NoticeKind::kError, Texts::tr("Songs cannot be published: %1").arg(reason)};
+        return {NoticeKind::kError, QString::fromStdString(judgeModule(problem).sentence)};
     }
-    return {
-        NoticeKind::kWarning,
-        Texts::tr("The browser's answer to a sign-in cannot be received: %1").arg(sentence(problem.words))};
+    return {NoticeKind::kWarning,
+            QCoreApplication::translate("xbr::host::WindowFront",
+                                        "The browser's answer to a sign-in cannot be received: %1.")
+                .arg(QString::fromStdString(problem.words))};
 }
 
 template <class T>
@@ -75,7 +74,7 @@ void WindowFront::storeFailed(const Problem& problem) {
         QMetaObject::invokeMethod(
             m_window.get(),
             [this, words = problem.words] {
-                m_window->showNotice({NoticeKind::kWarning, sentence(words)});
+                m_window->showNotice({NoticeKind::kWarning, QString::fromStdString(words)});
             },
             Qt::QueuedConnection);
     }
@@ -102,8 +101,7 @@ void WindowFront::tell(const std::vector<Problem>& problems) {
         }
     }
     if (m_session.modules().empty() && !isAboutModules) {
-        m_window->showNotice(
-            {NoticeKind::kWarning, Texts::tr("Songs cannot be published: no module was found.")});
+        m_window->showNotice({NoticeKind::kWarning, QString::fromStdString(judgeModule({}).sentence)});
     }
 }
 
@@ -113,8 +111,8 @@ void WindowFront::callbackCame() {
         raise(*modal);
     }
     for (const GadgetDock* dock : m_window->docks()) {
-        if (dock->watch()) {
-            dock->watch()->callbackArrived();
+        if (dock->notices()) {
+            dock->notices()->callbackArrived();
         }
     }
 }

@@ -153,113 +153,6 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::Publishing</name>
-    <message>
-        <source>“%1” cannot be read.</source>
-        <translation>„%1“ kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>“%1” is of a kind that cannot be published.</source>
-        <translation>„%1“ ist von einer Art, die nicht veröffentlicht werden kann.</translation>
-    </message>
-    <message>
-        <source>Rendering was cancelled; nothing was handed over.</source>
-        <translation>Das Rendern wurde abgebrochen; es wurde nichts übergeben.</translation>
-    </message>
-    <message>
-        <source>“%1” cannot be used.</source>
-        <translation>„%1“ kann nicht verwendet werden.</translation>
-    </message>
-    <message>
-        <source>“%1” does not take the songs.</source>
-        <translation>„%1“ nimmt die Songs nicht an.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over. Complete the information, then upload.</source>
-        <translation>
-            <numerusform>%n Song übergeben. Angaben ergänzen, dann hochladen.</numerusform>
-            <numerusform>%n Songs übergeben. Angaben ergänzen, dann hochladen.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ServiceWatch</name>
-    <message>
-        <source>Disconnected.</source>
-        <translation>Getrennt.</translation>
-    </message>
-    <message>
-        <source>Continue in your web browser: allow the access there.</source>
-        <translation>Weiter im Webbrowser: dort den Zugriff erlauben.</translation>
-    </message>
-    <message>
-        <source>Signing in…</source>
-        <translation>Anmeldung läuft …</translation>
-    </message>
-    <message>
-        <source>Connected.</source>
-        <translation>Verbunden.</translation>
-    </message>
-    <message>
-        <source>Uploading “%1”: %2 %</source>
-        <translation>„%1“ wird hochgeladen: %2 %</translation>
-    </message>
-    <message>
-        <source>Your sign-in has expired or was withdrawn. Disconnect, then connect again.</source>
-        <translation>Die Anmeldung ist abgelaufen oder wurde widerrufen. Bitte trennen und neu verbinden.</translation>
-    </message>
-    <message>
-        <source>Connected as %1.</source>
-        <translation>Verbunden als %1.</translation>
-    </message>
-    <message>
-        <source>The service did not accept the sign-in. Try to connect again.</source>
-        <translation>Der Dienst hat die Anmeldung nicht angenommen. Bitte noch einmal verbinden.</translation>
-    </message>
-    <message>
-        <source>Not connected yet: the browser has not come back with a permission.</source>
-        <translation>Noch nicht verbunden: Der Browser hat keine Erlaubnis gebracht.</translation>
-    </message>
-    <message>
-        <source>The upload was cancelled before anything was sent.</source>
-        <translation>Das Hochladen wurde abgebrochen, bevor etwas gesendet wurde.</translation>
-    </message>
-    <message numerus="yes">
-        <source>Published: %n song(s).</source>
-        <translation>
-            <numerusform>Veröffentlicht: %n Song.</numerusform>
-            <numerusform>Veröffentlicht: %n Songs.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The service needs more information: fill in the marked fields, then upload again.</source>
-        <translation>Der Dienst braucht mehr Angaben: die markierten Felder ausfüllen und noch einmal hochladen.</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: the upload could not be prepared.</source>
-        <translation>Es wurde nichts gesendet: Das Hochladen konnte nicht vorbereitet werden.</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: %1</source>
-        <translation>Es wurde nichts gesendet: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>The service did not take %n song(s). Try again later.</source>
-        <translation>
-            <numerusform>Der Dienst hat %n Song nicht angenommen. Später noch einmal versuchen.</numerusform>
-            <numerusform>Der Dienst hat %n Songs nicht angenommen. Später noch einmal versuchen.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Uploading…</source>
-        <translation>Wird hochgeladen …</translation>
-    </message>
-    <message>
-        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
-        <translation>Der Browser kam ohne Erlaubnis zurück. Den Zugriff dort erlauben oder hier abbrechen.</translation>
-    </message>
-</context>
-<context>
     <name>xbr::host::Song</name>
     <message>
         <source>%1 bit</source>
@@ -272,14 +165,6 @@
     <message>
         <source>%1 kHz</source>
         <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>This is no audio that can be read.</source>
-        <translation>Das ist kein lesbares Audio.</translation>
-    </message>
-    <message>
-        <source>The file cannot be read.</source>
-        <translation>Die Datei kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>Audio files</source>
@@ -461,31 +346,411 @@
         <translation>%1, Schnittstelle %2.%3</translation>
     </message>
     <message>
-        <source>Songs cannot be published: %1</source>
-        <translation>Songs können nicht veröffentlicht werden: %1</translation>
-    </message>
-    <message>
-        <source>Songs cannot be published: no module was found.</source>
-        <translation>Songs können nicht veröffentlicht werden: Es wurde kein Modul gefunden.</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1</source>
-        <translation>Die Antwort des Browsers auf eine Anmeldung kann nicht empfangen werden: %1</translation>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>Die Antwort des Browsers auf eine Anmeldung kann nicht empfangen werden: %1.</translation>
     </message>
 </context>
 <context>
-    <name>xbr::host::Wording</name>
+    <name>xbr::host::Words</name>
+    <message>
+        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>Ein Song wurde an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</translation>
+    </message>
+    <message>
+        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>%1 Songs wurden an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Songs weglassen?</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Die anderen Songs können ohne sie übergeben werden.</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Weglassen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
+        <translation>Der Browser kam ohne Erlaubnis zurück. Den Zugriff dort erlauben oder hier abbrechen.</translation>
+    </message>
+    <message>
+        <source>Signed out.</source>
+        <translation>Abgemeldet.</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser.</source>
+        <translation>Warten auf die Erlaubnis im Browser.</translation>
+    </message>
+    <message>
+        <source>Signing in…</source>
+        <translation>Anmeldung läuft …</translation>
+    </message>
+    <message>
+        <source>Preparing the songs. Nothing is sent yet.</source>
+        <translation>Die Songs werden vorbereitet. Noch ist nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: %2 %</source>
+        <translation>„%1“ wird gesendet: %2 %</translation>
+    </message>
+    <message>
+        <source>it does not take the songs</source>
+        <translation>nimmt die Songs nicht an</translation>
+    </message>
+    <message>
+        <source>it does not take all songs</source>
+        <translation>nimmt nicht alle Songs an</translation>
+    </message>
+    <message>
+        <source>it does not offer to upload the songs</source>
+        <translation>bietet das Hochladen der Songs nicht an</translation>
+    </message>
+    <message>
+        <source>Nothing was sent.</source>
+        <translation>Nichts wurde gesendet.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2) and gave no reason.</source>
+        <translation>Der Dienst hat „%1“ abgelehnt (%2) und keinen Grund genannt.</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2) and gave no reason.</source>
+        <translation>Der Dienst hat das Album „%1“ abgelehnt (%2) und keinen Grund genannt.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2): %3</source>
+        <translation>Der Dienst hat „%1“ abgelehnt (%2): %3</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2): %3</source>
+        <translation>Der Dienst hat das Album „%1“ abgelehnt (%2): %3</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing: %2.</source>
+        <translation>Der Dienst hat „%1“ abgelehnt, weil Angaben fehlen: %2.</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing: %2.</source>
+        <translation>Der Dienst hat das Album „%1“ abgelehnt, weil Angaben fehlen: %2.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing, but none is empty here: %2</source>
+        <translation>Der Dienst hat „%1“ abgelehnt, weil Angaben fehlen; hier ist aber keine leer: %2</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing, but none is empty here: %2</source>
+        <translation>Der Dienst hat das Album „%1“ abgelehnt, weil Angaben fehlen; hier ist aber keine leer: %2</translation>
+    </message>
+    <message>
+        <source>The service does not accept the stored sign-in any more.</source>
+        <translation>Der Dienst nimmt die gespeicherte Anmeldung nicht mehr an.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because it is too large (%2).</source>
+        <translation>Der Dienst hat „%1“ abgelehnt, weil es zu groß ist (%2).</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because it is too large (%2).</source>
+        <translation>Der Dienst hat das Album „%1“ abgelehnt, weil es zu groß ist (%2).</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. “%1” was not taken.</source>
+        <translation>Der Dienst bittet, vor dem nächsten Hochladen eine Weile zu warten. „%1“ wurde nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. The album “%1” was not taken.</source>
+        <translation>Der Dienst bittet, vor dem nächsten Hochladen eine Weile zu warten. Das Album „%1“ wurde nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). “%1” was not taken; nothing is wrong with the song.</source>
+        <translation>Der Dienst hat eine Störung (%2). „%1“ wurde nicht angenommen; mit dem Song ist alles in Ordnung.</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). The album “%1” was not taken; nothing is wrong with it.</source>
+        <translation>Der Dienst hat eine Störung (%2). Das Album „%1“ wurde nicht angenommen; mit ihm ist alles in Ordnung.</translation>
+    </message>
+    <message>
+        <source>%1 could not prove its identity: %2.</source>
+        <translation>%1 konnte seine Identität nicht nachweisen: %2.</translation>
+    </message>
+    <message>
+        <source>The service at %1 cannot be reached: %2.</source>
+        <translation>Der Dienst unter %1 ist nicht erreichbar: %2.</translation>
+    </message>
+    <message>
+        <source>Stopped after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Gestoppt, nachdem „%1“ ganz gesendet war, bevor der Dienst antwortete. Es ist vielleicht veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Stopped after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Gestoppt, nachdem das Album „%1“ ganz gesendet war, bevor der Dienst antwortete. Es ist vielleicht veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Die Verbindung brach ab, nachdem „%1“ ganz gesendet war, bevor der Dienst antwortete. Es ist vielleicht veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Die Verbindung brach ab, nachdem das Album „%1“ ganz gesendet war, bevor der Dienst antwortete. Es ist vielleicht veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>“%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>„%1“ wurde bei %2 von %3 gestoppt und kam nicht an.</translation>
+    </message>
+    <message>
+        <source>The album “%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>Das Album „%1“ wurde bei %2 von %3 gestoppt und kam nicht an.</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. “%1” did not arrive.</source>
+        <translation>Die Verbindung brach nach %2 von %3 ab. „%1“ kam nicht an.</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. The album “%1” did not arrive.</source>
+        <translation>Die Verbindung brach nach %2 von %3 ab. Das Album „%1“ kam nicht an.</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. “%1” was not sent.</source>
+        <translation>„%2“ ist nicht mehr da. „%1“ wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. The album “%1” is not complete.</source>
+        <translation>„%2“ ist nicht mehr da. Das Album „%1“ ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. “%1” was not sent.</source>
+        <translation>„%2“ hat sich beim Kopieren geändert. „%1“ wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. The album “%1” is not complete.</source>
+        <translation>„%2“ hat sich beim Kopieren geändert. Das Album „%1“ ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. “%1” was not sent.</source>
+        <translation>In „%2“ ist nicht genug Platz: %3 werden gebraucht, %4 sind frei. „%1“ wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. The album “%1” was not sent.</source>
+        <translation>In „%2“ ist nicht genug Platz: %3 werden gebraucht, %4 sind frei. Das Album „%1“ wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>The folder for copies, “%1”, cannot be written.</source>
+        <translation>In den Ordner für Kopien, „%1“, kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2. It was not sent.</source>
+        <translation>„%1“ konnte nicht vorbereitet werden: %2. Es wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared: %2. It was not sent.</source>
+        <translation>Das Album „%1“ konnte nicht vorbereitet werden: %2. Es wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>“%1” was not sent.</source>
+        <translation>„%1“ wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>The album “%1” was not sent.</source>
+        <translation>Das Album „%1“ wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared. It was not sent.</source>
+        <translation>„%1“ konnte nicht vorbereitet werden. Es wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared. It was not sent.</source>
+        <translation>Das Album „%1“ konnte nicht vorbereitet werden. Es wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with one song.</source>
+        <translation>Das Album „%1“ mit einem Song wurde veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with %2 songs.</source>
+        <translation>Das Album „%1“ mit %2 Songs wurde veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Published “%1”.</source>
+        <translation>„%1“ wurde veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Published %1 songs as singles.</source>
+        <translation>%1 Songs wurden als Singles veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Gestoppt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs are published.</source>
+        <translation>%1 von %2 Songs sind veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Signed in.</source>
+        <translation>Angemeldet.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1.</source>
+        <translation>Angemeldet als %1.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the sign-in was given up.</source>
+        <translation>Nicht angemeldet: Die Anmeldung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service did not accept it.</source>
+        <translation>Nicht angemeldet: Der Dienst hat die Anmeldung nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service refused it: %1.</source>
+        <translation>Nicht angemeldet: Der Dienst hat die Anmeldung abgelehnt: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent. Choose “Reset” in the menu of a song first.</source>
+        <translation>Nichts wartet auf das Senden. Zuerst im Menü eines Songs „Zurücksetzen“ wählen.</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs. %3</source>
+        <translation>%1 von %2 Songs wurden veröffentlicht. %3</translation>
+    </message>
+    <message>
+        <source>No module was found. Songs cannot be published.</source>
+        <translation>Es wurde kein Modul gefunden. Songs können nicht veröffentlicht werden.</translation>
+    </message>
+    <message>
+        <source>“%1” %2. Songs cannot be published.</source>
+        <translation>„%1“ %2. Songs können nicht veröffentlicht werden.</translation>
+    </message>
+    <message>
+        <source>album title</source>
+        <translation>Albumtitel</translation>
+    </message>
+    <message>
+        <source>album artist</source>
+        <translation>Albumkünstler</translation>
+    </message>
+    <message>
+        <source>genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>song title</source>
+        <translation>Songtitel</translation>
+    </message>
+    <message>
+        <source>song artist</source>
+        <translation>Songkünstler</translation>
+    </message>
+    <message>
+        <source>“%1” lacks: %2.</source>
+        <translation>„%1“ fehlt: %2.</translation>
+    </message>
+    <message>
+        <source>The album lacks: %1.</source>
+        <translation>Dem Album fehlt: %1.</translation>
+    </message>
+    <message>
+        <source>The album “%1” lacks: %2.</source>
+        <translation>Dem Album „%1“ fehlt: %2.</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”.</source>
+        <translation>Der Dienst kennt das Genre „%1“ nicht.</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”. Nearest: %2.</source>
+        <translation>Der Dienst kennt das Genre „%1“ nicht. Am nächsten: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know.</source>
+        <translation>„%1“ hat das Genre „%2“, das der Dienst nicht kennt.</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know. Nearest: %3.</source>
+        <translation>„%1“ hat das Genre „%2“, das der Dienst nicht kennt. Am nächsten: %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not there.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Die Datei ist nicht da.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Die Datei ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read (%2).</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Die Datei ist nicht lesbar (%2).</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not a file.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Es ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is %2, not %3 as its name says.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Es ist %2, nicht %3, wie der Name sagt.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Die Datei ist abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off: %2 of %3.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Die Datei ist abgeschnitten: %2 von %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its sample rate of %2 cannot be right.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Die Abtastrate von %2 kann nicht stimmen.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds samples that are not numbers.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Die Datei enthält Abtastwerte, die keine Zahlen sind.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name is not UTF-8.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Der Name ist nicht UTF-8.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name holds control characters.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Der Name enthält Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it would have to become %2, which is not possible.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Daraus müsste %2 werden, was nicht möglich ist.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds no audio that can be read.</source>
+        <translation>„%1“ kann nicht veröffentlicht werden: Die Datei enthält keinen lesbaren Ton.</translation>
+    </message>
     <message>
         <source>The settings of %1 cannot be read from “%2”.</source>
         <translation>Die Einstellungen von %1 können nicht aus „%2“ gelesen werden.</translation>
     </message>
     <message>
-        <source>%1 is not set up yet. Put %2 into “%3”, section [%4], one “key = value” a line.</source>
-        <translation>%1 ist noch nicht eingerichtet. %2 in „%3“ eintragen, Abschnitt [%4], je Zeile „Schlüssel = Wert“.</translation>
+        <source>%1 is not set up: %2 is wrong in “%3”, section [%4].</source>
+        <translation>%1 ist nicht eingerichtet: %2 ist falsch in „%3“, Abschnitt [%4].</translation>
     </message>
     <message>
-        <source>%1 is not set up properly. Correct %2 in “%3”, section [%4].</source>
-        <translation>%1 ist nicht richtig eingerichtet. %2 in „%3“ berichtigen, Abschnitt [%4].</translation>
+        <source>%1 is not set up: %2 is missing in “%3”, section [%4].</source>
+        <translation>%1 ist nicht eingerichtet: %2 fehlt in „%3“, Abschnitt [%4].</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice.</source>
+        <translation>„%1“ ist zweimal da.</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” have the same file name; in an album each song needs its own.</source>
+        <translation>„%1“ und „%2“ haben denselben Dateinamen; in einem Album braucht jeder Song einen eigenen.</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” both have the number %3.</source>
+        <translation>„%1“ und „%2“ haben beide die Nummer %3.</translation>
     </message>
 </context>
 </TS>

@@ -153,113 +153,6 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::Publishing</name>
-    <message>
-        <source>“%1” cannot be read.</source>
-        <translation>No se puede leer «%1».</translation>
-    </message>
-    <message>
-        <source>“%1” is of a kind that cannot be published.</source>
-        <translation>«%1» es de un tipo que no se puede publicar.</translation>
-    </message>
-    <message>
-        <source>Rendering was cancelled; nothing was handed over.</source>
-        <translation>Se canceló el renderizado; no se entregó nada.</translation>
-    </message>
-    <message>
-        <source>“%1” cannot be used.</source>
-        <translation>No se puede usar «%1».</translation>
-    </message>
-    <message>
-        <source>“%1” does not take the songs.</source>
-        <translation>«%1» no acepta las canciones.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over. Complete the information, then upload.</source>
-        <translation>
-            <numerusform>%n canción entregada. Complete la información y suba.</numerusform>
-            <numerusform>%n canciones entregadas. Complete la información y suba.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ServiceWatch</name>
-    <message>
-        <source>Disconnected.</source>
-        <translation>Desconectado.</translation>
-    </message>
-    <message>
-        <source>Continue in your web browser: allow the access there.</source>
-        <translation>Continúe en su navegador web: permita allí el acceso.</translation>
-    </message>
-    <message>
-        <source>Signing in…</source>
-        <translation>Iniciando sesión…</translation>
-    </message>
-    <message>
-        <source>Connected.</source>
-        <translation>Conectado.</translation>
-    </message>
-    <message>
-        <source>Uploading “%1”: %2 %</source>
-        <translation>Subiendo «%1»: %2 %</translation>
-    </message>
-    <message>
-        <source>Your sign-in has expired or was withdrawn. Disconnect, then connect again.</source>
-        <translation>Su sesión ha caducado o fue revocada. Desconéctese y vuelva a conectarse.</translation>
-    </message>
-    <message>
-        <source>Connected as %1.</source>
-        <translation>Conectado como %1.</translation>
-    </message>
-    <message>
-        <source>The service did not accept the sign-in. Try to connect again.</source>
-        <translation>El servicio no aceptó el inicio de sesión. Intente conectarse de nuevo.</translation>
-    </message>
-    <message>
-        <source>Not connected yet: the browser has not come back with a permission.</source>
-        <translation>Aún sin conexión: el navegador no ha traído ningún permiso.</translation>
-    </message>
-    <message>
-        <source>The upload was cancelled before anything was sent.</source>
-        <translation>La subida se canceló antes de enviar nada.</translation>
-    </message>
-    <message numerus="yes">
-        <source>Published: %n song(s).</source>
-        <translation>
-            <numerusform>Publicada: %n canción.</numerusform>
-            <numerusform>Publicadas: %n canciones.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The service needs more information: fill in the marked fields, then upload again.</source>
-        <translation>El servicio necesita más información: rellene los campos marcados y vuelva a subir.</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: the upload could not be prepared.</source>
-        <translation>No se envió nada: no se pudo preparar la subida.</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: %1</source>
-        <translation>No se envió nada: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>The service did not take %n song(s). Try again later.</source>
-        <translation>
-            <numerusform>El servicio no aceptó %n canción. Inténtelo más tarde.</numerusform>
-            <numerusform>El servicio no aceptó %n canciones. Inténtelo más tarde.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Uploading…</source>
-        <translation>Subiendo…</translation>
-    </message>
-    <message>
-        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
-        <translation>El navegador volvió sin permiso. Permita allí el acceso o cancele aquí.</translation>
-    </message>
-</context>
-<context>
     <name>xbr::host::Song</name>
     <message>
         <source>%1 bit</source>
@@ -272,14 +165,6 @@
     <message>
         <source>%1 kHz</source>
         <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>This is no audio that can be read.</source>
-        <translation>No es un audio que se pueda leer.</translation>
-    </message>
-    <message>
-        <source>The file cannot be read.</source>
-        <translation>No se puede leer el archivo.</translation>
     </message>
     <message>
         <source>Audio files</source>
@@ -461,31 +346,411 @@
         <translation>%1, interfaz %2.%3</translation>
     </message>
     <message>
-        <source>Songs cannot be published: %1</source>
-        <translation>No se pueden publicar canciones: %1</translation>
-    </message>
-    <message>
-        <source>Songs cannot be published: no module was found.</source>
-        <translation>No se pueden publicar canciones: no se encontró ningún módulo.</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1</source>
-        <translation>No se puede recibir la respuesta del navegador al iniciar sesión: %1</translation>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>No se puede recibir la respuesta del navegador al iniciar sesión: %1.</translation>
     </message>
 </context>
 <context>
-    <name>xbr::host::Wording</name>
+    <name>xbr::host::Words</name>
+    <message>
+        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>Una canción entregada al panel; aún no se ha enviado nada. Compruebe allí los datos y súbala.</translation>
+    </message>
+    <message>
+        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>%1 canciones entregadas al panel; aún no se ha enviado nada. Compruebe allí los datos y súbalas.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>¿Omitir canciones?</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Las demás canciones se pueden entregar sin ellas.</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Omitir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
+        <translation>El navegador volvió sin permiso. Permita allí el acceso o cancele aquí.</translation>
+    </message>
+    <message>
+        <source>Signed out.</source>
+        <translation>Sesión cerrada.</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser.</source>
+        <translation>Esperando su permiso en el navegador.</translation>
+    </message>
+    <message>
+        <source>Signing in…</source>
+        <translation>Iniciando sesión…</translation>
+    </message>
+    <message>
+        <source>Preparing the songs. Nothing is sent yet.</source>
+        <translation>Preparando las canciones. Aún no se ha enviado nada.</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: %2 %</source>
+        <translation>Enviando «%1»: %2 %</translation>
+    </message>
+    <message>
+        <source>it does not take the songs</source>
+        <translation>no acepta las canciones</translation>
+    </message>
+    <message>
+        <source>it does not take all songs</source>
+        <translation>no acepta todas las canciones</translation>
+    </message>
+    <message>
+        <source>it does not offer to upload the songs</source>
+        <translation>no ofrece subir las canciones</translation>
+    </message>
+    <message>
+        <source>Nothing was sent.</source>
+        <translation>No se ha enviado nada.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2) and gave no reason.</source>
+        <translation>El servicio ha rechazado «%1» (%2) sin dar un motivo.</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2) and gave no reason.</source>
+        <translation>El servicio ha rechazado el álbum «%1» (%2) sin dar un motivo.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2): %3</source>
+        <translation>El servicio ha rechazado «%1» (%2): %3</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2): %3</source>
+        <translation>El servicio ha rechazado el álbum «%1» (%2): %3</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing: %2.</source>
+        <translation>El servicio ha rechazado «%1» porque faltan datos: %2.</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing: %2.</source>
+        <translation>El servicio ha rechazado el álbum «%1» porque faltan datos: %2.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing, but none is empty here: %2</source>
+        <translation>El servicio ha rechazado «%1» porque faltan datos, pero aquí no hay ninguno vacío: %2</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing, but none is empty here: %2</source>
+        <translation>El servicio ha rechazado el álbum «%1» porque faltan datos, pero aquí no hay ninguno vacío: %2</translation>
+    </message>
+    <message>
+        <source>The service does not accept the stored sign-in any more.</source>
+        <translation>El servicio ya no acepta el inicio de sesión guardado.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because it is too large (%2).</source>
+        <translation>El servicio ha rechazado «%1» porque es demasiado grande (%2).</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because it is too large (%2).</source>
+        <translation>El servicio ha rechazado el álbum «%1» porque es demasiado grande (%2).</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. “%1” was not taken.</source>
+        <translation>El servicio pide esperar un rato antes de la próxima subida. «%1» no se ha aceptado.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. The album “%1” was not taken.</source>
+        <translation>El servicio pide esperar un rato antes de la próxima subida. El álbum «%1» no se ha aceptado.</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). “%1” was not taken; nothing is wrong with the song.</source>
+        <translation>El servicio tiene un fallo (%2). «%1» no se ha aceptado; la canción está bien.</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). The album “%1” was not taken; nothing is wrong with it.</source>
+        <translation>El servicio tiene un fallo (%2). El álbum «%1» no se ha aceptado; el álbum está bien.</translation>
+    </message>
+    <message>
+        <source>%1 could not prove its identity: %2.</source>
+        <translation>%1 no ha podido demostrar su identidad: %2.</translation>
+    </message>
+    <message>
+        <source>The service at %1 cannot be reached: %2.</source>
+        <translation>No se puede acceder al servicio en %1: %2.</translation>
+    </message>
+    <message>
+        <source>Stopped after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Detenido después de enviar todo «%1», antes de que el servicio respondiera. Puede que esté publicado.</translation>
+    </message>
+    <message>
+        <source>Stopped after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Detenido después de enviar todo el álbum «%1», antes de que el servicio respondiera. Puede que esté publicado.</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>La conexión se cortó después de enviar todo «%1», antes de que el servicio respondiera. Puede que esté publicado.</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>La conexión se cortó después de enviar todo el álbum «%1», antes de que el servicio respondiera. Puede que esté publicado.</translation>
+    </message>
+    <message>
+        <source>“%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>«%1» se detuvo en %2 de %3 y no llegó.</translation>
+    </message>
+    <message>
+        <source>The album “%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>El álbum «%1» se detuvo en %2 de %3 y no llegó.</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. “%1” did not arrive.</source>
+        <translation>La conexión se cortó después de %2 de %3. «%1» no llegó.</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. The album “%1” did not arrive.</source>
+        <translation>La conexión se cortó después de %2 de %3. El álbum «%1» no llegó.</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. “%1” was not sent.</source>
+        <translation>«%2» ya no está. «%1» no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. The album “%1” is not complete.</source>
+        <translation>«%2» ya no está. El álbum «%1» no está completo.</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. “%1” was not sent.</source>
+        <translation>«%2» cambió mientras se copiaba. «%1» no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. The album “%1” is not complete.</source>
+        <translation>«%2» cambió mientras se copiaba. El álbum «%1» no está completo.</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. “%1” was not sent.</source>
+        <translation>No hay suficiente espacio en «%2»: se necesitan %3, hay %4 libres. «%1» no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. The album “%1” was not sent.</source>
+        <translation>No hay suficiente espacio en «%2»: se necesitan %3, hay %4 libres. El álbum «%1» no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>The folder for copies, “%1”, cannot be written.</source>
+        <translation>No se puede escribir en la carpeta para copias, «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2. It was not sent.</source>
+        <translation>No se pudo preparar «%1»: %2. No se ha enviado.</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared: %2. It was not sent.</source>
+        <translation>No se pudo preparar el álbum «%1»: %2. No se ha enviado.</translation>
+    </message>
+    <message>
+        <source>“%1” was not sent.</source>
+        <translation>«%1» no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>The album “%1” was not sent.</source>
+        <translation>El álbum «%1» no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared. It was not sent.</source>
+        <translation>No se pudo preparar «%1». No se ha enviado.</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared. It was not sent.</source>
+        <translation>No se pudo preparar el álbum «%1». No se ha enviado.</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with one song.</source>
+        <translation>Se ha publicado el álbum «%1» con una canción.</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with %2 songs.</source>
+        <translation>Se ha publicado el álbum «%1» con %2 canciones.</translation>
+    </message>
+    <message>
+        <source>Published “%1”.</source>
+        <translation>Se ha publicado «%1».</translation>
+    </message>
+    <message>
+        <source>Published %1 songs as singles.</source>
+        <translation>Se han publicado %1 canciones como sencillos.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Detenido.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs are published.</source>
+        <translation>%1 de %2 canciones están publicadas.</translation>
+    </message>
+    <message>
+        <source>Signed in.</source>
+        <translation>Sesión iniciada.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1.</source>
+        <translation>Sesión iniciada como %1.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the sign-in was given up.</source>
+        <translation>Sin iniciar sesión: se abandonó el inicio de sesión.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service did not accept it.</source>
+        <translation>Sin iniciar sesión: el servicio no lo ha aceptado.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service refused it: %1.</source>
+        <translation>Sin iniciar sesión: el servicio lo ha rechazado: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent. Choose “Reset” in the menu of a song first.</source>
+        <translation>No hay nada pendiente de enviar. Elija antes «Restablecer» en el menú de una canción.</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs. %3</source>
+        <translation>Se han publicado %1 de %2 canciones. %3</translation>
+    </message>
+    <message>
+        <source>No module was found. Songs cannot be published.</source>
+        <translation>No se ha encontrado ningún módulo. No se pueden publicar canciones.</translation>
+    </message>
+    <message>
+        <source>“%1” %2. Songs cannot be published.</source>
+        <translation>«%1» %2. No se pueden publicar canciones.</translation>
+    </message>
+    <message>
+        <source>album title</source>
+        <translation>título del álbum</translation>
+    </message>
+    <message>
+        <source>album artist</source>
+        <translation>artista del álbum</translation>
+    </message>
+    <message>
+        <source>genre</source>
+        <translation>género</translation>
+    </message>
+    <message>
+        <source>song title</source>
+        <translation>título de la canción</translation>
+    </message>
+    <message>
+        <source>song artist</source>
+        <translation>artista de la canción</translation>
+    </message>
+    <message>
+        <source>“%1” lacks: %2.</source>
+        <translation>A «%1» le falta: %2.</translation>
+    </message>
+    <message>
+        <source>The album lacks: %1.</source>
+        <translation>Al álbum le falta: %1.</translation>
+    </message>
+    <message>
+        <source>The album “%1” lacks: %2.</source>
+        <translation>Al álbum «%1» le falta: %2.</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”.</source>
+        <translation>El servicio no conoce el género «%1».</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”. Nearest: %2.</source>
+        <translation>El servicio no conoce el género «%1». Lo más parecido: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know.</source>
+        <translation>«%1» tiene el género «%2», que el servicio no conoce.</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know. Nearest: %3.</source>
+        <translation>«%1» tiene el género «%2», que el servicio no conoce. Lo más parecido: %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not there.</source>
+        <translation>«%1» no se puede publicar: no está ahí.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read.</source>
+        <translation>«%1» no se puede publicar: no se puede leer.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read (%2).</source>
+        <translation>«%1» no se puede publicar: no se puede leer (%2).</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not a file.</source>
+        <translation>«%1» no se puede publicar: no es un archivo.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is %2, not %3 as its name says.</source>
+        <translation>«%1» no se puede publicar: es %2, no %3 como dice su nombre.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off.</source>
+        <translation>«%1» no se puede publicar: está cortado.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off: %2 of %3.</source>
+        <translation>«%1» no se puede publicar: está cortado: %2 de %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its sample rate of %2 cannot be right.</source>
+        <translation>«%1» no se puede publicar: su frecuencia de muestreo de %2 no puede ser correcta.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds samples that are not numbers.</source>
+        <translation>«%1» no se puede publicar: contiene muestras que no son números.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name is not UTF-8.</source>
+        <translation>«%1» no se puede publicar: su nombre no es UTF-8.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name holds control characters.</source>
+        <translation>«%1» no se puede publicar: su nombre contiene caracteres de control.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it would have to become %2, which is not possible.</source>
+        <translation>«%1» no se puede publicar: tendría que convertirse en %2, y no es posible.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds no audio that can be read.</source>
+        <translation>«%1» no se puede publicar: no contiene audio que se pueda leer.</translation>
+    </message>
     <message>
         <source>The settings of %1 cannot be read from “%2”.</source>
         <translation>No se pueden leer los ajustes de %1 en «%2».</translation>
     </message>
     <message>
-        <source>%1 is not set up yet. Put %2 into “%3”, section [%4], one “key = value” a line.</source>
-        <translation>%1 aún no está configurado. Ponga %2 en «%3», sección [%4], un «clave = valor» por línea.</translation>
+        <source>%1 is not set up: %2 is wrong in “%3”, section [%4].</source>
+        <translation>%1 no está configurado: %2 es incorrecto en «%3», sección [%4].</translation>
     </message>
     <message>
-        <source>%1 is not set up properly. Correct %2 in “%3”, section [%4].</source>
-        <translation>%1 no está bien configurado. Corrija %2 en «%3», sección [%4].</translation>
+        <source>%1 is not set up: %2 is missing in “%3”, section [%4].</source>
+        <translation>%1 no está configurado: falta %2 en «%3», sección [%4].</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice.</source>
+        <translation>«%1» está dos veces.</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” have the same file name; in an album each song needs its own.</source>
+        <translation>«%1» y «%2» tienen el mismo nombre de archivo; en un álbum cada canción necesita el suyo.</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” both have the number %3.</source>
+        <translation>«%1» y «%2» tienen ambas el número %3.</translation>
     </message>
 </context>
 </TS>

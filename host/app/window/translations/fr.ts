@@ -153,113 +153,6 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::Publishing</name>
-    <message>
-        <source>“%1” cannot be read.</source>
-        <translation>« %1 » ne peut pas être lu.</translation>
-    </message>
-    <message>
-        <source>“%1” is of a kind that cannot be published.</source>
-        <translation>« %1 » est d’un type qui ne peut pas être publié.</translation>
-    </message>
-    <message>
-        <source>Rendering was cancelled; nothing was handed over.</source>
-        <translation>Le rendu a été annulé ; rien n’a été transmis.</translation>
-    </message>
-    <message>
-        <source>“%1” cannot be used.</source>
-        <translation>« %1 » ne peut pas être utilisé.</translation>
-    </message>
-    <message>
-        <source>“%1” does not take the songs.</source>
-        <translation>« %1 » n’accepte pas les morceaux.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over. Complete the information, then upload.</source>
-        <translation>
-            <numerusform>%n morceau transmis. Complétez les informations, puis envoyez.</numerusform>
-            <numerusform>%n morceaux transmis. Complétez les informations, puis envoyez.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ServiceWatch</name>
-    <message>
-        <source>Disconnected.</source>
-        <translation>Déconnecté.</translation>
-    </message>
-    <message>
-        <source>Continue in your web browser: allow the access there.</source>
-        <translation>Continuez dans votre navigateur : autorisez-y l’accès.</translation>
-    </message>
-    <message>
-        <source>Signing in…</source>
-        <translation>Connexion en cours…</translation>
-    </message>
-    <message>
-        <source>Connected.</source>
-        <translation>Connecté.</translation>
-    </message>
-    <message>
-        <source>Uploading “%1”: %2 %</source>
-        <translation>Envoi de « %1 » : %2 %</translation>
-    </message>
-    <message>
-        <source>Your sign-in has expired or was withdrawn. Disconnect, then connect again.</source>
-        <translation>Votre connexion a expiré ou a été révoquée. Déconnectez-vous, puis reconnectez-vous.</translation>
-    </message>
-    <message>
-        <source>Connected as %1.</source>
-        <translation>Connecté en tant que %1.</translation>
-    </message>
-    <message>
-        <source>The service did not accept the sign-in. Try to connect again.</source>
-        <translation>Le service n’a pas accepté la connexion. Essayez de vous reconnecter.</translation>
-    </message>
-    <message>
-        <source>Not connected yet: the browser has not come back with a permission.</source>
-        <translation>Pas encore connecté : le navigateur n’a pas rapporté d’autorisation.</translation>
-    </message>
-    <message>
-        <source>The upload was cancelled before anything was sent.</source>
-        <translation>L’envoi a été annulé avant que quoi que ce soit ne parte.</translation>
-    </message>
-    <message numerus="yes">
-        <source>Published: %n song(s).</source>
-        <translation>
-            <numerusform>Publié : %n morceau.</numerusform>
-            <numerusform>Publiés : %n morceaux.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The service needs more information: fill in the marked fields, then upload again.</source>
-        <translation>Le service a besoin de plus d’informations : remplissez les champs marqués, puis renvoyez.</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: the upload could not be prepared.</source>
-        <translation>Rien n’a été envoyé : l’envoi n’a pas pu être préparé.</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: %1</source>
-        <translation>Rien n’a été envoyé : %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>The service did not take %n song(s). Try again later.</source>
-        <translation>
-            <numerusform>Le service n’a pas accepté %n morceau. Réessayez plus tard.</numerusform>
-            <numerusform>Le service n’a pas accepté %n morceaux. Réessayez plus tard.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Uploading…</source>
-        <translation>Envoi en cours…</translation>
-    </message>
-    <message>
-        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
-        <translation>Le navigateur est revenu sans autorisation. Autorisez l’accès là-bas ou annulez ici.</translation>
-    </message>
-</context>
-<context>
     <name>xbr::host::Song</name>
     <message>
         <source>%1 bit</source>
@@ -272,14 +165,6 @@
     <message>
         <source>%1 kHz</source>
         <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>This is no audio that can be read.</source>
-        <translation>Ce n’est pas un fichier audio lisible.</translation>
-    </message>
-    <message>
-        <source>The file cannot be read.</source>
-        <translation>Le fichier ne peut pas être lu.</translation>
     </message>
     <message>
         <source>Audio files</source>
@@ -461,31 +346,411 @@
         <translation>%1, interface %2.%3</translation>
     </message>
     <message>
-        <source>Songs cannot be published: %1</source>
-        <translation>Les morceaux ne peuvent pas être publiés : %1</translation>
-    </message>
-    <message>
-        <source>Songs cannot be published: no module was found.</source>
-        <translation>Les morceaux ne peuvent pas être publiés : aucun module n’a été trouvé.</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1</source>
-        <translation>La réponse du navigateur à une connexion ne peut pas être reçue : %1</translation>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>La réponse du navigateur à une connexion ne peut pas être reçue : %1.</translation>
     </message>
 </context>
 <context>
-    <name>xbr::host::Wording</name>
+    <name>xbr::host::Words</name>
+    <message>
+        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>Un morceau remis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les informations, puis envoyez.</translation>
+    </message>
+    <message>
+        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>%1 morceaux remis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les informations, puis envoyez.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Laisser des morceaux de côté ?</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Les autres morceaux peuvent être remis sans eux.</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Laisser de côté</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
+        <translation>Le navigateur est revenu sans autorisation. Autorisez l’accès là-bas ou annulez ici.</translation>
+    </message>
+    <message>
+        <source>Signed out.</source>
+        <translation>Déconnecté.</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser.</source>
+        <translation>En attente de votre autorisation dans le navigateur.</translation>
+    </message>
+    <message>
+        <source>Signing in…</source>
+        <translation>Connexion en cours…</translation>
+    </message>
+    <message>
+        <source>Preparing the songs. Nothing is sent yet.</source>
+        <translation>Préparation des morceaux. Rien n&apos;est encore envoyé.</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: %2 %</source>
+        <translation>Envoi de « %1 » : %2 %</translation>
+    </message>
+    <message>
+        <source>it does not take the songs</source>
+        <translation>n&apos;accepte pas les morceaux</translation>
+    </message>
+    <message>
+        <source>it does not take all songs</source>
+        <translation>n&apos;accepte pas tous les morceaux</translation>
+    </message>
+    <message>
+        <source>it does not offer to upload the songs</source>
+        <translation>ne propose pas d&apos;envoyer les morceaux</translation>
+    </message>
+    <message>
+        <source>Nothing was sent.</source>
+        <translation>Rien n&apos;a été envoyé.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2) and gave no reason.</source>
+        <translation>Le service a refusé « %1 » (%2) sans donner de raison.</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2) and gave no reason.</source>
+        <translation>Le service a refusé l&apos;album « %1 » (%2) sans donner de raison.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2): %3</source>
+        <translation>Le service a refusé « %1 » (%2) : %3</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2): %3</source>
+        <translation>Le service a refusé l&apos;album « %1 » (%2) : %3</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing: %2.</source>
+        <translation>Le service a refusé « %1 » car il manque des informations : %2.</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing: %2.</source>
+        <translation>Le service a refusé l&apos;album « %1 » car il manque des informations : %2.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing, but none is empty here: %2</source>
+        <translation>Le service a refusé « %1 » car il manque des informations, mais aucune n&apos;est vide ici : %2</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing, but none is empty here: %2</source>
+        <translation>Le service a refusé l&apos;album « %1 » car il manque des informations, mais aucune n&apos;est vide ici : %2</translation>
+    </message>
+    <message>
+        <source>The service does not accept the stored sign-in any more.</source>
+        <translation>Le service n&apos;accepte plus la connexion enregistrée.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because it is too large (%2).</source>
+        <translation>Le service a refusé « %1 » car il est trop volumineux (%2).</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because it is too large (%2).</source>
+        <translation>Le service a refusé l&apos;album « %1 » car il est trop volumineux (%2).</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. “%1” was not taken.</source>
+        <translation>Le service demande d&apos;attendre un moment avant le prochain envoi. « %1 » n&apos;a pas été accepté.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. The album “%1” was not taken.</source>
+        <translation>Le service demande d&apos;attendre un moment avant le prochain envoi. L&apos;album « %1 » n&apos;a pas été accepté.</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). “%1” was not taken; nothing is wrong with the song.</source>
+        <translation>Le service est en panne (%2). « %1 » n&apos;a pas été accepté ; le morceau n&apos;est pas en cause.</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). The album “%1” was not taken; nothing is wrong with it.</source>
+        <translation>Le service est en panne (%2). L&apos;album « %1 » n&apos;a pas été accepté ; il n&apos;est pas en cause.</translation>
+    </message>
+    <message>
+        <source>%1 could not prove its identity: %2.</source>
+        <translation>%1 n&apos;a pas pu prouver son identité : %2.</translation>
+    </message>
+    <message>
+        <source>The service at %1 cannot be reached: %2.</source>
+        <translation>Le service à %1 est injoignable : %2.</translation>
+    </message>
+    <message>
+        <source>Stopped after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Arrêté après l&apos;envoi complet de « %1 », avant la réponse du service. Il est peut-être publié.</translation>
+    </message>
+    <message>
+        <source>Stopped after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Arrêté après l&apos;envoi complet de l&apos;album « %1 », avant la réponse du service. Il est peut-être publié.</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>La connexion a été coupée après l&apos;envoi complet de « %1 », avant la réponse du service. Il est peut-être publié.</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>La connexion a été coupée après l&apos;envoi complet de l&apos;album « %1 », avant la réponse du service. Il est peut-être publié.</translation>
+    </message>
+    <message>
+        <source>“%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>« %1 » a été arrêté à %2 sur %3 et n&apos;est pas arrivé.</translation>
+    </message>
+    <message>
+        <source>The album “%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>L&apos;album « %1 » a été arrêté à %2 sur %3 et n&apos;est pas arrivé.</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. “%1” did not arrive.</source>
+        <translation>La connexion a été coupée après %2 sur %3. « %1 » n&apos;est pas arrivé.</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. The album “%1” did not arrive.</source>
+        <translation>La connexion a été coupée après %2 sur %3. L&apos;album « %1 » n&apos;est pas arrivé.</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. “%1” was not sent.</source>
+        <translation>« %2 » n&apos;est plus là. « %1 » n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. The album “%1” is not complete.</source>
+        <translation>« %2 » n&apos;est plus là. L&apos;album « %1 » n&apos;est pas complet.</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. “%1” was not sent.</source>
+        <translation>« %2 » a changé pendant la copie. « %1 » n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. The album “%1” is not complete.</source>
+        <translation>« %2 » a changé pendant la copie. L&apos;album « %1 » n&apos;est pas complet.</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. “%1” was not sent.</source>
+        <translation>Il n&apos;y a pas assez de place dans « %2 » : il faut %3, %4 sont libres. « %1 » n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. The album “%1” was not sent.</source>
+        <translation>Il n&apos;y a pas assez de place dans « %2 » : il faut %3, %4 sont libres. L&apos;album « %1 » n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>The folder for copies, “%1”, cannot be written.</source>
+        <translation>Impossible d&apos;écrire dans le dossier des copies, « %1 ».</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2. It was not sent.</source>
+        <translation>« %1 » n&apos;a pas pu être préparé : %2. Il n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared: %2. It was not sent.</source>
+        <translation>L&apos;album « %1 » n&apos;a pas pu être préparé : %2. Il n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>“%1” was not sent.</source>
+        <translation>« %1 » n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>The album “%1” was not sent.</source>
+        <translation>L&apos;album « %1 » n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared. It was not sent.</source>
+        <translation>« %1 » n&apos;a pas pu être préparé. Il n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared. It was not sent.</source>
+        <translation>L&apos;album « %1 » n&apos;a pas pu être préparé. Il n&apos;a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with one song.</source>
+        <translation>L&apos;album « %1 » avec un morceau a été publié.</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with %2 songs.</source>
+        <translation>L&apos;album « %1 » avec %2 morceaux a été publié.</translation>
+    </message>
+    <message>
+        <source>Published “%1”.</source>
+        <translation>« %1 » a été publié.</translation>
+    </message>
+    <message>
+        <source>Published %1 songs as singles.</source>
+        <translation>%1 morceaux ont été publiés comme singles.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Arrêté.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs are published.</source>
+        <translation>%1 morceaux sur %2 sont publiés.</translation>
+    </message>
+    <message>
+        <source>Signed in.</source>
+        <translation>Connecté.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1.</source>
+        <translation>Connecté en tant que %1.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the sign-in was given up.</source>
+        <translation>Non connecté : la connexion a été abandonnée.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service did not accept it.</source>
+        <translation>Non connecté : le service ne l&apos;a pas accepté.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service refused it: %1.</source>
+        <translation>Non connecté : le service l&apos;a refusé : %1.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent. Choose “Reset” in the menu of a song first.</source>
+        <translation>Rien n&apos;attend d&apos;être envoyé. Choisissez d&apos;abord « Réinitialiser » dans le menu d&apos;un morceau.</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs. %3</source>
+        <translation>%1 morceaux sur %2 ont été publiés. %3</translation>
+    </message>
+    <message>
+        <source>No module was found. Songs cannot be published.</source>
+        <translation>Aucun module n&apos;a été trouvé. Les morceaux ne peuvent pas être publiés.</translation>
+    </message>
+    <message>
+        <source>“%1” %2. Songs cannot be published.</source>
+        <translation>« %1 » %2. Les morceaux ne peuvent pas être publiés.</translation>
+    </message>
+    <message>
+        <source>album title</source>
+        <translation>titre de l&apos;album</translation>
+    </message>
+    <message>
+        <source>album artist</source>
+        <translation>artiste de l&apos;album</translation>
+    </message>
+    <message>
+        <source>genre</source>
+        <translation>genre</translation>
+    </message>
+    <message>
+        <source>song title</source>
+        <translation>titre du morceau</translation>
+    </message>
+    <message>
+        <source>song artist</source>
+        <translation>artiste du morceau</translation>
+    </message>
+    <message>
+        <source>“%1” lacks: %2.</source>
+        <translation>Il manque à « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>The album lacks: %1.</source>
+        <translation>Il manque à l&apos;album : %1.</translation>
+    </message>
+    <message>
+        <source>The album “%1” lacks: %2.</source>
+        <translation>Il manque à l&apos;album « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”.</source>
+        <translation>Le service ne connaît pas le genre « %1 ».</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”. Nearest: %2.</source>
+        <translation>Le service ne connaît pas le genre « %1 ». Le plus proche : %2.</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know.</source>
+        <translation>« %1 » a le genre « %2 », que le service ne connaît pas.</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know. Nearest: %3.</source>
+        <translation>« %1 » a le genre « %2 », que le service ne connaît pas. Le plus proche : %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not there.</source>
+        <translation>« %1 » ne peut pas être publié : il n&apos;est pas là.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read.</source>
+        <translation>« %1 » ne peut pas être publié : il est illisible.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read (%2).</source>
+        <translation>« %1 » ne peut pas être publié : il est illisible (%2).</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not a file.</source>
+        <translation>« %1 » ne peut pas être publié : ce n&apos;est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is %2, not %3 as its name says.</source>
+        <translation>« %1 » ne peut pas être publié : c&apos;est du %2, et non du %3 comme le dit son nom.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off.</source>
+        <translation>« %1 » ne peut pas être publié : il est tronqué.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off: %2 of %3.</source>
+        <translation>« %1 » ne peut pas être publié : il est tronqué : %2 sur %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its sample rate of %2 cannot be right.</source>
+        <translation>« %1 » ne peut pas être publié : sa fréquence d&apos;échantillonnage de %2 ne peut pas être juste.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds samples that are not numbers.</source>
+        <translation>« %1 » ne peut pas être publié : il contient des échantillons qui ne sont pas des nombres.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name is not UTF-8.</source>
+        <translation>« %1 » ne peut pas être publié : son nom n&apos;est pas en UTF-8.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name holds control characters.</source>
+        <translation>« %1 » ne peut pas être publié : son nom contient des caractères de contrôle.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it would have to become %2, which is not possible.</source>
+        <translation>« %1 » ne peut pas être publié : il devrait devenir %2, ce qui n&apos;est pas possible.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds no audio that can be read.</source>
+        <translation>« %1 » ne peut pas être publié : il ne contient aucun son lisible.</translation>
+    </message>
     <message>
         <source>The settings of %1 cannot be read from “%2”.</source>
         <translation>Les réglages de %1 ne peuvent pas être lus dans « %2 ».</translation>
     </message>
     <message>
-        <source>%1 is not set up yet. Put %2 into “%3”, section [%4], one “key = value” a line.</source>
-        <translation>%1 n’est pas encore configuré. Mettez %2 dans « %3 », section [%4], un « clé = valeur » par ligne.</translation>
+        <source>%1 is not set up: %2 is wrong in “%3”, section [%4].</source>
+        <translation>%1 n&apos;est pas configuré : %2 est incorrect dans « %3 », section [%4].</translation>
     </message>
     <message>
-        <source>%1 is not set up properly. Correct %2 in “%3”, section [%4].</source>
-        <translation>%1 est mal configuré. Corrigez %2 dans « %3 », section [%4].</translation>
+        <source>%1 is not set up: %2 is missing in “%3”, section [%4].</source>
+        <translation>%1 n&apos;est pas configuré : il manque %2 dans « %3 », section [%4].</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice.</source>
+        <translation>« %1 » est là deux fois.</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” have the same file name; in an album each song needs its own.</source>
+        <translation>« %1 » et « %2 » ont le même nom de fichier ; dans un album, chaque morceau doit avoir le sien.</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” both have the number %3.</source>
+        <translation>« %1 » et « %2 » ont tous deux le numéro %3.</translation>
     </message>
 </context>
 </TS>

@@ -152,110 +152,6 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::Publishing</name>
-    <message>
-        <source>“%1” cannot be read.</source>
-        <translation>「%1」を読み込めません。</translation>
-    </message>
-    <message>
-        <source>“%1” is of a kind that cannot be published.</source>
-        <translation>「%1」は公開できない種類のファイルです。</translation>
-    </message>
-    <message>
-        <source>Rendering was cancelled; nothing was handed over.</source>
-        <translation>レンダリングを中止しました。何も渡していません。</translation>
-    </message>
-    <message>
-        <source>“%1” cannot be used.</source>
-        <translation>「%1」を使用できません。</translation>
-    </message>
-    <message>
-        <source>“%1” does not take the songs.</source>
-        <translation>「%1」は曲を受け付けません。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over. Complete the information, then upload.</source>
-        <translation>
-            <numerusform>%n曲を渡しました。情報を入力してからアップロードしてください。</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ServiceWatch</name>
-    <message>
-        <source>Disconnected.</source>
-        <translation>切断しました。</translation>
-    </message>
-    <message>
-        <source>Continue in your web browser: allow the access there.</source>
-        <translation>ウェブブラウザーで続行し、アクセスを許可してください。</translation>
-    </message>
-    <message>
-        <source>Signing in…</source>
-        <translation>サインインしています…</translation>
-    </message>
-    <message>
-        <source>Connected.</source>
-        <translation>接続しました。</translation>
-    </message>
-    <message>
-        <source>Uploading “%1”: %2 %</source>
-        <translation>「%1」をアップロード中: %2 %</translation>
-    </message>
-    <message>
-        <source>Your sign-in has expired or was withdrawn. Disconnect, then connect again.</source>
-        <translation>サインインの有効期限が切れたか、取り消されました。切断してから接続し直してください。</translation>
-    </message>
-    <message>
-        <source>Connected as %1.</source>
-        <translation>%1 として接続しました。</translation>
-    </message>
-    <message>
-        <source>The service did not accept the sign-in. Try to connect again.</source>
-        <translation>サービスがサインインを受け付けませんでした。もう一度接続してください。</translation>
-    </message>
-    <message>
-        <source>Not connected yet: the browser has not come back with a permission.</source>
-        <translation>まだ接続していません。ブラウザーから許可が届いていません。</translation>
-    </message>
-    <message>
-        <source>The upload was cancelled before anything was sent.</source>
-        <translation>何も送信しないうちにアップロードを中止しました。</translation>
-    </message>
-    <message numerus="yes">
-        <source>Published: %n song(s).</source>
-        <translation>
-            <numerusform>%n曲を公開しました。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The service needs more information: fill in the marked fields, then upload again.</source>
-        <translation>情報が足りません。印の付いた欄に入力してから、もう一度アップロードしてください。</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: the upload could not be prepared.</source>
-        <translation>何も送信されませんでした。アップロードを準備できませんでした。</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: %1</source>
-        <translation>何も送信されませんでした: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>The service did not take %n song(s). Try again later.</source>
-        <translation>
-            <numerusform>%n曲が受け付けられませんでした。後でもう一度お試しください。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Uploading…</source>
-        <translation>アップロード中…</translation>
-    </message>
-    <message>
-        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
-        <translation>ブラウザーから許可なしで戻りました。ブラウザーでアクセスを許可するか、ここでキャンセルしてください。</translation>
-    </message>
-</context>
-<context>
     <name>xbr::host::Song</name>
     <message>
         <source>%1 bit</source>
@@ -268,14 +164,6 @@
     <message>
         <source>%1 kHz</source>
         <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>This is no audio that can be read.</source>
-        <translation>読み込める音声ではありません。</translation>
-    </message>
-    <message>
-        <source>The file cannot be read.</source>
-        <translation>ファイルを読み込めません。</translation>
     </message>
     <message>
         <source>Audio files</source>
@@ -457,31 +345,411 @@
         <translation>%1、インターフェース %2.%3</translation>
     </message>
     <message>
-        <source>Songs cannot be published: %1</source>
-        <translation>曲を公開できません: %1</translation>
-    </message>
-    <message>
-        <source>Songs cannot be published: no module was found.</source>
-        <translation>曲を公開できません: モジュールが見つかりません。</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1</source>
-        <translation>サインインに対するブラウザーの応答を受け取れません: %1</translation>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>サインインに対するブラウザーの応答を受け取れません: %1.</translation>
     </message>
 </context>
 <context>
-    <name>xbr::host::Wording</name>
+    <name>xbr::host::Words</name>
+    <message>
+        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>1 曲をパネルに渡しました。まだ何も送信されていません。パネルで情報を確かめてからアップロードしてください。</translation>
+    </message>
+    <message>
+        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>%1 曲をパネルに渡しました。まだ何も送信されていません。パネルで情報を確かめてからアップロードしてください。</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>曲を除きますか？</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>ほかの曲だけを渡せます。</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>除く</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
+        <translation>ブラウザーから許可なしで戻りました。ブラウザーでアクセスを許可するか、ここでキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Signed out.</source>
+        <translation>サインアウトしました。</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser.</source>
+        <translation>ブラウザーでの許可を待っています。</translation>
+    </message>
+    <message>
+        <source>Signing in…</source>
+        <translation>サインインしています…</translation>
+    </message>
+    <message>
+        <source>Preparing the songs. Nothing is sent yet.</source>
+        <translation>曲を準備しています。まだ何も送信されていません。</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: %2 %</source>
+        <translation>「%1」を送信中: %2 %</translation>
+    </message>
+    <message>
+        <source>it does not take the songs</source>
+        <translation>は曲を受け取りません</translation>
+    </message>
+    <message>
+        <source>it does not take all songs</source>
+        <translation>は一部の曲を受け取りません</translation>
+    </message>
+    <message>
+        <source>it does not offer to upload the songs</source>
+        <translation>は曲のアップロードができません</translation>
+    </message>
+    <message>
+        <source>Nothing was sent.</source>
+        <translation>何も送信されていません。</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2) and gave no reason.</source>
+        <translation>サービスは「%1」を拒否しました（%2）。理由は示されていません。</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2) and gave no reason.</source>
+        <translation>サービスはアルバム「%1」を拒否しました（%2）。理由は示されていません。</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2): %3</source>
+        <translation>サービスは「%1」を拒否しました（%2）: %3</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2): %3</source>
+        <translation>サービスはアルバム「%1」を拒否しました（%2）: %3</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing: %2.</source>
+        <translation>情報が足りないため、サービスは「%1」を拒否しました: %2。</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing: %2.</source>
+        <translation>情報が足りないため、サービスはアルバム「%1」を拒否しました: %2。</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing, but none is empty here: %2</source>
+        <translation>情報が足りないため、サービスは「%1」を拒否しましたが、ここに空の項目はありません: %2</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing, but none is empty here: %2</source>
+        <translation>情報が足りないため、サービスはアルバム「%1」を拒否しましたが、ここに空の項目はありません: %2</translation>
+    </message>
+    <message>
+        <source>The service does not accept the stored sign-in any more.</source>
+        <translation>保存されたサインインは、もうサービスに受け付けられません。</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because it is too large (%2).</source>
+        <translation>大きすぎるため（%2）、サービスは「%1」を拒否しました。</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because it is too large (%2).</source>
+        <translation>大きすぎるため（%2）、サービスはアルバム「%1」を拒否しました。</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. “%1” was not taken.</source>
+        <translation>サービスは次のアップロードまで少し待つよう求めています。「%1」は受け付けられませんでした。</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. The album “%1” was not taken.</source>
+        <translation>サービスは次のアップロードまで少し待つよう求めています。アルバム「%1」は受け付けられませんでした。</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). “%1” was not taken; nothing is wrong with the song.</source>
+        <translation>サービスに障害があります（%2）。「%1」は受け付けられませんでした。曲に問題はありません。</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). The album “%1” was not taken; nothing is wrong with it.</source>
+        <translation>サービスに障害があります（%2）。アルバム「%1」は受け付けられませんでした。アルバムに問題はありません。</translation>
+    </message>
+    <message>
+        <source>%1 could not prove its identity: %2.</source>
+        <translation>%1 は身元を証明できませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>The service at %1 cannot be reached: %2.</source>
+        <translation>%1 のサービスに接続できません: %2。</translation>
+    </message>
+    <message>
+        <source>Stopped after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>「%1」をすべて送信した後、サービスの応答前に停止しました。公開されている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Stopped after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>アルバム「%1」をすべて送信した後、サービスの応答前に停止しました。公開されている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>「%1」をすべて送信した後、サービスの応答前に接続が切れました。公開されている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>アルバム「%1」をすべて送信した後、サービスの応答前に接続が切れました。公開されている可能性があります。</translation>
+    </message>
+    <message>
+        <source>“%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>「%1」は %3 のうち %2 で停止され、届きませんでした。</translation>
+    </message>
+    <message>
+        <source>The album “%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>アルバム「%1」は %3 のうち %2 で停止され、届きませんでした。</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. “%1” did not arrive.</source>
+        <translation>%3 のうち %2 で接続が切れました。「%1」は届きませんでした。</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. The album “%1” did not arrive.</source>
+        <translation>%3 のうち %2 で接続が切れました。アルバム「%1」は届きませんでした。</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. “%1” was not sent.</source>
+        <translation>「%2」がなくなりました。「%1」は送信されませんでした。</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. The album “%1” is not complete.</source>
+        <translation>「%2」がなくなりました。アルバム「%1」は完全ではありません。</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. “%1” was not sent.</source>
+        <translation>「%2」はコピー中に変わりました。「%1」は送信されませんでした。</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. The album “%1” is not complete.</source>
+        <translation>「%2」はコピー中に変わりました。アルバム「%1」は完全ではありません。</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. “%1” was not sent.</source>
+        <translation>「%2」の空きが足りません: %3 が必要ですが、空きは %4 です。「%1」は送信されませんでした。</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. The album “%1” was not sent.</source>
+        <translation>「%2」の空きが足りません: %3 が必要ですが、空きは %4 です。アルバム「%1」は送信されませんでした。</translation>
+    </message>
+    <message>
+        <source>The folder for copies, “%1”, cannot be written.</source>
+        <translation>コピー用のフォルダー「%1」に書き込めません。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2. It was not sent.</source>
+        <translation>「%1」を準備できませんでした: %2。送信されていません。</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared: %2. It was not sent.</source>
+        <translation>アルバム「%1」を準備できませんでした: %2。送信されていません。</translation>
+    </message>
+    <message>
+        <source>“%1” was not sent.</source>
+        <translation>「%1」は送信されませんでした。</translation>
+    </message>
+    <message>
+        <source>The album “%1” was not sent.</source>
+        <translation>アルバム「%1」は送信されませんでした。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared. It was not sent.</source>
+        <translation>「%1」を準備できませんでした。送信されていません。</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared. It was not sent.</source>
+        <translation>アルバム「%1」を準備できませんでした。送信されていません。</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with one song.</source>
+        <translation>アルバム「%1」（1 曲）を公開しました。</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with %2 songs.</source>
+        <translation>アルバム「%1」（%2 曲）を公開しました。</translation>
+    </message>
+    <message>
+        <source>Published “%1”.</source>
+        <translation>「%1」を公開しました。</translation>
+    </message>
+    <message>
+        <source>Published %1 songs as singles.</source>
+        <translation>%1 曲をシングルとして公開しました。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs are published.</source>
+        <translation>%2 曲のうち %1 曲が公開されています。</translation>
+    </message>
+    <message>
+        <source>Signed in.</source>
+        <translation>サインインしました。</translation>
+    </message>
+    <message>
+        <source>Signed in as %1.</source>
+        <translation>%1 としてサインインしました。</translation>
+    </message>
+    <message>
+        <source>Not signed in: the sign-in was given up.</source>
+        <translation>サインインしていません: サインインは中止されました。</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service did not accept it.</source>
+        <translation>サインインしていません: サービスに受け付けられませんでした。</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service refused it: %1.</source>
+        <translation>サインインしていません: サービスに拒否されました: %1。</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent. Choose “Reset” in the menu of a song first.</source>
+        <translation>送信を待つ曲はありません。まず曲のメニューで「リセット」を選んでください。</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs. %3</source>
+        <translation>%2 曲のうち %1 曲を公開しました。%3</translation>
+    </message>
+    <message>
+        <source>No module was found. Songs cannot be published.</source>
+        <translation>モジュールが見つかりません。曲を公開できません。</translation>
+    </message>
+    <message>
+        <source>“%1” %2. Songs cannot be published.</source>
+        <translation>「%1」%2。曲を公開できません。</translation>
+    </message>
+    <message>
+        <source>album title</source>
+        <translation>アルバム名</translation>
+    </message>
+    <message>
+        <source>album artist</source>
+        <translation>アルバムアーティスト</translation>
+    </message>
+    <message>
+        <source>genre</source>
+        <translation>ジャンル</translation>
+    </message>
+    <message>
+        <source>song title</source>
+        <translation>曲名</translation>
+    </message>
+    <message>
+        <source>song artist</source>
+        <translation>曲のアーティスト</translation>
+    </message>
+    <message>
+        <source>“%1” lacks: %2.</source>
+        <translation>「%1」に足りない項目: %2。</translation>
+    </message>
+    <message>
+        <source>The album lacks: %1.</source>
+        <translation>アルバムに足りない項目: %1。</translation>
+    </message>
+    <message>
+        <source>The album “%1” lacks: %2.</source>
+        <translation>アルバム「%1」に足りない項目: %2。</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”.</source>
+        <translation>ジャンル「%1」はサービスにありません。</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”. Nearest: %2.</source>
+        <translation>ジャンル「%1」はサービスにありません。近いもの: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know.</source>
+        <translation>「%1」のジャンル「%2」はサービスにありません。</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know. Nearest: %3.</source>
+        <translation>「%1」のジャンル「%2」はサービスにありません。近いもの: %3。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not there.</source>
+        <translation>「%1」は公開できません: ファイルがありません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read.</source>
+        <translation>「%1」は公開できません: 読み取れません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read (%2).</source>
+        <translation>「%1」は公開できません: 読み取れません（%2）。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not a file.</source>
+        <translation>「%1」は公開できません: ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is %2, not %3 as its name says.</source>
+        <translation>「%1」は公開できません: 名前は %3 ですが、中身は %2 です。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off.</source>
+        <translation>「%1」は公開できません: 途中で切れています。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off: %2 of %3.</source>
+        <translation>「%1」は公開できません: 途中で切れています（%3 のうち %2）。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its sample rate of %2 cannot be right.</source>
+        <translation>「%1」は公開できません: サンプルレート %2 は正しくありません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds samples that are not numbers.</source>
+        <translation>「%1」は公開できません: 数値でないサンプルがあります。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name is not UTF-8.</source>
+        <translation>「%1」は公開できません: 名前が UTF-8 ではありません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name holds control characters.</source>
+        <translation>「%1」は公開できません: 名前に制御文字があります。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it would have to become %2, which is not possible.</source>
+        <translation>「%1」は公開できません: %2 に変換する必要がありますが、できません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds no audio that can be read.</source>
+        <translation>「%1」は公開できません: 読み取れる音声がありません。</translation>
+    </message>
     <message>
         <source>The settings of %1 cannot be read from “%2”.</source>
         <translation>%1 の設定を「%2」から読み込めません。</translation>
     </message>
     <message>
-        <source>%1 is not set up yet. Put %2 into “%3”, section [%4], one “key = value” a line.</source>
-        <translation>%1 はまだ設定されていません。%2 を「%3」のセクション [%4] に、1行に1つ「キー = 値」の形で書いてください。</translation>
+        <source>%1 is not set up: %2 is wrong in “%3”, section [%4].</source>
+        <translation>%1 は設定されていません: 「%3」のセクション [%4] の %2 が正しくありません。</translation>
     </message>
     <message>
-        <source>%1 is not set up properly. Correct %2 in “%3”, section [%4].</source>
-        <translation>%1 の設定が正しくありません。「%3」のセクション [%4] の %2 を直してください。</translation>
+        <source>%1 is not set up: %2 is missing in “%3”, section [%4].</source>
+        <translation>%1 は設定されていません: 「%3」のセクション [%4] に %2 がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice.</source>
+        <translation>「%1」が 2 回あります。</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” have the same file name; in an album each song needs its own.</source>
+        <translation>「%1」と「%2」のファイル名が同じです。アルバムでは曲ごとに別の名前が必要です。</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” both have the number %3.</source>
+        <translation>「%1」と「%2」はどちらも %3 番です。</translation>
     </message>
 </context>
 </TS>

@@ -153,113 +153,6 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::Publishing</name>
-    <message>
-        <source>“%1” cannot be read.</source>
-        <translation>Não é possível ler “%1”.</translation>
-    </message>
-    <message>
-        <source>“%1” is of a kind that cannot be published.</source>
-        <translation>“%1” é de um tipo que não pode ser publicado.</translation>
-    </message>
-    <message>
-        <source>Rendering was cancelled; nothing was handed over.</source>
-        <translation>A renderização foi cancelada; nada foi entregue.</translation>
-    </message>
-    <message>
-        <source>“%1” cannot be used.</source>
-        <translation>Não é possível usar “%1”.</translation>
-    </message>
-    <message>
-        <source>“%1” does not take the songs.</source>
-        <translation>“%1” não aceita as músicas.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over. Complete the information, then upload.</source>
-        <translation>
-            <numerusform>%n música entregue. Complete as informações e envie.</numerusform>
-            <numerusform>%n músicas entregues. Complete as informações e envie.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ServiceWatch</name>
-    <message>
-        <source>Disconnected.</source>
-        <translation>Desconectado.</translation>
-    </message>
-    <message>
-        <source>Continue in your web browser: allow the access there.</source>
-        <translation>Continue no navegador: permita o acesso lá.</translation>
-    </message>
-    <message>
-        <source>Signing in…</source>
-        <translation>Entrando…</translation>
-    </message>
-    <message>
-        <source>Connected.</source>
-        <translation>Conectado.</translation>
-    </message>
-    <message>
-        <source>Uploading “%1”: %2 %</source>
-        <translation>Enviando “%1”: %2 %</translation>
-    </message>
-    <message>
-        <source>Your sign-in has expired or was withdrawn. Disconnect, then connect again.</source>
-        <translation>Sua sessão expirou ou foi revogada. Desconecte e conecte de novo.</translation>
-    </message>
-    <message>
-        <source>Connected as %1.</source>
-        <translation>Conectado como %1.</translation>
-    </message>
-    <message>
-        <source>The service did not accept the sign-in. Try to connect again.</source>
-        <translation>O serviço não aceitou a entrada. Tente conectar de novo.</translation>
-    </message>
-    <message>
-        <source>Not connected yet: the browser has not come back with a permission.</source>
-        <translation>Ainda sem conexão: o navegador não trouxe a permissão.</translation>
-    </message>
-    <message>
-        <source>The upload was cancelled before anything was sent.</source>
-        <translation>O envio foi cancelado antes que algo saísse.</translation>
-    </message>
-    <message numerus="yes">
-        <source>Published: %n song(s).</source>
-        <translation>
-            <numerusform>Publicada: %n música.</numerusform>
-            <numerusform>Publicadas: %n músicas.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The service needs more information: fill in the marked fields, then upload again.</source>
-        <translation>O serviço precisa de mais informações: preencha os campos marcados e envie de novo.</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: the upload could not be prepared.</source>
-        <translation>Nada foi enviado: não foi possível preparar o envio.</translation>
-    </message>
-    <message>
-        <source>Nothing was sent: %1</source>
-        <translation>Nada foi enviado: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>The service did not take %n song(s). Try again later.</source>
-        <translation>
-            <numerusform>O serviço não aceitou %n música. Tente mais tarde.</numerusform>
-            <numerusform>O serviço não aceitou %n músicas. Tente mais tarde.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Uploading…</source>
-        <translation>Enviando…</translation>
-    </message>
-    <message>
-        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
-        <translation>O navegador voltou sem permissão. Permita o acesso lá ou cancele aqui.</translation>
-    </message>
-</context>
-<context>
     <name>xbr::host::Song</name>
     <message>
         <source>%1 bit</source>
@@ -272,14 +165,6 @@
     <message>
         <source>%1 kHz</source>
         <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>This is no audio that can be read.</source>
-        <translation>Não é um áudio que se possa ler.</translation>
-    </message>
-    <message>
-        <source>The file cannot be read.</source>
-        <translation>Não é possível ler o arquivo.</translation>
     </message>
     <message>
         <source>Audio files</source>
@@ -461,31 +346,411 @@
         <translation>%1, interface %2.%3</translation>
     </message>
     <message>
-        <source>Songs cannot be published: %1</source>
-        <translation>Não é possível publicar músicas: %1</translation>
-    </message>
-    <message>
-        <source>Songs cannot be published: no module was found.</source>
-        <translation>Não é possível publicar músicas: nenhum módulo foi encontrado.</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1</source>
-        <translation>Não é possível receber a resposta do navegador à entrada: %1</translation>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>Não é possível receber a resposta do navegador à entrada: %1.</translation>
     </message>
 </context>
 <context>
-    <name>xbr::host::Wording</name>
+    <name>xbr::host::Words</name>
+    <message>
+        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>Uma música entregue ao painel; nada foi enviado ainda. Confira os dados lá e depois envie.</translation>
+    </message>
+    <message>
+        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>%1 músicas entregues ao painel; nada foi enviado ainda. Confira os dados lá e depois envie.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Deixar músicas de fora?</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>As outras músicas podem ser entregues sem elas.</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Deixar de fora</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
+        <translation>O navegador voltou sem permissão. Permita o acesso lá ou cancele aqui.</translation>
+    </message>
+    <message>
+        <source>Signed out.</source>
+        <translation>Sessão encerrada.</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser.</source>
+        <translation>Aguardando a sua permissão no navegador.</translation>
+    </message>
+    <message>
+        <source>Signing in…</source>
+        <translation>Entrando…</translation>
+    </message>
+    <message>
+        <source>Preparing the songs. Nothing is sent yet.</source>
+        <translation>Preparando as músicas. Nada foi enviado ainda.</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: %2 %</source>
+        <translation>Enviando “%1”: %2 %</translation>
+    </message>
+    <message>
+        <source>it does not take the songs</source>
+        <translation>não aceita as músicas</translation>
+    </message>
+    <message>
+        <source>it does not take all songs</source>
+        <translation>não aceita todas as músicas</translation>
+    </message>
+    <message>
+        <source>it does not offer to upload the songs</source>
+        <translation>não oferece o envio das músicas</translation>
+    </message>
+    <message>
+        <source>Nothing was sent.</source>
+        <translation>Nada foi enviado.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2) and gave no reason.</source>
+        <translation>O serviço recusou “%1” (%2) sem dar um motivo.</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2) and gave no reason.</source>
+        <translation>O serviço recusou o álbum “%1” (%2) sem dar um motivo.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” (%2): %3</source>
+        <translation>O serviço recusou “%1” (%2): %3</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” (%2): %3</source>
+        <translation>O serviço recusou o álbum “%1” (%2): %3</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing: %2.</source>
+        <translation>O serviço recusou “%1” porque faltam dados: %2.</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing: %2.</source>
+        <translation>O serviço recusou o álbum “%1” porque faltam dados: %2.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because details are missing, but none is empty here: %2</source>
+        <translation>O serviço recusou “%1” porque faltam dados, mas nenhum está vazio aqui: %2</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because details are missing, but none is empty here: %2</source>
+        <translation>O serviço recusou o álbum “%1” porque faltam dados, mas nenhum está vazio aqui: %2</translation>
+    </message>
+    <message>
+        <source>The service does not accept the stored sign-in any more.</source>
+        <translation>O serviço não aceita mais o acesso guardado.</translation>
+    </message>
+    <message>
+        <source>The service refused “%1” because it is too large (%2).</source>
+        <translation>O serviço recusou “%1” porque é grande demais (%2).</translation>
+    </message>
+    <message>
+        <source>The service refused the album “%1” because it is too large (%2).</source>
+        <translation>O serviço recusou o álbum “%1” porque é grande demais (%2).</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. “%1” was not taken.</source>
+        <translation>O serviço pede para esperar um pouco antes do próximo envio. “%1” não foi aceita.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait a while before the next upload. The album “%1” was not taken.</source>
+        <translation>O serviço pede para esperar um pouco antes do próximo envio. O álbum “%1” não foi aceito.</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). “%1” was not taken; nothing is wrong with the song.</source>
+        <translation>O serviço está com uma falha (%2). “%1” não foi aceita; não há nada de errado com a música.</translation>
+    </message>
+    <message>
+        <source>The service has a fault (%2). The album “%1” was not taken; nothing is wrong with it.</source>
+        <translation>O serviço está com uma falha (%2). O álbum “%1” não foi aceito; não há nada de errado com ele.</translation>
+    </message>
+    <message>
+        <source>%1 could not prove its identity: %2.</source>
+        <translation>%1 não conseguiu provar a sua identidade: %2.</translation>
+    </message>
+    <message>
+        <source>The service at %1 cannot be reached: %2.</source>
+        <translation>Não é possível acessar o serviço em %1: %2.</translation>
+    </message>
+    <message>
+        <source>Stopped after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Parado depois de enviar toda “%1”, antes de o serviço responder. Pode ter sido publicada.</translation>
+    </message>
+    <message>
+        <source>Stopped after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>Parado depois de enviar todo o álbum “%1”, antes de o serviço responder. Pode ter sido publicado.</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of “%1” was sent, before the service answered. It may be published.</source>
+        <translation>A conexão caiu depois de enviar toda “%1”, antes de o serviço responder. Pode ter sido publicada.</translation>
+    </message>
+    <message>
+        <source>The connection broke after all of the album “%1” was sent, before the service answered. It may be published.</source>
+        <translation>A conexão caiu depois de enviar todo o álbum “%1”, antes de o serviço responder. Pode ter sido publicado.</translation>
+    </message>
+    <message>
+        <source>“%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>“%1” foi parada em %2 de %3 e não chegou.</translation>
+    </message>
+    <message>
+        <source>The album “%1” was stopped at %2 of %3 and did not arrive.</source>
+        <translation>O álbum “%1” foi parado em %2 de %3 e não chegou.</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. “%1” did not arrive.</source>
+        <translation>A conexão caiu depois de %2 de %3. “%1” não chegou.</translation>
+    </message>
+    <message>
+        <source>The connection broke after %2 of %3. The album “%1” did not arrive.</source>
+        <translation>A conexão caiu depois de %2 de %3. O álbum “%1” não chegou.</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. “%1” was not sent.</source>
+        <translation>“%2” não está mais lá. “%1” não foi enviada.</translation>
+    </message>
+    <message>
+        <source>“%2” is no longer there. The album “%1” is not complete.</source>
+        <translation>“%2” não está mais lá. O álbum “%1” não está completo.</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. “%1” was not sent.</source>
+        <translation>“%2” mudou enquanto era copiada. “%1” não foi enviada.</translation>
+    </message>
+    <message>
+        <source>“%2” changed while it was copied. The album “%1” is not complete.</source>
+        <translation>“%2” mudou enquanto era copiada. O álbum “%1” não está completo.</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. “%1” was not sent.</source>
+        <translation>Não há espaço suficiente em “%2”: são necessários %3, há %4 livres. “%1” não foi enviada.</translation>
+    </message>
+    <message>
+        <source>There is not enough room in “%2”: %3 are needed, %4 are free. The album “%1” was not sent.</source>
+        <translation>Não há espaço suficiente em “%2”: são necessários %3, há %4 livres. O álbum “%1” não foi enviado.</translation>
+    </message>
+    <message>
+        <source>The folder for copies, “%1”, cannot be written.</source>
+        <translation>Não é possível gravar na pasta de cópias, “%1”.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2. It was not sent.</source>
+        <translation>Não foi possível preparar “%1”: %2. Não foi enviada.</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared: %2. It was not sent.</source>
+        <translation>Não foi possível preparar o álbum “%1”: %2. Não foi enviado.</translation>
+    </message>
+    <message>
+        <source>“%1” was not sent.</source>
+        <translation>“%1” não foi enviada.</translation>
+    </message>
+    <message>
+        <source>The album “%1” was not sent.</source>
+        <translation>O álbum “%1” não foi enviado.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared. It was not sent.</source>
+        <translation>Não foi possível preparar “%1”. Não foi enviada.</translation>
+    </message>
+    <message>
+        <source>The album “%1” could not be prepared. It was not sent.</source>
+        <translation>Não foi possível preparar o álbum “%1”. Não foi enviado.</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with one song.</source>
+        <translation>O álbum “%1” com uma música foi publicado.</translation>
+    </message>
+    <message>
+        <source>Published the album “%1” with %2 songs.</source>
+        <translation>O álbum “%1” com %2 músicas foi publicado.</translation>
+    </message>
+    <message>
+        <source>Published “%1”.</source>
+        <translation>“%1” foi publicada.</translation>
+    </message>
+    <message>
+        <source>Published %1 songs as singles.</source>
+        <translation>%1 músicas foram publicadas como singles.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Parado.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs are published.</source>
+        <translation>%1 de %2 músicas estão publicadas.</translation>
+    </message>
+    <message>
+        <source>Signed in.</source>
+        <translation>Sessão iniciada.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1.</source>
+        <translation>Sessão iniciada como %1.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the sign-in was given up.</source>
+        <translation>Sem sessão: o acesso foi abandonado.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service did not accept it.</source>
+        <translation>Sem sessão: o serviço não aceitou.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service refused it: %1.</source>
+        <translation>Sem sessão: o serviço recusou: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent. Choose “Reset” in the menu of a song first.</source>
+        <translation>Nada espera para ser enviado. Escolha antes “Repor” no menu de uma música.</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs. %3</source>
+        <translation>%1 de %2 músicas foram publicadas. %3</translation>
+    </message>
+    <message>
+        <source>No module was found. Songs cannot be published.</source>
+        <translation>Nenhum módulo foi encontrado. Não é possível publicar músicas.</translation>
+    </message>
+    <message>
+        <source>“%1” %2. Songs cannot be published.</source>
+        <translation>“%1” %2. Não é possível publicar músicas.</translation>
+    </message>
+    <message>
+        <source>album title</source>
+        <translation>título do álbum</translation>
+    </message>
+    <message>
+        <source>album artist</source>
+        <translation>artista do álbum</translation>
+    </message>
+    <message>
+        <source>genre</source>
+        <translation>gênero</translation>
+    </message>
+    <message>
+        <source>song title</source>
+        <translation>título da música</translation>
+    </message>
+    <message>
+        <source>song artist</source>
+        <translation>artista da música</translation>
+    </message>
+    <message>
+        <source>“%1” lacks: %2.</source>
+        <translation>Falta em “%1”: %2.</translation>
+    </message>
+    <message>
+        <source>The album lacks: %1.</source>
+        <translation>Falta no álbum: %1.</translation>
+    </message>
+    <message>
+        <source>The album “%1” lacks: %2.</source>
+        <translation>Falta no álbum “%1”: %2.</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”.</source>
+        <translation>O serviço não conhece o gênero “%1”.</translation>
+    </message>
+    <message>
+        <source>The service does not know the genre “%1”. Nearest: %2.</source>
+        <translation>O serviço não conhece o gênero “%1”. Mais próximo: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know.</source>
+        <translation>“%1” tem o gênero “%2”, que o serviço não conhece.</translation>
+    </message>
+    <message>
+        <source>“%1” has the genre “%2”, which the service does not know. Nearest: %3.</source>
+        <translation>“%1” tem o gênero “%2”, que o serviço não conhece. Mais próximo: %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not there.</source>
+        <translation>“%1” não pode ser publicada: não está lá.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read.</source>
+        <translation>“%1” não pode ser publicada: não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it cannot be read (%2).</source>
+        <translation>“%1” não pode ser publicada: não pode ser lida (%2).</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is not a file.</source>
+        <translation>“%1” não pode ser publicada: não é um arquivo.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is %2, not %3 as its name says.</source>
+        <translation>“%1” não pode ser publicada: é %2, e não %3 como diz o nome.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off.</source>
+        <translation>“%1” não pode ser publicada: está cortada.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it is cut off: %2 of %3.</source>
+        <translation>“%1” não pode ser publicada: está cortada: %2 de %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its sample rate of %2 cannot be right.</source>
+        <translation>“%1” não pode ser publicada: a taxa de amostragem de %2 não pode estar certa.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds samples that are not numbers.</source>
+        <translation>“%1” não pode ser publicada: contém amostras que não são números.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name is not UTF-8.</source>
+        <translation>“%1” não pode ser publicada: o nome não é UTF-8.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: its name holds control characters.</source>
+        <translation>“%1” não pode ser publicada: o nome contém caracteres de controle.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it would have to become %2, which is not possible.</source>
+        <translation>“%1” não pode ser publicada: teria de virar %2, o que não é possível.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be published: it holds no audio that can be read.</source>
+        <translation>“%1” não pode ser publicada: não contém áudio que possa ser lido.</translation>
+    </message>
     <message>
         <source>The settings of %1 cannot be read from “%2”.</source>
         <translation>Não é possível ler as configurações de %1 em “%2”.</translation>
     </message>
     <message>
-        <source>%1 is not set up yet. Put %2 into “%3”, section [%4], one “key = value” a line.</source>
-        <translation>%1 ainda não está configurado. Coloque %2 em “%3”, seção [%4], um “chave = valor” por linha.</translation>
+        <source>%1 is not set up: %2 is wrong in “%3”, section [%4].</source>
+        <translation>%1 não está configurado: %2 está incorreto em “%3”, seção [%4].</translation>
     </message>
     <message>
-        <source>%1 is not set up properly. Correct %2 in “%3”, section [%4].</source>
-        <translation>%1 não está bem configurado. Corrija %2 em “%3”, seção [%4].</translation>
+        <source>%1 is not set up: %2 is missing in “%3”, section [%4].</source>
+        <translation>%1 não está configurado: falta %2 em “%3”, seção [%4].</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice.</source>
+        <translation>“%1” está duas vezes.</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” have the same file name; in an album each song needs its own.</source>
+        <translation>“%1” e “%2” têm o mesmo nome de arquivo; em um álbum cada música precisa do seu.</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” both have the number %3.</source>
+        <translation>“%1” e “%2” têm ambas o número %3.</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Brings the translation files into line with the texts of the window.
+"""Brings the translation files into line with the texts of the window and of what both front ends say.
 
     update.py [FOLDER]    FOLDER holds the .ts files; without one they are those beside this script
 
@@ -16,7 +16,8 @@ LUPDATE = "/usr/lib/qt6/bin/lupdate"
 
 def main():
     folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else HERE
-    sources = [str(path) for suffix in ("h", "cpp") for path in sorted(HERE.parent.rglob("*." + suffix))]
+    rooms = [HERE.parent, ROOT / "host" / "app" / "publishing"]
+    sources = [str(path) for room in rooms for suffix in ("h", "cpp") for path in sorted(room.rglob("*." + suffix))]
     for path in sorted(folder.glob("*.ts")):
         plurals = ["-pluralonly"] if path.stem == "en" else []
         command = [LUPDATE, "-silent", "-locations", "none", "-no-obsolete", "-I", str(ROOT), *plurals, *sources, "-ts", str(path)]

@@ -178,20 +178,15 @@ TEST_F(Renderer, whatEndsEarlyLeavesNothing) {
     EXPECT_FALSE(isTargetThere());
 }
 
-TEST_F(Renderer, songsOfOneNameDoNotMeet) {
+TEST_F(Renderer, renderedSongsGoWithTheirOwner) {
     std::string folder;
     {
         RenderedSongs songs;
-        songs.reserve("a.wav");
-        const std::string second = songs.choosePath("/x/a.aiff");
-        const std::string third = songs.choosePath("/y/a.ogg");
-        EXPECT_TRUE(second.ends_with("/a (2).wav")) << second;
-        EXPECT_TRUE(third.ends_with("/a (3).wav")) << third;
-        EXPECT_TRUE(songs.choosePath("/y/b.aiff").ends_with("/b.wav"));
+        const std::string path = songs.pathOf("a (2).wav");
         writeSound(m_folder.path("a.aiff"), SF_FORMAT_AIFF | SF_FORMAT_PCM_16);
-        EXPECT_EQ(songs.render(m_folder.path("a.aiff"), second, m_error), RenderResult::kDone) << m_error;
-        EXPECT_TRUE(std::filesystem::exists(second));
-        folder = std::filesystem::path(second).parent_path();
+        EXPECT_EQ(songs.render(m_folder.path("a.aiff"), path, m_error), RenderResult::kDone) << m_error;
+        EXPECT_TRUE(std::filesystem::exists(path));
+        folder = std::filesystem::path(path).parent_path();
     }
     EXPECT_FALSE(std::filesystem::exists(folder));
 }

@@ -358,6 +358,9 @@ TEST(Genres, AreMatchedAsTagsWriteThem) {
         EXPECT_EQ(genres.match(each.written).value_or("(none)"), each.known ? each.known : "(none)")
             << each.written;
     }
+    EXPECT_EQ(Genres({"Axé", "Pop"}).match("AXÉ"), "Axé");
+    EXPECT_EQ(Genres({"J-Pop", "Techno (Peak Time / Driving)", "Pop"}).near("technno"),
+              std::vector<std::string>{"Techno (Peak Time / Driving)"});
     EXPECT_EQ(genres.near("Rocl"), std::vector<std::string>{"Rock"});
     EXPECT_EQ(genres.near("hip hop"), std::vector<std::string>{"Hip Hop/Rap"});
     EXPECT_TRUE(genres.near("Quasimodo").empty());

@@ -1,5 +1,4 @@
 #include "host/app/headless/releasefile.h"
-#include "host/app/publishing/genrelist.h"
 #include "tests/host/app/testfolder.h"
 
 #include <gmock/gmock.h>
@@ -84,19 +83,6 @@ TEST_F(ReleaseFile, saysWhatIsWrong) {
     EXPECT_THAT(m_error, HasSubstr("is not there"));
     EXPECT_FALSE(readReleaseFile(m_folder.path(), m_plan, m_error));
     EXPECT_THAT(m_error, HasSubstr("is not a file"));
-}
-
-TEST(Genres, areFoundInAnyCaseAndSuggestedWhenTheyAreNear) {
-    const GenreList genres({"Afro house", "Axé", "Deep House", "House", "J-Pop", "K-Pop", "Pop",
-                            "Techno (Peak Time / Driving)"});
-    EXPECT_EQ(genres.find("AXÉ"), "Axé");
-    EXPECT_EQ(genres.find(" deep house "), "Deep House");
-    EXPECT_EQ(genres.find("Hous"), std::nullopt);
-    EXPECT_THAT(genres.near("Huose"), ElementsAre("House"));
-    EXPECT_THAT(genres.near("technno"), ElementsAre("Techno (Peak Time / Driving)"));
-    EXPECT_THAT(genres.near("pop"), ElementsAre("J-Pop", "K-Pop", "Pop"));
-    EXPECT_EQ(genres.describeUnknown("Polka Dot"), "there is no genre 'Polka Dot'");
-    EXPECT_EQ(genres.describeUnknown("Axe"), "there is no genre 'Axe'; did you mean 'Axé'?");
 }
 
 } // namespace xbr::host

@@ -2,7 +2,8 @@
 
 #include "framework/abi/listmodel.h"
 #include "framework/support/objects/object.h"
-#include "host/app/publishing/release.h"
+#include "host/app/modules/gadgetpanel.h"
+#include "host/app/publishing/plan.h"
 #include "host/base/listener.h"
 
 #include <QTimer>
@@ -55,5 +56,18 @@ private:
     QTimer m_later; ///< runs while the list has changed and was not read since
     Listener m_listener;
 };
+
+/// A track that lacks something that a release needs.
+struct IncompleteTrack {
+    std::int32_t index = 0; ///< from 0
+    std::vector<Detail> missing;
+};
+
+/// Looks through the tracks of a panel with its editor. Moves the focus of the list from row to row; it ends
+/// up where it was.
+std::vector<IncompleteTrack> findIncompleteTracks(GadgetPanel& panel);
+
+/// The title of the album that the panel's tracks are. Moves the focus when no track has it.
+std::string albumTitleOf(GadgetPanel& panel);
 
 } // namespace xbr::host

@@ -1,9 +1,10 @@
-#include "host/app/publishing/trackfollower.h"
+#include "host/app/publishing/tracks.h"
 
 #include "framework/abi/controller.h"
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
+#include "framework/support/parts/path.h"
 #include "host/base/fileurl.h"
 
 #include <algorithm>
@@ -35,6 +36,30 @@ TrackReport read(IListViewModel& tracks, std::int32_t row) {
         report.progress = std::clamp(numberOf(property(*item, "progress")), 0.0, 1.0);
     }
     return report;
+}
+
+constexpr Detail kDetails[] = {Detail::kAlbumTitle, Detail::kAlbumArtist, Detail::kGenre, Detail::kSongTitle,
+                               Detail::kSongArtist};
+
+const IParameter* editorParameter(const GadgetPanel& panel, Detail detail) {
+    return findParameter(panel.controller(), std::string("TrackList/TrackProperties/") + parameterOf(detail));
+}
+
+/// Of a list of choices the first is "not set".
+bool isMissing(const IParameter& parameter) {
+    const Value value = parameter.value();
+    return parameter.kind() == ParameterKind::kList ? integerOf(value) == 0 : textOf(value).empty();
+}
+
+std::vector<Detail> missingDetails(const GadgetPanel& panel) {
+    std::vector<Detail> missing;
+    for (const Detail detail : kDetails) {
+        const IParameter* parameter = editorParameter(panel, detail);
+        if (parameter && isMissing(*parameter)) {
+            missing.push_back(detail);
+        }
+    }
+    return missing;
 }
 
 } // namespace
@@ -100,6 +125,33 @@ void TrackFollower::readRow(std::int32_t row) {
         known = report;
         m_changed(report);
     }
+}
+
+std::vector<IncompleteTrack> findIncompleteTracks(GadgetPanel& panel) {
+    std::vector<IncompleteTrack> incomplete;
+    const auto tracks = panel.tracks();
+    const std::int32_t focus = tracks->focus();
+    for (std::int32_t row = 0; row < tracks->countRows(); ++row) {
+        tracks->setFocus(row);
+        if (auto missing = missingDetails(panel); !missing.empty()) {
+            incomplete.push_back({row, std::move(missing)});
+        }
+    }
+    tracks->setFocus(focus);
+    return incomplete;
+}
+
+std::string albumTitleOf(GadgetPanel& panel) {
+    const auto tracks = panel.tracks();
+    const std::int32_t focus = tracks->focus();
+    if (focus < 0) {
+        tracks->setFocus(0); // the editor shows what has the focus
+    }
+    std::string title = panel.text("TrackList/TrackProperties/albumTitle");
+    if (focus < 0) {
+        tracks->setFocus(focus);
+    }
+    return title;
 }
 
 } // namespace xbr::host

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "host/app/publishing/follow.h"
+#include "host/app/publishing/notice.h"
+#include "host/app/publishing/signin.h"
+
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace xbr::host {
+
+/// Hears what happens. Called from the event loop and from the calls below; must not destroy the Publishing
+/// in there.
+class PublishingListener {
+public:
+    virtual ~PublishingListener() = default;
+
+    /// What is about to be sent.
+    virtual void tracksKnown(const std::vector<TrackReport>& /*tracks*/) {}
+
+    /// Songs are copied and packed.
+    virtual void preparing() {}
+
+    virtual void trackChanged(const TrackReport& /*track*/) {}
+
+    /// Something came to its end: a sign-in, an upload, or what was asked for before anything was sent.
+    virtual void ended(const Verdict& verdict) = 0;
+};
+
+/// All that a front end asks to get songs through a module's panel to the service, whichever front end it is.
+/// One for each panel; hears of uploads that were begun in the panel, too. Main thread.
+class Publishing {
+public:
+    Publishing(Activity& activity, const ConfigurationReport& settings, GadgetPanel& panel,
+               PublishingListener& listener);
+    Publishing(const Publishing&) = delete;
+    Publishing& operator=(const Publishing&) = delete;
+
+    /// What would be handed over of the songs, which belong to those of the wish one to one.
+    Plan plan(const PublishEntry& entry, const ReleaseWish& wish, const std::vector<SongFile>& songs) const;
+
+    /// Puts the songs of a plan into the panel; runs the event loop while songs are rendered. The verdict
+    /// when that came to nothing.
+    std::optional<Verdict> handOver(const PublishEntry& entry, const Plan& plan);
+
+    /// Hands over, signs in, uploads, and tells what came of it. Begins with the next turn of the event loop.
+    void publish(const PublishEntry& entry, Plan plan);
+
+    /// Signs in, and tells what came of it.
+    void signIn(Expired expired);
+
+    /// The user signs in through the panel: what comes of it is told.
+    void signInBegan();
+
+    /// The user performed "upload" in the panel, which has come back.
+    void uploadAsked() { m_follow.asked(); }
+
+    /// Ends what runs as soon as the dialog or the indicator that is open has been closed by the front end.
+    /// What is on its way to the service is given up.
+    void cancel();
+
+    /// True while songs are handed over, prepared or on their way.
+    bool isBusy();
+
+private:
+    void begin();
+    void upload();
+    template <class Call>
+    bool doInPanel(const Call& call);
+    void tellCancelled();
+    void nameServer(Problem& problem) const;
+    void end(const Verdict& verdict);
+
+    Activity* m_activity;
+    const ConfigurationReport* m_settings;
+    GadgetPanel* m_panel;
+    PublishingListener* m_listener;
+    std::unique_ptr<RenderedSongs> m_rendered; ///< what the panel got last
+    PublishEntry m_entry;
+    Plan m_plan;
+    bool m_isCancelled = false;
+    bool m_isEnded = true; ///< of what `publish` or `signIn` began
+    int m_calls = 0;       ///< calls into the module that may run the event loop
+    Follow m_follow;
+    SignIn m_signIn;
+    QTimer m_start;
+};
+
+} // namespace xbr::host
