@@ -278,7 +278,7 @@ xbr::Text FeedElement::categoryAt(std::int32_t index) const noexcept {
 }
 
 xbr::Text FeedElement::nameAt(std::int32_t index) const noexcept {
-    return xbr::toText(index == 0 ? "Reload All" : "");
+    return xbr::toText(index == 0 ? xbr::translatable("Reload All") : "");
 }
 
 xbr::Result FeedElement::perform(std::int32_t index) noexcept {

@@ -1,6 +1,7 @@
 #include "ui/tracks/resetcommand.h"
 
 #include "framework/support/objects/text.h"
+#include "framework/support/parts/modulecomponent.h"
 
 namespace brindlex {
 
@@ -11,7 +12,7 @@ xbr::Text ResetCommand::categoryAt(std::int32_t index) const noexcept {
 }
 
 xbr::Text ResetCommand::nameAt(std::int32_t index) const noexcept {
-    return xbr::toText(index == 0 ? "Reset" : "");
+    return xbr::toText(index == 0 ? xbr::translatable("Reset") : "");
 }
 
 std::vector<TrackItem*> ResetCommand::resettable() const {

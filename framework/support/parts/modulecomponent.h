@@ -42,4 +42,9 @@ private:
 /// `source`, an English text of the module, in the user's language.
 std::string translate(std::string_view source);
 
+/// Marks an English text that the host translates where it shows it, such as a command's name.
+constexpr const char* translatable(const char* source) {
+    return source;
+}
+
 } // namespace xbr

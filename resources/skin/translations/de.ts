@@ -224,10 +224,6 @@
         <translation>Zu Brindlex hochladen</translation>
     </message>
     <message>
-        <source>Feed</source>
-        <translation>Neuigkeiten</translation>
-    </message>
-    <message>
         <source>Reload All</source>
         <translation>Alles neu laden</translation>
     </message>

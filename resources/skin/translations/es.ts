@@ -224,10 +224,6 @@
         <translation>Subir a Brindlex</translation>
     </message>
     <message>
-        <source>Feed</source>
-        <translation>Noticias</translation>
-    </message>
-    <message>
         <source>Reload All</source>
         <translation>Recargar todo</translation>
     </message>

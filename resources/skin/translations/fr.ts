@@ -224,10 +224,6 @@
         <translation>Envoyer vers Brindlex</translation>
     </message>
     <message>
-        <source>Feed</source>
-        <translation>Actualités</translation>
-    </message>
-    <message>
         <source>Reload All</source>
         <translation>Tout recharger</translation>
     </message>

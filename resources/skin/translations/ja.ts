@@ -224,10 +224,6 @@
         <translation>Brindlex にアップロード</translation>
     </message>
     <message>
-        <source>Feed</source>
-        <translation>ニュース</translation>
-    </message>
-    <message>
         <source>Reload All</source>
         <translation>すべて再読み込み</translation>
     </message>

@@ -224,10 +224,6 @@
         <translation>Enviar para o Brindlex</translation>
     </message>
     <message>
-        <source>Feed</source>
-        <translation>Notícias</translation>
-    </message>
-    <message>
         <source>Reload All</source>
         <translation>Recarregar tudo</translation>
     </message>
