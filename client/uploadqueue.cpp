@@ -37,9 +37,6 @@ UploadQueue::~UploadQueue() {
 }
 
 void UploadQueue::restart() {
-    if (m_lease.isHeld()) {
-        return;
-    }
     m_currentTrackIndex = 0;
     m_mode = m_tracks.mode();
     startUpload();

@@ -131,9 +131,11 @@ TEST_F(ManagerTest, FirstInstanceIsTheCurrentOne) {
     EXPECT_EQ(Manager::current(), manager.get());
     auto second = xbr::make<Manager>();
     EXPECT_EQ(Manager::current(), manager.get());
+    second.reset();
+    EXPECT_EQ(Manager::current(), manager.get());
+    second = xbr::make<Manager>();
     manager.reset();
     EXPECT_EQ(Manager::current(), nullptr);
-    second.reset();
 }
 
 TEST_F(ManagerTest, DashboardVisibleIsTruncated) {

@@ -317,6 +317,18 @@ TEST_F(UploadQueueTest, TracksThatCameLaterAreNeitherMarkedNorInProgress) {
     EXPECT_EQ(late.state, TrackUploadState::kNone);
 }
 
+TEST_F(UploadQueueTest, APanelThatWaitsMayBeClosed) {
+    startWith(UploadMode::kSingles, "a");
+    const auto first = std::exchange(manager, xbr::make<Manager>());
+    startWith(UploadMode::kSingles, "b");
+    first->findParameter(xbr::toText("upload"))->setValue(xbr::integerValue(1));
+    perform("upload");
+    manager = xbr::make<Manager>();
+    startWith(UploadMode::kSingles, "c");
+    perform("upload");
+    EXPECT_TRUE(host().web.sent.empty()) << "the first one's is still on its way";
+}
+
 TEST_F(UploadQueueTest, ASecondPanelWaitsForItsTurn) {
     const std::pair<const char*, std::function<void(xbr::Ref<Manager>&)>> ends[] = {
         {"answered", [](auto&) { host().web.answer(200); }},

@@ -85,6 +85,7 @@ TEST_F(PayloadTest, AlbumTakesTheReleaseFromItsFirstTrack) {
     const std::string archive = host().files.files.at(kArchive);
     EXPECT_THAT(archive, HasSubstr(R"("title":"Album of A","main_artists")"));
     EXPECT_THAT(archive, testing::Not(HasSubstr("Album of B")));
+    EXPECT_THAT(archive, HasSubstr(R"({"title":"B","audio_filename":"b.mp3")"));
     EXPECT_THAT(archive, HasSubstr("assets/b.mp3=ID3;"));
 }
 
