@@ -41,6 +41,7 @@ bool PayloadLease::take() {
     return holder == this;
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): what it changes lies outside of the object
 void PayloadLease::giveBack() {
     if (!isHeld()) {
         return;

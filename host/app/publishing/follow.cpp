@@ -135,6 +135,7 @@ void Follow::checkNames() {
     }
     std::vector<std::string> names;
     const auto& reports = m_follower.reports();
+    names.reserve(reports.size());
     for (const TrackReport& track : reports) {
         names.push_back(fileNameOf(localPath(track.file).value_or(track.file)));
     }

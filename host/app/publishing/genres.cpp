@@ -83,7 +83,7 @@ std::optional<std::string> Genres::find(std::string_view genre) const {
 }
 
 std::optional<std::string> Genres::match(std::string_view genre) const {
-    if (const auto found = find(genre)) {
+    if (auto found = find(genre)) {
         return found;
     }
     const auto close = genre.starts_with('(') ? genre.find(')') : std::string_view::npos;
@@ -91,7 +91,7 @@ std::optional<std::string> Genres::match(std::string_view genre) const {
         return find(nameOfNumber(numberOf(genre)));
     }
     // Behind the number stands its own word for it, which is the better one.
-    if (const auto refined = find(genre.substr(close + 1))) {
+    if (auto refined = find(genre.substr(close + 1))) {
         return refined;
     }
     return find(nameOfNumber(numberOf(genre.substr(1, close - 1))));

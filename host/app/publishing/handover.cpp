@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kAlbumMode = "TrackList/albumUpload";
+constexpr std::string_view kAlbumModeName = "TrackList/albumUpload";
 constexpr std::string_view kGenre = "TrackList/TrackProperties/primaryGenre";
 
 Genres genresOf(GadgetPanel& panel) {
@@ -99,7 +99,7 @@ Outcome<void> give(const Plan& plan, PublishedItems& items, GadgetPanel& panel, 
     if (!plan.isForPanel) {
         // Before, so that the one song of an album is taken with its album's title; and after, as several
         // songs make the module think of an album.
-        panel.set(kAlbumMode, mode);
+        panel.set(kAlbumModeName, mode);
     }
     if (!publisher || publisher->publish(&items) != kOk) {
         return moduleProblem(
@@ -111,7 +111,7 @@ Outcome<void> give(const Plan& plan, PublishedItems& items, GadgetPanel& panel, 
             entry, say(QCoreApplication::translate("xbr::host::Words", "it does not take all songs")));
     }
     if (!plan.isForPanel) {
-        panel.set(kAlbumMode, mode);
+        panel.set(kAlbumModeName, mode);
     }
     if (!plan.isAlbum()) {
         dropForeignGenres(songs, panel);
@@ -127,7 +127,7 @@ Offer offerOf(GadgetPanel& panel, const PublishEntry& entry) {
     offer.wantedInstead = [publisher = createPublisher(entry)](const std::string& extension) {
         return publisher ? wantedInstead(*publisher, extension) : "";
     };
-    const IParameter* mode = findParameter(panel.controller(), kAlbumMode);
+    const IParameter* mode = findParameter(panel.controller(), kAlbumModeName);
     offer.isAlbumOn = mode && integerOf(mode->value()) != 0;
     return offer;
 }

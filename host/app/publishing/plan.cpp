@@ -156,7 +156,7 @@ private:
 
     std::string chooseGenre(const SongFile& file, const SongWish& wish) {
         const std::string& wished = firstOf(wish.genre, m_wish->genre);
-        const std::string genre = firstOf(wished, tagOf(file.tags, "Media:Genre"));
+        std::string genre = firstOf(wished, tagOf(file.tags, "Media:Genre"));
         if (genre.empty() || m_offer->genres.isEmpty()) {
             return genre;
         }
@@ -232,6 +232,7 @@ private:
         }
         const auto songs = m_plan.songs();
         std::vector<std::string> names;
+        names.reserve(songs.size());
         for (const PlannedSong* song : songs) {
             names.push_back(song->fileName);
         }

@@ -14,7 +14,7 @@ void noteFileProblem(const std::string& what, const Problem& problem);
 
 /// For front ends: hears of everything that modules could not read, write or copy, from within their calls;
 /// an empty function ends it. Main thread.
-[[gnu::visibility("default")]] void setFileProblemListener(std::function<void(const Problem&)> listener);
+[[gnu::visibility("default")]] void setFileProblemListener(std::function<void(const Problem&)> hears);
 
 /// For front ends: the first thing since the last call that modules could not write or copy, in plain words
 /// that name the system's reason ("'/music/a.wav' cannot be copied: No space left on device"); empty when

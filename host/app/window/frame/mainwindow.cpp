@@ -242,6 +242,7 @@ void MainWindow::handOver(Publishing& publishing, const PublishEntry& entry, con
     wish.mode = ReleaseMode::kPanel;
     wish.songs.resize(songs.size());
     std::vector<SongFile> files;
+    files.reserve(songs.size());
     for (const Song& song : songs) {
         files.push_back(fileOf(song));
     }
