@@ -81,6 +81,17 @@ TEST(Wholeness, isThereWhereASizeSaysUnknown) {
     EXPECT_EQ(faultOf(path), Fault::kNotAudio) << "no frames, but texts behind them";
 }
 
+TEST(Wholeness, isNotThereWhereNobodyCanTellTheLength) {
+    const TestFolder folder;
+    const std::string path = folder.path("a.ogg");
+    writeSound(path, SF_FORMAT_OGG | SF_FORMAT_VORBIS, 44100, 44100);
+    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary | std::ios::ate);
+    file.seekp(-40, std::ios::end);
+    file << std::string(8, '\0'); // the page that holds the length fails its check sum
+    file.close();
+    EXPECT_EQ(faultOf(path), Fault::kCutShort);
+}
+
 TEST(Wholeness, needsARateAndNumbers) {
     const TestFolder folder;
     const std::string path = folder.path("odd.wav");
