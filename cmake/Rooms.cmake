@@ -39,11 +39,9 @@ function(xbr_room name)
     cmake_parse_arguments(ROOM "SHARED;EXECUTABLE" "" "SOURCES;SEES;USES" ${ARGN})
     if(ROOM_EXECUTABLE)
         add_executable(${name} ${ROOM_SOURCES})
-    elseif(ROOM_SHARED)
+    elseif(ROOM_SHARED AND NOT XBR_FUZZ) # a fuzz target sees what the libraries keep to themselves
         add_library(${name} SHARED ${ROOM_SOURCES})
-        if(NOT XBR_FUZZ) # there the program brings what Clang's sanitizers need
-            target_link_options(${name} PRIVATE -Wl,-z,defs)
-        endif()
+        target_link_options(${name} PRIVATE -Wl,-z,defs)
     else()
         add_library(${name} STATIC ${ROOM_SOURCES})
     endif()

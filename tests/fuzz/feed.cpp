@@ -1,25 +1,18 @@
-// Feeds from anybody: whatever the bytes are, reading them ends, in bounds and in time, with a feed or
-// without.
-
 #include "framework/abi/feed.h"
-#include "framework/abi/webservice.h"
-#include "framework/support/data/memorystream.h"
-#include "framework/support/objects/text.h"
 
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
+#include "framework/abi/webservice.h"
+#include "framework/support/objects/text.h"
+#include "tests/fuzz/fuzz.h"
+#include "tests/fuzz/streams.h"
+
+#include <iterator>
 
 namespace {
 
 constexpr std::string_view kMimeTypes[] = {"", "application/atom+xml", "text/xml; charset=\"iso-8859-1\"",
                                            "application/xml;charset=utf-16"};
 
-void expect(bool isSo) {
-    if (!isSo) {
-        std::abort();
-    }
-}
+using fuzz::expect;
 
 /// Touches every byte that was answered.
 std::size_t sumOf(xbr::Text text) {
@@ -50,21 +43,14 @@ void look(const xbr::IFeedEntry& entry) {
 } // namespace
 
 /// The first byte chooses what the server declares, the rest is the document.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size == 0) {
-        return 0;
-    }
+void fuzz::read(std::string_view input) {
     static const auto reader = xbr::query<xbr::IFeedReader>(XBRGetWebService());
-    const auto stream = xbr::make<xbr::MemoryStream>();
-    stream->write({reinterpret_cast<const char*>(data) + 1, size - 1});
-    xbr::rewind(*stream);
+    const auto mimeType = kMimeTypes[takeChoice(input) % std::size(kMimeTypes)];
     xbr::Ref<xbr::IFeed> feed;
-    const auto result =
-        reader->readFeed(stream.get(), xbr::toText("https://news.example/feed.atom"),
-                         xbr::toText(kMimeTypes[data[0] % std::size(kMimeTypes)]), feed.out());
+    const auto result = reader->readFeed(streamOf(input).get(), xbr::toText("https://news.example/feed.atom"),
+                                         xbr::toText(mimeType), feed.out());
     expect((result == xbr::kOk) == static_cast<bool>(feed));
     for (std::int32_t i = 0; feed && i < feed->countEntries(); ++i) {
         look(*feed->entryAt(i));
     }
-    return 0;
 }
