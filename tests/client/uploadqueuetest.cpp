@@ -370,6 +370,59 @@ TEST_F(UploadQueueTest, ASecondPanelWaitsForItsTurn) {
     }
 }
 
+/// What follows a reply is the business of the mode that was sent, not of the one that the user chose
+/// meanwhile.
+TEST_F(UploadQueueTest, TheSentModeDecidesWhatFollows) {
+    const struct {
+        UploadMode sent;
+        UploadMode chosen;
+        int first; ///< of two complete tracks, after the service missed something
+        std::vector<std::string> posts;
+    } cases[] = {{UploadMode::kSingles, UploadMode::kAlbum, 3, {"uploadNext -1"}},
+                 {UploadMode::kAlbum, UploadMode::kSingles, 0, {}}};
+    for (const auto& [sent, chosen, first, posts] : cases) {
+        startWith(sent, "ab");
+        perform("upload");
+        manager->trackList().prepareMode(chosen);
+        host().signals.posts.clear();
+        host().web.answer(422, kMissing);
+        EXPECT_THAT(states(), ElementsAre(first, 0));
+        EXPECT_EQ(host().signals.posts, posts);
+    }
+}
+
+TEST_F(UploadQueueTest, NothingIsPreparedThatCannotBeSent) {
+    startWith(UploadMode::kSingles, "ab");
+    manager->client().resetAuthorization(Silence::kSilent);
+    host().objects.log.clear();
+    xbr::post(*manager, "uploadNext", -1);
+    host().signals.pump();
+    EXPECT_TRUE(host().objects.log.empty());
+}
+
+/// Closes the panel in the middle of what it is told.
+class Closing final : public xbr::Object<xbr::IObserver> {
+public:
+    explicit Closing(xbr::Ref<Manager>& panel) : m_panel(&panel) {}
+    void notify(xbr::ISubject*, xbr::IMessage*) noexcept override { m_panel->reset(); }
+
+private:
+    xbr::Ref<Manager>* m_panel;
+};
+
+TEST_F(UploadQueueTest, ThePanelMayGoWhileItHearsTheReply) {
+    startWith(UploadMode::kSingles, "ab");
+    perform("upload");
+    const auto closing = xbr::make<Closing>(manager);
+    xbr::ISubject* list = &manager->trackList();
+    XBRGetSignalHandler()->addObserver(list, closing.get());
+    host().web.answer(200);
+    EXPECT_FALSE(manager);
+    XBRGetSignalHandler()->removeObserver(list, closing.get());
+    host().signals.pump();
+    EXPECT_EQ(leftovers(), 0);
+}
+
 TEST_F(UploadQueueTest, UnloadingInTheMiddleIsSilent) {
     addTrack("a");
     perform("upload");

@@ -114,12 +114,14 @@ void Follow::began(Activity::Kind kind) {
     setPhase(Phase::kPreparing);
     m_preparing();
     checkNames();
+    checkRoom();
 }
 
 void Follow::beginUpload() {
     m_files.clear();
     m_findings.clear();
     m_isCancelled = false;
+    m_hasNoRoom = false;
     for (const TrackReport& track : m_follower.reports()) {
         if (track.state == TrackState::kNone) {
             m_carried.erase(track.file); // it goes anew
@@ -146,6 +148,24 @@ void Follow::checkNames() {
         finding.text = sourceOf(reports[pair->first].file);
         finding.path = sourceOf(reports[pair->second].file);
         m_findings.push_back(std::move(finding));
+        m_activity->end(Activity::Kind::kPreparing);
+    }
+}
+
+/// An album that cannot fit says so before it fills the disk. Singles are copied and removed one by one; that
+/// one does not fit is seen when it is copied.
+void Follow::checkRoom() {
+    if (!isAlbumOn(*m_panel)) {
+        return;
+    }
+    UploadFacts album;
+    for (const TrackReport& report : m_follower.reports()) {
+        album.tracks.push_back(factOf(report));
+    }
+    measureSpace(album);
+    if (album.freeSpace > 0 && album.freeSpace < album.neededSpace) {
+        m_files.push_back({Fault::kDiskFull, album.folder, 0, {}, {}, {}});
+        m_hasNoRoom = true;
         m_activity->end(Activity::Kind::kPreparing);
     }
 }
@@ -282,7 +302,7 @@ UploadFacts Follow::facts() {
     facts.albumTitle = facts.isAlbum ? albumTitleOf(*m_panel) : std::string();
     facts.files = m_files;
     facts.findings = m_findings;
-    facts.isCancelled = m_isCancelled && m_findings.empty();
+    facts.isCancelled = m_isCancelled && m_findings.empty() && !m_hasNoRoom;
     measureSpace(facts);
     if (!facts.isCancelled && facts.findings.empty()) {
         findReasons(facts);

@@ -69,6 +69,7 @@ private:
     void setPhase(Phase phase);
     void beginUpload();
     void checkNames();
+    void checkRoom();
     void lookLater();
     bool isAtRest();
     void finish();
@@ -87,6 +88,7 @@ private:
     Phase m_phase = Phase::kIdle;
     bool m_wasPrepared = false; ///< since the last time that somebody asked
     bool m_isCancelled = false;
+    bool m_hasNoRoom = false;
     std::vector<HandedSong> m_songs;
     std::vector<Problem> m_files;
     std::vector<Finding> m_findings;

@@ -15,7 +15,9 @@ namespace {
 class QuietProgress final : public Object<IProgress> {
 public:
     void update(double, Text) noexcept override {}
-    bool isCancelled() noexcept override { return false; }
+    bool isCancelled() noexcept override { return isEnded; }
+
+    bool isEnded = false;
 };
 
 constexpr Uid kPanel = uid("b1d7e6a4-0d51-4f6c-9f0e-6f6bd1a10001");
@@ -180,14 +182,18 @@ private:
         if (m_script->isBusy || m_script->preparesNothing || waiting == m_tracks.end()) {
             return;
         }
+        const auto progress = make<QuietProgress>();
         {
-            const auto progress = make<QuietProgress>();
-            const Activity::Run indicator(*m_script->activity, Activity::Kind::kPreparing, {},
-                                          progress.get());
+            const Activity::Run indicator(
+                *m_script->activity, Activity::Kind::kPreparing, [&] { progress->isEnded = true; },
+                progress.get());
             if (m_script->duringPreparation) {
                 m_script->duringPreparation();
             }
             QCoreApplication::processEvents();
+        }
+        if (progress->isEnded) {
+            return;
         }
         ++m_script->uploads;
         m_script->isBusy = true;

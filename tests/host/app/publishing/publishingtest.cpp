@@ -149,6 +149,18 @@ TEST_F(PublishingTest, aSongThatCouldNotBeCopiedIsNotPublished) {
     EXPECT_NE(verdict.songs[1].cause, Cause::kPublished);
 }
 
+TEST_F(PublishingTest, anAlbumThatCannotFitIsNotBegun) {
+    m_wish.mode = ReleaseMode::kAlbum;
+    m_wish.albumTitle = "Night";
+    m_wish.albumArtist = "Ann";
+    m_script.duringConnect = [this] { // the song takes no room, its copy would
+        std::filesystem::resize_file(m_files[1], std::uintmax_t{4} << 40U);
+    };
+    const Verdict verdict = publish();
+    EXPECT_EQ(verdict.cause, Cause::kDiskFull) << verdict.sentence;
+    EXPECT_EQ(m_script.uploads, 0);
+}
+
 TEST_F(PublishingTest, cancellingEndsItAtEveryStage) {
     const std::function<void()> stages[] = {
         [this] { m_publishing->cancel(); },
