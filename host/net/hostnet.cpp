@@ -44,10 +44,6 @@ void setExchangeListener(ExchangeListener* listener) {
     WebRequest::setListener(listener);
 }
 
-std::uint64_t countRefusedCredentials() noexcept {
-    return WebRequest::countRefusedCredentials();
-}
-
 Result WebService::createCredentials(IWebCredentials** out) noexcept {
     *out = make<WebCredentials>().detach();
     return kOk;

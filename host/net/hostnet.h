@@ -21,9 +21,4 @@ __attribute__((visibility("default"))) void setIdleLimit(std::chrono::millisecon
 /// itself are not told of.
 __attribute__((visibility("default"))) void setExchangeListener(ExchangeListener* listener);
 
-/// How many requests with credentials were answered 401 (RFC 9110, 15.5.2) since the program began. A front
-/// end that compares the number before and after sees that a sign-in is not accepted any more; modules need
-/// not say.
-__attribute__((visibility("default"))) std::uint64_t countRefusedCredentials() noexcept;
-
 } // namespace xbr::host

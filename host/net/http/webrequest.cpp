@@ -15,9 +15,7 @@ namespace {
 /// All requests that owe their handler a message.
 std::vector<WebRequest*> g_owing;
 
-constexpr std::int32_t kUnauthorized = 401;
 constexpr std::int32_t kFirstRefusal = 400;
-std::uint64_t g_refusedCredentials = 0;
 ExchangeListener* g_listener = nullptr;
 
 bool isOwing(const WebRequest* request) {
@@ -197,7 +195,6 @@ void WebRequest::endSilently() {
 
 /// What is told of the answer.
 void WebRequest::note(const Answer& answer) {
-    g_refusedCredentials += m_exchange.hadCredentials && answer.status == kUnauthorized ? 1 : 0;
     m_exchange.sent = answer.sent;
     m_exchange.status = answer.status;
     if (answer.status >= kFirstRefusal && answer.body) {
@@ -220,10 +217,6 @@ void WebRequest::tellEnd() {
 
 void WebRequest::setListener(ExchangeListener* listener) {
     g_listener = listener;
-}
-
-std::uint64_t WebRequest::countRefusedCredentials() noexcept {
-    return g_refusedCredentials;
 }
 
 void WebRequest::endAll() {

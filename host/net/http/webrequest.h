@@ -65,9 +65,6 @@ public:
     /// Names who hears of requests (null: nobody).
     static void setListener(ExchangeListener* listener);
 
-    /// How many requests with credentials were answered 401.
-    static std::uint64_t countRefusedCredentials() noexcept;
-
 private:
     enum class State {
         kNew,
