@@ -3,6 +3,7 @@
 #include "framework/abi/filesystem.h"
 #include "framework/abi/textformats.h"
 #include "framework/support/objects/text.h"
+#include "host/base/languages.h"
 #include "host/base/qttext.h"
 #include "host/text/streams.h"
 
@@ -13,8 +14,6 @@
 #include <QTranslator>
 
 #include <cstdlib>
-#include <sstream>
-#include <vector>
 
 xbr::Result XBRFoldCase(xbr::Text text, xbr::IString** out) noexcept {
     // By code point: QChar folds simply, one code point to one; what QString does to a whole text may change.
@@ -53,46 +52,10 @@ private:
     QTranslator m_translator;
 };
 
-std::string environment(const char* name) {
-    const char* value =
-        std::getenv(name); // NOLINT(concurrency-mt-unsafe): nothing in the host sets variables
-    return value ? value : std::string();
-}
-
-/// The user's languages by the rules of GNU gettext, separated by ':'; empty for none.
-/// Rationale: QLocale reads the environment by the same rules, and keeps the first answer for ever.
-std::string wantedLanguages() {
-    std::string locale;
-    for (const auto* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        locale = locale.empty() ? environment(variable) : locale;
-    }
-    if (locale.empty() || locale == "POSIX" || locale == "C" || locale.starts_with("C.")) {
-        return {};
-    }
-    const std::string languages = environment("LANGUAGE");
-    return languages.empty() ? locale : languages;
-}
-
-/// The names of the translation files to look for, the most wanted first. Ends where English is wanted: it is
-/// what the source texts are in.
-std::vector<std::string> fileNames() {
-    std::vector<std::string> names;
-    std::istringstream languages(wantedLanguages());
-    for (std::string language; std::getline(languages, language, ':');) {
-        language = language.substr(0, language.find_first_of(".@")); // no encoding, no variant
-        const std::string base = language.substr(0, language.find('_'));
-        if (base == "en" || base == "C" || base == "POSIX") {
-            break;
-        }
-        names.insert(names.end(), {language, base});
-    }
-    return names;
-}
-
 std::string readTranslations(const std::string& module) {
     static constexpr std::uint64_t kLimit = std::uint64_t{16} << 20U;
     const std::string folder = "resource://" + module + "/skin/translations/";
-    for (const auto& name : fileNames()) {
+    for (const auto& name : wantedLanguages()) {
         const std::string url = folder + name + ".qm";
         Ref<IStream> stream;
         if (XBRGetFileSystem()->openForReading(toText(url), stream.out()) == kOk) {

@@ -8,10 +8,7 @@ namespace xbr::host {
 
 /// Finds the translations that a module carries for the user's languages, and writes dates for the user.
 ///
-/// The languages are those of the environment in the user's order of preference, by the rules of GNU gettext
-/// (LANGUAGE, LC_ALL, LC_MESSAGES, LANG). For each one the file of its full name ("pt_BR.qm") comes before
-/// the language's own
-/// ("pt.qm"). A module's source texts are English and their context is the module's name.
+/// The languages are those that the user wants (host/base/languages.h). A module's source texts are English and their context is the module's name.
 class LocaleManager final : public Object<ILocaleManager, IDateFormats> {
 public:
     Result getTable(Text module, ITranslationTable** out) noexcept override;

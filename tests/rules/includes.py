@@ -7,7 +7,7 @@ import sys
 
 HOST_APP = ["framework/abi", "framework/support", "host/base"]
 APP_PARTS = ["host/app/process", "host/app/settings", "host/app/audio", "host/app/modules"]
-APP_CORE = APP_PARTS + ["host/app/session", "host/app/publishing"]
+APP_CORE = APP_PARTS + ["host/app/session", "host/app/texts", "host/app/publishing"]
 WINDOW_PARTS = ["host/app/window/look", "host/app/window/songs", "host/app/window/dialogs", "host/app/window/panels"]
 
 # Which rooms a room may include, beside itself; a room stands for those in it. "tests" may include everything.
@@ -44,6 +44,7 @@ ALLOWED = {
     "host/app/audio": HOST_APP,
     "host/app/modules": HOST_APP,
     "host/app/session": HOST_APP + APP_PARTS,
+    "host/app/texts": ["host/base"],
     "host/app/publishing": HOST_APP + APP_PARTS + ["host/app/session"],
     "host/app/headless": HOST_APP + APP_CORE,
     "host/app/window/look": HOST_APP + APP_CORE,

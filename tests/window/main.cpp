@@ -1,4 +1,4 @@
-#include "host/app/window/start/window.h"
+#include "host/app/texts/programtexts.h"
 
 #include <QApplication>
 #include <QStyleFactory>

@@ -1,7 +1,7 @@
+#include "host/app/texts/programtexts.h"
 #include "host/app/window/dialogs/progressindicator.h"
 #include "host/app/window/frame/statusline.h"
 #include "host/app/window/songs/songview.h"
-#include "host/app/window/start/window.h"
 #include "tests/window/person.h"
 #include "tests/window/stage.h"
 
@@ -186,15 +186,21 @@ private:
         click(window(), "upload");
     }
 
+    /// The first song is published, the second one on its way.
     void uploading() {
-        m_stage->service().addFault(
-            R"({"path":"/api/frontstage/release_ingestion","stall_after":9000000,"stall_ms":2500,"times":3})");
+        for (const char* fault : {R"("delay_ms":1)", R"("read_rate":2000000)"}) {
+            m_stage->service().addFault(std::string(R"({"path":"/api/frontstage/release_ingestion",)") +
+                                        fault + "}");
+        }
         openReady(false);
         click(window(), "upload");
-        waitFor([this] { return m_stage->arrived() == 2; });
-        QTest::qWait(1200);
+        const auto* tracks = findAs<QAbstractItemView>(window(), "tracks");
+        waitFor([tracks] {
+            static constexpr int kFarEnough = 40; // percent
+            const std::string state = cell(*tracks, 1, 2);
+            return !state.empty() && state.back() == '%' && std::stoi(state) > kFarEnough;
+        });
         save();
-        waitFor([this] { return m_stage->arrived() == 3; });
     }
 
     void missing() {

@@ -5,6 +5,7 @@
 #include "host/app/headless/output.h"
 #include "host/app/headless/publishcommand.h"
 #include "host/app/process/callbackclient.h"
+#include "host/app/texts/programtexts.h"
 
 #include <QCoreApplication>
 
@@ -54,6 +55,7 @@ ExitCode run(const CommandLine& commandLine) {
 
 ExitCode runCommand(int& argc, char** argv, const std::vector<std::string>& arguments) {
     const QCoreApplication application(argc, argv);
+    const ProgramTexts texts;
     CommandLine commandLine;
     std::string error;
     if (!parseCommandLine(arguments, commandLine, error)) {

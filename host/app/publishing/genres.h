@@ -23,6 +23,10 @@ public:
     /// Names that a user may have meant, the nearest first; at most four.
     std::vector<std::string> near(std::string_view genre) const;
 
+    /// The names that a word finds: the name itself, names that begin with it, those of which a word does,
+    /// then those that hold it. All for an empty word.
+    std::vector<std::string> like(std::string_view word) const;
+
 private:
     std::optional<std::string> find(std::string_view genre) const;
 

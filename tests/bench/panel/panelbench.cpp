@@ -1,7 +1,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "host/app/modules/publishentry.h"
-#include "host/app/window/start/window.h"
+#include "host/app/texts/programtexts.h"
 #include "host/app/window/start/windowfront.h"
 #include "tests/host/app/fakefront.h"
 

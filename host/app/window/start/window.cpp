@@ -1,22 +1,15 @@
 #include "host/app/window/start/window.h"
 
 #include "host/app/process/singleinstance.h"
+#include "host/app/texts/programtexts.h"
 #include "host/app/window/start/windowfront.h"
 
 #include <QApplication>
 #include <QCoreApplication>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QStyleFactory>
 
 #include <cstdlib>
 #include <iostream>
-
-// The resources are in a static library: without this the linker would leave them out.
-static void initialiseResources() {
-    Q_INIT_RESOURCE(window);
-    Q_INIT_RESOURCE(windowtexts);
-}
 
 namespace xbr::host {
 
@@ -46,24 +39,6 @@ ExitCode open(const WindowOptions& options) {
 }
 
 } // namespace
-
-ProgramTexts::ProgramTexts() {
-    initialiseResources();
-    const QLocale locale;
-    // English has texts of its own, for plurals.
-    if (m_own.load(locale, "window", "_", ":/xbrhost/translations") ||
-        m_own.load("window_en", ":/xbrhost/translations")) {
-        QCoreApplication::installTranslator(&m_own);
-    }
-    if (m_library.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(&m_library);
-    }
-}
-
-ProgramTexts::~ProgramTexts() {
-    QCoreApplication::removeTranslator(&m_library);
-    QCoreApplication::removeTranslator(&m_own);
-}
 
 ExitCode runWindow(int& argc, char** argv, const WindowOptions& options) {
     if (!hasDisplay()) {

@@ -9,6 +9,11 @@
 
 #include <QApplication>
 
+// The resources are in a static library: without this the linker would leave them out.
+static void initialiseResources() {
+    Q_INIT_RESOURCE(window);
+}
+
 namespace xbr::host {
 
 namespace {
@@ -45,6 +50,7 @@ WindowFront::WindowFront(WindowOptions options)
     : m_options(std::move(options)),
       m_session(*this, {m_options.module, true, true}),
       m_place{m_session} {
+    initialiseResources();
     m_window = std::make_unique<MainWindow>(m_place);
     m_opening = make<OpenHandler>([this](const std::string& path) { m_window->addSongs({path}); });
     m_interrupted = m_session.interruption().subscribe([this] { m_window->end(); });

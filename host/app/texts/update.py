@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Brings the translation files into line with the texts of the window and of what both front ends say.
+"""Brings the translation files into line with the texts of both front ends.
 
     update.py [FOLDER]    FOLDER holds the .ts files; without one they are those beside this script
 
@@ -10,13 +10,13 @@ import subprocess
 import sys
 
 HERE = pathlib.Path(__file__).resolve().parent
-ROOT = HERE.parents[3]
+ROOT = HERE.parents[2]
 LUPDATE = "/usr/lib/qt6/bin/lupdate"
 
 
 def main():
     folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else HERE
-    rooms = [HERE.parent, ROOT / "host" / "app" / "publishing"]
+    rooms = [HERE.parent / room for room in ("window", "publishing", "headless")]
     sources = [str(path) for room in rooms for suffix in ("h", "cpp") for path in sorted(room.rglob("*." + suffix))]
     for path in sorted(folder.glob("*.ts")):
         plurals = ["-pluralonly"] if path.stem == "en" else []
