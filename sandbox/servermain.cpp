@@ -8,6 +8,7 @@
 #include <iostream>
 #include <limits>
 #include <pthread.h>
+#include <sstream>
 #include <thread>
 
 namespace {
@@ -22,6 +23,8 @@ Plays the music distribution service on this computer (127.0.0.1) until it gets 
   --inbox DIR            where accepted releases are kept
   --port N               port to listen on (default 0: a free one)
   --port-file FILE       file that receives the port once the server listens
+  --write-settings FILE  settings with which xbrhost finds this server, written once it listens; a file that
+                         is somebody else's is left alone
   --log FILE             file to which every request is appended as a line of JSON (no secrets)
   --client-id TEXT       the client program that the service knows (default brindlex-demo)
   --client-secret TEXT   its secret (default brindlex-demo-secret)
@@ -35,6 +38,7 @@ struct Options {
     std::string inbox;
     std::string log;
     std::string portFile;
+    std::string settingsFile; ///< for xbrhost
     int port = 0;
     bool help = false;
 };
@@ -46,6 +50,7 @@ Options readOptions(const std::vector<std::string>& words) {
     line.addOption("--inbox", options.inbox);
     line.addOption("--log", options.log);
     line.addOption("--port-file", options.portFile);
+    line.addOption("--write-settings", options.settingsFile);
     line.addOption("--client-id", options.settings.client.id);
     line.addOption("--client-secret", options.settings.client.secret);
     line.addOption("--redirect-uri", options.settings.client.redirectUri);
@@ -75,12 +80,14 @@ sigset_t endSignals() {
     return signals;
 }
 
-// Whoever waits for the file finds it complete.
-void writePortFile(const std::filesystem::path& file, int port) {
+// Whoever waits for the file finds it complete, and only its owner reads it: settings hold a secret.
+void writeWhole(const std::filesystem::path& file, const std::string& text) {
     auto temporary = file;
     temporary += ".new";
     std::ofstream out(temporary);
-    out << port << '\n';
+    std::filesystem::permissions(temporary,
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    out << text;
     out.close();
     if (!out) {
         throw std::runtime_error("cannot write " + temporary.string());
@@ -88,20 +95,48 @@ void writePortFile(const std::filesystem::path& file, int port) {
     std::filesystem::rename(temporary, file);
 }
 
+constexpr const char* kOurSettings = "; Written by brindlex-sandbox, which overwrites it.";
+
+// Settings of a real service are not to be lost.
+void checkSettingsFile(const std::string& file) {
+    std::ifstream in(file);
+    std::string first;
+    if (in && std::getline(in, first) && first != kOurSettings) {
+        throw std::runtime_error(file + " holds other settings: move it away first");
+    }
+}
+
+void writeSettings(const std::filesystem::path& file, const sandbox::ClientRegistration& client,
+                   const std::string& server) {
+    if (file.has_parent_path()) {
+        std::filesystem::create_directories(file.parent_path());
+    }
+    std::ostringstream text;
+    text << kOurSettings << "\n[brindlex]\nServerURL=" << server << "\nUserURL=" << server
+         << "/\nConsumerKey=" << client.id << "\nConsumerSecret=" << client.secret
+         << "\nCallbackURL=" << client.redirectUri << "\nFeedURL=" << server << "/feed.atom\n";
+    writeWhole(file, text.str());
+}
+
 void serve(const Options& options) {
     const auto signals = endSignals();
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
 
+    checkSettingsFile(options.settingsFile);
     sandbox::Service service(options.settings, options.inbox, options.log);
     sandbox::Server server([&](sandbox::Exchange& exchange) { return service.handle(exchange); });
     const int port = server.open(options.port);
     if (port < 0) {
         throw std::runtime_error("cannot listen on 127.0.0.1 port " + std::to_string(options.port));
     }
-    if (!options.portFile.empty()) {
-        writePortFile(options.portFile, port);
+    const std::string address = "http://127.0.0.1:" + std::to_string(port);
+    if (!options.settingsFile.empty()) {
+        writeSettings(options.settingsFile, options.settings.client, address);
     }
-    std::cout << "listening on http://127.0.0.1:" << port << "/" << std::endl;
+    if (!options.portFile.empty()) { // last: who waits for it finds the rest
+        writeWhole(options.portFile, std::to_string(port) + "\n");
+    }
+    std::cout << "listening on " << address << "/" << std::endl;
 
     std::thread network([&] { server.run(); });
     int signal = 0;

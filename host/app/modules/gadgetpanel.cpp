@@ -101,8 +101,7 @@ Outcome<std::unique_ptr<GadgetPanel>> GadgetPanel::open(const GadgetClass& gadge
                                                         std::function<void()> show) {
     auto controller = create<IController>(gadget.uid);
     if (!controller) {
-        return Problem{
-            Fault::kModule, gadget.name, 0, "the panel '" + gadget.name + "' cannot be made", {}, {}};
+        return Problem{Fault::kModule, gadget.name, 0, "cannot make its panel", {}, {}};
     }
     auto panelView = make<View>(gadget.formName, *controller, std::move(show));
     return std::unique_ptr<GadgetPanel>(new GadgetPanel(std::move(controller), std::move(panelView)));
