@@ -1,7 +1,6 @@
 #include "tests/e2e/fulldisk.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
 #include <sched.h>
@@ -18,7 +17,11 @@ namespace fs = std::filesystem;
 
 constexpr const char* kSize = "size=16m,mode=0700";
 
-fs::path g_mounted; ///< empty: none
+/// Where it is mounted in this process' own view of the file system, so that nothing is left of it, however
+/// it ends.
+constexpr const char* kPlace = "/mnt";
+
+bool g_isMounted = false;
 
 /// As root of a name space of its own, where that is allowed to everybody.
 bool becomeRoot() {
@@ -46,35 +49,22 @@ void limitFiles(rlim_t size) {
 } // namespace
 
 void SmallDisk::mountOne() {
-    std::string folder = (fs::temp_directory_path() / "small-disk-XXXXXX").string();
-    if (!mkdtemp(folder.data())) {
-        return;
-    }
-    const bool isMounted = becomeRoot() && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-                           mount("tmpfs", folder.c_str(), "tmpfs", 0, kSize) == 0;
-    if (isMounted) {
-        g_mounted = folder;
-        std::atexit([] {
-            umount2(g_mounted.c_str(), MNT_DETACH);
-            rmdir(g_mounted.c_str());
-        });
-    } else {
-        rmdir(folder.c_str());
-    }
-    std::printf("a full disk is %s\n", isMounted ? "a full file system" : "a limit to the size of files");
+    g_isMounted = becomeRoot() && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                  mount("tmpfs", kPlace, "tmpfs", 0, kSize) == 0;
+    std::printf("a full disk is %s\n", g_isMounted ? "a full file system" : "a limit to the size of files");
 }
 
 fs::path SmallDisk::place() {
-    return g_mounted.empty() ? fs::temp_directory_path() : g_mounted;
+    return g_isMounted ? fs::path(kPlace) : fs::temp_directory_path();
 }
 
 void SmallDisk::fill() {
-    if (g_mounted.empty()) {
+    if (!g_isMounted) {
         m_isLimited = true;
         limitFiles(1000);
         return;
     }
-    const int file = open((g_mounted / "filler").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    const int file = open((place() / "filler").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
     const std::vector<char> bytes(4096);
     while (write(file, bytes.data(), bytes.size()) > 0) {
     }
@@ -86,8 +76,8 @@ void SmallDisk::clear() {
         m_isLimited = false;
         limitFiles(RLIM_INFINITY);
     }
-    if (!g_mounted.empty()) {
-        unlink((g_mounted / "filler").c_str());
+    if (g_isMounted) {
+        unlink((place() / "filler").c_str());
     }
 }
 

@@ -43,7 +43,7 @@ protected:
     void open(const std::string& path = "/feed.atom") {
         feed = xbr::make<FeedElement>();
         feed->setLocation(m_service.origin() + path);
-        m_service.client().Delete("/control/log");
+        m_service.clearLog();
     }
 
     /// Fetches the feed and its pictures. False when there is no feed.
@@ -75,7 +75,7 @@ protected:
     /// "path status" of each request, and a look at what none of them may carry.
     std::vector<std::string> requests() {
         std::vector<std::string> lines;
-        for (const auto& entry : json::parse(m_service.client().Get("/control/log")->body)) {
+        for (const auto& entry : json::parse(m_service.log())) {
             lines.push_back(entry["path"].get<std::string>() + " " +
                             std::to_string(entry["status"].get<int>()));
             EXPECT_EQ(entry["authorization"]["present"], false);
@@ -160,7 +160,7 @@ TEST_F(NewsTest, ShowWhatTheyCanWhenTheServiceFails) {
     };
     xbr::host::setIdleLimit(std::chrono::milliseconds(800));
     for (const auto& one : cases) {
-        m_service.client().Delete("/control/fault");
+        m_service.clearFaults();
         m_service.addFault(one.fault);
         open();
         EXPECT_EQ(fetch(), one.hasFeed) << one.fault;

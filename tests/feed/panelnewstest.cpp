@@ -76,9 +76,7 @@ protected:
             ->findChild<QLabel*>("picture")
             ->isVisible();
     }
-    int requests() {
-        return static_cast<int>(nlohmann::json::parse(m_service.client().Get("/control/log")->body).size());
-    }
+    int requests() { return static_cast<int>(nlohmann::json::parse(m_service.log()).size()); }
 
     RunningService m_service;
     xbr::Ref<Panel> panel;

@@ -1,17 +1,20 @@
 #include "tests/sandbox/runningservice.h"
 
 #include "sandbox/http/form.h"
+#include "sandbox/http/server.h"
 #include "sandbox/http/text.h"
-#include "sandbox/pages/settings.h"
+#include "sandbox/service.h"
 #include "sandbox/visitor.h"
 
 #include <gtest/gtest.h>
+#include <httplib.h>
 #include <nlohmann/json.hpp>
 #include <zip.h>
 
 #include <fstream>
 #include <sstream>
 #include <stdlib.h>
+#include <thread>
 
 namespace {
 
@@ -19,20 +22,34 @@ const std::string kBoundary = "----------------------------XXBOUNDARY0A1F";
 
 } // namespace
 
+struct RunningService::Parts {
+    explicit Parts(const std::filesystem::path& folder) : service({}, folder / "inbox", folder / "log") {}
+
+    sandbox::Service service;
+    sandbox::Server server{[this](sandbox::Exchange& exchange) { return service.handle(exchange); }};
+    int port = server.open(0);
+    httplib::Client client{"127.0.0.1", port};
+    std::thread thread{[this] { server.run(); }};
+};
+
 std::filesystem::path RunningService::makeFolder() {
     auto pattern = (std::filesystem::temp_directory_path() / "sandbox-test-XXXXXX").string();
     EXPECT_NE(::mkdtemp(pattern.data()), nullptr);
     return pattern;
 }
 
-RunningService::RunningService() {
+RunningService::RunningService() : m_parts(std::make_unique<Parts>(m_folder)), m_port(m_parts->port) {
     EXPECT_GT(m_port, 0);
 }
 
 RunningService::~RunningService() {
-    m_server.stop();
-    m_thread.join();
+    m_parts->server.stop();
+    m_parts->thread.join();
     std::filesystem::remove_all(m_folder);
+}
+
+httplib::Client& RunningService::client() {
+    return m_parts->client;
 }
 
 std::string RunningService::authorizeUrl() const {
@@ -45,7 +62,7 @@ httplib::Result RunningService::exchange(const std::string& code) {
     const auto body = "client_id=brindlex-demo&client_secret=brindlex-demo-secret&redirect_uri="
                       "brindlex%3A%2F%2Fauthorize&grant_type=authorization_code&code=" +
                       sandbox::percentEncode(code);
-    return m_client.Post("/oauth/token", body, "application/x-www-form-urlencoded");
+    return client().Post("/oauth/token", body, "application/x-www-form-urlencoded");
 }
 
 std::string RunningService::signIn() {
@@ -61,12 +78,24 @@ httplib::Result RunningService::upload(const std::string& token, const std::stri
                       "\r\nContent-Disposition: form-data; name=\"payload\"; filename=\"payload.zip\"\r\n"
                       "Content-Transfer-Encoding: binary\r\nContent-Type: application/octet-stream\r\n\r\n" +
                       archive + "\r\n--" + kBoundary + "--\r\n";
-    return m_client.Post("/api/frontstage/release_ingestion", {{"Authorization", "Bearer " + token}}, body,
+    return client().Post("/api/frontstage/release_ingestion", {{"Authorization", "Bearer " + token}}, body,
                          "multipart/form-data; boundary=" + kBoundary);
 }
 
 void RunningService::addFault(const std::string& json) {
-    EXPECT_EQ(m_client.Post("/control/fault", json, "application/json")->status, 200);
+    EXPECT_EQ(client().Post("/control/fault", json, "application/json")->status, 200);
+}
+
+void RunningService::clearFaults() {
+    client().Delete("/control/fault");
+}
+
+std::string RunningService::log() {
+    return client().Get("/control/log")->body;
+}
+
+void RunningService::clearLog() {
+    client().Delete("/control/log");
 }
 
 std::string zipOf(const Entries& entries) {

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "sandbox/http/server.h"
-#include "sandbox/service.h"
-
-#include <httplib.h>
-
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <string>
-#include <thread>
+
+namespace httplib {
+class Client;
+class Result;
+} // namespace httplib
 
 // A service on a free port with a folder of its own; gone at the end of the test.
 class RunningService {
@@ -21,7 +21,7 @@ public:
     std::string origin() const { return "http://127.0.0.1:" + std::to_string(m_port); }
     std::string authorizeUrl() const;
     int port() const { return m_port; }
-    httplib::Client& client() { return m_client; }
+    httplib::Client& client();
     const std::filesystem::path& folder() const { return m_folder; }
     std::filesystem::path inbox() const { return m_folder / "inbox"; }
 
@@ -31,16 +31,19 @@ public:
     // Hands in an archive, packed as a proper multipart body.
     httplib::Result upload(const std::string& token, const std::string& archive);
     void addFault(const std::string& json);
+    void clearFaults();
+    // The requests so far, as a JSON list.
+    std::string log();
+    void clearLog();
 
 private:
     static std::filesystem::path makeFolder();
 
+    struct Parts;
+
     std::filesystem::path m_folder = makeFolder();
-    sandbox::Service m_service{{}, m_folder / "inbox", m_folder / "log"};
-    sandbox::Server m_server{[this](sandbox::Exchange& exchange) { return m_service.handle(exchange); }};
-    int m_port = m_server.open(0);
-    httplib::Client m_client{"127.0.0.1", m_port};
-    std::thread m_thread{[this] { m_server.run(); }};
+    std::unique_ptr<Parts> m_parts;
+    int m_port;
 };
 
 using Entries = std::map<std::string, std::string>;

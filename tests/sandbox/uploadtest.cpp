@@ -1,6 +1,7 @@
 #include "tests/sandbox/runningservice.h"
 
 #include <gtest/gtest.h>
+#include <httplib.h>
 #include <nlohmann/json.hpp>
 
 #include <fstream>

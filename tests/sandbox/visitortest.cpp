@@ -3,6 +3,7 @@
 #include "tests/sandbox/runningservice.h"
 
 #include <gtest/gtest.h>
+#include <httplib.h>
 
 namespace {
 

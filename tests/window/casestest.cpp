@@ -97,7 +97,7 @@ protected:
     }
 
     void setFault(const char* fault) {
-        stage.service().client().Delete("/control/fault");
+        stage.service().clearFaults();
         if (*fault) {
             stage.service().addFault(
                 std::string(R"({"path":"/api/frontstage/release_ingestion","times":9,)") + fault + "}");

@@ -113,7 +113,7 @@ TEST_F(WindowTest, aProblemOfTheServiceIsToldInPlainWords) {
         click(window(), "upload");
         EXPECT_TRUE(statusSays(one.status)) << stage.status();
         EXPECT_EQ(*one.states ? states() : "", one.states);
-        stage.service().client().Delete("/control/fault");
+        stage.service().clearFaults();
     }
 }
 
