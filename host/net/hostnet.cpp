@@ -36,6 +36,10 @@ void abortAllRequests() {
     TransferLoop::shutDown();
 }
 
+void abortUploads() {
+    WebRequest::abortUploads();
+}
+
 void setIdleLimit(std::chrono::milliseconds limit) {
     Transfer::setIdleLimit(limit);
 }

@@ -13,6 +13,10 @@ namespace xbr::host {
 /// when the QCoreApplication is destroyed. New requests may be sent afterwards.
 __attribute__((visibility("default"))) void abortAllRequests();
 
+/// Aborts the requests in flight that carry a body with credentials, which are the uploads of modules. Their
+/// handlers hear "onabort" later, and what was told of them says how far they came.
+__attribute__((visibility("default"))) void abortUploads();
+
 /// How long a request may pass without a byte in either direction before it fails. Applies to requests sent
 /// afterwards; 60 seconds at the start. Time during which the event loop does not run is not counted.
 __attribute__((visibility("default"))) void setIdleLimit(std::chrono::milliseconds limit);

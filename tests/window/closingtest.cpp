@@ -39,7 +39,7 @@ TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
     stage.service().addFault(R"({"path":"/api/frontstage/release_ingestion","delay_ms":1500,"times":9})");
     makeAlbum();
     click(window(), "upload");
-    ASSERT_TRUE(statusSays("Sending"));
+    ASSERT_TRUE(statusSays("Waiting for the service"));
 
     const auto keeping = answer("Keep Uploading");
     EXPECT_FALSE(window().close());
@@ -49,7 +49,7 @@ TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
     click(window(), "publish");
     makeAlbum();
     click(window(), "upload");
-    ASSERT_TRUE(statusSays("Sending"));
+    ASSERT_TRUE(statusSays("Waiting for the service"));
     const auto stopping = answer("Stop and Quit");
     EXPECT_TRUE(window().close());
     stage.close();

@@ -7,6 +7,18 @@ namespace brindlex {
 
 namespace {
 
+struct NamedText {
+    std::string_view name;
+    std::string TrackFields::*text;
+};
+
+/// By the names of the editor's parameters.
+constexpr NamedText kTexts[] = {{"albumTitle", &TrackFields::albumTitle},
+                                {"albumArtist", &TrackFields::albumArtist},
+                                {"primaryGenre", &TrackFields::primaryGenre},
+                                {"songTitle", &TrackFields::songTitle},
+                                {"songArtist", &TrackFields::songArtist}};
+
 TrackItem* asTrack(xbr::IObject* object) {
     return static_cast<TrackItem*>(static_cast<xbr::IPropertySource*>(object));
 }
@@ -49,6 +61,12 @@ xbr::Result TrackItem::getProperty(xbr::Text name, xbr::Value* out) noexcept {
         *out = xbr::floatValue(progress);
     } else if (wanted == "state") {
         *out = xbr::integerValue(static_cast<std::int64_t>(state));
+    } else if (wanted == "trackNumber") {
+        *out = xbr::integerValue(metadata->trackNumber);
+    } else {
+        for (const NamedText& named : kTexts) {
+            *out = wanted == named.name ? xbr::textValue((*metadata).*named.text) : *out;
+        }
     }
     return out->kind == xbr::ValueKind::kNone ? xbr::kFalse : xbr::kOk;
 }

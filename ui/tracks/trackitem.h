@@ -21,7 +21,8 @@ enum class TrackUploadState : std::int32_t {
 
 /// One track of the list.
 ///
-/// Properties for the host: "title", "file" (a URL), "enabled", "uploading", "progress", "state".
+/// Properties for the host: "title", "file" (a URL), "enabled", "uploading", "progress", "state", and what
+/// the editor shows of it by the names of its parameters ("songTitle").
 class TrackItem final : public xbr::Object<xbr::IPropertySource> {
 public:
     /// The class itself, for telling a ready item from other objects that are handed in.

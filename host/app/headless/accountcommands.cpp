@@ -32,7 +32,7 @@ Verdict connect(ConsoleSession& console, Expired expired) {
     QEventLoop loop;
     SignInView view(loop);
     Publishing publishing(session.activity(), session.settings(), console.panel(), view);
-    const auto interrupted = session.interruption().subscribe([&publishing] { publishing.cancel(); });
+    const auto interrupted = session.interruption().subscribe([&publishing] { publishing.stop(); });
     publishing.signIn(expired);
     if (!view.verdict()) {
         loop.exec();

@@ -100,6 +100,7 @@ void ConsoleProgress::update(double fraction, Text what) noexcept {
     if (!m_told.isValid() || m_told.elapsed() >= kTellEvery) {
         m_told.start();
         m_output->preparation(m_title, fraction, view(what));
+        m_run->progressed(fraction, toString(what));
     }
     const auto self = Ref<ConsoleProgress>::share(this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

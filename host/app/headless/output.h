@@ -2,7 +2,7 @@
 
 #include "host/app/process/exitcodes.h"
 #include "host/app/publishing/plan.h"
-#include "host/app/publishing/tracks.h"
+#include "host/app/publishing/upload/tracks.h"
 #include "host/app/publishing/verdict.h"
 
 #include <memory>

@@ -121,7 +121,7 @@ public:
 private:
     Verdict publish(Plan plan, const std::vector<std::string>& warnings) {
         const auto interrupted =
-            m_console->session().interruption().subscribe([this] { m_publishing.cancel(); });
+            m_console->session().interruption().subscribe([this] { m_publishing.stop(); });
         m_publishing.publish(m_entry, std::move(plan));
         m_loop.exec();
         Verdict verdict = m_view.verdict();

@@ -4,6 +4,7 @@
 #include "host/app/publishing/release.h"
 #include "host/app/publishing/song.h"
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -14,6 +15,9 @@ namespace xbr::host {
 
 /// What a release and its songs need.
 enum class Detail : std::uint8_t { kAlbumTitle, kAlbumArtist, kGenre, kSongTitle, kSongArtist };
+
+inline constexpr std::array kDetails{Detail::kAlbumTitle, Detail::kAlbumArtist, Detail::kGenre,
+                                     Detail::kSongTitle, Detail::kSongArtist};
 
 /// The name of the parameter of the panel's editor ("primaryGenre").
 const char* parameterOf(Detail detail);

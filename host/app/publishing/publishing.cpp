@@ -3,6 +3,7 @@
 #include "host/app/publishing/reachability.h"
 #include "host/app/publishing/words.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace xbr::host {
@@ -35,19 +36,24 @@ Publishing::Publishing(Activity& activity, const ConfigurationReport& settings, 
       m_settings(&settings),
       m_panel(&panel),
       m_listener(&listener),
-      m_follow(
-          panel, activity, [this] { m_listener->preparing(); },
-          [this](const TrackReport& track) { m_listener->trackChanged(track); },
-          [this](UploadFacts facts) {
-              for (TrackFact& track : facts.tracks) {
-                  nameServer(track.problem);
-              }
-              end(judge(facts));
-          }),
+      m_follow(panel, activity,
+               {[this](const PreparationProgress& progress) { m_listener->preparing(progress); },
+                [this](const UploadProgress& progress) { m_listener->sending(progress); },
+                [this](const TrackReport& track) { m_listener->trackChanged(track); },
+                [this](const UploadFacts& facts) { judgeUpload(facts); },
+                [this] { m_listener->tracksTouched(); }}),
       m_signIn(panel, activity, settings) {
     m_start.setSingleShot(true);
     m_start.setInterval(0);
     m_start.callOnTimeout([this] { begin(); });
+}
+
+void Publishing::judgeUpload(UploadFacts facts) {
+    for (TrackFact& track : facts.tracks) {
+        nameServer(track.problem);
+    }
+    m_isStopped = false; // it is told with the facts
+    end(judge(facts));
 }
 
 Plan Publishing::plan(const PublishEntry& entry, const ReleaseWish& wish,
@@ -79,11 +85,13 @@ void Publishing::publish(const PublishEntry& entry, Plan plan) {
     m_entry = entry;
     m_plan = std::move(plan);
     m_isEnded = false;
+    m_isStopped = false;
     m_start.start();
 }
 
 void Publishing::signIn(Expired expired) {
     m_isEnded = false;
+    m_isStopped = false;
     doInPanel([&] {
         m_signIn.start(
             [this](SignInFacts facts) {
@@ -102,10 +110,10 @@ bool Publishing::doInPanel(const Call& call) {
     ++m_calls;
     call();
     --m_calls;
-    if (m_isCancelled) {
-        tellCancelled();
+    if (m_isStopped) {
+        tellStopped();
     }
-    return !m_isEnded;
+    return !m_isEnded && !m_isStopped;
 }
 
 void Publishing::begin() {
@@ -166,17 +174,59 @@ void Publishing::nameServer(Problem& problem) const {
     }
 }
 
-void Publishing::cancel() {
-    m_isCancelled = true;
-    if (m_calls == 0) {
-        tellCancelled();
+std::vector<std::int32_t> Publishing::notTaken() {
+    std::vector<std::int32_t> rows;
+    for (const TrackReport& track : m_follow.tracks()) {
+        if (isNotTaken(track)) {
+            rows.push_back(track.index);
+        }
+    }
+    return rows;
+}
+
+bool Publishing::canTryAgain() {
+    return !isBusy() && !notTaken().empty();
+}
+
+void Publishing::uploadComes() {
+    const auto all = m_follow.tracks();
+    const bool isWaiting = std::any_of(
+        all.begin(), all.end(), [](const TrackReport& track) { return track.state == TrackState::kNone; });
+    if (!isWaiting && canTryAgain()) {
+        resetTracks(*m_panel->tracks(), notTaken());
     }
 }
 
-void Publishing::tellCancelled() {
+void Publishing::tryAgain() {
+    if (isBusy()) {
+        return;
+    }
+    resetTracks(*m_panel->tracks(), notTaken());
+    ++m_calls;
+    m_panel->set("upload", 1);
+    --m_calls;
+    m_follow.asked();
+}
+
+Hindrance Publishing::hindrance() {
+    return hindranceOf(m_follow.tracks(), m_panel->isClient("isAuthorized"), isBusy());
+}
+
+void Publishing::stop() {
+    m_isStopped = true;
+    m_activity->end({});
+    if (m_follow.isBusy() || m_calls == 0) {
+        tellStopped();
+    }
+}
+
+void Publishing::tellStopped() {
     if (m_follow.isBusy()) {
         m_follow.stop();
-    } else if (!m_isEnded) {
+        return;
+    }
+    m_isStopped = false;
+    if (!m_isEnded) {
         SignInFacts given;
         given.isCancelled = true;
         end(judge(given));
@@ -184,10 +234,8 @@ void Publishing::tellCancelled() {
 }
 
 void Publishing::end(const Verdict& verdict) {
-    // After the user gave it up the module may go on for a while; that is no news.
-    if (!std::exchange(m_isEnded, true) || !m_isCancelled) {
-        m_listener->ended(verdict);
-    }
+    m_isEnded = true;
+    m_listener->ended(verdict);
 }
 
 } // namespace xbr::host

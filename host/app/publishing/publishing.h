@@ -1,8 +1,9 @@
 #pragma once
 
-#include "host/app/publishing/follow.h"
 #include "host/app/publishing/notice.h"
 #include "host/app/publishing/signin.h"
+#include "host/app/publishing/upload/follow.h"
+#include "host/app/publishing/upload/readiness.h"
 
 #include <QTimer>
 
@@ -21,10 +22,17 @@ public:
     /// What is about to be sent.
     virtual void tracksKnown(const std::vector<TrackReport>& /*tracks*/) {}
 
-    /// Songs are copied and packed.
-    virtual void preparing() {}
+    /// Songs are copied and packed; more than once.
+    virtual void preparing(const PreparationProgress& /*progress*/) {}
 
+    /// Bytes are on their way; four times a second.
+    virtual void sending(const UploadProgress& /*progress*/) {}
+
+    /// A track looks different, while an upload runs.
     virtual void trackChanged(const TrackReport& /*track*/) {}
+
+    /// The panel's list may look different, whether an upload runs or not.
+    virtual void tracksTouched() {}
 
     /// Something came to its end: a sign-in, an upload, or what was asked for before anything was sent.
     virtual void ended(const Verdict& verdict) = 0;
@@ -55,22 +63,40 @@ public:
     /// The user signs in through the panel: what comes of it is told.
     void signInBegan();
 
+    /// The user is about to perform "upload" in the panel. Where nothing waits to be sent, that means to send
+    /// again what did not arrive.
+    void uploadComes();
+
     /// The user performed "upload" in the panel, which has come back.
     void uploadAsked() { m_follow.asked(); }
 
-    /// Ends what runs as soon as the dialog or the indicator that is open has been closed by the front end.
-    /// What is on its way to the service is given up.
-    void cancel();
+    /// True when songs were sent that the service did not take.
+    bool canTryAgain();
+
+    /// Sends them again: the list's own "Reset", then "upload".
+    void tryAgain();
+
+    /// Ends what runs: a dialog or indicator that is open is closed, what is on its way to the service is
+    /// aborted. The verdict comes once the panel has heard of it; what had arrived stays as it is.
+    void stop();
+
+    /// Why "upload" can do nothing.
+    Hindrance hindrance();
+
+    /// The tracks of the panel, by the user's files.
+    std::vector<TrackReport> tracks() { return m_follow.tracks(); }
 
     /// True while songs are handed over, prepared or on their way.
     bool isBusy();
 
 private:
     void begin();
+    void judgeUpload(UploadFacts facts);
     void upload();
     template <class Call>
     bool doInPanel(const Call& call);
-    void tellCancelled();
+    void tellStopped();
+    std::vector<std::int32_t> notTaken();
     void nameServer(Problem& problem) const;
     void end(const Verdict& verdict);
 
@@ -81,7 +107,7 @@ private:
     std::unique_ptr<RenderedSongs> m_rendered; ///< what the panel got last
     PublishEntry m_entry;
     Plan m_plan;
-    bool m_isCancelled = false;
+    bool m_isStopped = false;
     bool m_isEnded = true; ///< of what `publish` or `signIn` began
     int m_calls = 0;       ///< calls into the module that may run the event loop
     Follow m_follow;

@@ -397,7 +397,12 @@ bool saysNothingSent(Cause cause) {
            cause == Cause::kNoFolder;
 }
 
-Verdict judgeStop(std::vector<SongVerdict> songs, const SongVerdict& first) {
+Verdict judgeStop(std::vector<SongVerdict> songs, SongVerdict first) {
+    // A song that was refused before is not what was stopped.
+    const auto stopped = std::find_if(songs.begin(), songs.end(), [](const SongVerdict& song) {
+        return song.cause == Cause::kStopped || song.cause == Cause::kStoppedUnsure;
+    });
+    first = stopped == songs.end() ? std::move(first) : *stopped;
     const auto done = std::count_if(songs.begin(), songs.end(), &isDone);
     const bool isBefore = done == 0 && first.cause == Cause::kStoppedBefore;
     std::string sentence = say(QCoreApplication::translate("xbr::host::Words", "Stopped."));

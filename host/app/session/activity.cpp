@@ -26,6 +26,10 @@ Activity::Run::~Run() {
     m_activity->askForQuiet();
 }
 
+void Activity::Run::progressed(double fraction, const std::string& what) {
+    m_activity->tell([&](Watcher& watcher) { watcher.workProgressed(m_kind, fraction, what); });
+}
+
 Activity::Activity() {
     setExchangeListener(this);
     setFileProblemListener([this](const Problem& problem) {
@@ -66,6 +70,10 @@ bool Activity::isQuiet() const {
 void Activity::began(const Exchange& exchange) {
     ++m_exchanges;
     tell([&exchange](Watcher& watcher) { watcher.exchangeBegan(exchange); });
+}
+
+void Activity::progressed(const Exchange& exchange) {
+    tell([&exchange](Watcher& watcher) { watcher.exchangeProgressed(exchange); });
 }
 
 void Activity::ended(const Exchange& exchange) {

@@ -10,6 +10,7 @@
 #include <list>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace xbr::host {
@@ -38,6 +39,9 @@ public:
         /// The user does not want the work to go on.
         void cancelled() { m_isCancelled = true; }
 
+        /// How far the work is, and what it works on.
+        void progressed(double fraction, const std::string& what);
+
     private:
         Activity* m_activity;
         Kind m_kind;
@@ -49,8 +53,10 @@ public:
     /// Hears of what runs. All but `becameQuiet` may come from within a call of a module.
     struct Watcher {
         virtual void began(Kind) {}
+        virtual void workProgressed(Kind, double /*fraction*/, const std::string& /*what*/) {}
         virtual void ended(Kind, bool /*isCancelled*/) {}
         virtual void exchangeBegan(const Exchange&) {}
+        virtual void exchangeProgressed(const Exchange&) {}
         virtual void exchangeEnded(const Exchange&) {}
         virtual void fileFailed(const Problem&) {}
 
@@ -95,6 +101,7 @@ public:
 
 private:
     void began(const Exchange& exchange) override;
+    void progressed(const Exchange& exchange) override;
     void ended(const Exchange& exchange) override;
     void look();
     template <class Tell>

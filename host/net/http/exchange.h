@@ -27,6 +27,9 @@ public:
     /// A request is on its way.
     virtual void began(const Exchange& exchange) = 0;
 
+    /// More of its body left.
+    virtual void progressed(const Exchange& /*exchange*/) {}
+
     /// It has come to its end, and its handler was called: what the module began in there began before.
     virtual void ended(const Exchange& exchange) = 0;
 

@@ -161,6 +161,10 @@ void WebRequest::onSent(double fraction) {
         return;
     }
     m_lastSent = fraction;
+    if (g_listener && m_transfer) {
+        m_exchange.sent = m_transfer->sent();
+        g_listener->progressed(m_exchange);
+    }
     const auto self = Ref<WebRequest>::share(this);
     const auto handler = m_handler;
     tell(handler.get(), *make<RequestMessage>("onprogress", fraction));
@@ -217,6 +221,14 @@ void WebRequest::tellEnd() {
 
 void WebRequest::setListener(ExchangeListener* listener) {
     g_listener = listener;
+}
+
+void WebRequest::abortUploads() {
+    for (WebRequest* request : g_owing) {
+        if (request->m_exchange.hadCredentials && request->m_exchange.hadBody) {
+            request->abort(); // it goes on owing a message
+        }
+    }
 }
 
 void WebRequest::endAll() {

@@ -62,6 +62,9 @@ public:
     /// Ends all requests that still owe a message, without one.
     static void endAll();
 
+    /// Aborts the requests in flight that carry a body with credentials.
+    static void abortUploads();
+
     /// Names who hears of requests (null: nobody).
     static void setListener(ExchangeListener* listener);
 

@@ -132,6 +132,7 @@ void ProgressIndicator::update(double fraction, Text what) noexcept {
     }
     m_work->updated = now;
     m_work->sheet->tell(fraction, toQString(what));
+    m_work->run.progressed(fraction, toString(what));
     const auto self = Ref<ProgressIndicator>::share(this);
     if (!isShown && now >= kShowAfter) {
         m_work->sheet->show();

@@ -3,6 +3,7 @@
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
+#include "host/app/publishing/upload/progresswords.h"
 #include "host/app/publishing/words.h"
 
 namespace xbr::host {
@@ -74,17 +75,12 @@ void PanelNotices::tellState(std::int64_t state) {
     }
 }
 
-void PanelNotices::preparing() {
-    tell(NoticeKind::kBusy,
-         QCoreApplication::translate("xbr::host::Words", "Preparing the songs. Nothing is sent yet."));
+void PanelNotices::preparing(const PreparationProgress& progress) {
+    tell(NoticeKind::kBusy, QString::fromStdString(wordsOf(progress)));
 }
 
-void PanelNotices::trackChanged(const TrackReport& track) {
-    if (track.isUploading) {
-        tell(NoticeKind::kBusy, QCoreApplication::translate("xbr::host::Words", "Sending “%1”: %2 %")
-                                    .arg(QString::fromStdString(labelOf(track)),
-                                         QString::number(static_cast<int>(track.progress * 100.0))));
-    }
+void PanelNotices::sending(const UploadProgress& progress) {
+    tell(NoticeKind::kBusy, QString::fromStdString(wordsOf(progress).headline));
 }
 
 void PanelNotices::ended(const Verdict& verdict) {

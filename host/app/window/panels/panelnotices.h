@@ -31,8 +31,8 @@ signals:
 private:
     void clientChanged();
     void tellState(std::int64_t state);
-    void trackChanged(const TrackReport& track) override;
-    void preparing() override;
+    void preparing(const PreparationProgress& progress) override;
+    void sending(const UploadProgress& progress) override;
     void ended(const Verdict& verdict) override;
     void tell(NoticeKind kind, const QString& text);
 

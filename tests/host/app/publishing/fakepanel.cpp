@@ -27,13 +27,23 @@ constexpr int kUpload = 101;
 constexpr int kAlbum = 102;
 
 struct FakeTrack final : Object<IPropertySource> {
+    explicit FakeTrack(const FakeScript& behaviour) : script(&behaviour) {}
+
     Result getProperty(Text name, Value* out) noexcept override {
+        const bool isMissing =
+            std::find(script->missing.begin(), script->missing.end(), view(name)) != script->missing.end();
+        const char* text = isMissing ? "" : "set";
         const std::pair<std::string_view, Value> properties[] = {
             {"title", textValue(title)},
             {"file", textValue(file)},
             {"state", integerValue(static_cast<std::int64_t>(state))},
             {"uploading", boolValue(isUploading)},
             {"progress", floatValue(isUploading ? 0.5 : 0.0)},
+            {"albumTitle", textValue(text)},
+            {"albumArtist", textValue(text)},
+            {"primaryGenre", textValue(text)},
+            {"songTitle", textValue(text)},
+            {"songArtist", textValue(text)},
         };
         const auto* const found = std::find_if(std::begin(properties), std::end(properties),
                                                [&](const auto& pair) { return pair.first == view(name); });
@@ -42,6 +52,7 @@ struct FakeTrack final : Object<IPropertySource> {
     }
     Result setProperty(Text, const Value&) noexcept override { return kFalse; }
 
+    const FakeScript* script;
     std::string title;
     std::string file;
     TrackState state = TrackState::kNone;
@@ -66,9 +77,7 @@ public:
     explicit FakeEditor(const FakeScript& script) : Component("TrackProperties") {
         int tag = 100;
         for (const char* name : {"albumTitle", "albumArtist", "songTitle", "songArtist"}) {
-            const bool isMissing =
-                std::find(script.missing.begin(), script.missing.end(), name) != script.missing.end();
-            addParameter(ParameterKind::kText, tag++, name).set(textValue(isMissing ? "" : "set"));
+            addParameter(ParameterKind::kText, tag++, name);
         }
         if (!script.genres.empty()) {
             addParameter(ParameterKind::kList, tag, "primaryGenre").setChoices(script.genres);
@@ -126,7 +135,7 @@ public:
         query<IUrlSource>(&song)->getUrl(url.out());
         const auto media = make<Attributes>();
         query<IMediaAttributes>(&song)->getMediaAttributes(media.get());
-        auto track = make<FakeTrack>();
+        auto track = make<FakeTrack>(*m_script);
         track->file = take(url);
         track->title = track->file.substr(track->file.rfind('/') + 1);
         m_script->published.push_back(track->title + "|" + media->getString("Media:Title") + "|" +

@@ -4,7 +4,7 @@
 #include "framework/support/parts/classfactory.h"
 #include "framework/support/parts/component.h"
 #include "framework/support/parts/listviewmodel.h"
-#include "host/app/publishing/tracks.h"
+#include "host/app/publishing/upload/tracks.h"
 #include "host/app/session/activity.h"
 
 #include <functional>

@@ -161,14 +161,41 @@ TEST_F(PublishingTest, anAlbumThatCannotFitIsNotBegun) {
     EXPECT_EQ(m_script.uploads, 0);
 }
 
+TEST(Pace, guessesFromTenSecondsAndOnlyOnceItKnows) {
+    static constexpr std::int64_t kMegabyte = 1000000;
+    Pace pace;
+    pace.begin(true, 50000);
+    std::int64_t bytes = 0;
+    const struct {
+        std::int64_t until; // milliseconds
+        std::int64_t perSecond;
+        std::int64_t speed;   // as measured then
+        std::int64_t seconds; // for 10 MB and a byte
+    } steps[] = {{500, 2, -1, -1}, {2000, 2, 2, -1}, {4000, 2, 2, 6}, {20000, 4, 4, 3}, {40000, 0, 0, -1}};
+    std::int64_t now = 50000;
+    for (const auto& step : steps) {
+        for (; now < 50000 + step.until; now += 250) {
+            bytes += step.perSecond * kMegabyte / 4;
+            pace.sent(bytes, now + 250);
+        }
+        EXPECT_EQ(pace.bytesPerSecond(now), step.speed < 0 ? -1 : step.speed * kMegabyte) << step.until;
+        EXPECT_EQ(pace.secondsFor(10 * kMegabyte + 1, now), step.seconds) << step.until;
+    }
+    EXPECT_EQ(pace.quietSeconds(now), 20);
+    pace.pause(now);
+    pace.begin(false, now + 60000); // the time between two songs is no time of sending
+    EXPECT_EQ(pace.bytesPerSecond(now + 60000), 0);
+    EXPECT_EQ(pace.quietSeconds(now + 60000), 0);
+}
+
 TEST_F(PublishingTest, cancellingEndsItAtEveryStage) {
     const std::function<void()> stages[] = {
-        [this] { m_publishing->cancel(); },
-        [this] { m_script.duringConnect = [this] { m_publishing->cancel(); }; },
-        [this] { m_script.duringPreparation = [this] { m_publishing->cancel(); }; },
+        [this] { m_publishing->stop(); },
+        [this] { m_script.duringConnect = [this] { m_publishing->stop(); }; },
+        [this] { m_script.duringPreparation = [this] { m_publishing->stop(); }; },
         [this] {
             EXPECT_TRUE(runUntil([this] { return m_changes > 0; })); // on its way
-            m_publishing->cancel();
+            m_publishing->stop();
         },
     };
     const FakeScript fresh = m_script;

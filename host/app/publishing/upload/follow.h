@@ -1,11 +1,13 @@
 #pragma once
 
 #include "host/app/modules/gadgetpanel.h"
-#include "host/app/publishing/handover.h"
-#include "host/app/publishing/tracks.h"
+#include "host/app/publishing/upload/handover.h"
+#include "host/app/publishing/upload/progress.h"
+#include "host/app/publishing/upload/tracks.h"
 #include "host/app/publishing/verdict.h"
 #include "host/app/session/activity.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <cstdint>
@@ -20,13 +22,16 @@ namespace xbr::host {
 /// could not be copied, and the moment at which nothing moves any more. Main thread.
 class Follow final : private Activity::Watcher {
 public:
-    using Preparing = std::function<void()>;
-    using Changed = std::function<void(const TrackReport& track)>;
-    using Ended = std::function<void(const UploadFacts& facts)>;
+    /// Hears of uploads.
+    struct Listener {
+        std::function<void(const PreparationProgress&)> preparing; ///< while songs are copied and packed
+        std::function<void(const UploadProgress&)> sending;        ///< four times a second
+        std::function<void(const TrackReport&)> changed; ///< a track looks different, while an upload runs
+        std::function<void(const UploadFacts&)> ended;   ///< from the event loop, once for each upload
+        std::function<void()> touched;                   ///< the list was read anew, at any time
+    };
 
-    /// `preparing` is called when songs begin to be copied, `changed` for each track that looks different
-    /// from before, `ended` from the event loop once for each upload.
-    Follow(GadgetPanel& panel, Activity& activity, Preparing preparing, Changed changed, Ended ended);
+    Follow(GadgetPanel& panel, Activity& activity, Listener listener);
     Follow(const Follow&) = delete;
     Follow& operator=(const Follow&) = delete;
 
@@ -36,7 +41,8 @@ public:
     /// "upload" was performed, and has come back. When nothing was prepared in there, nothing will be.
     void asked();
 
-    /// Ends it where it stands: what is on its way is given up.
+    /// Ends what runs: songs are not prepared any more, what is on its way is aborted. It has come to its end
+    /// when the panel has heard of that.
     void stop();
 
     /// Ends it now when nothing moves any more.
@@ -62,7 +68,10 @@ private:
 
     void began(Activity::Kind kind) override;
     void ended(Activity::Kind kind, bool isCancelled) override;
+    void exchangeBegan(const Exchange& exchange) override;
+    void exchangeProgressed(const Exchange& exchange) override;
     void exchangeEnded(const Exchange& exchange) override;
+    void workProgressed(Activity::Kind kind, double fraction, const std::string& what) override;
     void fileFailed(const Problem& problem) override;
     void becameQuiet() override { lookLater(); }
 
@@ -74,6 +83,10 @@ private:
     bool isAtRest();
     void finish();
     void noteTravelling();
+    void tellSending();
+    UploadProgress progress();
+    std::int64_t waitingBytes();
+    std::int64_t sizeOf(const TrackReport& track);
     TrackReport named(TrackReport report) const;
     std::string sourceOf(const std::string& url) const;
     UploadFacts facts();
@@ -82,9 +95,7 @@ private:
 
     GadgetPanel* m_panel;
     Activity* m_activity;
-    Preparing m_preparing;
-    Changed m_changed;
-    Ended m_ended;
+    Listener m_hears;
     Phase m_phase = Phase::kIdle;
     bool m_wasPrepared = false; ///< since the last time that somebody asked
     bool m_isCancelled = false;
@@ -92,8 +103,14 @@ private:
     std::vector<HandedSong> m_songs;
     std::vector<Problem> m_files;
     std::vector<Finding> m_findings;
-    std::map<std::string, Carried> m_carried; ///< by the URL of the track's file
-    std::vector<std::string> m_travelling;    ///< URLs of the tracks on their way
+    std::map<std::string, Carried> m_carried;    ///< by the URL of the track's file
+    std::vector<std::string> m_travelling;       ///< URLs of the tracks on their way
+    std::map<std::string, std::int64_t> m_sizes; ///< of files, by URL, while an upload runs
+    Pace m_pace;
+    Amount m_request;            ///< on its way; no total when there is none
+    std::int64_t m_finished = 0; ///< bytes of the upload's requests that have ended
+    QElapsedTimer m_clock;
+    QTimer m_telling;
     TrackFollower m_follower;
     QTimer m_later;
     Activity::Handle m_watching;

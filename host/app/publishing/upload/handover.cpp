@@ -1,4 +1,4 @@
-#include "host/app/publishing/handover.h"
+#include "host/app/publishing/upload/handover.h"
 
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/path.h"

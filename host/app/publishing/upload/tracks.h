@@ -8,12 +8,23 @@
 
 #include <QTimer>
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
 
 namespace xbr::host {
+
+/// What the panel's editor shows of a track.
+struct TrackDetails {
+    std::array<std::string, kDetails.size()> texts; ///< in the order of kDetails
+    std::int64_t number = 0;
+    bool isKnown = false; ///< the module tells of it
+
+    const std::string& text(Detail detail) const { return texts[static_cast<std::size_t>(detail)]; }
+    bool operator==(const TrackDetails&) const = default;
+};
 
 /// One row of the list of tracks.
 struct TrackReport {
@@ -23,6 +34,7 @@ struct TrackReport {
     TrackState state = TrackState::kNone;
     bool isUploading = false;
     double progress = 0.0; ///< fraction of the transfer
+    TrackDetails details;
 
     bool operator==(const TrackReport&) const = default;
 };
@@ -30,14 +42,17 @@ struct TrackReport {
 /// What to call a track: its title, or the name of its file when it has none.
 std::string labelOf(const TrackReport& track);
 
+/// What a track lacks that a release needs, as far as the module tells of its details.
+std::vector<Detail> missingDetails(const TrackReport& track);
+
 /// Reads a list of tracks and tells what changes in it. A list that says "changed" is read with the next turn
 /// of the event loop, or when somebody asks: an album of many tracks says so for each of them.
 class TrackFollower {
 public:
     using Changed = std::function<void(const TrackReport& track)>;
 
-    /// `touched` is called for every message of the list, before `changed` for each track that looks
-    /// different from before.
+    /// `touched` is called once the list was read after it had changed, and for each of its rows that says
+    /// so; `changed` before that for each track that looks different from before.
     TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed);
 
     /// The tracks as they are now. May call `changed`.
@@ -56,18 +71,5 @@ private:
     QTimer m_later; ///< runs while the list has changed and was not read since
     Listener m_listener;
 };
-
-/// A track that lacks something that a release needs.
-struct IncompleteTrack {
-    std::int32_t index = 0; ///< from 0
-    std::vector<Detail> missing;
-};
-
-/// Looks through the tracks of a panel with its editor. Moves the focus of the list from row to row; it ends
-/// up where it was.
-std::vector<IncompleteTrack> findIncompleteTracks(GadgetPanel& panel);
-
-/// The title of the album that the panel's tracks are. Moves the focus when no track has it.
-std::string albumTitleOf(GadgetPanel& panel);
 
 } // namespace xbr::host

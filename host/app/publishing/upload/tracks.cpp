@@ -1,4 +1,4 @@
-#include "host/app/publishing/tracks.h"
+#include "host/app/publishing/upload/tracks.h"
 
 #include "framework/abi/controller.h"
 #include "framework/support/objects/message.h"
@@ -23,6 +23,19 @@ TrackState stateOf(std::int64_t code) {
     return code >= 0 && code <= 3 ? static_cast<TrackState>(code) : TrackState::kFailed;
 }
 
+TrackDetails readDetails(IPropertySource& item) {
+    TrackDetails details;
+    for (const Detail detail : kDetails) {
+        const Value value = property(item, parameterOf(detail));
+        details.isKnown = value.kind != ValueKind::kNone;
+        // Rationale: the first choice of a menu stands for nothing, and may be a blank.
+        const std::string text(textOf(value));
+        details.texts[static_cast<std::size_t>(detail)] = text == " " ? std::string() : text;
+    }
+    details.number = integerOf(property(item, "trackNumber"));
+    return details;
+}
+
 TrackReport read(IListViewModel& tracks, std::int32_t row) {
     TrackReport report;
     report.index = row;
@@ -34,32 +47,9 @@ TrackReport read(IListViewModel& tracks, std::int32_t row) {
         report.state = stateOf(integerOf(property(*item, "state")));
         report.isUploading = integerOf(property(*item, "uploading")) != 0;
         report.progress = std::clamp(numberOf(property(*item, "progress")), 0.0, 1.0);
+        report.details = readDetails(*item);
     }
     return report;
-}
-
-constexpr Detail kDetails[] = {Detail::kAlbumTitle, Detail::kAlbumArtist, Detail::kGenre, Detail::kSongTitle,
-                               Detail::kSongArtist};
-
-const IParameter* editorParameter(const GadgetPanel& panel, Detail detail) {
-    return findParameter(panel.controller(), std::string("TrackList/TrackProperties/") + parameterOf(detail));
-}
-
-/// Of a list of choices the first is "not set".
-bool isMissing(const IParameter& parameter) {
-    const Value value = parameter.value();
-    return parameter.kind() == ParameterKind::kList ? integerOf(value) == 0 : textOf(value).empty();
-}
-
-std::vector<Detail> missingDetails(const GadgetPanel& panel) {
-    std::vector<Detail> missing;
-    for (const Detail detail : kDetails) {
-        const IParameter* parameter = editorParameter(panel, detail);
-        if (parameter && isMissing(*parameter)) {
-            missing.push_back(detail);
-        }
-    }
-    return missing;
 }
 
 } // namespace
@@ -69,14 +59,24 @@ std::string labelOf(const TrackReport& track) {
     return track.title.empty() ? path.substr(path.rfind('/') + 1) : track.title;
 }
 
+std::vector<Detail> missingDetails(const TrackReport& track) {
+    std::vector<Detail> missing;
+    for (const Detail detail : kDetails) {
+        if (track.details.isKnown && track.details.text(detail).empty()) {
+            missing.push_back(detail);
+        }
+    }
+    return missing;
+}
+
 TrackFollower::TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed)
     : m_tracks(std::move(tracks)),
       m_touched(std::move(touched)),
       m_changed(std::move(changed)),
       m_listener([this](ISubject*, const IMessage& message) {
-          m_touched();
           if (isNamed(message, "itemChanged")) {
               readRow(static_cast<std::int32_t>(integerOf(message.argument(0), -1)));
+              m_touched();
           } else if (isNamed(message, "changed")) {
               m_later.start();
           }
@@ -113,6 +113,7 @@ void TrackFollower::readAll() {
     for (std::int32_t row = 0; row < m_tracks->countRows(); ++row) {
         readRow(row);
     }
+    m_touched();
 }
 
 void TrackFollower::readRow(std::int32_t row) {
@@ -125,33 +126,6 @@ void TrackFollower::readRow(std::int32_t row) {
         known = report;
         m_changed(report);
     }
-}
-
-std::vector<IncompleteTrack> findIncompleteTracks(GadgetPanel& panel) {
-    std::vector<IncompleteTrack> incomplete;
-    const auto tracks = panel.tracks();
-    const std::int32_t focus = tracks->focus();
-    for (std::int32_t row = 0; row < tracks->countRows(); ++row) {
-        tracks->setFocus(row);
-        if (auto missing = missingDetails(panel); !missing.empty()) {
-            incomplete.push_back({row, std::move(missing)});
-        }
-    }
-    tracks->setFocus(focus);
-    return incomplete;
-}
-
-std::string albumTitleOf(GadgetPanel& panel) {
-    const auto tracks = panel.tracks();
-    const std::int32_t focus = tracks->focus();
-    if (focus < 0) {
-        tracks->setFocus(0); // the editor shows what has the focus
-    }
-    std::string title = panel.text("TrackList/TrackProperties/albumTitle");
-    if (focus < 0) {
-        tracks->setFocus(focus);
-    }
-    return title;
 }
 
 } // namespace xbr::host

@@ -1,4 +1,4 @@
-#include "host/app/publishing/follow.h"
+#include "host/app/publishing/upload/follow.h"
 
 #include "framework/abi/system.h"
 #include "framework/support/objects/text.h"
@@ -30,6 +30,11 @@ std::string folderForCopies() {
     Ref<IString> url;
     XBRGetSystem()->getTemporaryFolder(url.out());
     return fs::path(localPath(take(url)).value_or("")).parent_path().string();
+}
+
+/// With credentials and a body it is an upload; asking for the account has none, signing in no credentials.
+bool isUpload(const Exchange& exchange) {
+    return exchange.hadCredentials && exchange.hadBody;
 }
 
 bool isThere(const std::string& path) {
@@ -73,24 +78,26 @@ void findReasons(UploadFacts& facts) {
 
 } // namespace
 
-Follow::Follow(GadgetPanel& panel, Activity& activity, Preparing preparing, Changed changed, Ended ended)
+Follow::Follow(GadgetPanel& panel, Activity& activity, Listener listener)
     : m_panel(&panel),
       m_activity(&activity),
-      m_preparing(std::move(preparing)),
-      m_changed(std::move(changed)),
-      m_ended(std::move(ended)),
+      m_hears(std::move(listener)),
       m_follower(
-          panel.tracks(), [] {},
+          panel.tracks(), [this] { m_hears.touched(); },
           [this](const TrackReport& track) {
               noteTravelling();
               if (isBusy()) {
-                  m_changed(named(track));
+                  m_hears.changed(named(track));
               }
           }),
       m_watching(activity.watch(*this)) {
+    static constexpr int kTellEvery = 250; // milliseconds
     m_later.setSingleShot(true);
     m_later.setInterval(0);
     m_later.callOnTimeout([this] { look(); });
+    m_telling.setInterval(kTellEvery);
+    m_telling.callOnTimeout([this] { tellSending(); });
+    m_clock.start();
 }
 
 void Follow::named(std::vector<HandedSong> songs) {
@@ -112,9 +119,12 @@ void Follow::began(Activity::Kind kind) {
     }
     m_wasPrepared = true;
     setPhase(Phase::kPreparing);
-    m_preparing();
+    workProgressed(kind, 0.0, {});
     checkNames();
     checkRoom();
+    if (m_isCancelled) { // between two songs: the next one is not to go
+        m_activity->end(Activity::Kind::kPreparing);
+    }
 }
 
 void Follow::beginUpload() {
@@ -122,6 +132,8 @@ void Follow::beginUpload() {
     m_findings.clear();
     m_isCancelled = false;
     m_hasNoRoom = false;
+    m_sizes.clear();
+    m_finished = 0;
     for (const TrackReport& track : m_follower.reports()) {
         if (track.state == TrackState::kNone) {
             m_carried.erase(track.file); // it goes anew
@@ -191,16 +203,105 @@ void Follow::noteTravelling() {
     }
 }
 
+void Follow::exchangeBegan(const Exchange& exchange) {
+    if (m_phase != Phase::kIdle && isUpload(exchange)) {
+        m_pace.begin(m_finished == 0, m_clock.elapsed());
+        m_request = {0, exchange.size, -1};
+        m_telling.start();
+    }
+}
+
+void Follow::exchangeProgressed(const Exchange& exchange) {
+    if (m_request.total >= 0 && isUpload(exchange)) {
+        m_request.bytes = exchange.sent;
+        m_pace.sent(m_finished + exchange.sent, m_clock.elapsed());
+    }
+}
+
 void Follow::exchangeEnded(const Exchange& exchange) {
-    // With credentials and a body it is an upload; asking for the account has none, signing in no
-    // credentials.
-    if (m_phase == Phase::kIdle || !exchange.hadCredentials || !exchange.hadBody) {
+    if (m_phase == Phase::kIdle || !isUpload(exchange)) {
         return;
     }
+    m_telling.stop();
+    m_pace.pause(m_clock.elapsed());
+    m_finished += exchange.sent;
+    m_request = {};
     for (const std::string& file : std::exchange(m_travelling, {})) {
         m_carried[file] = {exchange.sent, exchange.size, exchange.status, exchange.said, exchange.problem};
     }
     lookLater();
+}
+
+std::int64_t Follow::sizeOf(const TrackReport& track) {
+    const auto [found, isNew] = m_sizes.try_emplace(track.file, 0);
+    if (isNew) {
+        std::error_code failed;
+        const auto size = fs::file_size(localPath(track.file).value_or(""), failed);
+        found->second = failed ? 0 : static_cast<std::int64_t>(size);
+    }
+    return found->second;
+}
+
+/// Of the files that are still to go.
+std::int64_t Follow::waitingBytes() {
+    std::int64_t bytes = 0;
+    for (const TrackReport& track : m_follower.reports()) {
+        const bool isWaiting = track.state == TrackState::kNone && !track.isUploading;
+        bytes += isWaiting ? sizeOf(track) : 0;
+    }
+    return bytes;
+}
+
+UploadProgress Follow::progress() {
+    UploadProgress progress;
+    const auto& reports = m_follower.reports();
+    const auto travelling = std::find_if(reports.begin(), reports.end(),
+                                         [](const TrackReport& track) { return track.isUploading; });
+    progress.isAlbum = isAlbumOn(*m_panel);
+    progress.songs = reports.size();
+    progress.songsDone =
+        static_cast<std::size_t>(std::count_if(reports.begin(), reports.end(), [](const TrackReport& track) {
+            return track.state == TrackState::kDone;
+        }));
+    if (travelling != reports.end()) {
+        progress.index = travelling->index;
+        progress.label =
+            progress.isAlbum ? travelling->details.text(Detail::kAlbumTitle) : labelOf(named(*travelling));
+    }
+    const std::int64_t now = m_clock.elapsed();
+    progress.bytesPerSecond = m_pace.bytesPerSecond(now);
+    progress.quietSeconds = m_pace.quietSeconds(now);
+    const auto complete = [this, now](std::int64_t bytes, std::int64_t total) {
+        return Amount{bytes, total, m_pace.secondsFor(total - bytes, now)};
+    };
+    const std::int64_t sent = m_finished + m_request.bytes;
+    progress.song = complete(m_request.bytes, m_request.total);
+    progress.all = complete(sent, sent + m_request.total - m_request.bytes + waitingBytes());
+    return progress;
+}
+
+void Follow::tellSending() {
+    if (m_phase == Phase::kSending) {
+        m_hears.sending(progress());
+    }
+}
+
+void Follow::workProgressed(Activity::Kind kind, double fraction, const std::string& what) {
+    if (kind != Activity::Kind::kPreparing || m_phase != Phase::kPreparing) {
+        return;
+    }
+    PreparationProgress progress;
+    progress.file = what;
+    const bool isAlbum = isAlbumOn(*m_panel);
+    std::int64_t total = 0;
+    for (const TrackReport& track : m_follower.reports()) {
+        if (isAlbum || (track.state == TrackState::kNone && progress.songs == 0)) {
+            total += sizeOf(track);
+            ++progress.songs;
+        }
+    }
+    progress.amount = {static_cast<std::int64_t>(static_cast<double>(total) * fraction), total, -1};
+    m_hears.preparing(progress);
 }
 
 void Follow::fileFailed(const Problem& problem) {
@@ -217,16 +318,17 @@ void Follow::asked() {
         m_findings.clear();
         UploadFacts nothing = facts();
         nothing.isNothingWaiting = true;
-        m_ended(nothing);
+        m_hears.ended(nothing);
     }
 }
 
 void Follow::stop() {
-    m_isCancelled = true;
     if (m_phase != Phase::kIdle) {
+        m_isCancelled = true;
         noteTravelling();
-        abortAllRequests(); // tells how far they came
-        finish();
+        m_activity->end(Activity::Kind::kPreparing);
+        abortUploads();
+        lookLater();
     }
 }
 
@@ -252,7 +354,7 @@ void Follow::finish() {
     m_travelling.clear();
     m_wasPrepared = false;
     setPhase(Phase::kIdle);
-    m_ended(found);
+    m_hears.ended(found);
 }
 
 std::string Follow::sourceOf(const std::string& url) const {
@@ -281,6 +383,7 @@ TrackFact Follow::factOf(const TrackReport& report) const {
     fact.label = labelOf(named(report));
     fact.source = sourceOf(report.file);
     fact.state = report.state;
+    fact.missing = missingDetails(report);
     const auto carried = m_carried.find(report.file);
     fact.wasSent = carried != m_carried.end();
     if (fact.wasSent) {
@@ -299,7 +402,9 @@ UploadFacts Follow::facts() {
         facts.tracks.push_back(factOf(report));
     }
     facts.isAlbum = isAlbumOn(*m_panel);
-    facts.albumTitle = facts.isAlbum ? albumTitleOf(*m_panel) : std::string();
+    if (facts.isAlbum && !m_follower.reports().empty()) {
+        facts.albumTitle = m_follower.reports().front().details.text(Detail::kAlbumTitle);
+    }
     facts.files = m_files;
     facts.findings = m_findings;
     facts.isCancelled = m_isCancelled && m_findings.empty() && !m_hasNoRoom;
@@ -307,20 +412,7 @@ UploadFacts Follow::facts() {
     if (!facts.isCancelled && facts.findings.empty()) {
         findReasons(facts);
     }
-    addMissing(facts);
     return facts;
-}
-
-/// Looks into the editor only when a track was refused: that moves its focus.
-void Follow::addMissing(UploadFacts& facts) {
-    const bool isRefused = std::any_of(facts.tracks.begin(), facts.tracks.end(), [](const TrackFact& track) {
-        return track.state == TrackState::kMissingInformation;
-    });
-    if (isRefused) {
-        for (IncompleteTrack& track : findIncompleteTracks(*m_panel)) {
-            facts.tracks[static_cast<std::size_t>(track.index)].missing = std::move(track.missing);
-        }
-    }
 }
 
 } // namespace xbr::host
