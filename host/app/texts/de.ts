@@ -393,14 +393,6 @@
         <translation>Anmeldung läuft …</translation>
     </message>
     <message>
-        <source>Preparing the songs. Nothing is sent yet.</source>
-        <translation>Die Songs werden vorbereitet. Noch ist nichts gesendet.</translation>
-    </message>
-    <message>
-        <source>Sending “%1”: %2 %</source>
-        <translation>„%1“ wird gesendet: %2 %</translation>
-    </message>
-    <message>
         <source>it does not take the songs</source>
         <translation>nimmt die Songs nicht an</translation>
     </message>
@@ -751,6 +743,74 @@
     <message>
         <source>“%1” and “%2” both have the number %3.</source>
         <translation>„%1“ und „%2“ haben beide die Nummer %3.</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>“%1” is sent. Waiting for the service&apos;s answer.</source>
+        <translation>„%1“ ist gesendet. Die Antwort des Dienstes steht noch aus.</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: no bytes have left for %2 s. Waiting for the connection.</source>
+        <translation>„%1“ wird gesendet: seit %2 s ist nichts mehr abgegangen. Die Verbindung wird abgewartet.</translation>
+    </message>
+    <message>
+        <source>Sending the album “%1”</source>
+        <translation>Das Album „%1“ wird gesendet</translation>
+    </message>
+    <message>
+        <source>Sending “%1”, %2 of %3</source>
+        <translation>„%1“ wird gesendet, %2 von %3</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>All: %1</source>
+        <translation>Alles: %1</translation>
+    </message>
+    <message>
+        <source>Preparing one song: %1 of %2. Nothing is sent yet.</source>
+        <translation>Ein Song wird vorbereitet: %1 von %2. Noch ist nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>Preparing %1 songs: %2 of %3. Nothing is sent yet.</source>
+        <translation>%1 Songs werden vorbereitet: %2 von %3. Noch ist nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>An upload is running.</source>
+        <translation>Es wird gerade gesendet.</translation>
+    </message>
+    <message>
+        <source>Hand over songs first.</source>
+        <translation>Zuerst Songs übergeben.</translation>
+    </message>
+    <message>
+        <source>Sign in first.</source>
+        <translation>Zuerst anmelden.</translation>
+    </message>
+    <message>
+        <source>All songs are published.</source>
+        <translation>Alle Songs sind veröffentlicht.</translation>
     </message>
 </context>
 </TS>

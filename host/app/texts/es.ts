@@ -393,14 +393,6 @@
         <translation>Iniciando sesión…</translation>
     </message>
     <message>
-        <source>Preparing the songs. Nothing is sent yet.</source>
-        <translation>Preparando las canciones. Aún no se ha enviado nada.</translation>
-    </message>
-    <message>
-        <source>Sending “%1”: %2 %</source>
-        <translation>Enviando «%1»: %2 %</translation>
-    </message>
-    <message>
         <source>it does not take the songs</source>
         <translation>no acepta las canciones</translation>
     </message>
@@ -751,6 +743,74 @@
     <message>
         <source>“%1” and “%2” both have the number %3.</source>
         <translation>«%1» y «%2» tienen ambas el número %3.</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>quedan %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>“%1” is sent. Waiting for the service&apos;s answer.</source>
+        <translation>«%1» se ha enviado. Esperando la respuesta del servicio.</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: no bytes have left for %2 s. Waiting for the connection.</source>
+        <translation>Enviando «%1»: hace %2 s que no sale ningún byte. Esperando la conexión.</translation>
+    </message>
+    <message>
+        <source>Sending the album “%1”</source>
+        <translation>Enviando el álbum «%1»</translation>
+    </message>
+    <message>
+        <source>Sending “%1”, %2 of %3</source>
+        <translation>Enviando «%1», %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>All: %1</source>
+        <translation>Todo: %1</translation>
+    </message>
+    <message>
+        <source>Preparing one song: %1 of %2. Nothing is sent yet.</source>
+        <translation>Preparando una canción: %1 de %2. Aún no se ha enviado nada.</translation>
+    </message>
+    <message>
+        <source>Preparing %1 songs: %2 of %3. Nothing is sent yet.</source>
+        <translation>Preparando %1 canciones: %2 de %3. Aún no se ha enviado nada.</translation>
+    </message>
+    <message>
+        <source>An upload is running.</source>
+        <translation>Hay un envío en curso.</translation>
+    </message>
+    <message>
+        <source>Hand over songs first.</source>
+        <translation>Primero pasa canciones al panel.</translation>
+    </message>
+    <message>
+        <source>Sign in first.</source>
+        <translation>Primero inicia sesión.</translation>
+    </message>
+    <message>
+        <source>All songs are published.</source>
+        <translation>Todas las canciones están publicadas.</translation>
     </message>
 </context>
 </TS>

@@ -393,14 +393,6 @@
         <translation>Connexion en cours…</translation>
     </message>
     <message>
-        <source>Preparing the songs. Nothing is sent yet.</source>
-        <translation>Préparation des morceaux. Rien n&apos;est encore envoyé.</translation>
-    </message>
-    <message>
-        <source>Sending “%1”: %2 %</source>
-        <translation>Envoi de « %1 » : %2 %</translation>
-    </message>
-    <message>
         <source>it does not take the songs</source>
         <translation>n&apos;accepte pas les morceaux</translation>
     </message>
@@ -751,6 +743,74 @@
     <message>
         <source>“%1” and “%2” both have the number %3.</source>
         <translation>« %1 » et « %2 » ont tous deux le numéro %3.</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>encore %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>“%1” is sent. Waiting for the service&apos;s answer.</source>
+        <translation>« %1 » est envoyé. En attente de la réponse du service.</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: no bytes have left for %2 s. Waiting for the connection.</source>
+        <translation>Envoi de « %1 » : plus aucun octet n&apos;est parti depuis %2 s. En attente de la connexion.</translation>
+    </message>
+    <message>
+        <source>Sending the album “%1”</source>
+        <translation>Envoi de l&apos;album « %1 »</translation>
+    </message>
+    <message>
+        <source>Sending “%1”, %2 of %3</source>
+        <translation>Envoi de « %1 », %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>All: %1</source>
+        <translation>Tout : %1</translation>
+    </message>
+    <message>
+        <source>Preparing one song: %1 of %2. Nothing is sent yet.</source>
+        <translation>Préparation d&apos;un morceau : %1 sur %2. Rien n&apos;est encore envoyé.</translation>
+    </message>
+    <message>
+        <source>Preparing %1 songs: %2 of %3. Nothing is sent yet.</source>
+        <translation>Préparation de %1 morceaux : %2 sur %3. Rien n&apos;est encore envoyé.</translation>
+    </message>
+    <message>
+        <source>An upload is running.</source>
+        <translation>Un envoi est en cours.</translation>
+    </message>
+    <message>
+        <source>Hand over songs first.</source>
+        <translation>Transmettez d&apos;abord des morceaux.</translation>
+    </message>
+    <message>
+        <source>Sign in first.</source>
+        <translation>Connectez-vous d&apos;abord.</translation>
+    </message>
+    <message>
+        <source>All songs are published.</source>
+        <translation>Tous les morceaux sont publiés.</translation>
     </message>
 </context>
 </TS>

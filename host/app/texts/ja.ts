@@ -392,14 +392,6 @@
         <translation>サインインしています…</translation>
     </message>
     <message>
-        <source>Preparing the songs. Nothing is sent yet.</source>
-        <translation>曲を準備しています。まだ何も送信されていません。</translation>
-    </message>
-    <message>
-        <source>Sending “%1”: %2 %</source>
-        <translation>「%1」を送信中: %2 %</translation>
-    </message>
-    <message>
         <source>it does not take the songs</source>
         <translation>は曲を受け取りません</translation>
     </message>
@@ -750,6 +742,74 @@
     <message>
         <source>“%1” and “%2” both have the number %3.</source>
         <translation>「%1」と「%2」はどちらも %3 番です。</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>“%1” is sent. Waiting for the service&apos;s answer.</source>
+        <translation>「%1」を送信しました。サービスの応答を待っています。</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: no bytes have left for %2 s. Waiting for the connection.</source>
+        <translation>「%1」を送信中: %2 秒間データが送られていません。接続を待っています。</translation>
+    </message>
+    <message>
+        <source>Sending the album “%1”</source>
+        <translation>アルバム「%1」を送信中</translation>
+    </message>
+    <message>
+        <source>Sending “%1”, %2 of %3</source>
+        <translation>「%1」を送信中 (%2 / %3)</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 時間 %2 分</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/秒</translation>
+    </message>
+    <message>
+        <source>All: %1</source>
+        <translation>全体: %1</translation>
+    </message>
+    <message>
+        <source>Preparing one song: %1 of %2. Nothing is sent yet.</source>
+        <translation>1 曲を準備しています: %1 / %2。まだ何も送信されていません。</translation>
+    </message>
+    <message>
+        <source>Preparing %1 songs: %2 of %3. Nothing is sent yet.</source>
+        <translation>%1 曲を準備しています: %2 / %3。まだ何も送信されていません。</translation>
+    </message>
+    <message>
+        <source>An upload is running.</source>
+        <translation>送信中です。</translation>
+    </message>
+    <message>
+        <source>Hand over songs first.</source>
+        <translation>先に曲を渡してください。</translation>
+    </message>
+    <message>
+        <source>Sign in first.</source>
+        <translation>先にサインインしてください。</translation>
+    </message>
+    <message>
+        <source>All songs are published.</source>
+        <translation>すべての曲が公開されています。</translation>
     </message>
 </context>
 </TS>

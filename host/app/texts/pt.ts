@@ -393,14 +393,6 @@
         <translation>Entrando…</translation>
     </message>
     <message>
-        <source>Preparing the songs. Nothing is sent yet.</source>
-        <translation>Preparando as músicas. Nada foi enviado ainda.</translation>
-    </message>
-    <message>
-        <source>Sending “%1”: %2 %</source>
-        <translation>Enviando “%1”: %2 %</translation>
-    </message>
-    <message>
         <source>it does not take the songs</source>
         <translation>não aceita as músicas</translation>
     </message>
@@ -751,6 +743,74 @@
     <message>
         <source>“%1” and “%2” both have the number %3.</source>
         <translation>“%1” e “%2” têm ambas o número %3.</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>faltam %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>“%1” is sent. Waiting for the service&apos;s answer.</source>
+        <translation>“%1” foi enviada. Aguardando a resposta do serviço.</translation>
+    </message>
+    <message>
+        <source>Sending “%1”: no bytes have left for %2 s. Waiting for the connection.</source>
+        <translation>Enviando “%1”: nenhum byte saiu há %2 s. Aguardando a conexão.</translation>
+    </message>
+    <message>
+        <source>Sending the album “%1”</source>
+        <translation>Enviando o álbum “%1”</translation>
+    </message>
+    <message>
+        <source>Sending “%1”, %2 of %3</source>
+        <translation>Enviando “%1”, %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>All: %1</source>
+        <translation>Tudo: %1</translation>
+    </message>
+    <message>
+        <source>Preparing one song: %1 of %2. Nothing is sent yet.</source>
+        <translation>Preparando uma música: %1 de %2. Nada foi enviado ainda.</translation>
+    </message>
+    <message>
+        <source>Preparing %1 songs: %2 of %3. Nothing is sent yet.</source>
+        <translation>Preparando %1 músicas: %2 de %3. Nada foi enviado ainda.</translation>
+    </message>
+    <message>
+        <source>An upload is running.</source>
+        <translation>Um envio está em andamento.</translation>
+    </message>
+    <message>
+        <source>Hand over songs first.</source>
+        <translation>Primeiro passe músicas ao painel.</translation>
+    </message>
+    <message>
+        <source>Sign in first.</source>
+        <translation>Primeiro entre na conta.</translation>
+    </message>
+    <message>
+        <source>All songs are published.</source>
+        <translation>Todas as músicas estão publicadas.</translation>
     </message>
 </context>
 </TS>
