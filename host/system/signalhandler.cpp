@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <vector>
 
 namespace xbr::host {
 
@@ -22,39 +23,47 @@ Result SignalHandler::addObserver(ISubject* subject, IObserver* observer) noexce
     if (!subject || !observer) {
         return kInvalidArgument;
     }
-    auto& registrations = m_observers[subject];
-    if (std::any_of(registrations.begin(), registrations.end(),
-                    [&](const Registration& known) { return known.observer == observer; })) {
+    const auto [known, isNew] = m_subjects[observer].try_emplace(subject, m_lastSerial + 1);
+    if (!isNew) {
         return kFalse;
     }
-    registrations.push_back({observer, ++m_lastSerial});
+    m_observers[subject].emplace(++m_lastSerial, observer);
     return kOk;
 }
 
 Result SignalHandler::removeObserver(ISubject* subject, IObserver* observer) noexcept {
     assertMainThread();
-    const auto found = m_observers.find(subject);
-    if (found == m_observers.end()) {
+    const auto subjects = m_subjects.find(observer);
+    auto known = subjects == m_subjects.end() ? Subjects::node_type() : subjects->second.extract(subject);
+    if (!known) {
         return kFalse;
     }
-    const auto removed =
-        std::erase_if(found->second, [&](const Registration& known) { return known.observer == observer; });
-    if (found->second.empty()) {
-        m_observers.erase(found);
+    if (subjects->second.empty()) {
+        m_subjects.erase(subjects);
     }
-    return removed > 0 ? kOk : kFalse;
+    removeFrom(subject, known.mapped());
+    return kOk;
+}
+
+void SignalHandler::removeFrom(ISubject* subject, Serial serial) {
+    const auto observers = m_observers.find(subject);
+    observers->second.erase(serial);
+    if (observers->second.empty()) {
+        m_observers.erase(observers);
+    }
 }
 
 void SignalHandler::signal(ISubject* subject, IMessage* message) noexcept {
     assertMainThread();
-    const auto found = m_observers.find(subject);
-    if (found == m_observers.end() || !message) {
+    const auto present = m_observers.find(subject);
+    if (present == m_observers.end() || !message) {
         return;
     }
-    const auto registrations = found->second; // a copy: the list may change with every delivery
-    for (const auto& registration : registrations) {
-        if (isRegistered(subject, registration.serial)) {
-            const auto receiver = Ref<IObserver>::share(registration.observer);
+    const auto registrations = present->second; // a copy: the list may change with every delivery
+    for (const auto& [serial, observer] : registrations) {
+        const auto left = m_observers.find(subject);
+        if (left != m_observers.end() && left->second.contains(serial)) {
+            const auto receiver = Ref<IObserver>::share(observer);
             receiver->notify(subject, message);
         }
     }
@@ -63,7 +72,8 @@ void SignalHandler::signal(ISubject* subject, IMessage* message) noexcept {
 void SignalHandler::postSignal(ISubject* subject, IMessage* message) noexcept {
     assertMainThread();
     if (subject && message) {
-        enqueue({++m_lastSerial, subject, nullptr, Ref<IMessage>::share(message)});
+        add(m_posted, {subject, nullptr, Ref<IMessage>::share(message)});
+        postTurn();
     }
 }
 
@@ -72,13 +82,12 @@ void SignalHandler::post(IObserver* observer, IMessage* message, std::int32_t de
     if (!observer || !message) {
         return;
     }
-    Posted posted{++m_lastSerial, nullptr, observer, Ref<IMessage>::share(message)};
+    const auto serial =
+        add(delay > 0 ? m_delayed : m_posted, {nullptr, observer, Ref<IMessage>::share(message)});
     if (delay <= 0) {
-        enqueue(std::move(posted));
+        postTurn();
         return;
     }
-    const auto serial = posted.serial;
-    m_delayed.push_back(std::move(posted));
     // The timer starts from the loop, because before there is an application none can be started.
     const auto deadline = QDeadlineTimer(delay, Qt::PreciseTimer).deadline();
     QMetaObject::invokeMethod(
@@ -87,54 +96,67 @@ void SignalHandler::post(IObserver* observer, IMessage* message, std::int32_t de
 
 void SignalHandler::forgetObserver(IObserver* observer) noexcept {
     assertMainThread();
-    for (auto entry = m_observers.begin(); entry != m_observers.end();) {
-        std::erase_if(entry->second, [&](const Registration& known) { return known.observer == observer; });
-        entry = entry->second.empty() ? m_observers.erase(entry) : std::next(entry);
+    if (auto subjects = m_subjects.extract(observer)) {
+        for (const auto& [subject, serial] : subjects.mapped()) {
+            removeFrom(subject, serial);
+        }
     }
-    dropPosted([&](const Posted& posted) { return posted.observer == observer; });
+    dropPostedTo(observer);
 }
 
 void SignalHandler::forgetSubject(ISubject* subject) noexcept {
     assertMainThread();
-    m_observers.erase(subject);
-    dropPosted([&](const Posted& posted) { return posted.subject == subject; });
+    if (auto observers = m_observers.extract(subject)) {
+        for (const auto& [serial, observer] : observers.mapped()) {
+            const auto subjects = m_subjects.find(observer);
+            subjects->second.erase(subject);
+            if (subjects->second.empty()) {
+                m_subjects.erase(subjects);
+            }
+        }
+    }
+    dropPostedTo(subject);
 }
 
 void SignalHandler::dropPosted() noexcept {
     assertMainThread();
-    dropPosted([](const Posted&) { return true; });
+    // What is dropped is released last: the end of a message may end objects that call here again.
+    const auto posted = std::exchange(m_posted, {});
+    const auto delayed = std::exchange(m_delayed, {});
+    m_postedTo.clear();
 }
 
-bool SignalHandler::isRegistered(ISubject* subject, std::uint64_t serial) const noexcept {
-    const auto found = m_observers.find(subject);
-    return found != m_observers.end() &&
-           std::binary_search(found->second.begin(), found->second.end(), Registration{nullptr, serial},
-                              [](const Registration& left, const Registration& right) {
-                                  return left.serial < right.serial;
-                              });
+void SignalHandler::dropPostedTo(const void* address) {
+    std::vector<Queue::node_type> dropped; // released last, as above
+    auto place = m_postedTo.lower_bound({address, 0});
+    while (place != m_postedTo.end() && place->first == address) {
+        dropped.push_back(m_posted.extract(place->second));
+        dropped.push_back(m_delayed.extract(place->second));
+        place = m_postedTo.erase(place);
+    }
 }
 
-void SignalHandler::enqueue(Posted posted) {
-    m_posted.push_back(std::move(posted));
-    // One turn of the loop for each message: when a handler runs a loop of its own, the messages behind it
-    // are delivered there, and user input is not held up by a long row of messages.
-    QMetaObject::invokeMethod(
-        &m_loop, [this] { deliverNext(); }, Qt::QueuedConnection);
+SignalHandler::Serial SignalHandler::add(Queue& queue, Posted posted) {
+    m_postedTo.emplace(posted.address(), ++m_lastSerial);
+    queue.emplace(m_lastSerial, std::move(posted));
+    return m_lastSerial;
 }
 
-void SignalHandler::startDelay(std::uint64_t serial, std::int64_t deadline) {
-    const auto remaining =
-        std::max(deadline - QDeadlineTimer::current(Qt::PreciseTimer).deadline(), qint64{0});
-    QTimer::singleShot(static_cast<int>(remaining), Qt::PreciseTimer, &m_loop,
-                       [this, serial] { deliverDelayed(serial); });
+void SignalHandler::postTurn() {
+    // One message with each turn of the loop, so that a long row of them does not hold up what the user does.
+    if (!std::exchange(m_hasTurn, true)) {
+        QMetaObject::invokeMethod(
+            &m_loop, [this] { takeTurn(); }, Qt::QueuedConnection);
+    }
 }
 
-void SignalHandler::deliverNext() {
-    // Fewer messages than turns: some were dropped.
+void SignalHandler::takeTurn() {
+    m_hasTurn = false;
+    if (m_posted.size() > 1) {
+        postTurn(); // before the delivery: a handler may run a loop of its own, which delivers the next
+    }
     if (!m_posted.empty()) {
-        const Posted posted = std::move(m_posted.front());
-        m_posted.pop_front();
-        deliver(posted);
+        deliver(m_posted, m_posted.begin());
     }
     tellQuiet();
 }
@@ -146,18 +168,22 @@ void SignalHandler::tellQuiet() const {
     }
 }
 
-void SignalHandler::deliverDelayed(std::uint64_t serial) {
-    const auto found = std::find_if(m_delayed.begin(), m_delayed.end(),
-                                    [&](const Posted& posted) { return posted.serial == serial; });
-    if (found != m_delayed.end()) {
-        const Posted posted = std::move(*found);
-        m_delayed.erase(found);
-        deliver(posted);
-    }
-    tellQuiet();
+void SignalHandler::startDelay(Serial serial, std::int64_t deadline) {
+    const auto remaining =
+        std::max(deadline - QDeadlineTimer::current(Qt::PreciseTimer).deadline(), qint64{0});
+    QTimer::singleShot(static_cast<int>(remaining), Qt::PreciseTimer, &m_loop, [this, serial] {
+        const auto place = m_delayed.find(serial);
+        if (place != m_delayed.end()) {
+            deliver(m_delayed, place);
+        }
+        tellQuiet();
+    });
 }
 
-void SignalHandler::deliver(const Posted& posted) {
+void SignalHandler::deliver(Queue& queue, Queue::iterator place) {
+    const auto node = queue.extract(place);
+    const Posted& posted = node.mapped();
+    m_postedTo.erase({posted.address(), node.key()});
     ++m_delivering;
     if (posted.subject) {
         signal(posted.subject, posted.message.get());
@@ -166,26 +192,6 @@ void SignalHandler::deliver(const Posted& posted) {
         receiver->notify(nullptr, posted.message.get());
     }
     --m_delivering;
-}
-
-template <class Predicate>
-void SignalHandler::dropPosted(Predicate predicate) {
-    // What is dropped is released last: the end of a message may end objects that call here again.
-    std::vector<Posted> dropped;
-    for (auto* queue : {&m_posted, &m_delayed}) {
-        if (std::none_of(queue->begin(), queue->end(), predicate)) {
-            continue;
-        }
-        std::deque<Posted> kept;
-        for (auto& posted : *queue) {
-            if (predicate(posted)) {
-                dropped.push_back(std::move(posted));
-            } else {
-                kept.push_back(std::move(posted));
-            }
-        }
-        queue->swap(kept);
-    }
 }
 
 } // namespace xbr::host

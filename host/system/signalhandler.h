@@ -5,10 +5,11 @@
 
 #include <QObject>
 
-#include <deque>
 #include <functional>
+#include <map>
+#include <set>
 #include <unordered_map>
-#include <vector>
+#include <utility>
 
 namespace xbr::host {
 
@@ -34,34 +35,41 @@ public:
     void setQuietListener(std::function<void()> listener) { m_quietListener = std::move(listener); }
 
 private:
-    /// One observer of a subject. The serial number tells apart who was added when: an address may be
-    /// removed and added again, or reused by another object, while a message is delivered.
-    struct Registration {
-        IObserver* observer;
-        std::uint64_t serial;
-    };
+    /// Tells apart who was added, and what was posted, when: an address may be removed and added again, or
+    /// reused by another object, while a message is delivered.
+    using Serial = std::uint64_t;
+
     struct Posted {
-        std::uint64_t serial;
         ISubject* subject;   ///< null for a message to one observer
         IObserver* observer; ///< null for a message to the observers of `subject`
         Ref<IMessage> message;
+
+        const void* address() const noexcept {
+            return subject ? static_cast<const void*>(subject) : observer;
+        }
     };
+    using Queue = std::map<Serial, Posted>;
+    using Subjects = std::unordered_map<ISubject*, Serial>;
 
-    bool isRegistered(ISubject* subject, std::uint64_t serial) const noexcept;
-    void enqueue(Posted posted);
-    void startDelay(std::uint64_t serial, std::int64_t deadline);
-    void deliverNext();
-    void deliverDelayed(std::uint64_t serial);
-    void deliver(const Posted& posted);
+    void removeFrom(ISubject* subject, Serial serial);
+    Serial add(Queue& queue, Posted posted);
+    void postTurn();
+    void takeTurn();
+    void startDelay(Serial serial, std::int64_t deadline);
+    void deliver(Queue& queue, Queue::iterator place);
+    void dropPostedTo(const void* address);
     void tellQuiet() const;
-    template <class Predicate>
-    void dropPosted(Predicate predicate);
 
-    std::unordered_map<ISubject*, std::vector<Registration>> m_observers; ///< each in order of the serials
-    std::deque<Posted> m_posted;
-    std::deque<Posted> m_delayed;
-    std::uint64_t m_lastSerial = 0;
-    int m_delivering = 0; ///< deliveries on the stack: one may run the event loop
+    // Both ways, so that who leaves is found without a look at all others.
+    std::unordered_map<ISubject*, std::map<Serial, IObserver*>> m_observers;
+    std::unordered_map<IObserver*, Subjects> m_subjects;
+
+    Queue m_posted;
+    Queue m_delayed;
+    std::set<std::pair<const void*, Serial>> m_postedTo; ///< by the addresses of both queues
+    Serial m_lastSerial = 0;
+    bool m_hasTurn = false; ///< the next turn of the event loop is asked for
+    int m_delivering = 0;   ///< deliveries on the stack: one may run the event loop
     std::function<void()> m_quietListener;
     QObject m_loop; ///< receives the turns of the event loop
 };
