@@ -13,18 +13,19 @@ enum class DownloadState : std::int32_t {
     kFailed = 3,   ///< no whole document came
 };
 
-/// What a server said about keeping a copy of its document (RFC 9110, section 8.8; RFC 9111, section 5.2).
+/// What a server said about keeping a copy of its document (RFC 9110, section 8.8; RFC 9111,
+/// section 5.2.2.5).
 struct CopyTerms {
-    Text entityTag;        ///< as it was sent, with its quotes; empty for none
-    Text lastModified;     ///< as it was sent; empty for none
-    std::int64_t lifetime; ///< seconds for which the copy is good without asking; -1: the server did not say
-    bool mayBeKept;        ///< false: the copy must not be kept beyond the process
+    Text entityTag;    ///< as it was sent, with its quotes; empty for none
+    Text lastModified; ///< as it was sent; empty for none
+    bool mayBeKept;    ///< false: the copy must not be kept beyond the process
 };
 
 /// One asynchronous download of a document that anybody may see. One-shot.
 ///
 /// The document is asked for with GET, and nothing that identifies the user is sent: no credentials, no
-/// cookies. Redirects are followed, though never from https to http. A document of more than 8 MiB fails.
+/// cookies. Redirects are followed; those of an https URL only to https. A document of more than 8 MiB fails,
+/// and so does one that comes too slowly, so that others get their turn.
 ///
 /// A task is also an ISubject: "stateChanged" comes from the event loop, never inside `start`, when the task
 /// is complete or has failed. Releasing the last reference ends the download without a message.

@@ -15,9 +15,9 @@ struct IFeedEntry : IObject {
     /// Empty also when the entry only refers to its content, or the content is no text.
     virtual Text content() const noexcept = 0;
 
-    /// When the entry was published, or changed last; kFalse when it does not tell, or not in a legal form.
+    /// When the entry was published, or changed last if it does not tell that; kFalse when it tells neither,
+    /// or not in a legal form.
     virtual Result getPublished(std::int64_t* time) const noexcept = 0;
-    virtual Result getUpdated(std::int64_t* time) const noexcept = 0;
 
     virtual std::int32_t countLinks() const noexcept = 0;
 

@@ -7,7 +7,8 @@
 namespace xbr::host {
 
 bool isWebAddress(const QUrl& url) {
-    return url.isValid() && !url.host().isEmpty() && (url.scheme() == u"http" || url.scheme() == u"https");
+    const bool isOfTheWeb = url.scheme() == u"http" || url.scheme() == u"https";
+    return url.isValid() && isOfTheWeb && !url.host().isEmpty() && url.userInfo().isEmpty();
 }
 
 bool isWebAddress(std::string_view url) {

@@ -5,7 +5,6 @@
 #include "framework/abi/webservice.h"
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
-#include "host/net/download/downloadqueue.h"
 #include "host/net/download/downloadtask.h"
 #include "host/net/feed/feedreader.h"
 #include "host/net/http/transfer.h"
@@ -32,7 +31,7 @@ public:
 
 void abortAllRequests() {
     WebRequest::endAll();
-    DownloadQueue::endAll();
+    DownloadTask::endAll();
     TransferLoop::shutDown();
 }
 

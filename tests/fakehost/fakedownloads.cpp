@@ -44,8 +44,7 @@ public:
         return *out ? xbr::kOk : xbr::kFalse;
     }
     xbr::CopyTerms copyTerms() const noexcept override {
-        return {xbr::toText(m_terms.entityTag), xbr::toText(m_terms.lastModified), m_terms.lifetime,
-                m_terms.mayBeKept};
+        return {xbr::toText(m_terms.entityTag), xbr::toText(m_terms.lastModified), m_terms.mayBeKept};
     }
 
     const std::string& url() const { return m_started.url; }

@@ -16,7 +16,6 @@ class FakeDownloadTask;
 struct FakeTerms {
     std::string entityTag = {};
     std::string lastModified = {};
-    std::int64_t lifetime = -1;
     bool mayBeKept = true;
 };
 

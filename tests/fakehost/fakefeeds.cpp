@@ -15,9 +15,9 @@ public:
     xbr::Text summary() const noexcept override { return xbr::toText(m_entry.summary); }
     xbr::Text content() const noexcept override { return xbr::toText(m_entry.content); }
     xbr::Result getPublished(std::int64_t* time) const noexcept override {
-        return give(m_entry.published, time);
+        *time = m_entry.published.value_or(0);
+        return m_entry.published ? xbr::kOk : xbr::kFalse;
     }
-    xbr::Result getUpdated(std::int64_t* time) const noexcept override { return give(m_entry.updated, time); }
     std::int32_t countLinks() const noexcept override {
         return static_cast<std::int32_t>(m_entry.links.size());
     }
@@ -35,11 +35,6 @@ public:
     }
 
 private:
-    static xbr::Result give(const std::optional<std::int64_t>& from, std::int64_t* time) {
-        *time = from.value_or(0);
-        return from ? xbr::kOk : xbr::kFalse;
-    }
-
     FakeEntry m_entry;
 };
 

@@ -16,7 +16,6 @@ struct FakeEntry {
     std::string summary = {};
     std::string content = {};
     std::optional<std::int64_t> published = {};
-    std::optional<std::int64_t> updated = {};
     std::vector<std::map<std::string, std::string>> links = {};
     std::vector<std::string> categories = {};
 };

@@ -1,6 +1,7 @@
 #include "tests/fakehost/fakegraphics.h"
 
 #include "framework/support/data/memorystream.h"
+#include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
 
@@ -28,6 +29,20 @@ private:
     Size m_pixels;
 };
 
+/// Has its answer from the start, and tells of it with the next turn.
+class DecodingTask final : public xbr::Object<xbr::IDecodingTask, xbr::ISubject> {
+public:
+    ~DecodingTask() override { XBRGetSignalHandler()->forgetSubject(this); }
+
+    xbr::Result getImage(xbr::IImage** out) noexcept override {
+        *out = xbr::Ref<xbr::IImage>(image).detach();
+        return result;
+    }
+
+    xbr::Result result = xbr::kFalse;
+    xbr::Ref<xbr::IImage> image;
+};
+
 xbr::Result decode(const std::string& bytes, xbr::IImage** out) {
     std::istringstream text(bytes);
     Size size;
@@ -43,6 +58,15 @@ xbr::Result FakeGraphicsHelper::decodeImage(xbr::IStream* stream, xbr::IFileType
                                             xbr::IImage** out) noexcept {
     decoded.push_back(type ? xbr::toString(type->extension()) : "(none)");
     return decode(xbr::readAll(*stream), out);
+}
+
+xbr::Result FakeGraphicsHelper::decodeLater(xbr::IStream* stream, xbr::IFileType* type, std::int64_t,
+                                            xbr::IDecodingTask** out) noexcept {
+    auto task = xbr::make<DecodingTask>();
+    task->result = hasRoom ? decodeImage(stream, type, task->image.out()) : xbr::kUnexpected;
+    XBRGetSignalHandler()->postSignal(task.get(), xbr::make<xbr::Message>("decoded").get());
+    *out = task.detach();
+    return xbr::kOk;
 }
 
 xbr::Result FakeGraphicsHelper::loadImage(xbr::Text url, xbr::IImage** out) noexcept {

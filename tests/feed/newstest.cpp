@@ -50,6 +50,9 @@ protected:
     bool fetch() {
         feed->startDownload();
         spinUntil([this] { return feed->downloadState() != xbr::DownloadState::kRunning; });
+        for (std::int32_t i = 0; i < feed->itemCount(); ++i) {
+            xbr::query<xbr::IShownImage>(image(i))->beginShowing();
+        }
         return spinUntil([this] { return isSettled(); }) && feed->itemCount() > 0;
     }
 
@@ -84,23 +87,20 @@ protected:
         return lines;
     }
 
+    xbr::IObject* image(std::int32_t entry) {
+        return feed->findObject(xbr::toText("image" + std::to_string(entry)));
+    }
     RunningService m_service;
     xbr::Ref<FeedElement> feed;
 
 private:
-    xbr::IObject* image(std::int32_t entry) {
-        return feed->findObject(xbr::toText("image" + std::to_string(entry)));
-    }
+    /// True when each picture has come, or will not.
     bool isSettled() {
         for (std::int32_t i = 0; i < feed->itemCount(); ++i) {
             xbr::Value state{};
-            const auto source = xbr::query<xbr::IPropertySource>(image(i));
-            source->getProperty(xbr::toText("downloadState"), &state);
-            const auto links = feed->downloadState() == xbr::DownloadState::kComplete;
-            xbr::Value url{};
-            source->getProperty(xbr::toText("url"), &url);
-            const bool waits = !xbr::textOf(url).empty() && xbr::integerOf(state) < 2;
-            if (links && waits) {
+            xbr::query<xbr::IPropertySource>(image(i))->getProperty(xbr::toText("downloadState"), &state);
+            const bool isDue = xbr::query<xbr::IShownImage>(image(i))->mayHaveImage();
+            if (isDue && (xbr::integerOf(state) < 2 || picture(i) == "(none)")) {
                 return false;
             }
         }
@@ -188,6 +188,8 @@ TEST_F(NewsTest, MayBeClosedWhileTheyLoad) {
     m_service.addFault(R"({"path":"/news/image1.png","reply_stall_ms":3000})");
     feed->startDownload();
     spinUntil([this] { return feed->itemCount() > 0; });
+    xbr::query<xbr::IShownImage>(image(0))->beginShowing();
+    spinUntil([this] { return requests().size() > 1; });
     feed.reset();
     QElapsedTimer clock;
     clock.start();

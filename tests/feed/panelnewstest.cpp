@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace brindlex {
@@ -56,8 +57,8 @@ protected:
     }
     int state() { return at<QStackedWidget>("states").currentIndex(); }
     qsizetype countRows() { return form->findChildren<QWidget*>("FeedEntry").size(); }
-    bool waitForRows() {
-        return QTest::qWaitFor([this] { return countRows() > 0; });
+    bool waitForRows(int count = 1) {
+        return QTest::qWaitFor([this, count] { return countRows() >= count; });
     }
 
     /// What a row shows under these names, "-" for what it hides.
@@ -71,12 +72,24 @@ protected:
         return texts;
     }
     bool hasPicture(int index) {
-        return form->findChildren<QWidget*>("FeedEntry")
-            .at(index)
-            ->findChild<QLabel*>("picture")
-            ->isVisible();
+        return isPainted(*form->findChildren<QWidget*>("FeedEntry").at(index)->findChild<QLabel*>("picture"));
     }
-    int requests() { return static_cast<int>(nlohmann::json::parse(m_service.log()).size()); }
+    static bool isPainted(QLabel& label) {
+        const QImage seen = label.grab().toImage();
+        const QRgb corner = seen.pixel(seen.width() - 1, seen.height() - 1); // a picture leaves it out
+        return label.isVisible() && seen.pixel(seen.width() / 2, seen.height() / 3) != corner;
+    }
+    /// True when every row that is seen has its picture.
+    bool isWholeToBeSeen() {
+        const auto& area = at<QScrollArea>("entries");
+        const auto labels = area.findChildren<QLabel*>("picture");
+        return std::all_of(labels.begin(), labels.end(), [&](QLabel* label) {
+            const QRect place(label->mapTo(area.viewport(), QPoint()), label->size());
+            return !place.intersects(area.viewport()->rect()) || isPainted(*label);
+        });
+    }
+    nlohmann::json log() { return nlohmann::json::parse(m_service.log()); }
+    int requests() { return static_cast<int>(log().size()); }
 
     RunningService m_service;
     xbr::Ref<Panel> panel;
@@ -99,7 +112,7 @@ TEST_F(PanelNews, takeThePlaceOfThePageWhenTheyAreAskedFor) {
     EXPECT_EQ(requests(), 0) << "nobody has asked for news yet";
     at<QAbstractButton>("showNews").click();
     EXPECT_FALSE(at<QWidget>("pages").isVisible());
-    ASSERT_TRUE(waitForRows());
+    ASSERT_TRUE(waitForRows(6));
     EXPECT_EQ(countRows(), 6);
     EXPECT_EQ(row(0),
               "Lossless delivery for every release|FLAC and 24-bit WAV now reach all stores.|Read more|");
@@ -161,24 +174,40 @@ std::string feedOf(int count) {
             .append(" of many, with a title of some length</title><summary>");
         feed.append(60, 'x').append(" ").append(90, 'y');
         feed.append("</summary><link href='https://example.org/").append(number);
+        feed.append("'/><link rel='enclosure' type='image/png' href='/news/image3.png?").append(number);
         feed.append("'/><updated>2025-06-02T09:30:00Z</updated></entry>");
     }
     return feed + "</feed>";
 }
 
-TEST_F(PanelNews, ofAThousandEntriesOpenAtOnce) {
-    m_service.addFault(nlohmann::json{{"path", "/feed.atom"}, {"body", feedOf(1000)}}.dump());
-    open(m_service.origin() + "/feed.atom");
-    form->grab();
-    at<QAbstractButton>("showNews").click();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return countRows() > 0; }, 60'000));
-    form->grab();
-    QTest::qWait(200);
-    EXPECT_LT(countRows(), 60);
-    auto& bar = *at<QScrollArea>("entries").verticalScrollBar();
-    const auto before = countRows();
-    bar.setValue(bar.maximum());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return countRows() > before; }, 60'000));
+TEST_F(PanelNews, showThePicturesOfAllEntriesAndFetchNoneTwice) {
+    constexpr int kEntries = 200;
+    m_service.addFault(
+        nlohmann::json{{"path", "/feed.atom"}, {"body", feedOf(kEntries)}, {"times", 2}}.dump());
+    for (const int wholeOnes : {kEntries, 0}) { // the second time is a later start
+        m_service.clearLog();
+        openNews();
+        ASSERT_TRUE(waitForRows());
+        auto& area = at<QScrollArea>("entries");
+        int atEnd = 0;
+        for (int page = 0; page < kEntries && atEnd < 5; ++page) {
+            ASSERT_TRUE(QTest::qWaitFor([&] { return isWholeToBeSeen(); }, 20'000)) << "page " << page;
+            EXPECT_LT(countRows(), 60);
+            QTest::keyClick(&area, Qt::Key_PageDown);
+            QTest::qWait(20);
+            atEnd += area.verticalScrollBar()->value() == area.verticalScrollBar()->maximum() ? 1 : 0;
+        }
+        EXPECT_EQ(area.findChildren<QLabel*>("title").back()->text().left(9), "Entry 199");
+        int whole = 0;
+        int unchanged = 0;
+        for (const auto& entry : log()) {
+            whole += entry["path"] == "/news/image3.png" && entry["status"] == 200 ? 1 : 0;
+            unchanged += entry["status"] == 304 ? 1 : 0;
+        }
+        EXPECT_EQ(whole, wholeOnes);
+        EXPECT_EQ(unchanged, kEntries - wholeOnes);
+        form.reset();
+    }
 }
 
 } // namespace

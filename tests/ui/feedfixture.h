@@ -33,6 +33,22 @@ public:
     std::function<void()> hook;
 };
 
+/// Shows a picture, as a form does.
+class Shown {
+public:
+    explicit Shown(const xbr::Ref<xbr::IController>& image)
+        : m_image(xbr::query<xbr::IShownImage>(static_cast<xbr::IObject*>(image.get()))) {
+        m_image->beginShowing();
+        host().signals.pump();
+    }
+    Shown(const Shown&) = delete;
+    Shown& operator=(const Shown&) = delete;
+    ~Shown() { m_image->endShowing(); }
+
+private:
+    xbr::Ref<xbr::IShownImage> m_image;
+};
+
 inline const std::string kFeed = "https://news.example/feed.atom";
 
 /// The module's news in a started module.
@@ -85,6 +101,10 @@ protected:
 
     xbr::Ref<xbr::IController> child(const std::string& name) {
         return xbr::query<xbr::IController>(feed->findObject(xbr::toText(name)));
+    }
+
+    xbr::Ref<xbr::IPropertySource> properties(const std::string& name) {
+        return xbr::query<xbr::IPropertySource>(feed->findObject(xbr::toText(name)));
     }
 
     /// The size of a child's picture, "(none)" without one.

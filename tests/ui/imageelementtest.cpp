@@ -39,6 +39,8 @@ protected:
                    : "(none)";
     }
 
+    xbr::Ref<xbr::IController> control() { return xbr::Ref<xbr::IController>::share(image.get()); }
+
     void fetch(const std::string& data, const fakehost::FakeTerms& terms = {}) {
         post(*image, "startDownload");
         ASSERT_TRUE(host().downloads.complete(kPicture, data, terms));
@@ -129,7 +131,7 @@ TEST_F(ImageElementTest, LoadsAFileAsItIs) {
 }
 
 TEST_F(ImageElementTest, AsksMemoryFirst) {
-    fetch("8x6", {.lifetime = 0});
+    fetch("8x6");
     const auto second = newImage();
     const auto high = newImage(2.0);
     post(*second, "startDownload");
@@ -140,84 +142,100 @@ TEST_F(ImageElementTest, AsksMemoryFirst) {
     EXPECT_EQ(host().downloads.started.size(), 2U) << "the other scale is another image";
 }
 
-TEST_F(ImageElementTest, AsksTheServerWhenTheCopyIsNoLongerGood) {
-    const std::int64_t start = host().system.time;
+TEST_F(ImageElementTest, ShowsItsCopyAndAsksTheServerOnceARun) {
+    const auto fetched = [](const char* size) {
+        return host().downloads.complete(kPicture, size, {.entityTag = "\"2\"", .lastModified = "Monday"});
+    };
     struct {
-        std::int64_t lifetime;
-        std::int64_t later;
-        bool asks;
-    } const cases[] = {{60, 59, false},
-                       {60, 60, true},
-                       {0, 0, true},
-                       {-1, 3599, false},
-                       {-1, 3600, true},
-                       {1'000'000'000, 604'799, false},
-                       {1'000'000'000, 604'800, true}};
+        const char* name;
+        std::function<bool()> end;
+        const char* shown;
+    } const cases[] = {
+        {"unchanged", [] { return host().downloads.unchanged(kPicture); }, "8x6"},
+        {"out of reach", [] { return host().downloads.fail(kPicture); }, "8x6"},
+        {"changed", [&] { return fetched("9x7"); }, "9x7"},
+    };
     for (const auto& one : cases) {
-        host().files.files.clear();
-        host().system.time = start;
         startAgain();
-        fetch("8x6", {.entityTag = "\"1\"", .lastModified = "Monday", .lifetime = one.lifetime});
-        host().system.time = start + one.later;
+        post(*image, "restartDownload");
+        fetched("8x6");
         startAgain();
-        post(*image, "startDownload");
-        ASSERT_EQ(host().downloads.started.size(), one.asks ? 1U : 0U) << one.lifetime << " " << one.later;
-        if (one.asks) {
-            EXPECT_EQ(host().downloads.started[0].entityTag, "\"1\"");
+        {
+            const Shown shown(control());
+            EXPECT_EQ(sizeOf(*image), "8x6") << one.name << ": before the server has answered";
+            ASSERT_EQ(host().downloads.started.size(), 1U);
+            EXPECT_EQ(host().downloads.started[0].entityTag, "\"2\"");
             EXPECT_EQ(host().downloads.started[0].lastModified, "Monday");
-            EXPECT_TRUE(host().downloads.unchanged(kPicture, {.entityTag = "\"2\"", .lifetime = 60}));
+            EXPECT_TRUE(one.end()) << one.name;
+            EXPECT_EQ(sizeOf(*image), one.shown) << one.name;
         }
-        EXPECT_EQ(sizeOf(*image), "8x6");
-        EXPECT_EQ(cache->load(kPicture)->entityTag, one.asks ? "\"2\"" : "\"1\"");
-        EXPECT_EQ(cache->load(kPicture)->lastModified, "Monday") << "not repeated, not forgotten";
+        EXPECT_EQ(sizeOf(*image), "(none)") << one.name << ": nobody shows it";
+        cache->keep(kPicture, 1.0, nullptr); // others were shown meanwhile
+        const Shown again(control());
+        EXPECT_EQ(sizeOf(*image), one.shown) << one.name;
+        EXPECT_EQ(host().downloads.started.size(), one.name == std::string("out of reach") ? 2U : 1U);
     }
 }
 
-TEST_F(ImageElementTest, ReloadsEvenWhatIsGood) {
-    fetch("8x6", {.entityTag = "\"1\"", .lifetime = 600});
-    post(*image, "restartDownload");
-    ASSERT_EQ(host().downloads.started.size(), 2U);
-    EXPECT_EQ(host().downloads.started[1].entityTag, "\"1\"");
-    host().downloads.complete(kPicture, "9x7");
-    EXPECT_EQ(sizeOf(*image), "9x7");
-}
-
-TEST_F(ImageElementTest, ShowsTheCopyWhenTheServerIsOutOfReach) {
-    fetch("8x6", {.lifetime = 0});
-    startAgain();
-    post(*image, "startDownload");
-    host().downloads.fail(kPicture);
+TEST_F(ImageElementTest, LetsGoOfWhatNobodyShows) {
+    image->beginShowing();
+    image->endShowing();
+    host().signals.pump();
+    EXPECT_TRUE(host().downloads.started.empty()) << "it went by too quickly";
+    {
+        const Shown shown(control());
+        EXPECT_EQ(host().downloads.running(), 1U);
+        EXPECT_TRUE(image->mayHaveImage());
+    }
+    EXPECT_EQ(host().downloads.running(), 0U) << "its turn is for others";
+    {
+        const Shown shown(control());
+        const Shown twice(control());
+        host().downloads.complete(kPicture, "8x6");
+        host().downloads.started.clear();
+    }
+    EXPECT_FALSE(property(*image, "hasImage").boolean);
+    const Shown again(control());
     EXPECT_EQ(sizeOf(*image), "8x6");
-    EXPECT_EQ(image->downloadState(), xbr::DownloadState::kFailed);
+    EXPECT_TRUE(host().downloads.started.empty());
+    image->setLocation("https://p.example/b.png");
+    post(*image, "startDownload");
+    host().downloads.fail("https://p.example/b.png");
+    EXPECT_FALSE(image->mayHaveImage());
 }
 
-TEST_F(ImageElementTest, FetchesAgainWhenTheCopyWentOrIsDamaged) {
-    fetch("8x6", {.entityTag = "\"1\"", .lifetime = 600});
+TEST_F(ImageElementTest, TellsNoRoomAndDamageApart) {
+    fetch("8x6");
+    startAgain();
+    host().graphics.hasRoom = false;
+    post(*image, "startDownload");
+    EXPECT_TRUE(host().downloads.unchanged(kPicture));
+    EXPECT_EQ(sizeOf(*image), "(none)");
+    EXPECT_FALSE(storedFile().empty()) << "it is as good as before";
+    host().graphics.hasRoom = true;
+    image = newImage();
+    post(*image, "startDownload");
+    EXPECT_EQ(sizeOf(*image), "8x6");
+    EXPECT_TRUE(host().downloads.unchanged(kPicture));
+}
+
+TEST_F(ImageElementTest, FetchesAgainWhenTheCopyIsDamaged) {
+    fetch("8x6", {.entityTag = "\"1\""});
     const std::string file = storedFile();
     const std::string whole = host().files.files[file];
     for (const auto& damaged :
          {whole.substr(0, whole.size() - 1), whole + "x", std::string(), std::string("x"),
-          whole.substr(0, 20), std::string("brindlex picture 1\n\n\n\n\n")}) {
+          whole.substr(0, 20), std::string("brindlex picture 2\n\n\n\n\n")}) {
         host().files.files[file] = damaged;
         startAgain();
         fetch("8x6");
         EXPECT_EQ(host().downloads.started[0].entityTag, "") << "nothing is known";
         EXPECT_TRUE(cache->load(kPicture)) << "replaced";
     }
-    startAgain();
-    host().system.time += 100'000;
-    host().files.files[file] = whole;
-    post(*image, "startDownload");
-    host().files.files.clear();
-    EXPECT_TRUE(host().downloads.unchanged(kPicture));
-    ASSERT_EQ(host().downloads.started.size(), 2U);
-    EXPECT_EQ(host().downloads.started[1].entityTag, "");
-    EXPECT_TRUE(host().downloads.complete(kPicture, "5x5"));
-    EXPECT_EQ(sizeOf(*image), "5x5");
 }
 
 TEST_F(ImageElementTest, StoresNothingThatMustNotBeKeptOrHasNoPlace) {
-    fetch("8x6", {.lifetime = 600, .mayBeKept = false});
+    fetch("8x6", {.mayBeKept = false});
     EXPECT_TRUE(host().files.files.empty());
     host().files.hasCacheFolder = false;
     startAgain();
@@ -227,7 +245,7 @@ TEST_F(ImageElementTest, StoresNothingThatMustNotBeKeptOrHasNoPlace) {
 }
 
 TEST_F(ImageElementTest, TellsLocationsOfOneNameApart) {
-    fetch("8x6", {.lifetime = 600});
+    fetch("8x6");
     auto stored = *cache->load(kPicture);
     stored.location = "https://p.example/other.png";
     host().files.files[storedFile()] = writePicture(stored);
@@ -235,26 +253,30 @@ TEST_F(ImageElementTest, TellsLocationsOfOneNameApart) {
 }
 
 TEST_F(ImageElementTest, KeepsTheFolderWithinItsLimits) {
-    const auto add = [&](const std::string& location, std::size_t size) {
-        cache->store(location, {{}, {}, 0, true}, std::string(size, 'x'));
-        host().system.time += 60;
+    const auto add = [&](const std::string& name, std::size_t size, std::int64_t modified) {
+        const std::string file = "file:///cache/brindlex/pictures/" + name;
+        host().files.files[file] = std::string(size, 'x');
+        host().files.modified[file] = modified;
     };
-    constexpr std::size_t kMegabyte = std::size_t{1} << 20U;
-    const std::string old = "file:///cache/brindlex/pictures/.xbr-1-1.part";
-    host().files.files[old] = "left behind by a process that died";
-    host().files.modified[old] = host().system.time - PersistentImageCache::kKeepSeconds - 1;
+    const std::int64_t now = host().system.time;
+    add(".xbr-1-1.part", 1, now - PersistentImageCache::kKeepSeconds - 1); // of a process that died
     for (int i = 0; i < 20; ++i) {
-        add("https://p.example/" + std::to_string(i), 4 * kMegabyte);
+        add(std::to_string(i) + ".picture", std::size_t{16} << 20U, now - 100 + i);
     }
+    cache->store(kPicture, {{}, {}, true}, "8x6");
     std::size_t bytes = 0;
     for (const auto& [name, file] : host().files.files) {
         bytes += file.size();
     }
     EXPECT_LE(bytes, PersistentImageCache::kMaximumBytes);
     EXPECT_GE(bytes, PersistentImageCache::kMaximumBytes / 2);
-    EXPECT_FALSE(host().files.files.contains(old));
-    EXPECT_FALSE(cache->load("https://p.example/0")) << "the oldest goes first";
-    EXPECT_TRUE(cache->load("https://p.example/19"));
+    EXPECT_TRUE(cache->load(kPicture));
+    for (const auto& [name, isThere] :
+         {std::pair(".xbr-1-1.part", false), std::pair("0.picture", false), std::pair("19.picture", true)}) {
+        EXPECT_EQ(host().files.files.contains(std::string("file:///cache/brindlex/pictures/") + name),
+                  isThere)
+            << name << ": the oldest go first";
+    }
 }
 
 TEST_F(ImageElementTest, KeepsMemoryWithinItsLimits) {
@@ -263,13 +285,13 @@ TEST_F(ImageElementTest, KeepsMemoryWithinItsLimits) {
         post(*image, "restartDownload");
         host().downloads.complete(location, size);
     };
-    load("https://p.example/1", "2000x2000");
-    load("https://p.example/2", "2000x2000");
+    load("https://p.example/1", "1400x1400");
+    load("https://p.example/2", "1400x1400");
     EXPECT_TRUE(cache->find("https://p.example/1", 1.0)) << "wanted last now";
-    load("https://p.example/3", "2000x2000");
+    load("https://p.example/3", "1400x1400");
     EXPECT_TRUE(cache->find("https://p.example/1", 1.0));
     EXPECT_FALSE(cache->find("https://p.example/2", 1.0));
-    load("https://p.example/4", "4000x4000");
+    load("https://p.example/4", "3000x3000");
     EXPECT_FALSE(cache->find("https://p.example/4", 1.0)) << "larger than all the room";
     EXPECT_TRUE(cache->find("https://p.example/3", 1.0));
     load("https://p.example/3", "damaged");

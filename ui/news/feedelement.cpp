@@ -100,8 +100,8 @@ void FeedElement::rebuildEntries() {
     const auto turn = ++m_rebuilds;
     clearEntries();
     signalChanged();
-    if (turn == m_rebuilds) { // else who was told had them built already
-        buildEntries();
+    if (turn == m_rebuilds) { // else who was told had them renewed already
+        m_entries.resize(static_cast<std::size_t>(itemCount()));
         signalChanged();
     }
 }
@@ -126,42 +126,38 @@ xbr::Ref<xbr::IFeed> FeedElement::readFeed(xbr::IDownloadTask& task) const {
 void FeedElement::clearEntries() {
     for (const auto& entry : std::exchange(m_entries, {})) {
         if (entry) {
-            entry->setOwner(nullptr);
+            entry->letGo();
         }
     }
-    for (const auto& parameter : std::exchange(m_parameters, {})) {
-        parameter->detach(); // a view may hold it longer
-    }
-    for (const auto& image : std::exchange(m_images, {})) {
-        image->setOwner(nullptr);
-    }
 }
 
-void FeedElement::buildEntries() {
-    const auto count = itemCount();
-    m_parameters.reserve(static_cast<std::size_t>(count) * kParametersOfEntry);
-    m_images.reserve(static_cast<std::size_t>(count));
-    for (std::int32_t i = 0; i < count; ++i) {
-        const xbr::IFeedEntry& entry = *m_feed->entryAt(i);
-        addText("title", entry.title());
-        addText("summary", entry.summary());
-        addText("content", entry.content());
-        addText("link", xbr::toText(alternateOf(entry)));
-        addText("date", xbr::toText(feedDate(entry)));
-        addPicture(entry, i);
+FeedEntry& FeedElement::entryAt(std::size_t index) {
+    auto& made = m_entries[index];
+    if (!made) {
+        const xbr::IFeedEntry& entry = *m_feed->entryAt(static_cast<std::int32_t>(index));
+        const auto date = publicationOf(entry);
+        const std::pair<std::string_view, std::string> texts[] = {{"title", xbr::toString(entry.title())},
+                                                                  {"summary", xbr::toString(entry.summary())},
+                                                                  {"content", xbr::toString(entry.content())},
+                                                                  {"link", alternateOf(entry)},
+                                                                  {"date", feedDate(date)}};
+        xbr::IParameterOwner& owner = *this;
+        auto tag = kFirstTag + static_cast<std::int32_t>(index) * kParametersOfEntry;
+        FeedEntry::Parameters parameters;
+        for (const auto& [name, text] : texts) {
+            parameters.push_back(xbr::make<xbr::Parameter>(owner, xbr::ParameterKind::kText, tag++, name));
+            parameters.back()->set(xbr::textValue(text), xbr::Notify::kNobody);
+        }
+        const std::string number = std::to_string(index);
+        made = xbr::make<FeedEntry>(std::string(kEntry) + number, std::move(parameters),
+                                    makePicture(entry, std::string(kImage) + number), date.has_value());
+        made->setOwner(this);
     }
+    return *made;
 }
 
-void FeedElement::addText(std::string_view name, xbr::Text text) {
-    xbr::IParameterOwner& owner = *this;
-    const auto tag = kFirstTag + countParameters();
-    auto parameter = xbr::make<xbr::Parameter>(owner, xbr::ParameterKind::kText, tag, name);
-    parameter->set(xbr::textValue(xbr::view(text)), xbr::Notify::kNobody);
-    m_parameters.push_back(std::move(parameter));
-}
-
-void FeedElement::addPicture(const xbr::IFeedEntry& entry, std::int32_t index) {
-    auto image = xbr::make<ImageElement>(std::string(kImage) + std::to_string(index));
+xbr::Ref<ImageElement> FeedElement::makePicture(const xbr::IFeedEntry& entry, const std::string& name) {
+    auto image = xbr::make<ImageElement>(name);
     const auto picture = choosePicture(entry, XBRGetGraphicsHelper()->displayScale());
     // A feed of the web has no business with files.
     if (picture && (isWeb(picture->location) || !isWeb(m_feedLocation))) {
@@ -169,15 +165,16 @@ void FeedElement::addPicture(const xbr::IFeedEntry& entry, std::int32_t index) {
         image->setMimeType(picture->mimeType);
         image->setScale(picture->scale);
         image->setCache(m_cache);
-        xbr::post(*image, "startDownload");
     }
     image->setOwner(this);
-    m_images.push_back(std::move(image));
+    return image;
 }
 
 void FeedElement::reloadAll() {
-    for (const auto& image : m_images) {
-        xbr::post(*image, "restartDownload");
+    for (const auto& entry : m_entries) {
+        if (entry) { // others have no picture yet
+            entry->image().reload();
+        }
     }
     const bool isWithout = downloadState() == xbr::DownloadState::kComplete && !m_feed;
     if (isWithout || downloadState() == xbr::DownloadState::kFailed) {
@@ -186,44 +183,29 @@ void FeedElement::reloadAll() {
 }
 
 std::int32_t FeedElement::countParameters() const noexcept {
-    return static_cast<std::int32_t>(m_parameters.size());
+    return static_cast<std::int32_t>(m_entries.size()) * kParametersOfEntry;
 }
 
 xbr::IParameter* FeedElement::parameterAt(std::int32_t index) noexcept {
-    return index >= 0 && index < countParameters() ? m_parameters[static_cast<std::size_t>(index)].get()
-                                                   : nullptr;
+    const bool isThere = index >= 0 && index < countParameters();
+    return isThere ? entryAt(static_cast<std::size_t>(index / kParametersOfEntry))
+                         .parameterAt(index % kParametersOfEntry)
+                   : nullptr;
 }
 
 xbr::IParameter* FeedElement::findParameter(xbr::Text name) noexcept {
-    const auto found = std::find_if(m_parameters.begin(), m_parameters.end(), [&](const auto& parameter) {
-        return xbr::view(parameter->name()) == xbr::view(name);
-    });
-    return found == m_parameters.end() ? nullptr : found->get();
+    return m_entries.empty() ? nullptr : entryAt(0).findParameter(name); // the first of that name
 }
 
 xbr::IObject* FeedElement::findObject(xbr::Text name) noexcept {
     const auto wanted = xbr::view(name);
-    if (const auto index = indexOfChild(wanted, kImage, m_images.size())) {
-        return static_cast<xbr::IController*>(m_images[*index].get());
+    if (const auto index = indexOfChild(wanted, kImage, m_entries.size())) {
+        return static_cast<xbr::IController*>(&entryAt(*index).image());
     }
-    if (const auto index = indexOfChild(wanted, kEntry, m_images.size())) {
-        return static_cast<xbr::IController*>(entryAt(*index));
+    if (const auto index = indexOfChild(wanted, kEntry, m_entries.size())) {
+        return static_cast<xbr::IController*>(&entryAt(*index));
     }
     return Implements::findObject(name);
-}
-
-FeedEntry* FeedElement::entryAt(std::size_t index) {
-    m_entries.resize(m_images.size());
-    auto& entry = m_entries[index];
-    if (!entry) {
-        const auto first =
-            m_parameters.begin() + static_cast<std::ptrdiff_t>(index) * std::ptrdiff_t{kParametersOfEntry};
-        entry =
-            xbr::make<FeedEntry>(std::string(kEntry) + std::to_string(index),
-                                 FeedEntry::Parameters(first, first + kParametersOfEntry), m_images[index]);
-        entry->setOwner(this);
-    }
-    return entry.get();
 }
 
 xbr::Result FeedElement::createView(xbr::Text name, xbr::IView** out) noexcept {

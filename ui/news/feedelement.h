@@ -22,6 +22,7 @@ namespace brindlex {
 /// followed by n. View: "FeedView". Command: "Reload All" of category "Feed".
 ///
 /// "changed" is signalled when the entries of the last feed have gone, and when those of a new one are there.
+/// They are made of the feed when somebody asks for them.
 class FeedElement final : public xbr::Implements<Element, xbr::ICommandList> {
 public:
     static constexpr std::int32_t kParametersOfEntry = 5;
@@ -38,7 +39,8 @@ public:
     /// Number of entries in use; 0 without a feed.
     std::int32_t itemCount() const;
 
-    /// Fetches every picture again; the feed only when that failed, or there is none.
+    /// Fetches every picture again that is shown, and the others when they are; the feed only when that
+    /// failed, or there is none.
     void reloadAll();
 
     std::int32_t countParameters() const noexcept override;
@@ -64,17 +66,13 @@ private:
     xbr::Ref<xbr::IFeed> readFeed(xbr::IDownloadTask& task) const;
     void rebuildEntries();
     void clearEntries();
-    void buildEntries();
-    void addText(std::string_view name, xbr::Text text);
-    FeedEntry* entryAt(std::size_t index);
-    void addPicture(const xbr::IFeedEntry& entry, std::int32_t index);
+    FeedEntry& entryAt(std::size_t index);
+    xbr::Ref<ImageElement> makePicture(const xbr::IFeedEntry& entry, const std::string& name);
     xbr::Text categoryTerm(std::int64_t index) const;
 
     std::int32_t m_maximumEntryCount = -1;
     xbr::Ref<xbr::IFeed> m_feed;
-    std::string m_feedLocation; ///< where it was found in the end
-    std::vector<xbr::Ref<xbr::Parameter>> m_parameters;
-    std::vector<xbr::Ref<ImageElement>> m_images;
+    std::string m_feedLocation;                 ///< where it was found in the end
     std::vector<xbr::Ref<FeedEntry>> m_entries; ///< made when they are asked for; null before
     xbr::Ref<ImageElementCache> m_cache;
     std::uint32_t m_rebuilds = 0;

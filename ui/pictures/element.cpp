@@ -82,8 +82,6 @@ void Element::taskChanged() {
     m_state = task->state();
     if (m_state == xbr::DownloadState::kComplete) {
         downloadCompleted(*task);
-    } else {
-        downloadFailed();
     }
     if (task == m_task) {
         xbr::signal(*this, "propertyChanged");

@@ -53,16 +53,15 @@ protected:
     /// The document is complete. The task is borrowed.
     virtual void downloadCompleted(xbr::IDownloadTask& task) = 0;
 
-    /// There is none.
-    virtual void downloadFailed() {}
-
     /// The element has another location now.
     virtual void locationChanged() {}
 
     void setDownloadState(xbr::DownloadState state);
 
-private:
+    /// Gives up a download that runs; nothing of it is used.
     void dropTask();
+
+private:
     void taskChanged();
 
     std::string m_location;

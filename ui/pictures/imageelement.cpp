@@ -1,7 +1,6 @@
 #include "ui/pictures/imageelement.h"
 
 #include "framework/abi/filesystem.h"
-#include "framework/abi/system.h"
 #include "framework/support/data/memorystream.h"
 #include "framework/support/data/url.h"
 #include "framework/support/objects/message.h"
@@ -14,6 +13,8 @@ namespace brindlex {
 
 namespace {
 
+constexpr const char* kShow = "show"; // posted to itself
+
 xbr::Ref<xbr::MemoryStream> streamOf(const std::string& bytes) {
     auto stream = xbr::make<xbr::MemoryStream>();
     stream->write(bytes);
@@ -22,93 +23,153 @@ xbr::Ref<xbr::MemoryStream> streamOf(const std::string& bytes) {
 
 } // namespace
 
-void ImageElement::fetch(Freshness freshness) {
-    const bool mayUseCache = freshness == Freshness::kAsKept;
-    if (mayUseCache && useMemory()) {
+void ImageElement::reload() {
+    m_isReloadDue = m_shows == 0;
+    if (m_shows > 0) {
+        xbr::post(*this, "restartDownload");
+    }
+}
+
+void ImageElement::beginShowing() noexcept {
+    if (++m_shows == 1 && !m_image) {
+        xbr::post(*this, kShow);
+    }
+}
+
+void ImageElement::endShowing() noexcept {
+    if (--m_shows > 0) {
         return;
     }
-    const auto stored = m_cache ? m_cache->load(location()) : std::nullopt;
-    if (!stored) {
+    dropTask();
+    dropDecoding();
+    setImage(nullptr);
+    setDownloadState(xbr::DownloadState::kIdle);
+}
+
+bool ImageElement::mayHaveImage() const noexcept {
+    const bool isOnItsWay =
+        downloadState() == xbr::DownloadState::kIdle || downloadState() == xbr::DownloadState::kRunning;
+    return m_image || m_decoding || (isOnItsWay && !location().empty());
+}
+
+void ImageElement::fetch(Freshness freshness) {
+    const bool mustAsk = std::exchange(m_isReloadDue, false) || freshness == Freshness::kAskServer;
+    if (const auto kept = m_cache ? m_cache->find(location(), m_scale) : nullptr) {
+        setImage(kept);
+        m_isChecked = true;
+    }
+    const bool isGood = m_isChecked && !mustAsk;
+    const auto copy = m_cache && !(m_image && isGood) ? m_cache->load(location()) : std::nullopt;
+    if (copy && !m_image) {
+        decodeCopy(*copy);
+    }
+    if (isGood && (m_image || copy)) {
+        setDownloadState(xbr::DownloadState::kComplete);
+    } else if (copy) {
+        download(copy->entityTag, copy->lastModified);
+    } else {
         download();
-    } else if (!mayUseCache || stored->goodUntil <= XBRGetSystem()->currentTime() || !useStored(*stored)) {
-        download(stored->entityTag, stored->lastModified);
     }
-}
-
-bool ImageElement::useMemory() {
-    const auto image = m_cache ? m_cache->find(location(), m_scale) : nullptr;
-    if (!image) {
-        return false;
-    }
-    setImage(image);
-    setDownloadState(xbr::DownloadState::kComplete);
-    return true;
-}
-
-bool ImageElement::useStored(const StoredPicture& stored) {
-    const auto image = scaled(decode(*streamOf(stored.bytes)));
-    if (!image) {
-        return false;
-    }
-    takeImage(image);
-    setDownloadState(xbr::DownloadState::kComplete);
-    return true;
 }
 
 void ImageElement::downloadCompleted(xbr::IDownloadTask& task) {
     xbr::Ref<xbr::IStream> document;
+    m_isChecked = true;
     if (XBRGetFileSystem()->fileExists(xbr::toText(location()))) {
         takeImage(loadFile());
     } else if (task.getData(document.out()) == xbr::kOk) {
         takeDocument(*document, task.copyTerms());
     } else {
-        takeUnchanged(task.copyTerms());
+        takeUnchanged();
     }
 }
 
 void ImageElement::takeDocument(xbr::IStream& document, const xbr::CopyTerms& terms) {
-    const bool isEmpty = xbr::measure(document) <= 0;
-    const auto image = isEmpty ? nullptr : scaled(decode(document));
-    if (m_cache && image) {
+    dropDecoding();
+    if (xbr::measure(document) > 0) {
         xbr::rewind(document);
-        m_cache->store(location(), terms, xbr::readAll(document));
-    } else if (m_cache) {
-        m_cache->remove(location());
-    }
-    takeImage(image);
-}
-
-void ImageElement::takeUnchanged(const xbr::CopyTerms& terms) {
-    const auto stored = m_cache ? m_cache->load(location()) : std::nullopt;
-    if (!stored) {
-        download(); // the copy went meanwhile
+        if (m_cache) {
+            m_cache->store(location(), terms, xbr::readAll(document));
+        }
+        decode(document, Origin::kServer);
         return;
     }
-    m_cache->renew(location(), terms);
-    takeImage(scaled(decode(*streamOf(stored->bytes))));
+    if (m_cache) {
+        m_cache->remove(location());
+    }
+    takeImage(nullptr);
 }
 
-void ImageElement::downloadFailed() {
-    const auto stored = m_cache && !m_image ? m_cache->load(location()) : std::nullopt;
-    if (stored) {
-        takeImage(scaled(decode(*streamOf(stored->bytes)))); // better old than none
+void ImageElement::takeUnchanged() {
+    if (m_image || m_decoding) {
+        return;
+    }
+    const auto copy = m_cache ? m_cache->load(location()) : std::nullopt;
+    copy ? decodeCopy(*copy) : download(); // it may have gone meanwhile
+}
+
+void ImageElement::decodeCopy(const StoredPicture& copy) {
+    decode(*streamOf(copy.bytes), Origin::kCopy);
+}
+
+void ImageElement::decode(xbr::IStream& stream, Origin origin) {
+    dropDecoding();
+    xbr::rewind(stream);
+    m_origin = origin;
+    const auto decoder = xbr::query<xbr::IImageDecoder>(XBRGetGraphicsHelper());
+    if (decoder->decodeLater(&stream, fileType().get(), kMaximumPixels, m_decoding.out()) == xbr::kOk) {
+        m_decodingSubject = xbr::query<xbr::ISubject>(m_decoding.get());
+        XBRGetSignalHandler()->addObserver(m_decodingSubject.get(), this);
+    }
+}
+
+void ImageElement::dropDecoding() {
+    if (m_decoding) {
+        XBRGetSignalHandler()->removeObserver(m_decodingSubject.get(), this);
+        m_decodingSubject.reset();
+        m_decoding.reset();
+    }
+}
+
+void ImageElement::takeDecoded() {
+    xbr::Ref<xbr::IImage> image;
+    const xbr::Result result = m_decoding->getImage(image.out());
+    dropDecoding();
+    if (image) {
+        takeImage(scaled(image));
+        return;
+    }
+    if (result == xbr::kUnexpected) {
+        return; // there is no room: neither the picture nor its copy is to blame
+    }
+    if (m_cache) {
+        m_cache->remove(location());
+    }
+    m_origin == Origin::kCopy ? download() : takeImage(nullptr);
+}
+
+void ImageElement::notify(xbr::ISubject* subject, xbr::IMessage* message) noexcept {
+    const auto self = xbr::Ref<ImageElement>::share(this);
+    if (subject && subject == m_decodingSubject.get()) {
+        takeDecoded();
+    } else if (xbr::isNamed(*message, kShow)) {
+        if (m_shows > 0) { // else it went by too quickly
+            startDownload();
+        }
+    } else {
+        Implements::notify(subject, message);
     }
 }
 
 void ImageElement::locationChanged() {
+    dropDecoding();
+    m_isChecked = false;
     setImage(nullptr);
 }
 
 xbr::Ref<xbr::IImage> ImageElement::loadFile() {
     xbr::Ref<xbr::IImage> image;
     XBRGetGraphicsHelper()->loadImage(xbr::toText(location()), image.out());
-    return image;
-}
-
-xbr::Ref<xbr::IImage> ImageElement::decode(xbr::IStream& stream) {
-    xbr::Ref<xbr::IImage> image;
-    xbr::rewind(stream);
-    XBRGetGraphicsHelper()->decodeImage(&stream, fileType().get(), image.out());
     return image;
 }
 
@@ -129,9 +190,8 @@ xbr::Ref<xbr::IImage> ImageElement::scaled(const xbr::Ref<xbr::IImage>& image) c
         return image;
     }
     xbr::Ref<xbr::IImage> wrapped;
-    XBRGetGraphicsHelper()->createHighResolutionImage(image.get(), logicalSize(image->pixelWidth(), m_scale),
-                                                      logicalSize(image->pixelHeight(), m_scale),
-                                                      wrapped.out());
+    XBRGetGraphicsHelper()->createHighResolutionImage(image.get(), logicalSize(image->width(), m_scale),
+                                                      logicalSize(image->height(), m_scale), wrapped.out());
     return wrapped;
 }
 

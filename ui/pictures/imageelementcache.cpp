@@ -65,8 +65,6 @@ std::optional<StoredPicture> ImageElementCache::load(std::string_view) {
 
 void ImageElementCache::store(std::string_view, const xbr::CopyTerms&, const std::string&) {}
 
-void ImageElementCache::renew(std::string_view, const xbr::CopyTerms&) {}
-
 void ImageElementCache::remove(std::string_view) {}
 
 } // namespace brindlex

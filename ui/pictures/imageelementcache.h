@@ -15,9 +15,8 @@ namespace brindlex {
 /// A picture as it was fetched.
 struct StoredPicture {
     std::string location;
-    std::string entityTag;      ///< for asking the server whether it has changed; may be empty
-    std::string lastModified;   ///< as well
-    std::int64_t goodUntil = 0; ///< time until which nobody needs to ask
+    std::string entityTag;    ///< for asking the server whether it has changed; may be empty
+    std::string lastModified; ///< as well
     std::string bytes;
 };
 
@@ -28,8 +27,8 @@ public:
     /// The class itself, for telling a cache from other objects that are handed in.
     static constexpr xbr::Uid kClassUid = xbr::uid("8f1bd8a2-6e3a-4dd5-8f5b-1f2c6f0c1d5e");
 
-    /// As many pixels as some thirty news pictures have in high resolution.
-    static constexpr std::int64_t kMaximumPixels = std::int64_t{8} << 20U;
+    /// Some thirty pictures of the news.
+    static constexpr std::int64_t kMaximumPixels = std::int64_t{4} << 20U;
 
     ImageElementCache() : Component("ImageElementCache") {}
 
@@ -45,9 +44,8 @@ public:
     /// What is stored for a location beyond the run. Memory alone stores nothing.
     virtual std::optional<StoredPicture> load(std::string_view location);
 
-    /// Stores a picture on the server's terms; of one that is unchanged, new terms only.
+    /// Stores a picture on the server's terms.
     virtual void store(std::string_view location, const xbr::CopyTerms& terms, const std::string& bytes);
-    virtual void renew(std::string_view location, const xbr::CopyTerms& terms);
     virtual void remove(std::string_view location);
 
     xbr::Result queryInterface(const xbr::Uid& interfaceUid, void** out) noexcept override;

@@ -40,19 +40,6 @@ std::vector<File> filesIn(const std::string& folder) {
     return files;
 }
 
-void apply(const xbr::CopyTerms& terms, StoredPicture& picture) {
-    const std::int64_t lifetime = terms.lifetime < 0 ? PersistentImageCache::kUsualLifetime : terms.lifetime;
-    picture.goodUntil =
-        XBRGetSystem()->currentTime() + std::min(lifetime, PersistentImageCache::kLongestLifetime);
-    // An answer "not modified" need not repeat them.
-    if (terms.entityTag.length > 0) {
-        picture.entityTag = xbr::toString(terms.entityTag);
-    }
-    if (terms.lastModified.length > 0) {
-        picture.lastModified = xbr::toString(terms.lastModified);
-    }
-}
-
 } // namespace
 
 const std::string& PersistentImageCache::folder() {
@@ -85,18 +72,7 @@ void PersistentImageCache::store(std::string_view location, const xbr::CopyTerms
         remove(location);
         return;
     }
-    StoredPicture picture;
-    picture.location = location;
-    picture.bytes = bytes;
-    apply(terms, picture);
-    write(picture);
-}
-
-void PersistentImageCache::renew(std::string_view location, const xbr::CopyTerms& terms) {
-    if (auto picture = load(location)) {
-        apply(terms, *picture);
-        write(*picture);
-    }
+    write({std::string(location), xbr::toString(terms.entityTag), xbr::toString(terms.lastModified), bytes});
 }
 
 void PersistentImageCache::remove(std::string_view location) {

@@ -12,21 +12,17 @@ namespace brindlex {
 /// use the files at once: each is written as a whole, and one that has gone is fetched again.
 class PersistentImageCache final : public ImageElementCache {
 public:
-    /// Of all files together. When there are more, those that were fetched or confirmed longest ago go.
-    static constexpr std::uint64_t kMaximumBytes = std::uint64_t{64} << 20U;
+    /// Of all files together: a thousand pictures. When there are more, those that were fetched longest ago
+    /// go.
+    static constexpr std::uint64_t kMaximumBytes = std::uint64_t{256} << 20U;
 
-    /// A file that was not fetched or confirmed for so long is of no use.
-    static constexpr std::int64_t kKeepSeconds = std::int64_t{30} * 24 * 3600;
-
-    /// How long a picture is good when the server does not say, and at most.
-    static constexpr std::int64_t kUsualLifetime = 3600;
-    static constexpr std::int64_t kLongestLifetime = std::int64_t{7} * 24 * 3600;
+    /// A file that was fetched so long ago is of no use.
+    static constexpr std::int64_t kKeepSeconds = std::int64_t{90} * 24 * 3600;
 
     PersistentImageCache() : ImageElementCache("PersistentImageCache") {}
 
     std::optional<StoredPicture> load(std::string_view location) override;
     void store(std::string_view location, const xbr::CopyTerms& terms, const std::string& bytes) override;
-    void renew(std::string_view location, const xbr::CopyTerms& terms) override;
     void remove(std::string_view location) override;
 
 private:

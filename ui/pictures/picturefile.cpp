@@ -1,13 +1,12 @@
 #include "ui/pictures/picturefile.h"
 
-#include <charconv>
 #include <cstdint>
 
 namespace brindlex {
 
 namespace {
 
-constexpr std::string_view kMark = "brindlex picture 1";
+constexpr std::string_view kMark = "brindlex picture 2";
 
 /// FNV-1a. It guards against broken disks and tells files apart, not against people who can write in the
 /// user's folders.
@@ -50,7 +49,7 @@ std::string writePicture(const StoredPicture& picture) {
     for (const std::string& line : {picture.location, picture.entityTag, picture.lastModified}) {
         guarded += (isOneLine(line) ? line : std::string()) + '\n';
     }
-    guarded += std::to_string(picture.goodUntil) + '\n' + picture.bytes;
+    guarded += picture.bytes;
     return std::string(kMark) + '\n' + hexadecimal(hashOf(guarded)) + '\n' + guarded;
 }
 
@@ -67,11 +66,6 @@ std::optional<StoredPicture> readPicture(std::string_view file) {
             return std::nullopt;
         }
         *field = *line;
-    }
-    const auto time = takeLine(file);
-    if (!time ||
-        std::from_chars(time->data(), time->data() + time->size(), picture.goodUntil).ec != std::errc()) {
-        return std::nullopt;
     }
     picture.bytes = file;
     return picture;

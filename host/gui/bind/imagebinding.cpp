@@ -16,14 +16,37 @@ namespace xbr::host {
 
 namespace {
 
+/// Tells an image source that it is shown for as long as this lives.
+class Showing {
+public:
+    explicit Showing(IImageSource& source) : m_image(query<IShownImage>(&source)) {
+        if (m_image) {
+            m_image->beginShowing();
+        }
+    }
+    Showing(const Showing&) = delete;
+    Showing& operator=(const Showing&) = delete;
+    ~Showing() {
+        if (m_image) {
+            m_image->endShowing();
+        }
+    }
+
+    bool mayHaveImage() const { return m_image && m_image->mayHaveImage(); }
+
+private:
+    Ref<IShownImage> m_image;
+};
+
 /// Paints the picture of an image source over a label's area: as a whole, never larger than it is, with every
-/// pixel that the screen has. The label is there while there is a picture.
+/// pixel that the screen has. The label is there while there is a picture, or may be one.
 class SourcePicture final : public QObject {
 public:
     SourcePicture(QLabel& label, Ref<IImageSource> source)
         : QObject(&label),
           m_label(&label),
           m_source(std::move(source)),
+          m_showing(*m_source),
           m_listener([this](ISubject*, const IMessage&) { refresh(); }) {
         label.installEventFilter(this);
         m_listener.listen(query<ISubject>(m_source.get()));
@@ -44,7 +67,7 @@ private:
         const bool isThere = m_source->getImage(image.out()) == kOk && image;
         m_pixels = isThere ? pixelsOf(*image) : QImage();
         m_shown = QImage();
-        m_label->setVisible(!m_pixels.isNull());
+        m_label->setVisible(!m_pixels.isNull() || m_showing.mayHaveImage());
         m_label->update();
     }
 
@@ -78,6 +101,7 @@ private:
 
     QLabel* m_label;
     Ref<IImageSource> m_source;
+    Showing m_showing; ///< what it signals at its end is not heard any more
     Listener m_listener;
     QImage m_pixels;
     QImage m_shown; ///< in the size of the moment; null when it has to be made

@@ -5,10 +5,12 @@
 #include "host/base/listener.h"
 
 #include <QObject>
+#include <QRect>
 #include <QTimer>
 
 #include <functional>
 #include <string>
+#include <vector>
 
 class QScrollArea;
 
@@ -17,8 +19,9 @@ namespace xbr::host {
 /// Repeats a form in a scroll area, a row for each numbered child of a controller: "entry0", "entry1" and so
 /// on until there is none.
 ///
-/// Rows are made in portions, when they come near what is seen: a long list costs what a person looks at of
-/// it. They are made anew when the controller signals "changed".
+/// Rows are made a few at a time, when they come near what is seen, and go when they are far away, but for
+/// their places: a long list costs what a person looks at of it. They are made anew when the controller
+/// signals "changed".
 class RowList final : public QObject {
 public:
     /// What rows are made by.
@@ -35,19 +38,28 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// A row that was made; null when it has gone, and an empty place stands for it.
+    struct Row {
+        QWidget* widget = nullptr;
+        QWidget* lastStop = nullptr; ///< of the Tab key, if there is one in the row
+    };
+
     void rebuild();
     void fill();
     void fillSoon() { m_filling.start(0); }
+    QRect surroundings(int heights) const;
     bool isMoreNeeded() const;
+    void letGo();
+    bool bringBack(const QRect& area);
     bool addRow();
+    bool makeRow(std::size_t index);
     void removeRows();
 
     QScrollArea* m_area;
     Ref<IController> m_controller;
     std::string m_children;
     Rows m_rows;
-    QWidget* m_lastStop; ///< of the Tab key, in the rows or before them
-    int m_count = 0;
+    std::vector<Row> m_made;
     bool m_isComplete = false;
     QTimer m_filling;
     QTimer m_rebuilding;

@@ -4,11 +4,12 @@
 #include "framework/support/data/memorystream.h"
 #include "framework/support/data/url.h"
 #include "framework/support/objects/text.h"
+#include "host/gui/picture/decodingtask.h"
 #include "host/gui/picture/image.h"
-#include "host/gui/picture/imagedecoder.h"
 
 #include <QGuiApplication>
 
+#include <limits>
 #include <optional>
 
 namespace xbr::host {
@@ -32,16 +33,20 @@ std::optional<QByteArray> readFile(IStream& stream) {
     return file;
 }
 
+std::string extensionOf(IFileType* type) {
+    return type ? asciiLower(view(type->extension())) : std::string();
+}
+
 Result decode(IStream& stream, std::string_view extension, IImage** out) {
     const auto file = readFile(stream);
-    QImage picture;
-    const auto result = file ? decodePicture(*file, extension, picture) : DecodeResult::kUnusable;
-    if (result != DecodeResult::kDecoded) {
-        return result == DecodeResult::kUnknownFormat ? kNotImplemented : kInvalidArgument;
-    }
-    const auto pixels = std::make_shared<const Pixels>(std::move(picture));
-    *out = make<Image>(pixels, pixels->image().width(), pixels->image().height()).detach();
-    return kOk;
+    Picture picture;
+    const auto decoded =
+        file ? decodePicture(*file, extension, std::numeric_limits<std::int64_t>::max(), picture)
+             : DecodeResult::kUnusable;
+    Ref<IImage> image;
+    const Result result = makeImage(decoded, std::move(picture), image);
+    *out = image.detach();
+    return result;
 }
 
 } // namespace
@@ -51,7 +56,18 @@ Result GraphicsHelper::decodeImage(IStream* stream, IFileType* type, IImage** ou
     if (!stream) {
         return kInvalidArgument;
     }
-    return decode(*stream, type ? asciiLower(view(type->extension())) : std::string(), out);
+    return decode(*stream, extensionOf(type), out);
+}
+
+Result GraphicsHelper::decodeLater(IStream* stream, IFileType* type, std::int64_t maximumPixels,
+                                   IDecodingTask** out) noexcept {
+    *out = nullptr;
+    if (!stream || maximumPixels < 1) {
+        return kInvalidArgument;
+    }
+    *out = make<DecodingTask>(readFile(*stream).value_or(QByteArray()), extensionOf(type), maximumPixels)
+               .detach();
+    return kOk;
 }
 
 Result GraphicsHelper::loadImage(Text url, IImage** out) noexcept {

@@ -1,10 +1,12 @@
 #include "host/gui/picture/image.h"
 
+#include <atomic>
+
 namespace xbr::host {
 
 namespace {
 
-std::int64_t g_alive = 0;
+std::atomic<std::int64_t> g_alive = 0;
 
 std::int64_t countOf(const QImage& image) {
     return std::int64_t{image.width()} * image.height();

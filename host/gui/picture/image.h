@@ -9,7 +9,7 @@
 
 namespace xbr::host {
 
-/// Pixels in memory, counted together with those of all other images that are alive.
+/// Pixels in memory, counted together with those of all other images that are alive. On any thread.
 class Pixels {
 public:
     /// Images from outside are many, and small files may be large pictures: together they may hold 256 MiB.

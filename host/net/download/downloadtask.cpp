@@ -1,27 +1,27 @@
 #include "host/net/download/downloadtask.h"
 
 #include "framework/abi/filesystem.h"
+#include "framework/support/data/url.h"
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
 #include "host/base/mainthread.h"
+#include "host/base/textscan.h"
 #include "host/net/http/request.h"
 #include "host/net/http/requesturl.h"
 #include "host/net/http/transferloop.h"
 
 #include <algorithm>
+#include <deque>
+#include <vector>
 
 namespace xbr::host {
 
 namespace {
 
-constexpr int kMaximumRedirects = 5;
-
 constexpr std::int32_t kNotModified = 304;
 
-bool isRedirect(std::int32_t status) {
-    static constexpr std::int32_t kRedirects[] = {301, 302, 303, 307, 308};
-    return std::find(std::begin(kRedirects), std::end(kRedirects), status) != std::end(kRedirects);
-}
+std::deque<DownloadTask*> g_waiting; ///< for a turn to use the network
+std::vector<DownloadTask*> g_running;
 
 bool isSuccess(std::int32_t status) {
     return status >= 200 && status <= 299;
@@ -29,8 +29,55 @@ bool isSuccess(std::int32_t status) {
 
 } // namespace
 
+DownloadSource downloadSource(std::string_view url) {
+    const std::string protocol = Url(url).protocol();
+    if (protocol == "file" || protocol == "resource") {
+        return DownloadSource::kFile;
+    }
+    const bool isWeb = (protocol == "http" || protocol == "https") && requestHost(url);
+    return isWeb ? DownloadSource::kWeb : DownloadSource::kNone;
+}
+
+bool mayBeKept(std::string_view cacheControl) {
+    while (!cacheControl.empty()) {
+        const auto comma = std::min(cacheControl.find(','), cacheControl.size());
+        if (isSameHeader(trim(cacheControl.substr(0, comma)), "no-store")) {
+            return false;
+        }
+        cacheControl.remove_prefix(std::min(comma + 1, cacheControl.size()));
+    }
+    return true;
+}
+
+void DownloadTask::giveTurns() {
+    while (g_running.size() < kTurns && !g_waiting.empty()) {
+        DownloadTask* const next = g_waiting.front();
+        g_waiting.pop_front();
+        g_running.push_back(next);
+        if (!next->send()) {
+            post(*next, "fail"); // the turn may have come inside `start`
+        }
+    }
+}
+
+void DownloadTask::giveUpTurn() {
+    std::erase(g_waiting, this);
+    if (std::erase(g_running, this) > 0) {
+        giveTurns();
+    }
+}
+
+void DownloadTask::endAll() {
+    auto ending = std::exchange(g_waiting, {});
+    ending.insert(ending.end(), g_running.begin(), g_running.end());
+    g_running.clear();
+    for (DownloadTask* task : ending) {
+        task->endSilently();
+    }
+}
+
 DownloadTask::~DownloadTask() {
-    DownloadQueue::leave(*this);
+    giveUpTurn();
     endTransfer();
     XBRGetSignalHandler()->forgetObserver(this);
     XBRGetSignalHandler()->forgetSubject(this);
@@ -40,7 +87,7 @@ Result DownloadTask::setCopy(Text entityTag, Text lastModified) noexcept {
     if (m_started) {
         return kUnexpected;
     }
-    if (hasControlCharacter(view(entityTag)) || hasControlCharacter(view(lastModified))) {
+    if (hasControls(view(entityTag)) || hasControls(view(lastModified))) {
         return kInvalidArgument;
     }
     m_knownTag = view(entityTag);
@@ -58,7 +105,8 @@ Result DownloadTask::start() noexcept {
     if (m_source == DownloadSource::kFile) {
         post(*this, "open");
     } else {
-        DownloadQueue::enter(*this);
+        g_waiting.push_back(this);
+        giveTurns();
     }
     return kOk;
 }
@@ -68,7 +116,7 @@ Result DownloadTask::cancel() noexcept {
         return kFalse;
     }
     endSilently();
-    DownloadQueue::leave(*this);
+    giveUpTurn();
     return kOk;
 }
 
@@ -81,12 +129,6 @@ void DownloadTask::endSilently() {
 void DownloadTask::endTransfer() {
     if (m_transfer) {
         TransferLoop::instance().end(std::move(m_transfer));
-    }
-}
-
-void DownloadTask::takeTurn() {
-    if (!send()) {
-        post(*this, "fail"); // the turn may have come inside `start`
     }
 }
 
@@ -119,7 +161,9 @@ bool DownloadTask::send() {
         headers.add("If-Modified-Since", m_knownDate);
     }
     auto& loop = TransferLoop::instance();
-    auto transfer = Transfer::create({"GET", m_location, *host, std::move(headers), {}}, *this);
+    const bool isSecure = Url(m_location).protocol() == "https";
+    auto transfer = Transfer::create(
+        {"GET", m_location, *host, std::move(headers), {}, isSecure ? "https" : "http,https"}, *this);
     if (!transfer || !loop.start(*transfer)) {
         return false;
     }
@@ -127,24 +171,11 @@ bool DownloadTask::send() {
     return true;
 }
 
-bool DownloadTask::follow(const Answer& outcome) {
-    if (!isRedirect(outcome.status) || m_redirects == kMaximumRedirects) {
-        return false;
-    }
-    auto target = redirectTarget(m_location, outcome.headers[ReplyHeaders::kLocation]);
-    if (!target) {
-        return false;
-    }
-    ++m_redirects;
-    m_location = *std::move(target);
-    return send();
-}
-
 void DownloadTask::onFinished(Answer outcome) {
     const auto self = Ref<DownloadTask>::share(this);
     // Kept until we return: it is the caller.
     const auto transfer = std::move(m_transfer);
-    if (m_state != DownloadState::kRunning || follow(outcome)) {
+    if (m_state != DownloadState::kRunning) {
         return;
     }
     const bool asksForChange = !m_knownTag.empty() || !m_knownDate.empty();
@@ -160,14 +191,14 @@ void DownloadTask::complete(Answer outcome) {
         m_data = outcome.body ? std::move(outcome.body) : make<MemoryStream>();
     }
     m_headers = std::move(outcome.headers);
-    m_policy = cachePolicy(m_headers[ReplyHeaders::kCacheControl], m_headers[ReplyHeaders::kAge]);
+    m_location = std::move(outcome.location);
     finish(DownloadState::kComplete);
 }
 
 void DownloadTask::finish(DownloadState state) {
     const auto self = Ref<DownloadTask>::share(this);
     m_state = state;
-    DownloadQueue::leave(*this);
+    giveUpTurn();
     signal(*this, "stateChanged");
 }
 
@@ -191,7 +222,7 @@ Result DownloadTask::getData(IStream** out) noexcept {
 
 CopyTerms DownloadTask::copyTerms() const noexcept {
     return {toText(m_headers[ReplyHeaders::kEntityTag]), toText(m_headers[ReplyHeaders::kLastModified]),
-            m_policy.lifetime, m_policy.mayBeKept};
+            mayBeKept(m_headers[ReplyHeaders::kCacheControl])};
 }
 
 } // namespace xbr::host

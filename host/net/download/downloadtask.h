@@ -3,20 +3,34 @@
 #include "framework/abi/download.h"
 #include "framework/abi/message.h"
 #include "framework/support/objects/object.h"
-#include "host/net/download/downloadqueue.h"
-#include "host/net/download/downloadrules.h"
 #include "host/net/http/transfer.h"
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace xbr::host {
 
-/// One download, over the web or from the file system.
-class DownloadTask final : public Object<IDownloadTask, ISubject, IObserver>,
-                           private Download,
-                           private ITransferListener {
+enum class DownloadSource {
+    kNone, ///< not a URL that documents are taken from
+    kWeb,
+    kFile, ///< the file system: files, and resources of modules
+};
+
+DownloadSource downloadSource(std::string_view url);
+
+/// What the header Cache-Control says about a cache of the user's own (RFC 9111, section 5.2.2.5).
+bool mayBeKept(std::string_view cacheControl);
+
+/// One download, over the web or from the file system. Few use the network at a time: a feed may ask for many
+/// pictures at once, and an upload beside them should not notice.
+class DownloadTask final : public Object<IDownloadTask, ISubject, IObserver>, private ITransferListener {
 public:
+    static constexpr int kTurns = 6;
+
+    /// Ends all without a message.
+    static void endAll();
+
     DownloadTask(std::string url, DownloadSource source) : m_location(std::move(url)), m_source(source) {}
     ~DownloadTask() override;
 
@@ -33,10 +47,10 @@ public:
     void notify(ISubject* subject, IMessage* message) noexcept override;
 
 private:
-    void takeTurn() override;
-    void endSilently() override;
+    static void giveTurns();
+    void giveUpTurn();
+    void endSilently();
     bool send();
-    bool follow(const Answer& outcome);
     void endTransfer();
     void openFile();
     void complete(Answer outcome);
@@ -49,13 +63,11 @@ private:
     DownloadSource m_source;
     DownloadState m_state = DownloadState::kIdle;
     bool m_started = false;
-    int m_redirects = 0;
     std::string m_knownTag;
     std::string m_knownDate;
     std::unique_ptr<Transfer> m_transfer;
     Ref<IStream> m_data;
     ReplyHeaders m_headers;
-    CachePolicy m_policy;
 };
 
 } // namespace xbr::host

@@ -20,11 +20,6 @@ std::int32_t sizeOf(const List& list) noexcept {
     return static_cast<std::int32_t>(list.size());
 }
 
-Result giveTime(const std::optional<std::int64_t>& from, std::int64_t* time) noexcept {
-    *time = from.value_or(0);
-    return from ? kOk : kFalse;
-}
-
 class FeedEntry final : public Object<IFeedEntry> {
 public:
     explicit FeedEntry(FeedEntryRecord record) : m_record(std::move(record)) {}
@@ -33,9 +28,10 @@ public:
     Text summary() const noexcept override { return toText(m_record.summary); }
     Text content() const noexcept override { return toText(m_record.content); }
     Result getPublished(std::int64_t* time) const noexcept override {
-        return giveTime(m_record.published, time);
+        const auto& published = m_record.published ? m_record.published : m_record.updated;
+        *time = published.value_or(0);
+        return published ? kOk : kFalse;
     }
-    Result getUpdated(std::int64_t* time) const noexcept override { return giveTime(m_record.updated, time); }
     std::int32_t countLinks() const noexcept override { return sizeOf(m_record.links); }
     Text linkAttribute(std::int32_t index, Text name) const noexcept override {
         const FeedLink* link = at(m_record.links, index);

@@ -1,10 +1,9 @@
 #include "host/net/feed/plaintext.h"
 
-#include "framework/support/objects/text.h"
-#include "host/net/feed/htmlentities.h"
-
 #include <algorithm>
 #include <array>
+#include <libxml/HTMLparser.h>
+#include <memory>
 #include <utility>
 
 namespace xbr::host {
@@ -23,119 +22,99 @@ constexpr bool isSpace(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
 }
 
-std::string toUtf8(char32_t c) {
-    const auto byte = [](char32_t bits) { return static_cast<char>(bits); };
-    const auto tail = [&](int shift) { return byte(0x80U | ((c >> static_cast<unsigned>(shift)) & 0x3FU)); };
-    if (c < 0x80) {
-        return {byte(c)};
+/// The parser compares each attribute of an element with all others of it.
+constexpr int kMaximumAttributes = 1000;
+
+/// And looks for the start of each end tag in all elements that are open.
+constexpr int kMaximumDepth = 256;
+
+/// True when some element may have more attributes than that. Only the parser knows where a tag ends that is
+/// not well-formed, so each end that it may have is followed, with the most attributes before it.
+bool mayHaveTooManyAttributes(std::string_view html) {
+    static constexpr int kNever = -1;
+    int inTag = kNever;
+    int behindEquals = kNever;
+    std::array<int, 2> inQuotes = {kNever, kNever};
+    char previous = '\0';
+    for (const char c : html) {
+        if (c == '>') {
+            inTag = behindEquals = kNever;
+        } else if (c == '"' || c == '\'') {
+            int& inside = inQuotes.at(c == '"' ? 0 : 1);
+            inTag = std::max(inTag, inside == kNever ? kNever : inside + 1);
+            inside = std::exchange(behindEquals, kNever);
+        } else if (c == '=') {
+            behindEquals = inTag;
+        } else if (isSpace(c)) {
+            inTag += inTag == kNever ? 0 : 1;
+        } else {
+            behindEquals = kNever;
+        }
+        if (previous == '<' && !isSpace(c) && c != '/' && c != '!' && c != '?') {
+            inTag = std::max(inTag, 0);
+        }
+        if (inTag > kMaximumAttributes) {
+            return true;
+        }
+        previous = c;
     }
-    if (c < 0x800) {
-        return {byte(0xC0U | (c >> 6U)), tail(0)};
-    }
-    if (c < 0x10000) {
-        return {byte(0xE0U | (c >> 12U)), tail(6), tail(0)};
-    }
-    return {byte(0xF0U | (c >> 18U)), tail(12), tail(6), tail(0)};
+    return false;
 }
 
-bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-/// Reads a fragment roughly as the HTML standard tokenises it (section 13.2.5).
+/// Hears from libxml2's parser of HTML, which repairs what is not well-formed and never builds a tree here.
 class HtmlReader {
 public:
-    explicit HtmlReader(std::string_view html) : m_rest(html) {}
-
-    std::string read() {
-        while (!m_rest.empty()) {
-            const auto special = std::min(m_rest.find_first_of("<&"), m_rest.size());
-            m_text.add(m_rest.substr(0, special));
-            m_rest.remove_prefix(special);
-            if (!m_rest.empty()) {
-                m_rest.front() == '<' ? readMarkup() : readReference();
-            }
+    std::string read(std::string_view html) {
+        static constexpr int kOptions = HTML_PARSE_RECOVER | HTML_PARSE_NOERROR | HTML_PARSE_NOWARNING |
+                                        HTML_PARSE_NONET | HTML_PARSE_NOIMPLIED | HTML_PARSE_IGNORE_ENC;
+        if (html.empty() || mayHaveTooManyAttributes(html)) {
+            return {};
         }
+        *m_parser->sax = {};
+        m_parser->sax->startElement = &HtmlReader::startElement;
+        m_parser->sax->endElement = &HtmlReader::endElement;
+        m_parser->sax->characters = &HtmlReader::characters;
+        m_parser->sax->ignorableWhitespace = &HtmlReader::characters;
+        m_parser->sax->cdataBlock = &HtmlReader::ignore; // scripts and styles
+        m_parser->_private = this;
+        htmlCtxtReadMemory(m_parser.get(), html.data(), static_cast<int>(html.size()), nullptr, "UTF-8",
+                           kOptions);
         return m_text.take();
     }
 
 private:
-    /// Cuts everything up to and with the next `end`; all the rest when there is none.
-    void skipBehind(std::string_view end) {
-        const auto found = m_rest.find(end);
-        m_rest.remove_prefix(found == std::string_view::npos ? m_rest.size() : found + end.size());
+    static HtmlReader& of(void* parser) {
+        return *static_cast<HtmlReader*>(static_cast<htmlParserCtxt*>(parser)->_private);
     }
+    static std::string_view viewOf(const xmlChar* text) { return reinterpret_cast<const char*>(text); }
 
-    void readMarkup() {
-        const char next = m_rest.size() > 1 ? m_rest[1] : '\0';
-        const bool isEnd = next == '/' && m_rest.size() > 2 && isLetter(m_rest[2]);
-        if (isLetter(next) || isEnd) {
-            m_rest.remove_prefix(isEnd ? 2 : 1);
-            readTag(isEnd);
-        } else if (m_rest.starts_with("<!--")) {
-            skipBehind("-->");
-        } else if (next == '!' || next == '?' || next == '/') {
-            skipBehind(">");
-        } else {
-            takeLiterally();
+    static void startElement(void* parser, const xmlChar* name, const xmlChar**) {
+        auto& reader = of(parser);
+        reader.m_hidden += isHiddenElement(viewOf(name)) ? 1 : 0;
+        reader.m_text.markElement(viewOf(name));
+        if (++reader.m_depth > kMaximumDepth) {
+            xmlStopParser(reader.m_parser.get());
         }
     }
-
-    void readTag(bool isEnd) {
-        const auto end = std::min(m_rest.find_first_of(" \t\r\n\f/>"), m_rest.size());
-        const std::string name = asciiLower(m_rest.substr(0, end));
-        m_rest.remove_prefix(end);
-        skipAttributes();
-        if (!isEnd && isHiddenElement(name)) {
-            skipContents(name);
-        } else {
-            m_text.markElement(name);
+    static void endElement(void* parser, const xmlChar* name) {
+        auto& reader = of(parser);
+        reader.m_hidden -= isHiddenElement(viewOf(name)) ? 1 : 0;
+        reader.m_text.markElement(viewOf(name));
+        --reader.m_depth;
+    }
+    static void characters(void* parser, const xmlChar* text, int length) {
+        auto& reader = of(parser);
+        if (reader.m_hidden == 0) {
+            reader.m_text.add({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
         }
     }
+    static void ignore(void*, const xmlChar*, int) {}
 
-    void skipAttributes() {
-        bool isValueNext = false; // only there is a quote more than a part of a name
-        while (!m_rest.empty() && m_rest.front() != '>') {
-            const char c = m_rest.front();
-            m_rest.remove_prefix(1);
-            if (isValueNext && (c == '"' || c == '\'')) {
-                skipBehind(std::string_view(&c, 1));
-            }
-            isValueNext = c == '=' || (isValueNext && c == ' ');
-        }
-        m_rest.remove_prefix(std::min<std::size_t>(m_rest.size(), 1));
-    }
-
-    void skipContents(std::string_view name) {
-        for (;;) {
-            skipBehind("</");
-            if (m_rest.empty() || asciiLower(m_rest.substr(0, name.size())) == name) {
-                skipBehind(">");
-                return;
-            }
-        }
-    }
-
-    void readReference() {
-        static constexpr std::size_t kLongest = 32;
-        const auto end = m_rest.substr(0, kLongest).find(';');
-        const auto character =
-            end == std::string_view::npos ? std::nullopt : htmlCharacter(m_rest.substr(1, end - 1));
-        if (!character) {
-            takeLiterally();
-            return;
-        }
-        m_text.addCharacter(*character);
-        m_rest.remove_prefix(end + 1);
-    }
-
-    void takeLiterally() {
-        m_text.add(m_rest.substr(0, 1));
-        m_rest.remove_prefix(1);
-    }
-
-    std::string_view m_rest;
+    std::unique_ptr<htmlParserCtxt, decltype(&htmlFreeParserCtxt)> m_parser{htmlNewParserCtxt(),
+                                                                            &htmlFreeParserCtxt};
     PlainText m_text;
+    int m_depth = 0;
+    int m_hidden = 0; ///< how many of the open elements are not for readers
 };
 
 } // namespace
@@ -159,14 +138,6 @@ void PlainText::add(std::string_view text) {
             m_pending = m_pending == '\n' ? '\n' : ' ';
             text.remove_prefix(1);
         }
-    }
-}
-
-void PlainText::addCharacter(char32_t character) {
-    if (character < 0x80 && isSpace(static_cast<char>(character))) {
-        add(" ");
-    } else {
-        put(toUtf8(character));
     }
 }
 
@@ -200,7 +171,7 @@ bool isHiddenElement(std::string_view name) {
 }
 
 std::string plainTextOfHtml(std::string_view html) {
-    return HtmlReader(html).read();
+    return HtmlReader().read(html);
 }
 
 } // namespace xbr::host

@@ -12,9 +12,6 @@ public:
     /// Text that flows into the present line.
     void add(std::string_view text);
 
-    /// A character that stands for itself, such as that of an entity.
-    void addCharacter(char32_t character);
-
     /// Begins a new line. Several in a row are one.
     void breakLine();
 
@@ -38,8 +35,8 @@ std::string collapsed(std::string_view text);
 /// Elements whose contents are for programs, not for readers.
 bool isHiddenElement(std::string_view name);
 
-/// What a fragment of HTML says, as plain text; whatever the fragment is, something comes out, in time that
-/// grows with its length only. Nothing that it refers to is fetched.
+/// What a fragment of HTML says, as plain text, in time that grows with its length only; nothing when it has
+/// elements with hundreds of attributes. Nothing that it refers to is fetched.
 std::string plainTextOfHtml(std::string_view html);
 
 } // namespace xbr::host

@@ -1,52 +1,47 @@
 #include "host/net/http/failure.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace xbr::host {
 
 namespace {
 
-/// The text of a failure of the connection; %s stands for the host. Null for failures that need no own words.
-const char* connectionText(CURLcode code) {
-    switch (code) {
-    case CURLE_COULDNT_RESOLVE_HOST:
-        return "The server %s could not be found.";
-    case CURLE_COULDNT_RESOLVE_PROXY:
-        return "The proxy server on the way to %s could not be found.";
-    case CURLE_COULDNT_CONNECT:
-    case CURLE_PROXY:
-        return "No connection to %s could be made.";
-    case CURLE_OPERATION_TIMEDOUT:
-        return "The server %s did not answer in time.";
-    case CURLE_GOT_NOTHING:
-        return "The server %s closed the connection without an answer.";
-    case CURLE_SEND_ERROR:
-    case CURLE_RECV_ERROR:
-        return "The connection to %s was lost.";
-    case CURLE_PARTIAL_FILE:
-        return "The answer of %s was cut short.";
-    case CURLE_WEIRD_SERVER_REPLY:
-    case CURLE_UNSUPPORTED_PROTOCOL:
-    case CURLE_BAD_CONTENT_ENCODING:
-    case CURLE_OK: // an interim answer and nothing after it
-        return "The answer of %s could not be understood.";
-    default:
-        return nullptr;
-    }
-}
+/// A failure of the connection in words; %s stands for the host.
+struct Row {
+    CURLcode code;
+    Fault fault;
+    const char* text;
+};
 
-const char* secureText(CURLcode code) {
-    switch (code) {
-    case CURLE_PEER_FAILED_VERIFICATION:
-        return "The certificate of %s is not trusted.";
-    case CURLE_SSL_CACERT_BADFILE:
-        return "The list of trusted certificates, needed for %s, could not be read.";
-    case CURLE_SSL_CONNECT_ERROR:
-    case CURLE_SSL_CERTPROBLEM:
-    case CURLE_SSL_CIPHER:
-    case CURLE_SSL_ISSUER_ERROR:
-        return "No secure connection to %s could be made.";
-    default:
-        return nullptr;
-    }
+constexpr Row kRows[] = {
+    {CURLE_COULDNT_RESOLVE_HOST, Fault::kNoServer, "The server %s could not be found."},
+    {CURLE_COULDNT_RESOLVE_PROXY, Fault::kNoServer, "The proxy server on the way to %s could not be found."},
+    {CURLE_COULDNT_CONNECT, Fault::kNoServer, "No connection to %s could be made."},
+    {CURLE_PROXY, Fault::kNoServer, "No connection to %s could be made."},
+    {CURLE_OPERATION_TIMEDOUT, Fault::kNoServer,
+     "The server %s did not answer in time."}, // as it was connected to
+    {CURLE_GOT_NOTHING, Fault::kConnectionLost, "The server %s closed the connection without an answer."},
+    {CURLE_SEND_ERROR, Fault::kConnectionLost, "The connection to %s was lost."},
+    {CURLE_RECV_ERROR, Fault::kConnectionLost, "The connection to %s was lost."},
+    {CURLE_PARTIAL_FILE, Fault::kConnectionLost, "The answer of %s was cut short."},
+    {CURLE_WEIRD_SERVER_REPLY, Fault::kConnectionLost, "The answer of %s could not be understood."},
+    {CURLE_UNSUPPORTED_PROTOCOL, Fault::kConnectionLost, "The answer of %s could not be understood."},
+    {CURLE_BAD_CONTENT_ENCODING, Fault::kConnectionLost, "The answer of %s could not be understood."},
+    {CURLE_OK, Fault::kConnectionLost, "The answer of %s could not be understood."}, // an interim one alone
+    {CURLE_PEER_FAILED_VERIFICATION, Fault::kUntrusted, "The certificate of %s is not trusted."},
+    {CURLE_SSL_CACERT_BADFILE, Fault::kUntrusted,
+     "The list of trusted certificates, needed for %s, could not be read."},
+    {CURLE_SSL_CONNECT_ERROR, Fault::kUntrusted, "No secure connection to %s could be made."},
+    {CURLE_SSL_CERTPROBLEM, Fault::kUntrusted, "No secure connection to %s could be made."},
+    {CURLE_SSL_CIPHER, Fault::kUntrusted, "No secure connection to %s could be made."},
+    {CURLE_SSL_ISSUER_ERROR, Fault::kUntrusted, "No secure connection to %s could be made."},
+};
+
+const Row* rowOf(CURLcode code) {
+    const auto* found =
+        std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& row) { return row.code == code; });
+    return found == std::end(kRows) ? nullptr : found;
 }
 
 const char* endedText(Ended ended) {
@@ -72,30 +67,13 @@ std::string fillIn(std::string text, const std::string& host) {
 
 std::string failureText(Ended ended, CURLcode code, const std::string& host) {
     const char* text = endedText(ended);
-    if (!text) {
-        text = connectionText(code);
-    }
-    if (!text) {
-        text = secureText(code);
-    }
     if (text) {
         return fillIn(text, host);
     }
     // curl_easy_strerror has fixed texts: unlike the error buffer it never quotes the request.
-    return fillIn("The request to %s failed: ", host) + curl_easy_strerror(code) + ".";
-}
-
-Fault faultOf(CURLcode code) {
-    switch (code) {
-    case CURLE_COULDNT_RESOLVE_HOST:
-    case CURLE_COULDNT_RESOLVE_PROXY:
-    case CURLE_COULDNT_CONNECT:
-    case CURLE_PROXY:
-    case CURLE_OPERATION_TIMEDOUT: // only connecting has a limit
-        return Fault::kNoServer;
-    default:
-        return secureText(code) ? Fault::kUntrusted : Fault::kConnectionLost;
-    }
+    const Row* row = rowOf(code);
+    return row ? fillIn(row->text, host)
+               : fillIn("The request to %s failed: ", host) + curl_easy_strerror(code) + ".";
 }
 
 Fault faultOf(Ended ended, CURLcode code) {
@@ -109,7 +87,8 @@ Fault faultOf(Ended ended, CURLcode code) {
     case Ended::kNot:
         break;
     }
-    return faultOf(code);
+    const Row* row = rowOf(code);
+    return row ? row->fault : Fault::kConnectionLost;
 }
 
 } // namespace

@@ -10,8 +10,8 @@ namespace xbr::host {
 
 namespace {
 
-constexpr std::array<std::string_view, ReplyHeaders::kNames> kHeaderNames = {
-    "Age", "Cache-Control", "Content-Type", "ETag", "Last-Modified", "Location"};
+constexpr std::array<std::string_view, ReplyHeaders::kNames> kHeaderNames = {"Cache-Control", "Content-Type",
+                                                                             "ETag", "Last-Modified"};
 
 using Json = nlohmann::ordered_json;
 

@@ -12,7 +12,7 @@ namespace xbr::host {
 /// What is read of the headers of an answer.
 class ReplyHeaders {
 public:
-    enum Name { kAge, kCacheControl, kContentType, kEntityTag, kLastModified, kLocation, kNames };
+    enum Name { kCacheControl, kContentType, kEntityTag, kLastModified, kNames };
 
     /// Takes one line of the headers; a status line begins a new answer.
     void addLine(std::string_view line);

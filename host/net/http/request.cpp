@@ -22,13 +22,6 @@ bool isToken(std::string_view text) noexcept {
     return !text.empty() && std::all_of(text.begin(), text.end(), isTokenCharacter);
 }
 
-bool hasControlCharacter(std::string_view text) noexcept {
-    return std::any_of(text.begin(), text.end(), [](char c) {
-        const auto byte = static_cast<unsigned char>(c);
-        return byte < 0x20 || byte == 0x7F;
-    });
-}
-
 bool isSameHeader(std::string_view left, std::string_view right) noexcept {
     return left.size() == right.size() && strncasecmp(left.data(), right.data(), left.size()) == 0;
 }

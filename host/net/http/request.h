@@ -16,10 +16,6 @@ namespace xbr::host {
 /// True when `text` is a token (RFC 9110, section 5.6.2): the name of a header or of a method.
 bool isToken(std::string_view text) noexcept;
 
-/// True when `text` has a byte below blank or DEL: line breaks above all, which would begin a header of their
-/// own.
-bool hasControlCharacter(std::string_view text) noexcept;
-
 /// True when both are the same header's name, whatever their case.
 bool isSameHeader(std::string_view left, std::string_view right) noexcept;
 
@@ -110,6 +106,10 @@ struct Request {
     std::string host;
     RequestHeaders headers;
     RequestBody body;
+
+    /// For documents that anybody may see: the protocols to which redirects are followed, as libcurl lists
+    /// them. Such a request also ends when the answer comes slowly. Null for all others.
+    const char* redirects = nullptr;
 };
 
 } // namespace xbr::host

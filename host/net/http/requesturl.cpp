@@ -1,6 +1,6 @@
 #include "host/net/http/requesturl.h"
 
-#include "host/net/http/request.h"
+#include "host/base/textscan.h"
 
 #include <curl/curl.h>
 
@@ -27,7 +27,7 @@ std::string partOf(const Url& url, CURLUPart part) {
 
 std::optional<std::string> requestHost(std::string_view url) {
     const Url parsed(curl_url(), &curl_url_cleanup);
-    if (!parsed || hasControlCharacter(url) ||
+    if (!parsed || hasControls(url) ||
         curl_url_set(parsed.get(), CURLUPART_URL, std::string(url).c_str(), 0) != CURLUE_OK) {
         return {};
     }

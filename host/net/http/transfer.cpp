@@ -12,6 +12,11 @@ namespace {
 
 constexpr std::chrono::milliseconds kDefaultIdleLimit{60'000};
 constexpr long kConnectSeconds = 30;
+constexpr long kMaximumRedirects = 5;
+
+/// Bytes a second. A document that comes more slowly for a third of the idle limit is given up, and any that
+/// has not come in twice the idle limit: few have a turn at a time.
+constexpr long kSlowest = 1024;
 
 /// The most that libcurl takes. Fewer, larger reads and writes are what makes large bodies fast.
 constexpr long kUploadBuffer = 2L << 20U;
@@ -61,9 +66,24 @@ bool Transfer::configure() {
            set(CURLOPT_NOSIGNAL, 1L) && set(CURLOPT_QUICK_EXIT, 1L) &&
            set(CURLOPT_PROTOCOLS_STR, "http,https") &&
            set(CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1)) &&
-           set(CURLOPT_FOLLOWLOCATION, 0L) && set(CURLOPT_CONNECTTIMEOUT, kConnectSeconds) &&
-           set(CURLOPT_TCP_KEEPALIVE, 1L) && set(CURLOPT_USERAGENT, "xbrhost/" XBR_HOST_VERSION) &&
-           configureMethod() && configureCertificates() && configureCallbacks();
+           set(CURLOPT_CONNECTTIMEOUT, kConnectSeconds) && set(CURLOPT_TCP_KEEPALIVE, 1L) &&
+           set(CURLOPT_USERAGENT, "xbrhost/" XBR_HOST_VERSION) && configureRedirects() && configureMethod() &&
+           configureCertificates() && configureCallbacks();
+}
+
+bool Transfer::configureRedirects() {
+    const auto set = [this](CURLoption option, auto value) { return setOption(m_easy, option, value); };
+    const bool isFollowing = m_request.redirects != nullptr;
+    if (!set(CURLOPT_DISALLOW_USERNAME_IN_URL, 1L) || !set(CURLOPT_FOLLOWLOCATION, isFollowing ? 1L : 0L)) {
+        return false;
+    }
+    const auto idle = std::chrono::milliseconds(m_idleTicks * kTick);
+    const auto slow = std::chrono::ceil<std::chrono::seconds>(idle / 3);
+    return !isFollowing ||
+           (set(CURLOPT_REDIR_PROTOCOLS_STR, m_request.redirects) &&
+            set(CURLOPT_MAXREDIRS, kMaximumRedirects) && set(CURLOPT_LOW_SPEED_LIMIT, kSlowest) &&
+            set(CURLOPT_LOW_SPEED_TIME, static_cast<long>(slow.count())) &&
+            set(CURLOPT_TIMEOUT_MS, static_cast<long>(2 * idle.count())));
 }
 
 bool Transfer::configureMethod() {
@@ -159,6 +179,9 @@ Answer Transfer::outcome(CURLcode code) {
     result.sent = sent();
     result.wholeBodySent = m_request.body.size() > 0 && result.sent >= m_request.body.size();
     if (whole && m_reply.hasHeaders() && status >= 200 && m_ended == Ended::kNot) {
+        char* location = nullptr;
+        curl_easy_getinfo(m_easy, CURLINFO_EFFECTIVE_URL, &location);
+        result.location = location ? location : "";
         result.status = static_cast<std::int32_t>(status);
         result.headers = m_reply.headers();
         result.body = m_reply.body();

@@ -15,6 +15,7 @@ namespace xbr::host {
 /// How a transfer ended: with a status, or with the reason why there is none.
 struct Answer {
     std::int32_t status = 0;
+    std::string location; ///< who answered, after redirects
     ReplyHeaders headers;
     Ref<MemoryStream> body; ///< null when there is none
     Problem problem;        ///< why there is none
@@ -74,6 +75,7 @@ private:
 
     bool configure();
     bool configureMethod();
+    bool configureRedirects();
     bool configureCertificates();
     bool configureCallbacks();
     bool isAnswerWaiting() const;

@@ -1,6 +1,7 @@
 #include "host/net/http/webcredentials.h"
 
 #include "framework/support/objects/text.h"
+#include "host/base/textscan.h"
 #include "host/net/http/request.h"
 
 #include <QByteArray>
@@ -43,7 +44,7 @@ Result WebCredentials::queryInterface(const Uid& interfaceUid, void** out) noexc
 Result WebCredentials::set(Text userName, Text password, Text scheme) noexcept {
     const auto user = view(userName);
     const auto secret = view(password);
-    if (hasControlCharacter(secret)) {
+    if (hasControls(secret)) {
         return kInvalidArgument;
     }
     if (view(scheme) == "Bearer") {
@@ -53,7 +54,7 @@ Result WebCredentials::set(Text userName, Text password, Text scheme) noexcept {
         return kOk;
     }
     // A colon in the name would move the border between name and password (RFC 7617, section 2).
-    if (view(scheme) != "Basic" || hasControlCharacter(user) || user.find(':') != std::string_view::npos) {
+    if (view(scheme) != "Basic" || hasControls(user) || user.find(':') != std::string_view::npos) {
         return kInvalidArgument;
     }
     std::string value = basicValue(user, secret);

@@ -2,6 +2,7 @@
 
 #include "framework/support/objects/text.h"
 #include "host/base/mainthread.h"
+#include "host/base/textscan.h"
 #include "host/net/http/request.h"
 #include "host/net/http/requesturl.h"
 #include "host/net/http/transferloop.h"
@@ -67,7 +68,7 @@ Result WebRequest::setHeader(Text name, Text value) noexcept {
     if (m_state > State::kOpened) {
         return kUnexpected;
     }
-    if (!isToken(view(name)) || hasControlCharacter(view(value)) || isTransportHeader(view(name))) {
+    if (!isToken(view(name)) || hasControls(view(value)) || isTransportHeader(view(name))) {
         return kInvalidArgument;
     }
     m_headers.emplace_back(view(name), view(value));
@@ -100,7 +101,8 @@ Result WebRequest::send(IStream* body, IObserver* handler) noexcept {
     m_exchange = {m_method, m_host, static_cast<bool>(m_credentials), content.exists(), content.size(), 0, 0,
                   {},       {}};
     auto& loop = TransferLoop::instance();
-    auto transfer = Transfer::create({m_method, m_url, m_host, buildHeaders(), std::move(content)}, *this);
+    auto transfer =
+        Transfer::create({m_method, m_url, m_host, buildHeaders(), std::move(content), nullptr}, *this);
     if (!transfer || !loop.start(*transfer)) {
         return kUnexpected;
     }

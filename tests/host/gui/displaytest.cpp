@@ -190,7 +190,7 @@ TEST_F(Display, linksOpenWebAddressesOnly) {
     root->named("title").set(textValue("Tom & Jerry"));
     EXPECT_EQ(link.text().toStdString(), "Tom && Jerry");
     for (const char* refused : {"", "file:///etc/passwd", "javascript:alert(1)", "https:", "http:///x",
-                                "brindlex://x", "no address", "HTTPS//x"}) {
+                                "https://me@example.org/", "brindlex://x", "no address", "HTTPS//x"}) {
         inner->named("title").set(textValue(refused));
         EXPECT_FALSE(link.isEnabled()) << refused;
         QTest::mouseClick(&link, Qt::LeftButton);

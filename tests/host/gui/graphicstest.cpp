@@ -4,6 +4,7 @@
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
 #include "host/base/fileurl.h"
+#include "host/base/listener.h"
 #include "host/gui/hostwidgets.h"
 
 #include <QBuffer>
@@ -11,6 +12,7 @@
 #include <QImage>
 #include <QImageReader>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -53,11 +55,11 @@ std::string claiming(std::uint32_t width, std::uint32_t height) {
     return file.replace(12, header.size() + 4, header + bigEndian(checkSum(header)));
 }
 
-/// Two pictures of 2 x 1 pixels: the first red, the second blue.
-std::string animation() {
+/// Two pictures of 2 x 1 pixels on a larger one: the first red, the second blue.
+std::string animation(char width = 2, char height = 1) {
     const std::string frame = std::string("\x2C\0\0\0\0\x02\0\x01\0\0\x02\x02", 12);
-    return std::string("GIF89a\x02\0\x01\0\x80\0\0", 13) + std::string("\xFF\0\0\0\0\xFF", 6) + frame +
-           std::string("\x04\x0A\0", 3) + frame + std::string("\x0C\x0A\0", 3) + ";";
+    return "GIF89a" + std::string{width, 0, height, 0, '\x80', 0, 0} + std::string("\xFF\0\0\0\0\xFF", 6) +
+           frame + std::string("\x04\x0A\0", 3) + frame + std::string("\x0C\x0A\0", 3) + ";";
 }
 
 Ref<IFileType> typeOf(const char* extension) {
@@ -86,6 +88,10 @@ TEST(Graphics, DecodesWhatItIsToldAndNothingElse) {
     const std::string png = encoded(20, 10, "PNG");
     const std::string jpeg = encoded(20, 10, "JPG");
     const std::string large = encoded(400, 300, "JPG");
+    std::string odd("\xFF\xFE\x01\x02", 4); // a comment that looks like many scans
+    for (int i = 0; i < 128; ++i) {
+        odd += "\xFF\xDA";
+    }
     const std::string svg = "<svg xmlns='http://www.w3.org/2000/svg' width='20' height='10'/>";
     const DecodeCase cases[] = {
         {"png", png, "png", kOk},
@@ -105,6 +111,13 @@ TEST(Graphics, DecodesWhatItIsToldAndNothingElse) {
         {"no pixels", claiming(0, 10), "png", kInvalidArgument},
         {"half a png", png.substr(0, png.size() / 2), "png", kInvalidArgument},
         {"half a jpeg", large.substr(0, large.size() * 3 / 4), "jpg", kInvalidArgument},
+        {"half a gif", animation(20, 10).substr(0, 26), "gif", kInvalidArgument},
+        {"gif with a comment",
+         animation(20, 10).insert(13 + 6, std::string("\x21\xFE\x02"
+                                                      "no\0",
+                                                      6)),
+         "gif", kOk},
+        {"jpeg with odd words", jpeg.substr(0, 2) + odd + jpeg.substr(2), "jpg", kOk},
     };
     for (const auto& one : cases) {
         Ref<IImage> image;
@@ -155,11 +168,11 @@ TEST(Graphics, HoldsSoManyPixelsAtATime) {
         ASSERT_EQ(decode(large, "png", image), kOk);
     }
     Ref<IImage> more;
-    EXPECT_EQ(decode(encoded(4, 4, "PNG"), "png", more), kInvalidArgument);
+    EXPECT_EQ(decode(encoded(4, 4, "PNG"), "png", more), kUnexpected);
     Ref<IImage> shared;
     XBRGetGraphicsHelper()->createHighResolutionImage(alive[0].get(), 10, 10, shared.out());
     alive[0].reset();
-    EXPECT_EQ(decode(large, "png", more), kInvalidArgument) << "the pixels live on in the other image";
+    EXPECT_EQ(decode(large, "png", more), kUnexpected) << "the pixels live on in the other image";
     shared.reset();
     EXPECT_EQ(decode(large, "png", more), kOk);
 }
@@ -180,6 +193,53 @@ TEST(Graphics, ShowsHighResolutionInFewerPoints) {
     EXPECT_EQ(graphics->createHighResolutionImage(image.get(), 0, 50, none.out()), kInvalidArgument);
     EXPECT_EQ(graphics->createHighResolutionImage(nullptr, 1, 1, none.out()), kInvalidArgument);
     EXPECT_GE(graphics->displayScale(), 1.0);
+}
+
+/// Begins to decode beside the loop; what comes of it is for `arrived`.
+Ref<IDecodingTask> begin(const std::string& file, std::int64_t maximumPixels, Listener& arrived) {
+    const auto stream = make<MemoryStream>();
+    stream->write(file);
+    rewind(*stream);
+    Ref<IDecodingTask> task;
+    query<IImageDecoder>(XBRGetGraphicsHelper())
+        ->decodeLater(stream.get(), nullptr, maximumPixels, task.out());
+    arrived.listen(query<ISubject>(task.get()));
+    return task;
+}
+
+TEST(Graphics, DecodesBesideTheLoopToTheSizeThatIsShown) {
+    struct {
+        std::string file;
+        std::int64_t maximumPixels;
+        Result result;
+        QSize pixels, points;
+    } const cases[] = {
+        {encoded(400, 200, "JPG"), 5000, kOk, {100, 50}, {400, 200}},
+        {encoded(400, 200, "PNG"), 80'000, kOk, {400, 200}, {400, 200}},
+        {animation(), 1, kOk, {1, 1}, {2, 1}},
+        {encoded(3000, 1, "PNG"), 100, kOk, {100, 1}, {3000, 1}},
+        {"words", 100, kNotImplemented, {}, {}},
+        {encoded(400, 200, "JPG").substr(0, 500), 100, kInvalidArgument, {}, {}},
+    };
+    for (const auto& one : cases) {
+        int told = 0;
+        Listener arrived([&](ISubject*, const IMessage&) { ++told; });
+        const auto task = begin(one.file, one.maximumPixels, arrived);
+        Ref<IImage> image;
+        EXPECT_EQ(task->getImage(image.out()), kFalse);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return told > 0; }));
+        EXPECT_EQ(task->getImage(image.out()), one.result);
+        if (image) {
+            EXPECT_EQ(QSize(image->pixelWidth(), image->pixelHeight()), one.pixels);
+            EXPECT_EQ(QSize(image->width(), image->height()), one.points);
+        }
+    }
+    const std::string large = encoded(2000, 2000, "PNG");
+    for (int i = 0; i < 20; ++i) { // nobody waits for them
+        Listener gone([](ISubject*, const IMessage&) { FAIL(); });
+        begin(large, 100, gone);
+    }
+    QTest::qWait(50);
 }
 
 TEST(Graphics, LoadsFilesByTheirNames) {

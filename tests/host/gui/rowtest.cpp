@@ -43,9 +43,16 @@ Ref<IImage> picture(int width, int height, int points) {
     return shown;
 }
 
-class TestPicture final : public Implements<Component, IImageSource> {
+class TestPicture final : public Implements<Component, IImageSource, IShownImage> {
 public:
     TestPicture() : Implements("picture") {}
+
+    void beginShowing() noexcept override { ++shows; }
+    void endShowing() noexcept override {
+        --shows;
+        set(nullptr);
+    }
+    bool mayHaveImage() const noexcept override { return isExpected; }
 
     void set(Ref<IImage> image) {
         m_image = std::move(image);
@@ -55,6 +62,9 @@ public:
         *out = Ref<IImage>(m_image).detach();
         return m_image ? kOk : kFalse;
     }
+
+    int shows = 0;
+    bool isExpected = false;
 
 private:
     Ref<IImage> m_image;
@@ -146,6 +156,10 @@ protected:
         }
         return titles;
     }
+    bool hasRow(const std::string& title) const {
+        const auto present = rows();
+        return std::find(present.begin(), present.end(), title) != present.end();
+    }
     QScrollBar& bar() const { return *child<QScrollArea>(*form, "area").verticalScrollBar(); }
 
     TestSkin skin;
@@ -154,7 +168,7 @@ protected:
 };
 
 TEST_F(Rows, areMadeOfWhatComesNearThePersonsSight) {
-    entries->show(1000, "a");
+    entries->show(300, "a");
     open();
     const int first = entries->made();
     EXPECT_GE(first * kRowHeight, 2 * 300); // what is seen, and as much again
@@ -164,12 +178,46 @@ TEST_F(Rows, areMadeOfWhatComesNearThePersonsSight) {
     settleAll();
     EXPECT_GT(entries->made(), first);
     EXPECT_LT(entries->made(), 60);
-    for (int i = 0; i < 200 && entries->made() < 1000; ++i) {
+    for (int i = 0; i < 200 && entries->made() < 300; ++i) {
+        bar().setValue(bar().maximum());
+        settleAll();
+        EXPECT_LT(rows().size(), 80U) << "those far away have gone";
+    }
+    EXPECT_TRUE(hasRow("a299"));
+    EXPECT_FALSE(hasRow("a0"));
+    bar().setValue(bar().maximum() / 2); // as one drags the bar
+    settleAll();
+    EXPECT_FALSE(hasRow("a299"));
+    const auto& area = child<QScrollArea>(*form, "area");
+    int seen = 0;
+    for (const auto* row : form->findChildren<QPushButton*>("open")) {
+        if (row->visibleRegion().isEmpty()) {
+            continue;
+        }
+        const int place = row->mapTo(area.widget(), QPoint()).y() * 300 / area.widget()->height();
+        EXPECT_NEAR(row->text().mid(1).toInt(), place, 1);
+        seen += row->height();
+    }
+    EXPECT_GT(seen, area.viewport()->height() / 2) << "what is seen is there";
+    bar().setValue(0);
+    settleAll();
+    EXPECT_TRUE(hasRow("a0"));
+}
+
+TEST_F(Rows, stayWhileTheyHaveTheFocusAndInTheirOrder) {
+    entries->show(200, "a");
+    open();
+    child<QPushButton>(*form, "open").setFocus();
+    for (int i = 0; i < 10; ++i) {
         bar().setValue(bar().maximum());
         settleAll();
     }
-    EXPECT_EQ(rows().size(), 1000U);
-    EXPECT_EQ(rows().back(), "a999");
+    EXPECT_TRUE(hasRow("a0"));
+    EXPECT_FALSE(hasRow("a1"));
+    bar().setValue(0);
+    settleAll();
+    QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(qobject_cast<QPushButton*>(form->focusWidget())->text(), "a1") << "made anew behind it";
 }
 
 TEST_F(Rows, followTheController) {
@@ -239,6 +287,10 @@ TEST_F(Rows, picturesAreShownAsAWholeAndSharp) {
     form = skin.widget("F", *entries);
     auto& label = child<QLabel>(*form, "shown");
     EXPECT_FALSE(label.isVisible());
+    source->isExpected = true;
+    source->set(nullptr);
+    EXPECT_TRUE(label.isVisible()) << "its place is kept";
+    source->isExpected = false;
     label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
     struct {
         int width, height, points; ///< of the picture
@@ -266,6 +318,9 @@ TEST_F(Rows, picturesAreShownAsAWholeAndSharp) {
     }
     source->set(nullptr);
     EXPECT_FALSE(label.isVisible());
+    EXPECT_EQ(source->shows, 1);
+    form.reset();
+    EXPECT_EQ(source->shows, 0);
 }
 
 TEST_F(Rows, hiddenViewsAreMadeWhenTheyAreShown) {

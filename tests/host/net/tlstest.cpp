@@ -1,5 +1,7 @@
 // Certificates are checked, always.
 
+#include "framework/abi/download.h"
+#include "framework/support/objects/text.h"
 #include "tests/host/net/exchange.h"
 #include "tests/host/net/scriptedserver.h"
 
@@ -44,6 +46,19 @@ TEST_F(Tls, wrongCertificates) {
     trust(elsewhere);
     const ScriptedServer misnamed(answering(answer(200, "private")), &elsewhere);
     EXPECT_EQ(get(misnamed.url()).error, "The certificate of 127.0.0.1 is not trusted.");
+}
+
+TEST_F(Tls, documentsStayWithIt) {
+    const TlsIdentity identity("IP:127.0.0.1");
+    trust(identity);
+    const ScriptedServer plain(answering(answer(200, "changed on the way")));
+    const ScriptedServer secure(answering(answer(302, "", "Location: " + plain.url() + "\r\n")), &identity);
+    Ref<IDownloadTask> task;
+    query<IDownloadService>(XBRGetWebService())->createTask(toText(secure.url()), task.out());
+    task->start();
+    EXPECT_TRUE(spinUntil([&] { return task->state() != DownloadState::kRunning; }));
+    EXPECT_EQ(task->state(), DownloadState::kFailed);
+    EXPECT_EQ(plain.connections(), 0);
 }
 
 TEST_F(Tls, otherFailures) {
