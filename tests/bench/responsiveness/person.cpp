@@ -17,7 +17,7 @@ namespace {
 constexpr int kBeat = 2;
 constexpr double kNanoseconds = 1e6; // a millisecond
 constexpr int kPage = 50;            // milliseconds from one key to the next
-constexpr int kLongest = 600'000;
+constexpr int kLongest = 240'000;
 
 /// The most memory that the process had, in MiB.
 double peakMemory() {
