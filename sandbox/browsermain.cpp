@@ -5,16 +5,12 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
-#include <iostream>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace {
-
-constexpr int kFailed = 1;
-constexpr int kUsage = 2;
 
 constexpr const char* kHelp = R"(Usage: brindlex-browser [options] URL
 
@@ -37,22 +33,20 @@ struct Options {
     std::string program;
     std::string url;
     bool deny = false;
-    bool help = false;
 };
 
 Options readOptions(const std::vector<std::string>& words) {
     Options options;
     sandbox::CommandLine line;
-    line.addSwitch("--help", options.help);
     line.addSwitch("--deny", options.deny);
     line.addOption("--user", options.account.user);
     line.addOption("--password", options.account.password);
     line.addOption("--open-with", options.program);
     const auto arguments = line.parse(words);
-    if (arguments.size() != 1 && !options.help) {
+    if (arguments.size() != 1) {
         throw sandbox::UsageError("exactly one URL is needed");
     }
-    options.url = arguments.empty() ? "" : arguments.front();
+    options.url = arguments.front();
     return options;
 }
 
@@ -79,7 +73,7 @@ std::string callbackProgram(const std::string& given) {
 
 // Runs a program (found in PATH when its name has no '/') without a shell and waits for it. Returns its exit
 // code, or 128 plus the signal that ended it. Throws std::system_error when it cannot be started.
-int runProgram(const std::vector<std::string>& words) {
+int runAndWait(const std::vector<std::string>& words) {
     auto copies = words;
     std::vector<char*> pointers;
     pointers.reserve(copies.size() + 1);
@@ -104,24 +98,12 @@ int runProgram(const std::vector<std::string>& words) {
 int visit(const Options& options) {
     const sandbox::Visitor visitor(options.account.user, options.account.password, !options.deny);
     const auto callback = visitor.authorize(options.url);
-    return runProgram({callbackProgram(options.program), "open-url", callback});
+    return runAndWait({callbackProgram(options.program), "open-url", callback});
 }
 
 } // namespace
 
 int main(int count, char** words) {
-    try {
-        const auto options = readOptions({words + 1, words + count});
-        if (options.help) {
-            std::cout << kHelp;
-            return 0;
-        }
-        return visit(options);
-    } catch (const sandbox::UsageError& error) {
-        std::cerr << "brindlex-browser: " << error.what() << "\nTry 'brindlex-browser --help'.\n";
-        return kUsage;
-    } catch (const std::exception& error) {
-        std::cerr << "brindlex-browser: " << error.what() << '\n';
-        return kFailed;
-    }
+    return sandbox::runProgram("brindlex-browser", kHelp, {words + 1, words + count},
+                               [](const auto& rest) { return visit(readOptions(rest)); });
 }

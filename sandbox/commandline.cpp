@@ -1,6 +1,8 @@
 #include "sandbox/commandline.h"
 
+#include <algorithm>
 #include <charconv>
+#include <iostream>
 
 namespace sandbox {
 
@@ -32,6 +34,25 @@ std::vector<std::string> CommandLine::parse(const std::vector<std::string>& word
         option->second(equals == std::string::npos ? words[i] : word.substr(equals + 1));
     }
     return arguments;
+}
+
+int runProgram(const std::string& name, const char* help, const std::vector<std::string>& words,
+               const std::function<int(const std::vector<std::string>&)>& work) {
+    constexpr int kFailed = 1;
+    constexpr int kUsage = 2;
+    try {
+        if (std::find(words.begin(), words.end(), "--help") != words.end()) {
+            std::cout << help;
+            return 0;
+        }
+        return work(words);
+    } catch (const UsageError& error) {
+        std::cerr << name << ": " << error.what() << "\nTry '" << name << " --help'.\n";
+        return kUsage;
+    } catch (const std::exception& error) {
+        std::cerr << name << ": " << error.what() << '\n';
+        return kFailed;
+    }
 }
 
 int numberFrom(const std::string& option, const std::string& text, int least, int most) {

@@ -31,6 +31,12 @@ private:
     std::map<std::string, bool*> m_switches;
 };
 
+// The main() of a program: prints `help` when it is asked for, else does `work` with the words behind the
+// program's name and answers its exit code. Tells on standard error what was thrown (2 for a UsageError, else
+// 1).
+int runProgram(const std::string& name, const char* help, const std::vector<std::string>& words,
+               const std::function<int(const std::vector<std::string>&)>& work);
+
 // A whole number from `least` to `most`. Throws UsageError, naming the option.
 int numberFrom(const std::string& option, const std::string& text, int least, int most);
 

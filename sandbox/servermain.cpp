@@ -13,9 +13,6 @@
 
 namespace {
 
-constexpr int kFailed = 1;
-constexpr int kUsage = 2;
-
 constexpr const char* kHelp = R"(Usage: brindlex-sandbox --inbox DIR [options]
 
 Plays the music distribution service on this computer (127.0.0.1) until it gets SIGTERM or SIGINT.
@@ -40,13 +37,11 @@ struct Options {
     std::string portFile;
     std::string settingsFile; ///< for xbrhost
     int port = 0;
-    bool help = false;
 };
 
 Options readOptions(const std::vector<std::string>& words) {
     Options options;
     sandbox::CommandLine line;
-    line.addSwitch("--help", options.help);
     line.addOption("--inbox", options.inbox);
     line.addOption("--log", options.log);
     line.addOption("--port-file", options.portFile);
@@ -65,7 +60,7 @@ Options readOptions(const std::vector<std::string>& words) {
     if (!arguments.empty()) {
         throw sandbox::UsageError("unexpected argument '" + arguments.front() + "'");
     }
-    if (options.inbox.empty() && !options.help) {
+    if (options.inbox.empty()) {
         throw sandbox::UsageError("option --inbox is missing");
     }
     return options;
@@ -148,19 +143,8 @@ void serve(const Options& options) {
 } // namespace
 
 int main(int count, char** words) {
-    try {
-        const auto options = readOptions({words + 1, words + count});
-        if (options.help) {
-            std::cout << kHelp;
-            return 0;
-        }
-        serve(options);
+    return sandbox::runProgram("brindlex-sandbox", kHelp, {words + 1, words + count}, [](const auto& rest) {
+        serve(readOptions(rest));
         return 0;
-    } catch (const sandbox::UsageError& error) {
-        std::cerr << "brindlex-sandbox: " << error.what() << "\nTry 'brindlex-sandbox --help'.\n";
-        return kUsage;
-    } catch (const std::exception& error) {
-        std::cerr << "brindlex-sandbox: " << error.what() << '\n';
-        return kFailed;
-    }
+    });
 }
