@@ -40,7 +40,6 @@ enum class Fault : std::uint8_t {
     kServerFault,    ///< the service failed
 
     // The program
-    kSettings, ///< the settings are missing or wrong
     kModule,   ///< the module cannot do what it is asked for
     kWish,     ///< what the user asks for makes no sense
     kCancelled ///< by the user

@@ -1,14 +1,18 @@
 #pragma once
 
 #include "host/system/files/backgroundwork.h"  // setWorkProgress
-#include "host/system/files/fileproblem.h"     // setFileProblemListener, takeFileProblem
+#include "host/system/files/fileproblem.h"     // setFileProblemListener
 #include "host/system/files/temporaryfolder.h" // removeTemporaryFolder
-#include "host/system/systemshell.h"           // BrowserAnnouncer
 
 #include <functional>
+#include <string_view>
 
 /// What the host program sets up in this library. Modules never use it.
 namespace xbr::host {
+
+/// Is told the URL before a browser is started for it, so that a front end can show it. Answers true when the
+/// user can reach the URL without that browser; opening it is a success then in any case.
+using BrowserAnnouncer = std::function<bool(std::string_view url)>;
 
 /// Replaces the announcer; an empty function removes it. Main thread.
 [[gnu::visibility("default")]] void setBrowserAnnouncer(BrowserAnnouncer announcer);

@@ -1,5 +1,3 @@
-#include "host/text/json.h"
-
 #include "framework/abi/textformats.h"
 #include "framework/support/data/attributes.h"
 #include "framework/support/objects/text.h"
@@ -15,6 +13,11 @@
 namespace xbr::host {
 
 namespace {
+
+/// Objects and arrays inside each other, the document itself included.
+constexpr std::size_t kMaximumJsonDepth = 64;
+
+constexpr std::uint64_t kMaximumJsonSize = std::uint64_t{64} << 20U;
 
 /// Builds the tree while the document is read, so that a document's depth is refused before it costs
 /// anything.

@@ -11,11 +11,11 @@
 #include "host/system/hostsystem.h"
 #include "sandbox/pages/settings.h"
 #include "sandbox/visitor.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QThread>
 
 #include <fstream>
 #include <random>
@@ -142,18 +142,8 @@ xbr::Ref<xbr::ObjectList> songsOf(const std::vector<fs::path>& files) {
     return songs;
 }
 
-/// Runs the event loop until the condition holds; false when that takes too long.
 bool runUntil(const std::function<bool()>& condition) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition()) {
-        if (clock.elapsed() > 30'000) {
-            return false;
-        }
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        QThread::msleep(1);
-    }
-    return true;
+    return xbr::host::runUntil(condition, 30'000);
 }
 
 const xbr::ClassDescription kDialog{0, xbr::IDialog::kClassUid, {}, {}, {}, {}};

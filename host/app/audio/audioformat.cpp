@@ -22,12 +22,12 @@ constexpr Container kContainers[] = {
     {SF_FORMAT_AIFF, "AIFF"}, {SF_FORMAT_FLAC, "FLAC"}, {SF_FORMAT_OGG, "Ogg"},  {SF_FORMAT_MPEG, "MP3"},
 };
 
-struct Depth {
+struct SampleBits {
     int format; ///< of libsndfile
     int bits;
 };
 
-constexpr Depth kDepths[] = {
+constexpr SampleBits kSampleBits[] = {
     {SF_FORMAT_PCM_S8, 8},  {SF_FORMAT_PCM_U8, 8},   {SF_FORMAT_PCM_16, 16},
     {SF_FORMAT_PCM_24, 24}, {SF_FORMAT_PCM_32, 32},  {SF_FORMAT_FLOAT, 32},
     {SF_FORMAT_DOUBLE, 64}, {SF_FORMAT_ALAC_16, 16}, {SF_FORMAT_ALAC_24, 24},
@@ -41,10 +41,10 @@ std::string nameOf(int format) {
 }
 
 int bitsOf(int format) {
-    const auto* found = std::find_if(std::begin(kDepths), std::end(kDepths), [format](auto& each) {
+    const auto* found = std::find_if(std::begin(kSampleBits), std::end(kSampleBits), [format](auto& each) {
         return each.format == (format & SF_FORMAT_SUBMASK);
     });
-    return found == std::end(kDepths) ? 0 : found->bits;
+    return found == std::end(kSampleBits) ? 0 : found->bits;
 }
 
 /// Programs that cut songs leave the count of the whole in there; but what holds next to nothing of it was

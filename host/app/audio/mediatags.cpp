@@ -3,16 +3,10 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "host/app/audio/mediasignature.h"
-#include "host/app/audio/tagbounds.h"
+#include "host/app/audio/tagreader.h"
 #include "host/base/fileurl.h"
 
 #include <sndfile.h>
-#include <taglib/fileref.h>
-#include <taglib/flacfile.h>
-#include <taglib/id3v2tag.h>
-#include <taglib/infotag.h>
-#include <taglib/mpegfile.h>
-#include <taglib/tpropertymap.h>
 #include <taglib/wavfile.h>
 
 #include <algorithm>
@@ -32,51 +26,6 @@ constexpr Field kTexts[] = {
     {"ALBUM", "Media:Album"}, {"ALBUMARTIST", "Media:AlbumArtist"},
     {"GENRE", "Media:Genre"},
 };
-
-/// The INFO chunk names no encoding. What is not UTF-8 was written by a program of the Windows world.
-class InfoTextHandler final : public TagLib::RIFF::Info::StringHandler {
-public:
-    TagLib::String parse(const TagLib::ByteVector& data) const override {
-        const std::string text = data.data() ? std::string(data.data(), data.size()) : std::string();
-        const auto end = std::min(text.find('\0'), text.size());
-        const TagLib::String decoded(text.substr(0, end), TagLib::String::UTF8);
-        return decoded.isEmpty() ? TagLib::String(text.substr(0, end), TagLib::String::Latin1) : decoded;
-    }
-};
-
-/// What the ID3v2 chunk lacks is taken from the INFO chunk: programs write the one, the other or both.
-TagLib::PropertyMap wavProperties(const std::string& path) {
-    TagLib::RIFF::WAV::File file(path.c_str(), false);
-    TagLib::PropertyMap properties;
-    if (file.hasID3v2Tag()) {
-        properties = file.ID3v2Tag()->properties();
-    }
-    if (file.hasInfoTag()) {
-        TagLib::PropertyMap info = file.InfoTag()->properties();
-        const TagLib::String track = file.InfoTag()->fieldText("ITRK");
-        if (!track.isEmpty()) {
-            info.insert("TRACKNUMBER", track);
-        }
-        for (const auto& [name, values] : info) {
-            if (!properties.contains(name)) {
-                properties.insert(name, values);
-            }
-        }
-    }
-    return properties;
-}
-
-/// Audio properties are not read: finding the length of an MP3 may take the whole file.
-TagLib::PropertyMap propertiesOf(const std::string& path, MediaKind kind) {
-    switch (kind) {
-    case MediaKind::kWav:
-        return wavProperties(path);
-    case MediaKind::kFlac:
-        return TagLib::FLAC::File(path.c_str(), false).properties();
-    default:
-        return TagLib::MPEG::File(path.c_str(), false).properties();
-    }
-}
 
 std::string textOf(const TagLib::PropertyMap& properties, const char* name) {
     const auto found = properties.find(name);
@@ -135,11 +84,7 @@ TagLib::PropertyMap formatProperties(const std::string& path) {
 } // namespace
 
 MediaTags readForeignTags(const std::string& path) {
-    TagLib::PropertyMap properties;
-    if (areForeignTagsBounded(path)) {
-        const TagLib::FileRef file(path.c_str(), false);
-        properties = file.isNull() ? properties : file.file()->properties();
-    }
+    TagLib::PropertyMap properties = readProperties(path, MediaKind::kUnknown);
     for (const auto& [name, values] : formatProperties(path)) {
         if (!properties.contains(name)) {
             properties.insert(name, values);
@@ -185,15 +130,11 @@ Ref<Attributes> attributesOf(const MediaTags& tags) {
 }
 
 std::optional<MediaTags> readTags(const std::string& path) {
-    [[maybe_unused]] static const bool isHandlerSet = [] {
-        TagLib::RIFF::Info::Tag::setStringHandler(new InfoTextHandler); // used until the process ends
-        return true;
-    }();
     const MediaKind kind = recognise(path);
     if (kind == MediaKind::kUnreadable || kind == MediaKind::kUnknown) {
         return std::nullopt;
     }
-    return areTagsBounded(path, kind) ? tagsOf(propertiesOf(path, kind)) : MediaTags{};
+    return tagsOf(readProperties(path, kind));
 }
 
 Result MediaFileInfo::open(Text url) noexcept {

@@ -18,61 +18,57 @@ namespace {
 
 constexpr sf_count_t kFramesAtOnce = 1 << 16;
 
-sf_count_t readFrames(SNDFILE* file, int* frames, sf_count_t count) {
-    return sf_readf_int(file, frames, count);
-}
-sf_count_t readFrames(SNDFILE* file, float* frames, sf_count_t count) {
-    return sf_readf_float(file, frames, count);
-}
-sf_count_t readFrames(SNDFILE* file, double* frames, sf_count_t count) {
-    return sf_readf_double(file, frames, count);
-}
-sf_count_t writeFrames(SNDFILE* file, const int* frames, sf_count_t count) {
-    return sf_writef_int(file, frames, count);
-}
-sf_count_t writeFrames(SNDFILE* file, const float* frames, sf_count_t count) {
-    return sf_writef_float(file, frames, count);
-}
-sf_count_t writeFrames(SNDFILE* file, const double* frames, sf_count_t count) {
-    return sf_writef_double(file, frames, count);
-}
-
 template <class Sample>
-RenderResult copyFrames(const SoundFile& source, const SoundFile& target, const RenderProgress& goOn,
-                        std::string& error) {
-    const sf_count_t total = source.info().frames;
-    std::vector<Sample> buffer(static_cast<std::size_t>(kFramesAtOnce) *
-                               static_cast<std::size_t>(source.info().channels));
-    for (sf_count_t done = 0; done < total;) {
-        const sf_count_t came = readFrames(source.handle(), buffer.data(), kFramesAtOnce);
-        if (came <= 0) {
-            error = "is damaged: its audio cannot be read to the end";
-            return RenderResult::kFailed;
-        }
-        if (writeFrames(target.handle(), buffer.data(), came) != came) {
-            error = "cannot be rendered to WAV: " + target.lastError();
-            return RenderResult::kFailed;
-        }
-        done += came;
-        if (!goOn(static_cast<double>(done) / static_cast<double>(total))) {
-            return RenderResult::kGivenUp;
-        }
-    }
-    return RenderResult::kDone;
+using Access = sf_count_t (*)(SNDFILE*, Sample*, sf_count_t);
+
+Problem problemOf(const std::string& song, Fault fault, const std::string& words) {
+    return {fault, song, 0, words, {}, {}};
 }
 
-RenderResult copy(const SoundFile& source, const SoundFile& target, SampleForm form,
-                  const RenderProgress& goOn, std::string& error) {
-    switch (form) {
-    case SampleForm::kInteger:
-        return copyFrames<int>(source, target, goOn, error);
-    case SampleForm::kFloat:
-        return copyFrames<float>(source, target, goOn, error);
-    case SampleForm::kDouble:
-        break;
-    }
-    return copyFrames<double>(source, target, goOn, error);
+Problem unwritten(const std::string& song, const std::string& reason) {
+    return problemOf(song, Fault::kNotWritable, "cannot be rendered to WAV: " + reason);
 }
+
+/// A song on its way into a file.
+struct Rendering {
+    const std::string& song;
+    const SoundFile& source;
+    const SoundFile& target;
+    const RenderProgress& goOn;
+
+    template <class Sample>
+    Outcome<void> copy(Access<Sample> read, Access<const Sample> write) const {
+        const sf_count_t total = source.info().frames;
+        std::vector<Sample> buffer(static_cast<std::size_t>(kFramesAtOnce) *
+                                   static_cast<std::size_t>(source.info().channels));
+        for (sf_count_t done = 0; done < total;) {
+            const sf_count_t came = read(source.handle(), buffer.data(), kFramesAtOnce);
+            if (came <= 0) {
+                return problemOf(song, Fault::kCutShort, "is damaged: its audio cannot be read to the end");
+            }
+            if (write(target.handle(), buffer.data(), came) != came) {
+                return unwritten(song, target.lastError());
+            }
+            done += came;
+            if (!goOn(static_cast<double>(done) / static_cast<double>(total))) {
+                return problemOf(song, Fault::kCancelled, {});
+            }
+        }
+        return {};
+    }
+
+    Outcome<void> copyAs(SampleForm form) const {
+        switch (form) {
+        case SampleForm::kInteger:
+            return copy<int>(&sf_readf_int, &sf_writef_int);
+        case SampleForm::kFloat:
+            return copy<float>(&sf_readf_float, &sf_writef_float);
+        case SampleForm::kDouble:
+            break;
+        }
+        return copy<double>(&sf_readf_double, &sf_writef_double);
+    }
+};
 
 namespace fs = std::filesystem;
 
@@ -126,12 +122,10 @@ private:
 
 } // namespace
 
-RenderResult renderToWav(const std::string& from, const std::string& to, const RenderProgress& goOn,
-                         std::string& error) {
+Outcome<void> renderToWav(const std::string& from, const std::string& to, const RenderProgress& goOn) {
     auto source = SoundFile::open(from);
     if (!source) {
-        error = source.problem().words;
-        return RenderResult::kFailed;
+        return source.problem();
     }
     const WavFormat format = wavFormatFor(source->info());
     SF_INFO info{};
@@ -140,15 +134,13 @@ RenderResult renderToWav(const std::string& from, const std::string& to, const R
     info.format = format.format;
     auto target = SoundFile::create(to, info);
     if (!target) {
-        error = "cannot be rendered to WAV: " + target.problem().words;
-        return RenderResult::kFailed;
+        return unwritten(from, target.problem().words);
     }
-    RenderResult result = copy(*source, *target, format.samples, goOn, error);
-    if (!target->close() && result == RenderResult::kDone) {
-        error = "cannot be rendered to WAV: the file cannot be finished";
-        result = RenderResult::kFailed;
+    auto result = Rendering{from, *source, *target, goOn}.copyAs(format.samples);
+    if (!target->close() && result) {
+        result = unwritten(from, "the file cannot be finished");
     }
-    if (result != RenderResult::kDone) {
+    if (!result) {
         std::error_code ignored; // what stays goes with the folder that it is in
         std::filesystem::remove(to, ignored);
     }
@@ -170,16 +162,14 @@ RenderedSongs::~RenderedSongs() {
     }
 }
 
-RenderResult RenderedSongs::render(const std::string& song, const std::string& path, std::string& error) {
+Outcome<void> RenderedSongs::render(const std::string& song, const std::string& path) {
     std::error_code failed;
     fs::create_directories(m_folder, failed);
     if (m_folder.empty() || failed) {
-        error = "cannot be rendered to WAV: there is no temporary folder";
-        return RenderResult::kFailed;
+        return unwritten(song, "there is no temporary folder");
     }
     Indicator indicator(song);
-    return renderToWav(
-        song, path, [&indicator](double fraction) { return indicator.tell(fraction); }, error);
+    return renderToWav(song, path, [&indicator](double fraction) { return indicator.tell(fraction); });
 }
 
 } // namespace xbr::host

@@ -39,10 +39,6 @@ public:
 private:
     SoundFile(SNDFILE* file, const SF_INFO& info) : m_file(file), m_info(info) {}
 
-    /// Compares what the file says with what it holds.
-    Problem check(const std::string& path);
-    bool hasLastFrame();
-
     SNDFILE* m_file;
     SF_INFO m_info;
 };

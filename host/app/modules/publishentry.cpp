@@ -4,11 +4,8 @@
 #include "framework/support/objects/text.h"
 
 #include <filesystem>
-#include <unistd.h>
 
 namespace xbr::host {
-
-namespace fs = std::filesystem;
 
 std::vector<PublishEntry> findPublishEntries() {
     static constexpr std::string_view kCategory = "Publisher";
@@ -51,20 +48,8 @@ Result PublishedItems::next(IObject** out) noexcept {
     return kOk;
 }
 
-std::string problemOfFile(const std::string& path) {
-    std::error_code failed;
-    const auto status = fs::status(path, failed);
-    if (!fs::exists(status)) {
-        return "is not there";
-    }
-    if (!fs::is_regular_file(status)) {
-        return "is not a file";
-    }
-    return access(path.c_str(), R_OK) == 0 ? "" : "cannot be read";
-}
-
 Ref<IFileType> fileTypeOf(const std::string& path) {
-    const std::string extension = fs::path(path).extension().string();
+    const std::string extension = std::filesystem::path(path).extension().string();
     const std::string name = extension.size() > 1 ? extension.substr(1) : "audio";
     Ref<IFileType> type;
     if (XBRGetFileTypeRegistry()->getTypeByExtension(toText(name), type.out()) != kOk) {

@@ -49,10 +49,6 @@ private:
     std::size_t m_next = 0;
 };
 
-/// Why a file cannot be published, in words that follow its name; empty when it is a regular file that can be
-/// read.
-std::string problemOfFile(const std::string& path);
-
 /// The type of a file by its extension, known to the registry or not; of a name without one, that of some
 /// audio.
 Ref<IFileType> fileTypeOf(const std::string& path);

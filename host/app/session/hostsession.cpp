@@ -1,7 +1,6 @@
 #include "host/app/session/hostsession.h"
 
 #include "framework/support/objects/text.h"
-#include "host/app/modules/modulesearch.h"
 #include "host/gui/hostgui.h"
 #include "host/security/hostsecurity.h"
 #include "host/system/hostsystem.h"

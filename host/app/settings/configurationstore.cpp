@@ -37,28 +37,7 @@ void examine(const Settings& settings, ConfigurationReport& report) {
     }
 }
 
-std::string joined(const std::vector<std::string>& keys) {
-    std::string text;
-    for (const std::string& key : keys) {
-        text += (text.empty() ? "" : ", ") + key;
-    }
-    return text;
-}
-
 } // namespace
-
-std::string describeProblem(const ConfigurationReport& report) {
-    const std::string where = "'" + report.path + "', section [" + report.id + "]";
-    if (report.result == ConfigurationResult::kUnreadable) {
-        return report.title + " is not configured: the settings cannot be read from " + where;
-    }
-    if (report.missingKeys.empty() && !report.wrongKeys.empty()) {
-        return report.title + " is not configured: " + joined(report.wrongKeys) +
-               (report.wrongKeys.size() == 1 ? " is" : " are") + " no web address in " + where;
-    }
-    return report.title + " is not configured: put " + joined(report.missingKeys) +
-           " (one \"key = value\" a line) into " + where;
-}
 
 Result ConfigurationStore::load(IAttributes* out, Text id, Text title, std::int32_t profile,
                                 std::int32_t mode) noexcept {

@@ -28,9 +28,6 @@ struct ConfigurationReport {
     }
 };
 
-/// What to tell the user about settings that are missing, wrong or cannot be read, in one line.
-std::string describeProblem(const ConfigurationReport& report);
-
 /// Reads the settings of a module from the user's configuration file.
 class ConfigurationStore final : public Object<IConfigurationStore> {
 public:

@@ -7,19 +7,21 @@
 
 namespace xbr::host {
 
-/// Tells the host program of something that could not be written or copied for a module. `what` says it in
-/// plain words; only those of the first problem are kept until `takeFileProblem` takes them: the others
-/// follow from it.
-void noteFileProblem(const std::string& what, const Problem& problem);
-
 /// For front ends: hears of everything that modules could not read, write or copy, from within their calls;
-/// an empty function ends it. Main thread.
+/// an empty function ends it. Modules are silent about it. Main thread.
 [[gnu::visibility("default")]] void setFileProblemListener(std::function<void(const Problem&)> hears);
 
-/// For front ends: the first thing since the last call that modules could not write or copy, in plain words
-/// that name the system's reason ("'/music/a.wav' cannot be copied: No space left on device"); empty when
-/// there was none. Modules are silent about it: a front end asks when something that a module prepared did
-/// not come about. Main thread.
-[[gnu::visibility("default")]] std::string takeFileProblem();
+/// Tells the host program of something that could not be read, written or copied for a module.
+void noteFileProblem(const Problem& problem);
+
+/// A file that was to be written or copied for a module did not come about whole. Modules go on as if it
+/// had; a package refuses a folder that holds one, so that nothing incomplete is ever sent. Main thread.
+void noteIncompleteFile(const std::string& path);
+
+/// The file was written anew, or is gone. For a folder: all that it held.
+void forgetIncompleteFiles(const std::string& path);
+
+/// A file of that kind somewhere in a folder; empty when there is none.
+std::string incompleteFileIn(const std::string& folder);
 
 } // namespace xbr::host

@@ -2,7 +2,6 @@
 
 #include "host/system/files/backgroundwork.h"
 #include "host/system/files/fileproblem.h"
-#include "host/system/files/incompletefiles.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -106,7 +105,7 @@ FileStream::~FileStream() {
 }
 
 void FileStream::writingFailed(int error) {
-    noteFileProblem("'" + m_path + "' cannot be written", fileProblem(m_path, error, Fault::kNotWritable));
+    noteFileProblem(fileProblem(m_path, error, Fault::kNotWritable));
     noteIncompleteFile(m_path);
 }
 

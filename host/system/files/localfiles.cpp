@@ -5,11 +5,10 @@
 #include "host/base/mainthread.h"
 #include "host/base/textscan.h"
 #include "host/system/files/backgroundwork.h"
-#include "host/system/files/copyfile.h"
 #include "host/system/files/fileproblem.h"
 #include "host/system/files/filestore.h"
 #include "host/system/files/filestream.h"
-#include "host/system/files/incompletefiles.h"
+#include "host/system/files/pendingfile.h"
 #include "host/system/files/temporaryfolder.h"
 
 #include <cerrno>
@@ -111,7 +110,7 @@ Result FileSystem::createFile(Text url, IStream** out) noexcept {
     }
     auto file = makeParents(*path) ? openRegularFile(*path, O_RDWR | O_CREAT | O_TRUNC) : FileDescriptor();
     if (!file.isOpen()) {
-        noteFileProblem("'" + *path + "' cannot be created", fileProblem(*path, errno, Fault::kNotWritable));
+        noteFileProblem(fileProblem(*path, errno, Fault::kNotWritable));
         noteIncompleteFile(*path);
         return kUnexpected;
     }
@@ -136,7 +135,7 @@ Result FileSystem::copyFile(Text from, Text to) noexcept {
         return isCopied ? kOk : stop.stop_requested() ? kFalse : kUnexpected;
     });
     if (result == kUnexpected) {
-        noteFileProblem("'" + *source + "' cannot be copied", copyProblem(*source, *target, error));
+        noteFileProblem(copyProblem(*source, *target, error));
     }
     if (result != kOk) {
         noteIncompleteFile(*target); // also when an older file of that name is still there

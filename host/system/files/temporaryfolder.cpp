@@ -30,8 +30,7 @@ std::string makeFolder() {
     if (mkdtemp(path.data())) {
         return path;
     }
-    noteFileProblem("no temporary folder can be made in '" + place + "' (TMPDIR names the place)",
-                    {Fault::kNoTemporaryFolder, place, errno, wordsOfErrno(errno), {}, {}});
+    noteFileProblem({Fault::kNoTemporaryFolder, place, errno, wordsOfErrno(errno), {}, {}});
     return {};
 }
 

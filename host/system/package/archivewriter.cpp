@@ -1,7 +1,6 @@
 #include "host/system/package/archivewriter.h"
 
 #include "host/system/package/archivesink.h"
-#include "host/system/package/deflatetrial.h"
 #include "host/system/package/packageinput.h"
 
 #include <deque>
@@ -15,20 +14,6 @@ struct DiscardArchive {
     void operator()(zip_t* archive) const noexcept { zip_discard(archive); }
 };
 
-/// False when stopped.
-bool chooseMethods(std::vector<PackageEntry>& entries, PackageProgress& progress,
-                   const std::stop_token& stop) {
-    DeflateTrial trial;
-    for (auto& entry : entries) {
-        progress.start(entry.name);
-        entry.isDeflated = trial.gains(entry);
-        if (stop.stop_requested()) {
-            return false;
-        }
-    }
-    return true;
-}
-
 bool addEntry(zip_t* archive, const PackageEntry& entry, PackageInput& input) {
     zip_source_t* source = input.source(archive);
     const auto index = source ? zip_file_add(archive, entry.name.c_str(), source, ZIP_FL_ENC_UTF_8) : -1;
@@ -40,22 +25,17 @@ bool addEntry(zip_t* archive, const PackageEntry& entry, PackageInput& input) {
            zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_STORE, 0) == 0;
 }
 
-PackageProblem unwritten(const std::string& path, int error) {
-    return {"'" + path + "' cannot be written", fileProblem(path, error, Fault::kNotWritable)};
-}
-
-PackageProblem problemOf(zip_t* archive, const std::string& path, const std::string& name) {
+Problem problemOf(zip_t* archive, const std::string& path, const std::string& name) {
     zip_error_t* const error = zip_get_error(archive);
     if (zip_error_code_zip(error) == ZIP_ER_CHANGED) {
-        return {"'" + name + "' cannot be read, or was changed while it was packed",
-                {Fault::kChanged, name, 0, {}, {}, {}}};
+        return {Fault::kChanged, name, 0, {}, {}, {}};
     }
     const bool isSystems = zip_error_system_type(error) == ZIP_ET_SYS;
-    return unwritten(path, isSystems ? zip_error_code_system(error) : 0);
+    return fileProblem(path, isSystems ? zip_error_code_system(error) : 0, Fault::kNotWritable);
 }
 
 bool write(const std::string& path, const std::vector<PackageEntry>& entries, PackageProgress& progress,
-           const std::stop_token& stop, PackageProblem& problem) {
+           const std::stop_token& stop, Problem& problem) {
     ArchiveSink sink(path, stop);
     PackagePipeline pipeline(entries);
     std::deque<PackageInput> inputs;
@@ -80,15 +60,16 @@ bool write(const std::string& path, const std::vector<PackageEntry>& entries, Pa
 } // namespace
 
 Result writeArchive(const std::string& path, std::vector<PackageEntry> entries, bool isCompressed,
-                    PackageProgress& progress, const std::stop_token& stop, PackageProblem& problem) {
-    problem = unwritten(path, 0);
+                    PackageProgress& progress, const std::stop_token& stop, Problem& problem) {
+    problem = fileProblem(path, 0, Fault::kNotWritable);
     // libzip writes no archive without entries.
     if (entries.empty()) {
         return kUnexpected;
     }
-    const bool isWritten = (!isCompressed || chooseMethods(entries, progress, stop)) &&
-                           write(path, entries, progress, stop, problem);
-    if (isWritten) {
+    for (PackageEntry& entry : entries) {
+        entry.isDeflated = isCompressed;
+    }
+    if (write(path, entries, progress, stop, problem)) {
         return kOk;
     }
     return stop.stop_requested() ? kFalse : kUnexpected;

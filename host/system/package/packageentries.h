@@ -1,6 +1,8 @@
 #pragma once
 
+#include "framework/abi/result.h"
 #include "host/base/filedescriptor.h"
+#include "host/system/files/backgroundwork.h"
 #include "host/system/files/filestream.h"
 
 #include <cstddef>
@@ -8,6 +10,7 @@
 #include <mutex>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace xbr::host {
 
@@ -18,6 +21,15 @@ struct PackageEntry {
     FileIdentity identity;
     bool isDeflated = false; ///< otherwise stored
 };
+
+/// Notes every file below `folder`, sorted by name with the files of a folder before its subfolders, so that
+/// the same contents make the same archive. Folders have no entries of their own.
+///
+/// kUnexpected when something cannot be read or is neither file nor folder: leaving a link or a device out
+/// without a word would make an incomplete archive, and following one could lead anywhere. kFalse when
+/// stopped. `entries` may be incomplete then.
+Result scanFolder(const std::string& folder, PackageProgress& progress, const std::stop_token& stop,
+                  std::vector<PackageEntry>& entries);
 
 /// Reads an entry's file, and tells when it is not the file that was added. Several threads may read at once.
 class PackageSource {

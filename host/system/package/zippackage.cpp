@@ -4,9 +4,7 @@
 #include "host/base/fileurl.h"
 #include "host/base/mainthread.h"
 #include "host/system/files/fileproblem.h"
-#include "host/system/files/incompletefiles.h"
 #include "host/system/package/archivewriter.h"
-#include "host/system/package/folderscan.h"
 
 #include <filesystem>
 #include <iterator>
@@ -66,7 +64,7 @@ Result ZipPackage::addFolder(Text folder, std::int32_t mode, IProgress* progress
     const Result result = runReporting(
         progress, state, [&](const std::stop_token& stop) { return scanFolder(*path, state, stop, added); });
     if (result == kUnexpected) {
-        noteFileProblem("'" + *path + "' cannot be read", {Fault::kUnreadable, *path, 0, {}, {}, {}});
+        noteFileProblem({Fault::kUnreadable, *path, 0, {}, {}, {}});
     }
     const std::string incomplete = incompleteFileIn(*path);
     if (result == kOk && incomplete.empty()) {
@@ -77,8 +75,7 @@ Result ZipPackage::addFolder(Text folder, std::int32_t mode, IProgress* progress
     // An archive without something that it was told to hold is never written.
     m_state = State::kRefused;
     if (!incomplete.empty()) {
-        noteFileProblem("'" + incomplete + "' is not complete",
-                        {Fault::kUnreadable, incomplete, 0, {}, {}, {}});
+        noteFileProblem({Fault::kUnreadable, incomplete, 0, {}, {}, {}});
     }
     return result == kFalse ? kFalse : kUnexpected;
 }
@@ -104,13 +101,13 @@ Result ZipPackage::write(IProgress* progress) {
     if (!m_entries.empty()) {
         state.start(m_entries.front().name);
     }
-    PackageProblem problem;
+    Problem problem;
     const Result result = runReporting(progress, state, [&](const std::stop_token& stop) {
         return writeArchive(m_path, std::move(m_entries), m_isCompressed, state, stop, problem);
     });
     m_entries.clear();
     if (result == kUnexpected) {
-        noteFileProblem(problem.what, problem.problem);
+        noteFileProblem(problem);
     }
     if (progress && result == kOk) {
         progress->update(1.0, Text{});
@@ -128,4 +125,20 @@ Result ZipPackage::close() noexcept {
     return kOk;
 }
 
+Result PackageHandler::createPackage(const Uid& type, Text url, IPackage** out) noexcept {
+    assertMainThread();
+    *out = nullptr;
+    auto path = localPath(view(url));
+    if (!(type == kZipPackage) || !path || path->ends_with('/')) {
+        return kInvalidArgument;
+    }
+    *out = make<ZipPackage>(std::move(*path)).detach();
+    return kOk;
+}
+
 } // namespace xbr::host
+
+xbr::IPackageHandler* XBRGetPackageHandler() noexcept {
+    static auto* const handler = xbr::make<xbr::host::PackageHandler>().detach();
+    return handler;
+}

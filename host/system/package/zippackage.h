@@ -33,4 +33,10 @@ private:
     bool m_isCompressed = false;
 };
 
+/// Makes packages.
+class PackageHandler final : public Object<IPackageHandler> {
+public:
+    Result createPackage(const Uid& type, Text url, IPackage** out) noexcept override;
+};
+
 } // namespace xbr::host

@@ -47,12 +47,14 @@ TEST(SystemTest, APlaceForTemporaryFilesThatIsNotThereIsNamed) {
     removeTemporaryFolder();
     qputenv("TMPDIR", "/nowhere/at all");
     Ref<IString> url;
-    takeFileProblem();
+    std::vector<Problem> problems;
+    setFileProblemListener([&](const Problem& problem) { problems.push_back(problem); });
     EXPECT_EQ(XBRGetSystem()->getTemporaryFolder(url.out()), kUnexpected);
     EXPECT_FALSE(url);
-    EXPECT_EQ(takeFileProblem(),
-              "no temporary folder can be made in '/nowhere/at all' (TMPDIR names the place): "
-              "No such file or directory");
+    setFileProblemListener({});
+    ASSERT_EQ(problems.size(), 1U);
+    EXPECT_EQ(problems[0].fault, Fault::kNoTemporaryFolder);
+    EXPECT_EQ(problems[0].subject + ": " + problems[0].words, "/nowhere/at all: No such file or directory");
     qunsetenv("TMPDIR");
 }
 

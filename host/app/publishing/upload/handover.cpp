@@ -60,22 +60,6 @@ MediaTags tagsOf(const Plan& plan, const PlannedRelease& release, const PlannedS
     return tags;
 }
 
-/// Renders one song, with its tags.
-Outcome<void> render(const PlannedSong& song, const MediaTags& tags, const std::string& path,
-                     RenderedSongs& rendered) {
-    std::string error;
-    switch (rendered.render(song.source, path, error)) {
-    case RenderResult::kDone:
-        writeWavTags(path, tags);
-        return {};
-    case RenderResult::kGivenUp:
-        return Problem{Fault::kCancelled, song.source, 0, {}, {}, {}};
-    case RenderResult::kFailed:
-        break;
-    }
-    return Problem{Fault::kNotWritable, song.source, 0, error, {}, {}};
-}
-
 /// As the module thinks of an album first, where all songs share the first one's genre, a single that came
 /// without one has it still.
 void dropForeignGenres(const std::vector<const PlannedSong*>& songs, GadgetPanel& panel) {
@@ -142,9 +126,10 @@ Outcome<std::vector<HandedSong>> handOver(const Plan& plan, GadgetPanel& panel, 
             const std::string source = fs::absolute(song.source).string();
             const std::string file = song.isRendered ? rendered.pathOf(song.fileName) : source;
             if (song.isRendered) {
-                if (auto done = render(song, tags, file, rendered); !done) {
+                if (auto done = rendered.render(song.source, file); !done) {
                     return done.problem();
                 }
+                writeWavTags(file, tags);
             }
             items->add(fileUrl(file), attributesOf(tags));
             handed.push_back({file, source});

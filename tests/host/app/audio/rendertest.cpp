@@ -2,18 +2,14 @@
 #include "host/app/audio/mediatags.h"
 #include "host/app/audio/rendering.h"
 #include "host/app/audio/soundfile.h"
-#include "tests/host/app/audio/soundfiles.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/soundfiles.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <gmock/gmock.h>
 #include <taglib/fileref.h>
 #include <taglib/tpropertymap.h>
 
-#include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <sys/resource.h>
 
 namespace xbr::host {
 
@@ -21,40 +17,16 @@ namespace {
 
 using testing::HasSubstr;
 
-std::string bytesOf(const std::string& path) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(path, std::ios::binary).rdbuf();
-    return bytes.str();
-}
-
-/// A limit on the size of files stands for a disk that is full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t size) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{size, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    rlimit m_before{};
-};
-
 class Renderer : public testing::Test {
 protected:
-    RenderResult render(const std::string& song) {
-        return renderToWav(
-            song, m_target, [](double) { return true; }, m_error);
+    Problem render(
+        const std::string& song, const RenderProgress& goOn = [](double) { return true; }) {
+        return renderToWav(song, m_target, goOn).problem();
     }
     bool isTargetThere() const { return std::filesystem::exists(m_target); }
 
     TestFolder m_folder;
     std::string m_target = m_folder.path("target.wav");
-    std::string m_error;
 };
 
 } // namespace
@@ -79,7 +51,7 @@ TEST_F(Renderer, keepsDepthRateAndSamples) {
     for (const auto& one : cases) {
         const std::string song = m_folder.path(one.name);
         writeSound(song, one.format, one.rate);
-        ASSERT_EQ(render(song), RenderResult::kDone) << one.name << m_error;
+        ASSERT_EQ(render(song), Problem()) << one.name;
         const SF_INFO info = soundInfo(m_target);
         EXPECT_EQ(info.format, SF_FORMAT_WAV | one.subtype) << one.name;
         EXPECT_EQ(info.samplerate, one.rate);
@@ -95,7 +67,7 @@ TEST_F(Renderer, lossyAudioGets24Bits) {
     const std::string song = m_folder.path("a.ogg");
     for (const int format : {SF_FORMAT_OGG | SF_FORMAT_VORBIS, SF_FORMAT_OGG | SF_FORMAT_OPUS}) {
         writeSound(song, format, 48000, 48000);
-        ASSERT_EQ(render(song), RenderResult::kDone) << m_error;
+        ASSERT_EQ(render(song), Problem());
         EXPECT_EQ(soundInfo(m_target).format, SF_FORMAT_WAV | SF_FORMAT_PCM_24);
         EXPECT_EQ(soundInfo(m_target).frames, soundInfo(song).frames);
         const auto decoded = readNumbers(song);
@@ -109,10 +81,10 @@ TEST_F(Renderer, lossyAudioGets24Bits) {
 TEST_F(Renderer, sameSongSameBytes) {
     const std::string song = m_folder.path("a.aiff");
     writeSound(song, SF_FORMAT_AIFF | SF_FORMAT_FLOAT);
-    ASSERT_EQ(render(song), RenderResult::kDone);
-    const std::string first = bytesOf(m_target);
-    ASSERT_EQ(render(song), RenderResult::kDone);
-    EXPECT_EQ(bytesOf(m_target), first);
+    ASSERT_EQ(render(song), Problem());
+    const std::string first = readFile(m_target);
+    ASSERT_EQ(render(song), Problem());
+    EXPECT_EQ(readFile(m_target), first);
 }
 
 TEST_F(Renderer, whatDoesNotFitIntoFourGibibytesIsRf64) {
@@ -140,7 +112,7 @@ TEST_F(Renderer, whatDoesNotFitIntoFourGibibytesIsRf64) {
 
 TEST_F(Renderer, damagedFilesAreToldAndLeaveNothing) {
     writeSound(m_folder.path("whole.aiff"), SF_FORMAT_AIFF | SF_FORMAT_PCM_24);
-    const std::string aiff = bytesOf(m_folder.path("whole.aiff"));
+    const std::string aiff = readFile(m_folder.path("whole.aiff"));
     const struct {
         const char* name;
         std::string bytes;
@@ -153,8 +125,7 @@ TEST_F(Renderer, damagedFilesAreToldAndLeaveNothing) {
         {"any.vox", aiff.substr(100, 1000), "not audio"}, // of a kind that has no header
     };
     for (const auto& one : cases) {
-        EXPECT_EQ(render(m_folder.write(one.name, one.bytes)), RenderResult::kFailed) << one.name;
-        EXPECT_THAT(m_error, HasSubstr(one.words)) << one.name;
+        EXPECT_THAT(render(m_folder.write(one.name, one.bytes)).words, HasSubstr(one.words)) << one.name;
         EXPECT_FALSE(isTargetThere());
     }
 }
@@ -167,14 +138,13 @@ TEST_F(Renderer, whatEndsEarlyLeavesNothing) {
         told.push_back(fraction);
         return told.size() < 3;
     };
-    EXPECT_EQ(renderToWav(song, m_target, giveUp, m_error), RenderResult::kGivenUp);
+    EXPECT_EQ(render(song, giveUp).fault, Fault::kCancelled);
     EXPECT_FALSE(isTargetThere());
     EXPECT_THAT(told, testing::ElementsAre(testing::Lt(0.3), testing::Lt(0.5), testing::Lt(0.7)));
     {
-        const FullDisk disk(100'000);
-        EXPECT_EQ(render(song), RenderResult::kFailed);
+        const FileSizeLimit full(100'000);
+        EXPECT_THAT(render(song).words, HasSubstr("cannot be rendered to WAV: "));
     }
-    EXPECT_THAT(m_error, HasSubstr("cannot be rendered to WAV: "));
     EXPECT_FALSE(isTargetThere());
 }
 
@@ -184,7 +154,7 @@ TEST_F(Renderer, renderedSongsGoWithTheirOwner) {
         RenderedSongs songs;
         const std::string path = songs.pathOf("a (2).wav");
         writeSound(m_folder.path("a.aiff"), SF_FORMAT_AIFF | SF_FORMAT_PCM_16);
-        EXPECT_EQ(songs.render(m_folder.path("a.aiff"), path, m_error), RenderResult::kDone) << m_error;
+        EXPECT_EQ(songs.render(m_folder.path("a.aiff"), path).problem(), Problem());
         EXPECT_TRUE(std::filesystem::exists(path));
         folder = std::filesystem::path(path).parent_path();
     }

@@ -1,11 +1,13 @@
 // What a file says it holds, and what it holds.
 
 #include "host/app/audio/audioformat.h"
-#include "tests/host/app/audio/soundfiles.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/soundfiles.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <gtest/gtest.h>
 
+#include <FLAC/stream_encoder.h>
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -79,6 +81,39 @@ TEST(Wholeness, isThereWhereASizeSaysUnknown) {
     std::ofstream(path, std::ios::binary | std::ios::app) << std::string("LIST\4\0\0\0INFO", 12);
     setSize(path, "RIFF", static_cast<std::uint32_t>(std::filesystem::file_size(path)) - 8);
     EXPECT_EQ(faultOf(path), Fault::kNotAudio) << "no frames, but texts behind them";
+}
+
+/// Two seconds of FLAC from an encoder that cannot go back to fill in the length.
+void writeStream(const std::string& path) {
+    const auto write = [](const FLAC__StreamEncoder*, const FLAC__byte* bytes, size_t size, std::uint32_t,
+                          std::uint32_t, void* file) {
+        static_cast<std::ofstream*>(file)->write(reinterpret_cast<const char*>(bytes),
+                                                 static_cast<std::streamsize>(size));
+        return FLAC__STREAM_ENCODER_WRITE_STATUS_OK;
+    };
+    std::ofstream file(path, std::ios::binary);
+    FLAC__StreamEncoder* encoder = FLAC__stream_encoder_new();
+    FLAC__stream_encoder_set_sample_rate(encoder, 48000);
+    FLAC__stream_encoder_init_stream(encoder, write, nullptr, nullptr, nullptr, &file);
+    std::vector<int> samples = testSamples(2 * 96000);
+    std::for_each(samples.begin(), samples.end(), [](int& sample) { sample /= 65536; });
+    FLAC__stream_encoder_process_interleaved(encoder, samples.data(), 96000);
+    FLAC__stream_encoder_finish(encoder);
+    FLAC__stream_encoder_delete(encoder);
+}
+
+TEST(Wholeness, isLookedForAtTheEndOfAFlacThatDoesNotTellItsLength) {
+    const TestFolder folder;
+    const std::string path = folder.path("stream");
+    writeStream(path);
+    const auto whole = readAudioFormat(path);
+    ASSERT_TRUE(whole);
+    EXPECT_EQ(whole->milliseconds, 2000);
+    std::filesystem::resize_file(path, std::filesystem::file_size(path) - 1);
+    EXPECT_EQ(faultOf(path), Fault::kCutShort);
+    writeStream(path);
+    std::ofstream(path, std::ios::binary | std::ios::app) << "TAG" << std::string(125, ' ');
+    EXPECT_EQ(faultOf(path), Fault::kNone) << "with a tag behind the audio";
 }
 
 TEST(Wholeness, isNotThereWhereNobodyCanTellTheLength) {

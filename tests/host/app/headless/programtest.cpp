@@ -1,5 +1,5 @@
-#include "tests/host/app/audio/wavefile.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/testfolder.h"
+#include "tests/fixtures/wavefile.h"
 
 #include <QProcess>
 #include <gtest/gtest.h>

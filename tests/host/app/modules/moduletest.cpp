@@ -1,8 +1,7 @@
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 #include "host/app/modules/loadedmodule.h"
-#include "host/app/modules/modulesearch.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <gmock/gmock.h>
 

@@ -4,7 +4,7 @@
 #include "framework/support/parts/component.h"
 #include "host/base/fileurl.h"
 #include "host/gui/hostgui.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <gtest/gtest.h>
 

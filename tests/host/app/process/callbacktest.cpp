@@ -4,7 +4,7 @@
 #include "host/app/process/callbackclient.h"
 #include "host/app/process/callbackplace.h"
 #include "host/app/process/callbackserver.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <gmock/gmock.h>
 

@@ -3,7 +3,7 @@
 #include "host/app/process/temporarytenancy.h"
 #include "host/base/fileurl.h"
 #include "host/system/hostsystem.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <gtest/gtest.h>
 
@@ -53,7 +53,7 @@ TEST(Tenancy, onlyFoldersOfDeadHostsGo) {
     {
         const TemporaryTenancy tenancy;
         own = askedFolder();
-        EXPECT_TRUE(own.starts_with(folder.path() + "/xbr-")) << own;
+        EXPECT_TRUE(own.starts_with(folder.path("xbr-"))) << own;
         EXPECT_FALSE(fs::exists(dead));
         for (const auto& kept : {alive, unmarked, open, other, fs::path(own)}) {
             EXPECT_TRUE(fs::exists(kept)) << kept;

@@ -5,11 +5,11 @@
 #include "framework/abi/filesystem.h"
 #include "framework/support/objects/text.h"
 #include "host/app/session/hostsession.h"
-#include "tests/host/app/audio/soundfiles.h"
-#include "tests/host/app/audio/wavefile.h"
+#include "tests/fixtures/soundfiles.h"
+#include "tests/fixtures/testfolder.h"
+#include "tests/fixtures/wavefile.h"
 #include "tests/host/app/fakefront.h"
 #include "tests/host/app/publishing/fakepanel.h"
-#include "tests/host/app/testfolder.h"
 
 #include <gmock/gmock.h>
 

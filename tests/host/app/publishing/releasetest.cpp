@@ -1,5 +1,5 @@
 #include "host/app/headless/releasefile.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <gmock/gmock.h>
 

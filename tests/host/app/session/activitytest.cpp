@@ -3,7 +3,7 @@
 #include "framework/abi/webservice.h"
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
-#include "tests/host/app/testfolder.h"
+#include "tests/fixtures/testfolder.h"
 
 #include <gmock/gmock.h>
 

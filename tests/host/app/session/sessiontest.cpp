@@ -1,8 +1,8 @@
 #include "framework/abi/hostclasses.h"
 #include "framework/support/objects/object.h"
 #include "host/app/session/hostsession.h"
+#include "tests/fixtures/testfolder.h"
 #include "tests/host/app/fakefront.h"
-#include "tests/host/app/testfolder.h"
 
 #include <gmock/gmock.h>
 
