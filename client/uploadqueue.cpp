@@ -1,6 +1,7 @@
 #include "client/uploadqueue.h"
 
-#include "client/uploadreply.h"
+#include "framework/support/data/attributes.h"
+#include "framework/support/data/memorystream.h"
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
@@ -21,6 +22,58 @@ constexpr std::int32_t kMayCancel = 1;
 // The host's two ways of saying "with the next turn of the event loop".
 constexpr std::int32_t kDeferred = -1;
 constexpr std::int32_t kNoDelay = 0;
+
+// The service tells a missing property by this text only; there is no code for it.
+constexpr std::string_view kMissingProperty = "did not contain a required property";
+
+/// The indicator of a preparation; taken off the screen with this.
+class Preparation {
+public:
+    Preparation()
+        : m_indicator(xbr::createHostObject<xbr::IProgressIndicator>()),
+          m_progress(xbr::query<xbr::IProgress>(m_indicator.get())) {
+        if (m_progress) {
+            const std::string title = xbr::translate("Preparing Brindlex Upload");
+            m_indicator->setTitle(xbr::toText(title));
+            m_indicator->setOption(kMayCancel);
+            m_indicator->begin();
+        }
+    }
+    Preparation(const Preparation&) = delete;
+    Preparation& operator=(const Preparation&) = delete;
+    ~Preparation() {
+        if (m_progress) {
+            m_indicator->end();
+        }
+    }
+
+    /// Null where the host offers no indicator.
+    xbr::IProgress* progress() const { return m_progress.get(); }
+
+private:
+    xbr::Ref<xbr::IProgressIndicator> m_indicator;
+    xbr::Ref<xbr::IProgress> m_progress;
+};
+
+/// False when something lies in the payload's place and cannot be removed.
+bool clearPlace() {
+    if (isPayloadOnDisk()) {
+        cleanupPayload(); // of a transfer that was aborted
+    }
+    return !isPayloadOnDisk();
+}
+
+/// What the service's answer means: kDone, kMissingInformation or kFailed.
+TrackUploadState judge(xbr::IWebRequest& request) {
+    if (xbr::isSuccess(request)) {
+        return TrackUploadState::kDone;
+    }
+    xbr::Ref<xbr::IStream> body;
+    const bool hasBody = request.getResponseBody(body.out()) == xbr::kOk && xbr::rewind(*body);
+    const auto reply = hasBody ? xbr::readJson(*body) : nullptr;
+    const bool isMissing = reply && reply->getString("errors").find(kMissingProperty) != std::string::npos;
+    return isMissing ? TrackUploadState::kMissingInformation : TrackUploadState::kFailed;
+}
 
 } // namespace
 
@@ -51,7 +104,7 @@ void UploadQueue::startUpload() {
     }
     const Transfer transfer = select();
     if (!transfer.tracks.empty()) {
-        prepareAndSend(transfer);
+        send(transfer);
     }
     if (!m_transfer) {
         m_lease.giveBack();
@@ -59,42 +112,24 @@ void UploadQueue::startUpload() {
 }
 
 UploadQueue::Transfer UploadQueue::select() {
-    Transfer transfer;
-    transfer.mode = m_tracks.mode();
-    if (transfer.mode == UploadMode::kSingles) {
-        if (TrackItem* track = chooseTrack()) {
-            transfer.tracks.push_back(xbr::Ref<TrackItem>::share(track));
-        }
-        return transfer;
-    }
-    bool anyWaiting = false;
-    forEachTrack(m_tracks.model(), [&](TrackItem& track) {
-        anyWaiting = anyWaiting || track.state == TrackUploadState::kNone;
-        transfer.tracks.push_back(xbr::Ref<TrackItem>::share(&track));
+    Transfer transfer{m_tracks.mode(), tracksOf(m_tracks.model())};
+    auto& tracks = transfer.tracks;
+    const auto waiting = std::find_if(tracks.begin(), tracks.end(), [](const auto& track) {
+        return track->state == TrackUploadState::kNone;
     });
-    return anyWaiting ? transfer : Transfer{};
-}
-
-TrackItem* UploadQueue::chooseTrack() {
-    const auto& model = m_tracks.model();
-    const auto count = countTracks(model);
-    for (std::size_t i = 0; i < count; ++i) {
-        if (trackAt(model, i).state == TrackUploadState::kNone) {
-            m_currentTrackIndex = i;
-            return &trackAt(model, i);
-        }
+    const bool isAnyWaiting = waiting != tracks.end();
+    if (transfer.mode == UploadMode::kAlbum) {
+        return isAnyWaiting ? transfer : Transfer{};
     }
     // Nothing is waiting: the track after the present one is sent again unless it is done. With several
     // tracks a failed first one is not: "Reset" in its context menu is the way to send it again.
-    if (m_currentTrackIndex + 1 < count) {
-        ++m_currentTrackIndex;
-    } else if (count == 1) {
-        m_currentTrackIndex = 0;
-    } else {
-        return nullptr;
+    const auto next = m_currentTrackIndex + 1 < tracks.size() ? m_currentTrackIndex + 1 : 0;
+    if (!isAnyWaiting && next == 0 && tracks.size() != 1) {
+        return {};
     }
-    TrackItem& track = trackAt(model, m_currentTrackIndex);
-    return track.state == TrackUploadState::kDone ? nullptr : &track;
+    m_currentTrackIndex = isAnyWaiting ? static_cast<std::size_t>(waiting - tracks.begin()) : next;
+    const auto track = tracks[m_currentTrackIndex];
+    return {transfer.mode, track->state == TrackUploadState::kDone ? Tracks{} : Tracks{track}};
 }
 
 xbr::Ref<IngestionRequest> UploadQueue::build(const Transfer& transfer, xbr::IProgress& progress) const {
@@ -111,50 +146,38 @@ xbr::Ref<IngestionRequest> UploadQueue::build(const Transfer& transfer, xbr::IPr
                : buildTrackPayload(*records.front(), files.front(), clientId, progress);
 }
 
-void UploadQueue::prepareAndSend(const Transfer& transfer) {
-    const auto indicator = xbr::createHostObject<xbr::IProgressIndicator>();
-    const auto progress = xbr::query<xbr::IProgress>(indicator.get());
-    if (!progress || !clearPlace()) {
+void UploadQueue::send(const Transfer& transfer) {
+    if (!clearPlace()) {
         return;
     }
-    const std::string title = xbr::translate("Preparing Brindlex Upload");
-    indicator->setTitle(xbr::toText(title));
-    indicator->setOption(kMayCancel);
-    indicator->begin();
+    const Preparation preparation;
+    auto* progress = preparation.progress();
+    if (!progress) {
+        return;
+    }
     const auto request = build(transfer, *progress);
-    const bool isWanted = request && !progress->isCancelled() && isStillWanted(transfer);
-    if (isWanted &&
-        m_client.sendAuthorizedRequest(
-            [this](const auto& message, auto& sent) { onUploadEvent(message, sent); }, *request)) {
-        markSent(transfer);
-    } else {
+    const auto handler = [this](const auto& message, auto& sent) { onUploadEvent(message, sent); };
+    if (!request || progress->isCancelled() || !isStillWanted(transfer) ||
+        !m_client.sendAuthorizedRequest(handler, *request)) {
         cleanupPayload();
+        return;
     }
-    indicator->end();
-}
-
-bool UploadQueue::clearPlace() {
-    if (isPayloadOnDisk()) {
-        cleanupPayload(); // of a transfer that was aborted
-    }
-    return !isPayloadOnDisk();
-}
-
-bool UploadQueue::isStillWanted(const Transfer& transfer) const {
-    std::unordered_set<const TrackItem*> listed;
-    forEachTrack(m_tracks.model(), [&](const TrackItem& track) { listed.insert(&track); });
-    return m_tracks.mode() == transfer.mode &&
-           std::all_of(transfer.tracks.begin(), transfer.tracks.end(),
-                       [&](const auto& track) { return listed.contains(track.get()); });
-}
-
-void UploadQueue::markSent(const Transfer& transfer) {
     m_transfer = transfer;
     for (const auto& track : transfer.tracks) {
         m_tracks.setCurrentUploadItem(track.get());
         m_tracks.updateEnabled();
     }
     m_tracks.validateForUpload(Marks::kClear);
+}
+
+bool UploadQueue::isStillWanted(const Transfer& transfer) const {
+    std::unordered_set<const TrackItem*> listed;
+    for (const auto& track : tracksOf(m_tracks.model())) {
+        listed.insert(track.get());
+    }
+    return m_tracks.mode() == transfer.mode &&
+           std::all_of(transfer.tracks.begin(), transfer.tracks.end(),
+                       [&](const auto& track) { return listed.contains(track.get()); });
 }
 
 void UploadQueue::onUploadEvent(const xbr::IMessage& message, xbr::IWebRequest& request) {
@@ -164,21 +187,15 @@ void UploadQueue::onUploadEvent(const xbr::IMessage& message, xbr::IWebRequest& 
     } else if (xbr::isNamed(message, "onprogress")) {
         onProgress(xbr::numberOf(message.argument(0)));
     } else if (xbr::isNamed(message, "onabort")) {
-        onAbort();
+        setOutcome(TrackUploadState::kFailed);
+        endTransfer(); // the files stay until the next payload is built
     }
 }
 
 void UploadQueue::onLoadEnd(xbr::IWebRequest& request) {
-    const TrackUploadState outcome = judgeReply(request);
-    const UploadMode mode = m_transfer->mode;
-    for (const auto& track : m_transfer->tracks) {
-        track->state = stateAfter(outcome, *track);
-    }
-    if (outcome == TrackUploadState::kMissingInformation) {
-        m_tracks.validateForUpload(Marks::kSet);
-    }
-    m_tracks.setCurrentUploadItem(nullptr);
-    if (mode == UploadMode::kSingles && countTracks(m_tracks.model()) != 1) {
+    const bool isSingle = m_transfer->mode == UploadMode::kSingles;
+    setOutcome(judge(request));
+    if (isSingle && m_tracks.model().countRows() != 1) {
         xbr::post(m_owner, "uploadNext", kDeferred);
     }
     if (xbr::isUnauthorized(request)) {
@@ -188,13 +205,20 @@ void UploadQueue::onLoadEnd(xbr::IWebRequest& request) {
     endTransfer();
 }
 
-TrackUploadState UploadQueue::stateAfter(TrackUploadState outcome, const TrackItem& track) const {
-    // A complete track of a rejected album goes again with the rest once they are complete. A single that the
-    // service found incomplete is shown so even when all we ask for is there: it went alone, so there is no
-    // other track the answer could mean.
-    const bool goesAgain = m_transfer->mode == UploadMode::kAlbum &&
-                           outcome == TrackUploadState::kMissingInformation && isComplete(*track.metadata);
-    return goesAgain ? TrackUploadState::kNone : outcome;
+void UploadQueue::setOutcome(TrackUploadState outcome) {
+    const bool isMissing = outcome == TrackUploadState::kMissingInformation;
+    const bool isAlbum = m_transfer->mode == UploadMode::kAlbum;
+    for (const auto& track : m_transfer->tracks) {
+        // A complete track of a rejected album goes again with the rest once they are complete. A single that
+        // the service found incomplete is shown so even when all we ask for is there: it went alone, so there
+        // is no other track the answer could mean.
+        track->state =
+            isMissing && isAlbum && isComplete(*track->metadata) ? TrackUploadState::kNone : outcome;
+    }
+    if (isMissing) {
+        m_tracks.validateForUpload(Marks::kSet);
+    }
+    m_tracks.setCurrentUploadItem(nullptr);
 }
 
 void UploadQueue::onProgress(double progress) {
@@ -202,19 +226,11 @@ void UploadQueue::onProgress(double progress) {
         track->progress = progress;
     }
     auto& model = m_tracks.model();
-    for (std::size_t i = 0; i < countTracks(model); ++i) {
-        if (trackAt(model, i).uploading) {
-            model.signalItemChanged(static_cast<std::int32_t>(i));
+    for (std::int32_t row = 0; row < model.countRows(); ++row) {
+        if (trackAt(model, static_cast<std::size_t>(row)).uploading) {
+            model.signalItemChanged(row);
         }
     }
-}
-
-void UploadQueue::onAbort() {
-    for (const auto& track : m_transfer->tracks) {
-        track->state = TrackUploadState::kFailed;
-    }
-    m_tracks.setCurrentUploadItem(nullptr);
-    endTransfer(); // the files stay until the next payload is built
 }
 
 void UploadQueue::endTransfer() {

@@ -8,7 +8,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <vector>
 
 namespace brindlex {
 
@@ -36,24 +35,19 @@ private:
     /// What one transfer sends. It is judged by this, as the list may have changed when the reply comes.
     struct Transfer {
         UploadMode mode = UploadMode::kSingles;
-        std::vector<xbr::Ref<TrackItem>> tracks;
+        Tracks tracks;
     };
 
     Transfer select();
-    TrackItem* chooseTrack();
     xbr::Ref<IngestionRequest> build(const Transfer& transfer, xbr::IProgress& progress) const;
-    void prepareAndSend(const Transfer& transfer);
-    /// False when something lies in the payload's place and cannot be removed.
-    static bool clearPlace();
+    void send(const Transfer& transfer);
     /// False when tracks or mode changed while the progress indicator ran the event loop.
     bool isStillWanted(const Transfer& transfer) const;
-    void markSent(const Transfer& transfer);
 
     void onUploadEvent(const xbr::IMessage& message, xbr::IWebRequest& request);
     void onLoadEnd(xbr::IWebRequest& request);
     void onProgress(double progress);
-    void onAbort();
-    TrackUploadState stateAfter(TrackUploadState outcome, const TrackItem& track) const;
+    void setOutcome(TrackUploadState outcome);
     void endTransfer();
 
     OAuth2Client& m_client;

@@ -1,8 +1,7 @@
 #include "module/componentclasses.h"
 
 #include "framework/abi/pluginmanager.h"
-#include "framework/support/objects/text.h"
-#include "module/modulegate.h"
+#include "module/modulekernel.h"
 #include "ui/news/feedelement.h"
 #include "ui/news/feedlistcomponent.h"
 #include "ui/pictures/imageelement.h"
@@ -12,10 +11,6 @@ namespace brindlex {
 
 namespace {
 
-xbr::ClassDescription component(const xbr::Uid& uid, std::string_view name) {
-    return {0, uid, xbr::toText("Component"), xbr::toText(name), xbr::toText(""), xbr::toText("")};
-}
-
 template <class T>
 void add(xbr::ClassFactory& classes, const xbr::ClassDescription& description) {
     classes.add(description, xbr::creatorOf<T>());
@@ -23,15 +18,15 @@ void add(xbr::ClassFactory& classes, const xbr::ClassDescription& description) {
 
 xbr::Ref<xbr::ClassFactory> makeClasses() {
     static const auto kFeedElement =
-        component(xbr::uid("02eb5f3d-b585-4e16-be6d-1c7e3f2c7fec"), "FeedElement");
+        xbr::describe(xbr::uid("02eb5f3d-b585-4e16-be6d-1c7e3f2c7fec"), "Component", "FeedElement");
     static const auto kFeedListComponent =
-        component(xbr::uid("d1dd7f5a-bd71-41e1-8d79-82b9003aa462"), "FeedListComponent");
+        xbr::describe(xbr::uid("d1dd7f5a-bd71-41e1-8d79-82b9003aa462"), "Component", "FeedListComponent");
     static const auto kImageElement =
-        component(xbr::uid("ff8bd1c9-430d-4a97-a500-14fc25c55790"), "ImageElement");
+        xbr::describe(xbr::uid("ff8bd1c9-430d-4a97-a500-14fc25c55790"), "Component", "ImageElement");
     static const auto kImageElementCache =
-        component(xbr::uid("5e3e1d4e-1d70-42fb-90b5-ed1aaf90bb36"), "ImageElementCache");
+        xbr::describe(xbr::uid("5e3e1d4e-1d70-42fb-90b5-ed1aaf90bb36"), "Component", "ImageElementCache");
     static const auto kPersistentImageCache =
-        component(xbr::uid("28215e6b-5ecf-4af6-a24b-72bea1aae77e"), "PersistentImageCache");
+        xbr::describe(xbr::uid("28215e6b-5ecf-4af6-a24b-72bea1aae77e"), "Component", "PersistentImageCache");
     auto classes = xbr::make<xbr::ClassFactory>(&isModuleLoaded);
     add<FeedElement>(*classes, kFeedElement);
     add<FeedListComponent>(*classes, kFeedListComponent);
@@ -48,12 +43,12 @@ xbr::ClassFactory& componentClasses() {
     return *classes;
 }
 
-bool addComponentClasses(void*, void*) {
+bool addComponentClasses() {
     XBRGetPlugInManager()->addFactory(&componentClasses());
     return true;
 }
 
-void removeComponentClasses(void*) {
+void removeComponentClasses() {
     XBRGetPlugInManager()->removeFactory(&componentClasses());
 }
 

@@ -8,8 +8,8 @@ namespace brindlex {
 /// "ImageElement", "ImageElementCache", "PersistentImageCache".
 xbr::ClassFactory& componentClasses();
 
-/// Offers them to the host, and takes them back. For the module's initialise and terminate functions.
-bool addComponentClasses(void*, void*);
-void removeComponentClasses(void*);
+/// Offers them to the host, and takes them back: a part of the module.
+bool addComponentClasses();
+void removeComponentClasses();
 
 } // namespace brindlex

@@ -18,7 +18,9 @@ public:
             return;
         }
         for (std::int32_t i = 0; i < attributes->count(); ++i) {
-            m_attributes.emplace_back(xbr::view(attributes->keyAt(i)), xbr::view(attributes->valueAt(i)));
+            std::string key =
+                xbr::toString(attributes->keyAt(i)); // a copy: the next call may take the text back
+            m_attributes.emplace_back(std::move(key), xbr::toString(attributes->valueAt(i)));
         }
     }
     void endElement(xbr::Text) noexcept override {}

@@ -4,66 +4,52 @@
 #include "framework/support/objects/object.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace brindlex {
 
-/// Loads and unloads the module: runs the functions that are registered for its parts, and keeps what the
-/// whole module shares. One per module, created on first use.
+/// A part of the module: what it does before the start, and after the stop. `terminate` is called for each
+/// part at the teardown, also for one that never began or whose `initialise` failed, and does nothing for
+/// such a one.
+struct ModulePart {
+    bool (*initialise)();
+    void (*terminate)();
+};
+
+/// Loads and unloads the module: begins its parts in their order, ends them in the reverse one, and keeps the
+/// objects that live in between.
 class ModuleKernel final : public xbr::Object<xbr::IObserver> {
 public:
-    /// Two words that travel with a registered function.
-    using Word = void*;
-    using InitialiseFunction = bool (*)(Word first, Word second);
-    using TerminateFunction = void (*)(Word word);
-
     /// What the module does at start (1) and stop (2).
     using StartFunction = bool (*)(std::int32_t argument);
 
-    static ModuleKernel& instance();
-
-    void addInitialise(InitialiseFunction function, Word first = nullptr, Word second = nullptr);
-    void addTerminate(TerminateFunction function, Word word = nullptr);
+    /// `parts` must live as long as the kernel.
+    ModuleKernel(std::span<const ModulePart> parts, StartFunction start) : m_parts(parts), m_start(start) {}
 
     /// Releases `object` at teardown.
     void addObject(xbr::Ref<xbr::IObject> object);
 
-    /// Runs the initialise functions in order and then the start function. False when one of them failed.
-    /// After a failed start function everything is torn down; after a failed initialise function nothing is
-    /// undone.
-    bool load(void* moduleHandle, StartFunction start);
+    /// Begins the parts and then starts. After a failed start everything is torn down. When a part fails
+    /// nothing is undone: that is for `unload`, which a host calls after a failed load, too.
+    bool load(void* moduleHandle);
 
-    /// Stops and tears down, if a load began. The functions are ready for a later load.
-    void unload(StartFunction start);
+    /// Stops and tears down, if a load began. A later load begins anew.
+    void unload();
 
-    /// The host's handle; null while the module is not started.
-    void* moduleHandle() const { return m_moduleHandle; }
-
-    /// True from the beginning of a load to the teardown.
-    bool isStarted() const { return m_started; }
-
-    void notify(xbr::ISubject* subject, xbr::IMessage* message) noexcept override;
+    void notify(xbr::ISubject*, xbr::IMessage*) noexcept override {}
 
 private:
-    struct Initialise {
-        InitialiseFunction function;
-        Word first;
-        Word second;
-    };
-    struct Terminate {
-        TerminateFunction function;
-        Word word;
-    };
-
-    bool runInitialiseList();
     void tearDown();
 
-    void* m_moduleHandle = nullptr;
-    bool m_started = false;
-    std::vector<Initialise> m_initialise;
-    std::vector<Initialise> m_succeeded;
-    std::vector<Terminate> m_terminate;
+    std::span<const ModulePart> m_parts;
+    StartFunction m_start;
+    void* m_moduleHandle = nullptr; ///< null while the module is not started
+    bool m_isLoaded = false;        ///< every part began, and the start succeeded
     std::vector<xbr::Ref<xbr::IObject>> m_objects;
 };
+
+/// True from a successful load to the teardown: only then can classes be created.
+bool isModuleLoaded();
 
 } // namespace brindlex

@@ -5,7 +5,6 @@
 #include "framework/support/parts/modulecomponent.h"
 #include "module/classtable.h"
 #include "module/componentclasses.h"
-#include "module/modulegate.h"
 #include "module/modulekernel.h"
 #include "module/resources.h"
 #include "module/supportservice.h"
@@ -16,29 +15,7 @@ namespace brindlex {
 
 namespace {
 
-/// A part of the module with what it does before the start and after the stop.
-struct Part {
-    ModuleKernel::InitialiseFunction initialise;
-    ModuleKernel::TerminateFunction terminate;
-};
-
-/// In the order in which they begin; they end in the reverse one.
-constexpr std::array<Part, 2> kParts{{
-    {&registerResources, &unregisterResources},
-    {&addComponentClasses, &removeComponentClasses},
-}};
-
-ModuleKernel& preparedKernel() {
-    static ModuleKernel& kernel = []() -> ModuleKernel& {
-        auto& fresh = ModuleKernel::instance();
-        for (const Part& part : kParts) {
-            fresh.addInitialise(part.initialise);
-            fresh.addTerminate(part.terminate);
-        }
-        return fresh;
-    }();
-    return kernel;
-}
+ModuleKernel& kernel();
 
 /// What the module does at start (1) and stop (2).
 bool startModule(std::int32_t argument) {
@@ -46,7 +23,7 @@ bool startModule(std::int32_t argument) {
         return true;
     }
     const auto component = xbr::make<xbr::ModuleComponent>("brindlex", "Kestrova", "Brindlex Support", "");
-    ModuleKernel::instance().addObject(xbr::query<xbr::IObject>(component.get()));
+    kernel().addObject(xbr::query<xbr::IObject>(component.get()));
     if (!component->loadTheme("")) {
         XBRGetSystem()->writeDebugWarning(xbr::toText("ModuleComponent::loadTheme failed\n"));
         return false;
@@ -54,11 +31,26 @@ bool startModule(std::int32_t argument) {
     return true;
 }
 
-xbr::Ref<xbr::ClassFactory> makeFactory() {
-    auto factory = xbr::make<xbr::ClassFactory>(&isModuleLoaded);
-    factory->add(supportServiceClass(), xbr::creatorOf<SupportService>());
-    return factory;
+/// In the order in which they begin.
+constexpr std::array<ModulePart, 2> kParts{{
+    {&registerResources, &unregisterResources},
+    {&addComponentClasses, &removeComponentClasses},
+}};
+
+ModuleKernel& kernel() {
+    static const auto instance = xbr::make<ModuleKernel>(kParts, &startModule);
+    return *instance;
 }
+
+/// The module's factory, which also tells the module's version.
+class ModuleFactory final : public xbr::Implements<xbr::ClassFactory, xbr::IModuleInfo> {
+public:
+    ModuleFactory() : Implements(&isModuleLoaded) {
+        add(supportServiceClass(), xbr::creatorOf<SupportService>());
+    }
+
+    xbr::Text version() const noexcept override { return xbr::toText(BRINDLEX_VERSION); }
+};
 
 } // namespace
 
@@ -70,12 +62,12 @@ bool isModuleLoaded() {
 } // namespace brindlex
 
 std::int32_t XBRModuleMain(void* moduleHandle, std::int32_t reason) noexcept {
-    auto& kernel = brindlex::preparedKernel();
+    auto& kernel = brindlex::kernel();
     switch (static_cast<xbr::ModuleReason>(reason)) {
     case xbr::ModuleReason::kLoad:
-        return kernel.load(moduleHandle, &brindlex::startModule) ? 1 : 0;
+        return kernel.load(moduleHandle) ? 1 : 0;
     case xbr::ModuleReason::kUnload:
-        kernel.unload(&brindlex::startModule);
+        kernel.unload();
         return 1;
     default:
         return 1;
@@ -83,6 +75,6 @@ std::int32_t XBRModuleMain(void* moduleHandle, std::int32_t reason) noexcept {
 }
 
 xbr::IClassFactory* XBRGetClassFactory() noexcept {
-    static const auto factory = brindlex::makeFactory();
+    static const auto factory = xbr::make<brindlex::ModuleFactory>();
     return factory.get();
 }

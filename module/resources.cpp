@@ -3,9 +3,7 @@
 #include "framework/abi/filesystem.h"
 #include "framework/support/objects/text.h"
 
-// The archive that the build packs from resources/, see resourcedata.S.
-extern "C" const char kBrindlexResourcesBegin[];
-extern "C" const char kBrindlexResourcesEnd[];
+#include <utility>
 
 namespace brindlex {
 
@@ -13,16 +11,21 @@ namespace {
 
 constexpr std::string_view kName = "brindlex";
 
+bool g_isRegistered = false; ///< by this module: nobody else's resources may be taken back
+
 } // namespace
 
-bool registerResources(void*, void*) {
-    const auto size = static_cast<std::uint64_t>(kBrindlexResourcesEnd - kBrindlexResourcesBegin);
-    return XBRGetFileSystem()->registerResources(xbr::toText(kName), kBrindlexResourcesBegin, size) ==
-           xbr::kOk;
+bool registerResources() {
+    const auto archive = resourceArchive();
+    g_isRegistered =
+        XBRGetFileSystem()->registerResources(xbr::toText(kName), archive.data(), archive.size()) == xbr::kOk;
+    return g_isRegistered;
 }
 
-void unregisterResources(void*) {
-    XBRGetFileSystem()->unregisterResources(xbr::toText(kName));
+void unregisterResources() {
+    if (std::exchange(g_isRegistered, false)) {
+        XBRGetFileSystem()->unregisterResources(xbr::toText(kName));
+    }
 }
 
 } // namespace brindlex

@@ -8,7 +8,7 @@
 #include "module/callbackhandler.h"
 #include "module/classtable.h"
 #include "module/gadgetdescription.h"
-#include "module/modulegate.h"
+#include "module/modulekernel.h"
 #include "module/uploadpublisher.h"
 
 namespace brindlex {

@@ -20,7 +20,8 @@ struct Account final : public xbr::RefCounted {
 };
 
 /// Takes the keys "account_id", "name" and "email" that are there; others stay as they were. A name or email
-/// that is no text becomes empty; an identifier that is no integer is passed over. Always true.
+/// that is no text becomes empty; an identifier that is no integer is passed over. True: no
+/// key has to be there.
 bool loadAccount(Account& account, const xbr::IAttributes& user);
 
 /// Reads the reply of the account query from its start; empty when it is no JSON or has no "user" object.

@@ -31,6 +31,11 @@ bool packFolder(const xbr::Url& folder, const xbr::Url& archive, xbr::IProgress&
     return true;
 }
 
+/// Where the packed payload is written.
+xbr::Url archiveOf(const xbr::Url& folder) {
+    return folder.parent().join("payload.zip");
+}
+
 /// The whole body in memory; empty when the archive cannot be read, or there is no memory for it.
 xbr::Ref<xbr::MemoryStream> makeBody(const xbr::Url& archive, std::string_view boundary) {
     xbr::Ref<xbr::IStream> stream;
@@ -40,7 +45,7 @@ xbr::Ref<xbr::MemoryStream> makeBody(const xbr::Url& archive, std::string_view b
     const auto size = xbr::measure(*stream);
     auto body = xbr::make<xbr::MemoryStream>();
     const bool isWhole = size >= 0 && body->write(partHead(boundary, archive.fileName())) &&
-                         xbr::copyStream(*stream, *body, static_cast<std::uint64_t>(size)) &&
+                         body->writeFrom(*stream, static_cast<std::uint64_t>(size)) &&
                          body->write(partTail(boundary)) && xbr::rewind(*body);
     return isWhole ? body : nullptr;
 }
@@ -49,20 +54,17 @@ xbr::Ref<xbr::MemoryStream> makeBody(const xbr::Url& archive, std::string_view b
 
 xbr::Url getPayloadFolder() {
     xbr::Ref<xbr::IString> temporary;
-    XBRGetSystem()->getTemporaryFolder(temporary.out());
-    return xbr::Url(xbr::take(temporary)).join("Brindlex").join("payload");
-}
-
-xbr::Url getPayloadArchive() {
-    return getPayloadFolder().parent().join("payload.zip");
+    const bool hasFolder = XBRGetSystem()->getTemporaryFolder(temporary.out()) == xbr::kOk;
+    return hasFolder ? xbr::Url(xbr::take(temporary)).join("Brindlex").join("payload") : xbr::Url();
 }
 
 xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress) {
     // The host's generator as it is, never seeded here; only the main thread comes by.
     // NOLINTNEXTLINE(concurrency-mt-unsafe)
     const std::string boundary = makeBoundary(std::rand());
-    const xbr::Url archive = getPayloadArchive();
-    if (!packFolder(getPayloadFolder(), archive, progress)) {
+    const xbr::Url folder = getPayloadFolder();
+    const xbr::Url archive = archiveOf(folder);
+    if (folder.isEmpty() || !packFolder(folder, archive, progress)) {
         return {};
     }
     auto body = makeBody(archive, boundary);
@@ -77,17 +79,21 @@ xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress) {
 }
 
 bool isPayloadOnDisk() {
-    const std::string archive = getPayloadArchive().toString();
-    return XBRGetFileSystem()->fileExists(xbr::toText(archive)) ||
-           XBRGetFileSystem()->folderExists(xbr::toText(getPayloadFolder().toString()));
+    const xbr::Url folder = getPayloadFolder();
+    return folder.isEmpty() || XBRGetFileSystem()->fileExists(xbr::toText(archiveOf(folder).toString())) ||
+           XBRGetFileSystem()->folderExists(xbr::toText(folder.toString()));
 }
 
 void cleanupPayload() {
-    const std::string archive = getPayloadArchive().toString();
+    const xbr::Url folder = getPayloadFolder();
+    if (folder.isEmpty()) {
+        return;
+    }
+    const std::string archive = archiveOf(folder).toString();
     if (XBRGetFileSystem()->fileExists(xbr::toText(archive))) {
         XBRGetFileSystem()->removeFile(xbr::toText(archive));
     }
-    XBRGetFileSystem()->removeFolder(xbr::toText(getPayloadFolder().toString()));
+    XBRGetFileSystem()->removeFolder(xbr::toText(folder.toString()));
 }
 
 } // namespace brindlex

@@ -10,18 +10,17 @@ namespace brindlex {
 /// archive.
 struct IngestionRequest final : public ServiceRequest {};
 
-/// Where a payload is put together, below the host's temporary folder. There is one at a time.
+/// Where a payload is put together, below the host's temporary folder. There is one at a time. Empty when the
+/// host has no temporary folder.
 xbr::Url getPayloadFolder();
-
-/// Where the packed payload is written.
-xbr::Url getPayloadArchive();
 
 /// Packs the payload folder and wraps the archive into the request. Reports to `progress` and looks there for
 /// a cancellation. Empty when the archive cannot be written or read back; the files stay until
 /// `cleanupPayload`.
 xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress);
 
-/// True while a payload folder or an archive is there: a build would mix its files with the new ones.
+/// False when neither a payload folder nor an archive is there: a build would mix its files with the new
+/// ones.
 bool isPayloadOnDisk();
 
 /// Removes the payload folder and the archive; harmless when there are none.

@@ -15,10 +15,10 @@ xbr::Ref<xbr::IStream> openAudio(const xbr::Url& file) {
     return stream;
 }
 
-void copyAudio(const xbr::Url& file) {
+void copyAudio(const xbr::Url& file, const xbr::Url& folder) {
     // A copy that fails is no error of its own here: the host does not pack a folder into which a copy
     // failed, so there is no archive and no request.
-    const std::string copy = getPayloadFolder().join("assets").join(file.fileName()).toString();
+    const std::string copy = folder.join("assets").join(file.fileName()).toString();
     XBRGetFileSystem()->copyFile(xbr::toText(file.toString()), xbr::toText(copy));
 }
 
@@ -28,10 +28,10 @@ void appendSong(xbr::IAttributeQueue& songs, const TrackMetadata& record, const 
     songs.append(xbr::objectValue(song.get()));
 }
 
-void writeDocument(xbr::Attributes& release, xbr::IAttributeQueue& songs) {
+void writeDocument(xbr::Attributes& release, xbr::IAttributeQueue& songs, const xbr::Url& folder) {
     release.set("songs", xbr::objectValue(&songs));
     xbr::Ref<xbr::IStream> stream;
-    const std::string location = getPayloadFolder().join("metadata.json").toString();
+    const std::string location = folder.join("metadata.json").toString();
     if (XBRGetFileSystem()->createFile(xbr::toText(location), stream.out()) == xbr::kOk) {
         xbr::writeJson(release, *stream);
     }
@@ -42,6 +42,10 @@ void writeDocument(xbr::Attributes& release, xbr::IAttributeQueue& songs) {
 xbr::Ref<IngestionRequest> buildAlbumPayload(const std::vector<xbr::Ref<TrackMetadata>>& records,
                                              const std::vector<xbr::Url>& files, std::string_view clientId,
                                              xbr::IProgress& progress) {
+    const xbr::Url folder = getPayloadFolder();
+    if (folder.isEmpty()) {
+        return {};
+    }
     const auto release = xbr::make<xbr::Attributes>();
     const auto songs = xbr::make<xbr::AttributeQueue>();
     for (std::size_t i = 0; i < records.size(); ++i) {
@@ -53,24 +57,25 @@ xbr::Ref<IngestionRequest> buildAlbumPayload(const std::vector<xbr::Ref<TrackMet
             writeReleaseAttributes(*release, *records[i], clientId);
         }
         appendSong(*songs, *records[i], files[i]);
-        copyAudio(files[i]);
+        copyAudio(files[i], folder);
     }
-    writeDocument(*release, *songs);
+    writeDocument(*release, *songs, folder);
     return createIngestionRequest(progress);
 }
 
 xbr::Ref<IngestionRequest> buildTrackPayload(const TrackMetadata& record, const xbr::Url& file,
                                              std::string_view clientId, xbr::IProgress& progress) {
+    const xbr::Url folder = getPayloadFolder();
     const auto audio = openAudio(file);
-    if (!audio) {
+    if (folder.isEmpty() || !audio) {
         return {};
     }
     const auto release = xbr::make<xbr::Attributes>();
     const auto songs = xbr::make<xbr::AttributeQueue>();
     writeReleaseAttributes(*release, record, clientId);
     appendSong(*songs, record, file);
-    writeDocument(*release, *songs);
-    copyAudio(file);
+    writeDocument(*release, *songs, folder);
+    copyAudio(file, folder);
     return createIngestionRequest(progress);
 }
 

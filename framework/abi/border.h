@@ -12,9 +12,8 @@
 /// - Text in is UTF-8 as a pointer and a length (`Text`). It is never zero-terminated, may hold any byte, and
 ///   is read during the call only; the callee copies what it keeps. A null pointer with length 0 is the empty
 ///   text.
-/// - Text out is a counted `IString`, except for names and values of an object's own, answered as `Text`:
-/// they
-///   stay valid until the next call into the object that answered them.
+/// - Text out is a counted `IString`, except for names and values of an object's own: these are answered as
+///   `Text` and stay valid until the next call into the object that answered them.
 /// - Objects in are borrowed for the call. Who keeps one retains it ("kept").
 /// - Objects out through a `T** out` are handed over: the caller releases them. On failure *out is null.
 ///   Objects answered as a plain return value are borrowed and live as long as the object that answered.
@@ -45,4 +44,8 @@ constexpr std::uint32_t borderMajor(std::uint32_t version) {
 } // namespace xbr
 
 /// Marks a function that one side exports and the other side links or looks up by name.
+#ifdef _WIN32
+#define XBR_API extern "C" __declspec(dllexport)
+#else
 #define XBR_API extern "C" __attribute__((visibility("default")))
+#endif

@@ -45,9 +45,9 @@ struct IFeed : IObject {
 struct IFeedReader : IObject {
     static constexpr Uid kUid = uid("926982b8-2118-4dc5-bc32-3f117ed0968e");
 
-    /// Reads an Atom 1.0 document (RFC 4287) from the stream's position, handed over. `location`
-    /// is where it was found, for its relative references; `mimeType` what the server declared, for the
-    /// encoding (RFC 7303). Either may be empty.
+    /// Reads an Atom 1.0 document (RFC 4287) from the stream's position, handed over. `location` is where it
+    /// was found, for its relative references; `mimeType` what the server declared, for the encoding (RFC
+    /// 7303). Either may be empty.
     ///
     /// kInvalidArgument and null: no such document, ill-formed, with a document type declaration, of more
     /// than 8 MiB or 10,000 entries, or deeper than 64; kUnexpected: reading failed.

@@ -35,6 +35,14 @@ struct IClassFactory : IObject {
     virtual Result createInstance(const Uid& classUid, const Uid& interfaceUid, void** out) noexcept = 0;
 };
 
+/// What a module tells about itself; asked of its class factory.
+struct IModuleInfo : IObject {
+    static constexpr Uid kUid = uid("1b20095e-8b7f-4448-8bd9-7a0054d0d158");
+
+    /// The module's own version, for people: "1.2.0".
+    virtual Text version() const noexcept = 0;
+};
+
 /// Tells a module about the host.
 struct IHostContext : IObject {
     static constexpr Uid kUid = uid("555a6fef-b65e-4e19-b024-25972e69b932");
@@ -67,10 +75,12 @@ enum class ModuleReason : std::int32_t { kLoad = 1, kUnload = 2 };
 } // namespace xbr
 
 /// The module's entry point, looked up by name. `moduleHandle` is the host's handle of the library, never
-/// null; `reason` is a ModuleReason, any other value does nothing. Answers 1 for success and 0 for failure; a
-/// module that failed to load is not unloaded by a call, its library may be closed.
+/// null; `reason` is a ModuleReason, any other value does nothing. Answers 1 for success and 0 for failure.
+/// Before it closes the library the host unloads the module by a call, also one that failed to load: what
+/// began until then is undone by it.
 XBR_API std::int32_t XBRModuleMain(void* moduleHandle, std::int32_t reason) noexcept;
 
-/// The module's class factory, looked up by name after a successful load: borrowed, the same each time, valid
-/// until the module is unloaded. Asking for an instance before a load answers kUnexpected.
+/// The module's class factory, looked up by name: borrowed, the same each time, valid until the library is
+/// closed. The host asks it for the border's version before anything else, also before the load. Asking for
+/// an instance before a load answers kUnexpected.
 XBR_API xbr::IClassFactory* XBRGetClassFactory() noexcept;

@@ -45,10 +45,9 @@ struct IXmlHandler : IObject {
 } // namespace xbr
 
 /// Reads a JSON document (RFC 8259) from the stream's position into `root`, which should be empty. The
-/// document must be an object; nesting is limited to 64, the
-/// document to 64 MiB. A key that repeats takes its last value. Integers of
-/// 64 bits become kInteger, all other numbers kFloat. On failure (kInvalidArgument: no such document;
-/// kUnexpected: reading failed) `root` is left as it was.
+/// document must be an object; nesting is limited to 64, the document to 64 MiB. A key that repeats takes its
+/// last value. Integers of 64 bits become kInteger, all other numbers kFloat. On failure (kInvalidArgument:
+/// no such document; kUnexpected: reading failed) `root` is left as it was.
 XBR_API xbr::Result XBRJsonParse(xbr::IStream* stream, xbr::IAttributes* root) noexcept;
 
 /// Writes `root` as JSON in UTF-8, in the order of its entries. Text that is not UTF-8 gets replacement

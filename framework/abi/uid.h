@@ -32,24 +32,34 @@ constexpr int hexDigit(char c) {
 
 } // namespace detail
 
-/// Reads the usual text form, "b827331a-7a50-4643-81c6-368232a08350". A malformed text does not compile.
-consteval Uid uid(const char (&text)[37]) {
-    Uid result{};
+/// Reads the usual text form, "b827331a-7a50-4643-81c6-368232a08350", in any case; false when it is
+/// malformed.
+constexpr bool parseUid(const char* text, std::uint64_t length, Uid& uid) {
+    if (length != 36) {
+        return false;
+    }
+    Uid parsed{};
     int digits = 0;
     for (int i = 0; i < 36; ++i) {
-        if (i == 8 || i == 13 || i == 18 || i == 23) {
-            if (text[i] != '-') {
-                throw "a hyphen is missing";
-            }
-            continue;
-        }
+        const bool isHyphen = i == 8 || i == 13 || i == 18 || i == 23;
         const int digit = detail::hexDigit(text[i]);
-        if (digit < 0) {
-            throw "not a hexadecimal digit";
+        if (isHyphen ? text[i] != '-' : digit < 0) {
+            return false;
         }
-        auto& byte = result.bytes[digits / 2];
-        byte = static_cast<std::uint8_t>(byte * 16 + digit);
-        ++digits;
+        if (!isHyphen) {
+            auto& byte = parsed.bytes[digits++ / 2];
+            byte = static_cast<std::uint8_t>(byte * 16 + digit);
+        }
+    }
+    uid = parsed;
+    return true;
+}
+
+/// The UID of a text. A malformed one does not compile.
+consteval Uid uid(const char (&text)[37]) {
+    Uid result{};
+    if (!parseUid(text, 36, result)) {
+        throw "a malformed UID";
     }
     return result;
 }

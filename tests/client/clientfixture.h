@@ -64,8 +64,9 @@ protected:
 
     std::vector<int> states() {
         std::vector<int> result;
-        forEachTrack(manager->trackList().model(),
-                     [&](const TrackItem& track) { result.push_back(static_cast<int>(track.state)); });
+        for (const auto& track : tracksOf(manager->trackList().model())) {
+            result.push_back(static_cast<int>(track->state));
+        }
         return result;
     }
 

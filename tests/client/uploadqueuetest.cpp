@@ -245,10 +245,10 @@ TEST_F(UploadQueueTest, NothingDoneWhilePreparingDoesHarm) {
 TEST_F(UploadQueueTest, AnAlbumIsSentAsItWasWhenUploadWasPressed) {
     startWith(UploadMode::kAlbum, "ab");
     host().files.onCopy = [&] {
-        forEachTrack(manager->trackList().model(), [](TrackItem& track) {
-            track.metadata->songArtist = "edited";
-            track.metadata->albumTitle = "edited";
-        });
+        for (const auto& track : tracksOf(manager->trackList().model())) {
+            track->metadata->songArtist = "edited";
+            track->metadata->albumTitle = "edited";
+        }
     };
     perform("upload");
     ASSERT_EQ(host().web.sent.size(), 1U);
@@ -298,7 +298,9 @@ TEST_F(UploadQueueTest, TheReplyIsJudgedByWhatWasSent) {
             }
             EXPECT_THAT(states(), testing::ElementsAreArray(after));
             EXPECT_THAT(sent, testing::ElementsAreArray(next));
-            forEachTrack(list.model(), [](const TrackItem& track) { EXPECT_FALSE(track.uploading); });
+            for (const auto& track : tracksOf(list.model())) {
+                EXPECT_FALSE(track->uploading);
+            }
         }
     }
 }

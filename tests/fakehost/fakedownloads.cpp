@@ -4,6 +4,7 @@
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
+#include "tests/fakehost/lender.h"
 
 #include <algorithm>
 
@@ -37,14 +38,14 @@ public:
         return std::erase(m_service.m_running, this) > 0 ? xbr::kOk : xbr::kFalse;
     }
     DownloadState state() const noexcept override { return m_state; }
-    xbr::Text location() const noexcept override { return xbr::toText(m_started.url); }
-    xbr::Text mimeType() const noexcept override { return {}; }
+    xbr::Text location() const noexcept override { return m_texts.lend(m_started.url); }
+    xbr::Text mimeType() const noexcept override { return m_texts.lend("application/atom+xml"); }
     xbr::Result getData(xbr::IStream** out) noexcept override {
         *out = xbr::Ref<xbr::IStream>(m_data).detach();
         return *out ? xbr::kOk : xbr::kFalse;
     }
     xbr::CopyTerms copyTerms() const noexcept override {
-        return {xbr::toText(m_terms.entityTag), xbr::toText(m_terms.lastModified), m_terms.mayBeKept};
+        return {m_texts.lend(m_terms.entityTag), m_dates.lend(m_terms.lastModified), m_terms.mayBeKept};
     }
 
     const std::string& url() const { return m_started.url; }
@@ -69,6 +70,8 @@ private:
     DownloadState m_state = DownloadState::kIdle;
     xbr::Ref<xbr::IStream> m_data;
     FakeTerms m_terms;
+    Lender m_texts;
+    Lender m_dates;
 };
 
 xbr::Result FakeDownloads::createTask(const std::string& url, xbr::IDownloadTask** out) {

@@ -2,6 +2,7 @@
 
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
+#include "tests/fakehost/lender.h"
 
 namespace fakehost {
 
@@ -11,9 +12,9 @@ class Entry final : public xbr::Object<xbr::IFeedEntry> {
 public:
     explicit Entry(FakeEntry entry) : m_entry(std::move(entry)) {}
 
-    xbr::Text title() const noexcept override { return xbr::toText(m_entry.title); }
-    xbr::Text summary() const noexcept override { return xbr::toText(m_entry.summary); }
-    xbr::Text content() const noexcept override { return xbr::toText(m_entry.content); }
+    xbr::Text title() const noexcept override { return m_texts.lend(m_entry.title); }
+    xbr::Text summary() const noexcept override { return m_texts.lend(m_entry.summary); }
+    xbr::Text content() const noexcept override { return m_texts.lend(m_entry.content); }
     xbr::Result getPublished(std::int64_t* time) const noexcept override {
         *time = m_entry.published.value_or(0);
         return m_entry.published ? xbr::kOk : xbr::kFalse;
@@ -24,18 +25,19 @@ public:
     xbr::Text linkAttribute(std::int32_t index, xbr::Text name) const noexcept override {
         const auto& link = m_entry.links.at(static_cast<std::size_t>(index));
         const auto found = link.find(xbr::toString(name));
-        return found == link.end() ? xbr::Text{} : xbr::toText(found->second);
+        return found == link.end() ? xbr::Text{} : m_texts.lend(found->second);
     }
     std::int32_t countCategories() const noexcept override {
         return static_cast<std::int32_t>(m_entry.categories.size());
     }
     xbr::Text categoryTermAt(std::int32_t index) const noexcept override {
-        return index < countCategories() ? xbr::toText(m_entry.categories[static_cast<std::size_t>(index)])
+        return index < countCategories() ? m_texts.lend(m_entry.categories[static_cast<std::size_t>(index)])
                                          : xbr::Text{};
     }
 
 private:
     FakeEntry m_entry;
+    Lender m_texts;
 };
 
 class Feed final : public xbr::Object<xbr::IFeed> {
@@ -59,10 +61,12 @@ private:
 
 } // namespace
 
-xbr::Result FakeFeeds::readFeed(xbr::IStream& stream, xbr::IFeed** out) {
+xbr::Result FakeFeeds::readFeed(xbr::IStream& stream, const std::string& location, xbr::IFeed** out) {
     xbr::rewind(stream);
     const auto found = documents.find(xbr::readAll(stream));
-    *out = found == documents.end() ? nullptr : xbr::make<Feed>(found->second).detach();
+    *out = found == documents.end() || location.find("://") == std::string::npos
+               ? nullptr
+               : xbr::make<Feed>(found->second).detach();
     return *out ? xbr::kOk : xbr::kInvalidArgument;
 }
 

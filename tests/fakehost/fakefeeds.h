@@ -20,10 +20,11 @@ struct FakeEntry {
     std::vector<std::string> categories = {};
 };
 
-/// Reads "documents" whose bytes are keys of feeds that the test has put here. Any other is no feed.
+/// Reads "documents" whose bytes are keys of feeds that the test has put here. Any other is no feed, and so
+/// is one whose location does not come along.
 class FakeFeeds {
 public:
-    xbr::Result readFeed(xbr::IStream& stream, xbr::IFeed** out);
+    xbr::Result readFeed(xbr::IStream& stream, const std::string& location, xbr::IFeed** out);
 
     std::map<std::string, std::vector<FakeEntry>> documents;
 };

@@ -3,6 +3,7 @@
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
+#include "tests/fakehost/lender.h"
 
 #include <algorithm>
 
@@ -24,6 +25,10 @@ public:
 
     xbr::Result read(void*, std::uint64_t, std::uint64_t*) noexcept override { return xbr::kNotImplemented; }
     xbr::Result write(const void* buffer, std::uint64_t size, std::uint64_t* done) noexcept override {
+        if (fails()) {
+            host().files.incomplete.insert(m_url);
+            return xbr::kUnexpected;
+        }
         host().files.files[m_url].append(static_cast<const char*>(buffer), size);
         if (done) {
             *done = size;
@@ -44,7 +49,7 @@ public:
         m_files.push_back({std::move(url), size, modified});
     }
     std::int32_t count() const noexcept override { return static_cast<std::int32_t>(m_files.size()); }
-    xbr::Text urlAt(std::int32_t index) const noexcept override { return xbr::toText(at(index).url); }
+    xbr::Text urlAt(std::int32_t index) const noexcept override { return m_texts.lend(at(index).url); }
     std::uint64_t sizeAt(std::int32_t index) const noexcept override { return at(index).size; }
     std::int64_t modifiedAt(std::int32_t index) const noexcept override { return at(index).modified; }
 
@@ -57,6 +62,7 @@ private:
     const File& at(std::int32_t index) const { return m_files.at(static_cast<std::size_t>(index)); }
 
     std::vector<File> m_files;
+    Lender m_texts;
 };
 
 class FakePackage final : public xbr::Object<xbr::IPackage> {
@@ -68,9 +74,13 @@ public:
         return xbr::kOk;
     }
     xbr::Result create() noexcept override {
-        return host().packages.failsToCreate ? xbr::kUnexpected : xbr::kOk;
+        return fails() || host().packages.failsToCreate ? xbr::kUnexpected : xbr::kOk;
     }
     xbr::Result addFolder(xbr::Text folder, std::int32_t, xbr::IProgress* progress) noexcept override {
+        if (fails()) {
+            m_isRefused = true;
+            return xbr::kUnexpected;
+        }
         const std::string prefix = xbr::toString(folder) + "/";
         const auto& incomplete = host().files.incomplete;
         m_isRefused = std::any_of(incomplete.begin(), incomplete.end(),
@@ -84,7 +94,7 @@ public:
         return xbr::kOk;
     }
     xbr::Result flush(xbr::IProgress*) noexcept override {
-        if (host().packages.failsToFlush || m_isRefused) {
+        if (fails() || host().packages.failsToFlush || m_isRefused) {
             return xbr::kUnexpected;
         }
         host().files.files[m_url] = m_listing;
@@ -101,6 +111,10 @@ private:
 } // namespace
 
 xbr::Result FakeFileSystem::openForReading(xbr::Text url, xbr::IStream** out) noexcept {
+    if (fails()) {
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     const auto found = files.find(xbr::toString(url));
     const bool readable = found != files.end() && !unreadable.contains(found->first);
     *out = readable ? makeStream(found->second).detach() : nullptr;
@@ -108,13 +122,18 @@ xbr::Result FakeFileSystem::openForReading(xbr::Text url, xbr::IStream** out) no
 }
 
 xbr::Result FakeFileSystem::createFile(xbr::Text url, xbr::IStream** out) noexcept {
+    if (fails()) {
+        incomplete.insert(xbr::toString(url));
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     files[xbr::toString(url)].clear();
     *out = xbr::make<FileWriter>(xbr::toString(url)).detach();
     return xbr::kOk;
 }
 
 xbr::Result FakeFileSystem::copyFile(xbr::Text from, xbr::Text to) noexcept {
-    if (!fileExists(from) || uncopyable.contains(xbr::toString(from))) {
+    if (fails() || !fileExists(from) || uncopyable.contains(xbr::toString(from))) {
         incomplete.insert(xbr::toString(to));
         return xbr::kUnexpected;
     }
@@ -141,7 +160,7 @@ xbr::Result FakeFileSystem::removeFile(xbr::Text url) noexcept {
 }
 
 xbr::Result FakeFileSystem::removeFolder(xbr::Text url) noexcept {
-    if (unremovable.contains(xbr::toString(url))) {
+    if (fails() || unremovable.contains(xbr::toString(url))) {
         return xbr::kUnexpected;
     }
     const std::string prefix = xbr::toString(url) + "/";
@@ -151,11 +170,14 @@ xbr::Result FakeFileSystem::removeFolder(xbr::Text url) noexcept {
                : xbr::kFalse;
 }
 
-xbr::Result FakeFileSystem::registerResources(xbr::Text, const void*, std::uint64_t) noexcept {
-    return xbr::kOk;
+xbr::Result FakeFileSystem::registerResources(xbr::Text name, const void*, std::uint64_t) noexcept {
+    if (fails()) {
+        return xbr::kUnexpected;
+    }
+    return resources.insert(xbr::toString(name)).second ? xbr::kOk : xbr::kFalse;
 }
-xbr::Result FakeFileSystem::unregisterResources(xbr::Text) noexcept {
-    return xbr::kOk;
+xbr::Result FakeFileSystem::unregisterResources(xbr::Text name) noexcept {
+    return resources.erase(xbr::toString(name)) > 0 ? xbr::kOk : xbr::kFalse;
 }
 
 xbr::Result FakeFileSystem::getCacheFolder(xbr::IString** out) noexcept {
@@ -181,6 +203,10 @@ xbr::Result FakeFileSystem::getFiles(xbr::Text folder, xbr::IFileList** out) noe
 }
 
 xbr::Result FakePackageHandler::createPackage(const xbr::Uid&, xbr::Text url, xbr::IPackage** out) noexcept {
+    if (fails()) {
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     *out = xbr::make<FakePackage>(xbr::toString(url)).detach();
     return xbr::kOk;
 }

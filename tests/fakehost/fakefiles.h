@@ -31,6 +31,7 @@ public:
 
     std::map<std::string, std::string> files;
     std::map<std::string, std::int64_t> modified; ///< of files that were replaced
+    std::set<std::string> resources;              ///< names under which modules registered theirs
     bool hasCacheFolder = true;
     std::set<std::string> unreadable;  ///< files that exist and cannot be opened
     std::set<std::string> uncopyable;  ///< files that cannot be copied; what was there before stays

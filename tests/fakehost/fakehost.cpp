@@ -17,6 +17,14 @@ FakeHost& host() {
     return *slot();
 }
 
+bool fails(const char* call) {
+    const bool isThis = ++host().calls == host().failingCall;
+    if (isThis) {
+        host().failed = call;
+    }
+    return isThis;
+}
+
 void resetHost() {
     slot() = std::make_unique<FakeHost>();
 }

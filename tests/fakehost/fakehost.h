@@ -27,7 +27,14 @@ struct FakeHost {
     FakeFileTypeRegistry fileTypes;
     FakeLocaleManager locale;
     FakePlugInManager objects;
+
+    int calls = 0;       ///< that may fail
+    int failingCall = 0; ///< the one of them that does, counted from 1; 0: none
+    std::string failed;  ///< its name
 };
+
+/// True for the one call of the host that is to fail; remembers its name.
+bool fails(const char* call = __builtin_FUNCTION());
 
 /// The host of the running test.
 FakeHost& host();

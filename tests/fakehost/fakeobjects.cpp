@@ -3,6 +3,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "tests/fakehost/fakehost.h"
+#include "tests/fakehost/lender.h"
 
 namespace fakehost {
 
@@ -17,22 +18,27 @@ public:
     FakeView(std::string form, xbr::IController* controller)
         : m_form(std::move(form)),
           m_controller(xbr::Ref<xbr::IController>::share(controller)) {}
-    xbr::Text formName() const noexcept override { return xbr::toText(m_form); }
+    xbr::Text formName() const noexcept override { return m_texts.lend(m_form); }
     xbr::IController* controller() noexcept override { return m_controller.get(); }
 
 private:
     std::string m_form;
     xbr::Ref<xbr::IController> m_controller;
+    Lender m_texts;
 };
 
 class FakeTheme final : public xbr::Object<xbr::ITheme> {
 public:
     xbr::Result load(xbr::Text folder) noexcept override {
         objects().log.push_back("theme " + xbr::toString(folder));
-        return objects().themeLoads ? xbr::kOk : xbr::kInvalidArgument;
+        return objects().themeLoads && !fails() ? xbr::kOk : xbr::kInvalidArgument;
     }
     bool hasForm(xbr::Text) const noexcept override { return true; }
     xbr::Result createView(xbr::Text form, xbr::IController* controller, xbr::IView** out) noexcept override {
+        if (fails()) {
+            *out = nullptr;
+            return xbr::kUnexpected;
+        }
         *out = xbr::make<FakeView>(xbr::toString(form), controller).detach();
         return xbr::kOk;
     }
@@ -72,8 +78,11 @@ public:
         return static_cast<std::int32_t>(objects().chosenFiles.size());
     }
     xbr::Text urlAt(std::int32_t index) const noexcept override {
-        return xbr::toText(objects().chosenFiles[static_cast<std::size_t>(index)]);
+        return m_texts.lend(objects().chosenFiles[static_cast<std::size_t>(index)]);
     }
+
+private:
+    Lender m_texts;
 };
 
 class FakeProgressIndicator final : public xbr::Object<xbr::IProgressIndicator, xbr::IProgress> {
@@ -103,7 +112,7 @@ public:
         for (const auto& [key, value] : objects().configuration) {
             out->set(xbr::toText(key), xbr::textValue(value));
         }
-        return objects().configurationResult;
+        return fails() ? xbr::kUnexpected : objects().configurationResult;
     }
 };
 
@@ -139,6 +148,9 @@ xbr::Result create(const xbr::Uid& interfaceUid, void** out) {
 xbr::Result FakePlugInManager::createInstance(const xbr::Uid& classUid, const xbr::Uid& interfaceUid,
                                               void** out) noexcept {
     *out = nullptr;
+    if (fails()) {
+        return xbr::kUnexpected;
+    }
     if (classUid == xbr::ITheme::kClassUid) {
         return create<FakeTheme>(interfaceUid, out);
     }

@@ -18,10 +18,10 @@ xbr::Result FakeSignalHandler::removeObserver(xbr::ISubject* subject, xbr::IObse
 void FakeSignalHandler::signal(xbr::ISubject* subject, xbr::IMessage* message) noexcept {
     const auto snapshot = m_pairs;
     for (const Pair& pair : snapshot) {
-        const bool alive = std::any_of(m_pairs.begin(), m_pairs.end(), [&](const Pair& present) {
+        const auto isPair = [&](const Pair& present) {
             return present.subject == pair.subject && present.observer == pair.observer;
-        });
-        if (pair.subject == subject && alive) {
+        };
+        if (pair.subject == subject && std::any_of(m_pairs.begin(), m_pairs.end(), isPair)) {
             const auto kept = xbr::Ref<xbr::IObserver>::share(pair.observer);
             kept->notify(subject, message);
         }

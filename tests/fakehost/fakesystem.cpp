@@ -1,6 +1,8 @@
 #include "tests/fakehost/fakesystem.h"
 
 #include "framework/support/objects/text.h"
+#include "tests/fakehost/fakehost.h"
+#include "tests/fakehost/lender.h"
 
 #include <algorithm>
 #include <chrono>
@@ -12,11 +14,12 @@ namespace {
 class Credential final : public xbr::Object<xbr::ICredential> {
 public:
     explicit Credential(FakeCredentialManager::Stored stored) : m_stored(std::move(stored)) {}
-    xbr::Text userName() const noexcept override { return xbr::toText(m_stored.userName); }
-    xbr::Text password() const noexcept override { return xbr::toText(m_stored.password); }
+    xbr::Text userName() const noexcept override { return m_texts.lend(m_stored.userName); }
+    xbr::Text password() const noexcept override { return m_texts.lend(m_stored.password); }
 
 private:
     FakeCredentialManager::Stored m_stored;
+    Lender m_texts;
 };
 
 class FileType final : public xbr::Object<xbr::IFileType> {
@@ -24,18 +27,23 @@ public:
     explicit FileType(std::string extension, std::string mimeType = {})
         : m_extension(std::move(extension)),
           m_mimeType(std::move(mimeType)) {}
-    xbr::Text extension() const noexcept override { return xbr::toText(m_extension); }
-    xbr::Text mimeType() const noexcept override { return xbr::toText(m_mimeType); }
+    xbr::Text extension() const noexcept override { return m_texts.lend(m_extension); }
+    xbr::Text mimeType() const noexcept override { return m_texts.lend(m_mimeType); }
     xbr::Text description() const noexcept override { return xbr::toText(""); }
 
 private:
     std::string m_extension;
     std::string m_mimeType;
+    Lender m_texts;
 };
 
 } // namespace
 
 xbr::Result FakeSystem::getTemporaryFolder(xbr::IString** out) noexcept {
+    if (fails()) {
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     return xbr::giveText("file:///tmp/host", out);
 }
 
@@ -44,12 +52,18 @@ void FakeSystem::writeDebugWarning(xbr::Text message) noexcept {
 }
 
 xbr::Result FakeSystemShell::openUrl(xbr::Text url) noexcept {
+    if (fakehost::fails()) {
+        return xbr::kUnexpected;
+    }
     opened.push_back(xbr::toString(url));
     return fails ? xbr::kUnexpected : xbr::kOk;
 }
 
 xbr::Result FakeCredentialManager::add(xbr::Text target, xbr::Text userName, xbr::Text password,
                                        xbr::Text note) noexcept {
+    if (fails()) {
+        return xbr::kUnexpected;
+    }
     if (locked) {
         return xbr::kUnexpected;
     }
@@ -59,12 +73,19 @@ xbr::Result FakeCredentialManager::add(xbr::Text target, xbr::Text userName, xbr
 }
 
 xbr::Result FakeCredentialManager::find(xbr::Text target, xbr::ICredential** out) noexcept {
+    if (fails()) {
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     const bool found = stored && stored->target == xbr::view(target);
     *out = found ? xbr::make<Credential>(*stored).detach() : nullptr;
     return found ? xbr::kOk : xbr::kFalse;
 }
 
 xbr::Result FakeCredentialManager::remove(xbr::Text target) noexcept {
+    if (fails()) {
+        return xbr::kUnexpected;
+    }
     ++removals;
     if (!stored || stored->target != xbr::view(target)) {
         return xbr::kFalse;

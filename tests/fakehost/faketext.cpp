@@ -2,11 +2,14 @@
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
+#include "tests/fakehost/fakehost.h"
+#include "tests/fakehost/lender.h"
 
 #include <nlohmann/json.hpp>
 
 #include <clocale>
 #include <cwctype>
+#include <regex>
 #include <sstream>
 
 // JSON, lines and case folding of the fake host. They really work: what the module reads and writes through
@@ -78,6 +81,28 @@ Json toJson(const xbr::Value& value) {
                                                   : Json(std::string(xbr::textOf(value)));
 }
 
+/// The attributes of an element.
+class Dictionary final : public xbr::Object<xbr::IStringDictionary> {
+public:
+    std::int32_t count() const noexcept override { return static_cast<std::int32_t>(m_pairs.size()); }
+    xbr::Text keyAt(std::int32_t index) const noexcept override {
+        return m_texts.lend(m_pairs.at(static_cast<std::size_t>(index)).first);
+    }
+    xbr::Text valueAt(std::int32_t index) const noexcept override {
+        return m_texts.lend(m_pairs.at(static_cast<std::size_t>(index)).second);
+    }
+    xbr::Result get(xbr::Text, xbr::Text*) const noexcept override { return xbr::kNotImplemented; }
+    xbr::Result set(xbr::Text, xbr::Text) noexcept override { return xbr::kNotImplemented; }
+    xbr::Result append(xbr::Text key, xbr::Text value) noexcept override {
+        m_pairs.emplace_back(xbr::view(key), xbr::view(value));
+        return xbr::kOk;
+    }
+
+private:
+    std::vector<std::pair<std::string, std::string>> m_pairs;
+    fakehost::Lender m_texts;
+};
+
 class Lines final : public xbr::Object<xbr::ITextStreamer> {
 public:
     explicit Lines(std::string text) : m_text(std::move(text)) {}
@@ -97,6 +122,9 @@ private:
 } // namespace
 
 xbr::Result XBRJsonParse(xbr::IStream* stream, xbr::IAttributes* root) noexcept {
+    if (fakehost::fails()) {
+        return xbr::kUnexpected;
+    }
     const Json json = Json::parse(xbr::readAll(*stream), nullptr, false);
     if (!json.is_object()) {
         return xbr::kInvalidArgument;
@@ -110,16 +138,41 @@ xbr::Result XBRJsonStringify(const xbr::IAttributes* root, xbr::IStream* stream)
     return stream->write(text.data(), text.size(), nullptr);
 }
 
-xbr::Result XBRXmlParse(xbr::IStream*, xbr::IXmlHandler*) noexcept {
-    return xbr::kNotImplemented;
+/// Elements with their attributes, without text and entities.
+xbr::Result XBRXmlParse(xbr::IStream* stream, xbr::IXmlHandler* handler) noexcept {
+    if (fakehost::fails()) {
+        return xbr::kUnexpected;
+    }
+    static const std::regex element("<(\\w+)([^>]*)>");
+    static const std::regex attribute("(\\w+)=\"([^\"]*)\"");
+    const std::string text = xbr::readAll(*stream);
+    const std::sregex_iterator end;
+    for (std::sregex_iterator found(text.begin(), text.end(), element); found != end; ++found) {
+        const auto attributes = xbr::make<Dictionary>();
+        const std::string inside = found->str(2);
+        for (std::sregex_iterator pair(inside.begin(), inside.end(), attribute); pair != end; ++pair) {
+            attributes->append(xbr::toText(pair->str(1)), xbr::toText(pair->str(2)));
+        }
+        handler->startElement(xbr::toText(found->str(1)), attributes.get());
+        handler->endElement(xbr::toText(found->str(1)));
+    }
+    return xbr::kOk;
 }
 
 xbr::Result XBRCreateTextStreamer(xbr::IStream* stream, xbr::ITextStreamer** out) noexcept {
+    if (fakehost::fails()) {
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     *out = xbr::make<Lines>(xbr::readAll(*stream)).detach();
     return xbr::kOk;
 }
 
 xbr::Result XBRFoldCase(xbr::Text text, xbr::IString** out) noexcept {
+    if (fakehost::fails()) {
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     static const bool localeSet = std::setlocale(LC_CTYPE, "C.UTF-8") != nullptr;
     std::wstring wide(text.length + 1, L'\0');
     const std::string copy = xbr::toString(text);

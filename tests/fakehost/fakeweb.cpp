@@ -27,6 +27,9 @@ public:
     ~FakeWebRequest() override { leave(); }
 
     xbr::Result open(xbr::Text method, xbr::Text url, xbr::IWebCredentials* credentials) noexcept override {
+        if (fails()) {
+            return xbr::kUnexpected;
+        }
         m_sent.method = xbr::view(method);
         m_sent.url = xbr::view(url);
         if (credentials) {
@@ -36,11 +39,17 @@ public:
     }
 
     xbr::Result setHeader(xbr::Text name, xbr::Text value) noexcept override {
+        if (fails()) {
+            return xbr::kUnexpected;
+        }
         m_sent.headers[xbr::toString(name)] = xbr::view(value);
         return xbr::kOk;
     }
 
     xbr::Result send(xbr::IStream* body, xbr::IObserver* handler) noexcept override {
+        if (fails()) {
+            return xbr::kUnexpected;
+        }
         if (m_service.refusesRequests) {
             return xbr::kUnexpected;
         }
@@ -61,6 +70,10 @@ public:
     std::int32_t status() const noexcept override { return m_status; }
 
     xbr::Result getResponseBody(xbr::IStream** out) noexcept override {
+        if (fails()) {
+            *out = nullptr;
+            return xbr::kUnexpected;
+        }
         *out = m_reply ? xbr::Ref<xbr::IStream>(m_reply).detach() : nullptr;
         return *out ? xbr::kOk : xbr::kFalse;
     }
@@ -106,11 +119,19 @@ private:
 };
 
 xbr::Result FakeWebService::createCredentials(xbr::IWebCredentials** out) noexcept {
+    if (fails()) {
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     *out = xbr::make<FakeCredentials>().detach();
     return xbr::kOk;
 }
 
 xbr::Result FakeWebService::createRequest(xbr::IWebRequest** out) noexcept {
+    if (fails()) {
+        *out = nullptr;
+        return xbr::kUnexpected;
+    }
     *out = xbr::make<FakeWebRequest>(*this).detach();
     return xbr::kOk;
 }
@@ -119,8 +140,9 @@ xbr::Result FakeWebService::createTask(xbr::Text url, xbr::IDownloadTask** out) 
     return host().downloads.createTask(xbr::toString(url), out);
 }
 
-xbr::Result FakeWebService::readFeed(xbr::IStream* stream, xbr::Text, xbr::Text, xbr::IFeed** out) noexcept {
-    return host().feeds.readFeed(*stream, out);
+xbr::Result FakeWebService::readFeed(xbr::IStream* stream, xbr::Text location, xbr::Text,
+                                     xbr::IFeed** out) noexcept {
+    return host().feeds.readFeed(*stream, xbr::toString(location), out);
 }
 
 void FakeWebService::answer(std::int32_t status, std::string body) {

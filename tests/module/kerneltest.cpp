@@ -10,92 +10,74 @@
 namespace {
 
 using brindlex::ModuleKernel;
+using brindlex::ModulePart;
 using fakehost::host;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 std::vector<std::string> g_calls;
-bool g_secondFails = false;
+std::string g_failing; ///< what fails
 
-bool initialise(void* first, void* second) {
-    const std::string name = static_cast<const char*>(first);
-    g_calls.push_back(name + (second ? "+" : ""));
-    return !(g_secondFails && name == "second");
-}
-void terminate(void* word) {
-    g_calls.push_back(std::string("end ") + static_cast<const char*>(word));
-}
-bool startWell(std::int32_t argument) {
-    g_calls.push_back("start " + std::to_string(argument));
-    return true;
-}
-bool startBadly(std::int32_t argument) {
-    g_calls.push_back("start " + std::to_string(argument));
-    return false;
+bool record(const char* call) {
+    g_calls.emplace_back(call);
+    return call != g_failing;
 }
 
-void* word(const char* text) {
-    return const_cast<char*>(text);
-}
+constexpr ModulePart kParts[] = {
+    {[] { return record("begin 1"); }, [] { record("end 1"); }},
+    {[] { return record("begin 2"); }, [] { record("end 2"); }},
+};
 
 class KernelTest : public testing::Test {
 protected:
     KernelTest() {
         fakehost::resetHost();
-        g_calls.clear();
-        g_secondFails = false;
-        kernel->addInitialise(&initialise, word("first"), word("x"));
-        kernel->addInitialise(&initialise, word("second"));
-        kernel->addTerminate(&terminate, word("first"));
-        kernel->addTerminate(&terminate, word("second"));
+        g_failing.clear();
     }
 
-    int handle = 0;
-    xbr::Ref<ModuleKernel> kernel = xbr::make<ModuleKernel>();
+    /// What is called by a load that ends like this, or by an unload.
+    std::vector<std::string> load(bool succeeds) {
+        g_calls.clear();
+        EXPECT_EQ(kernel->load(this), succeeds);
+        return g_calls;
+    }
+    std::vector<std::string> unload() {
+        g_calls.clear();
+        kernel->unload();
+        return g_calls;
+    }
+
+    xbr::Ref<ModuleKernel> kernel = xbr::make<ModuleKernel>(
+        kParts, [](std::int32_t argument) { return record(argument == 1 ? "start" : "stop"); });
 };
 
 TEST_F(KernelTest, LoadsInOrderAndUnloadsInReverseEachTime) {
     for (int i = 0; i < 3; ++i) {
-        g_calls.clear();
-        EXPECT_TRUE(kernel->load(&handle, &startWell));
-        EXPECT_EQ(kernel->moduleHandle(), &handle);
-        EXPECT_TRUE(kernel->load(&handle, &startWell)) << "a second load runs nothing again";
-        kernel->unload(&startWell);
-        EXPECT_EQ(kernel->moduleHandle(), nullptr);
-        EXPECT_THAT(g_calls, ElementsAre("first+", "second", "start 1", "start 2", "end second", "end first"))
-            << i;
+        EXPECT_THAT(load(true), ElementsAre("begin 1", "begin 2", "start")) << i;
+        EXPECT_THAT(load(true), IsEmpty()) << "a second load runs nothing again";
+        EXPECT_THAT(unload(), ElementsAre("stop", "end 2", "end 1")) << i;
+        EXPECT_THAT(unload(), IsEmpty()) << "there is nothing to unload";
     }
 }
 
-TEST_F(KernelTest, FailedStartIsTornDownAndCanBeTriedAgain) {
-    EXPECT_FALSE(kernel->load(&handle, &startBadly));
-    EXPECT_THAT(g_calls, ElementsAre("first+", "second", "start 1", "end second", "end first"));
-    EXPECT_EQ(kernel->moduleHandle(), nullptr);
-    g_calls.clear();
-    kernel->unload(&startWell);
-    EXPECT_TRUE(g_calls.empty()) << "there is nothing to unload";
-    EXPECT_TRUE(kernel->load(&handle, &startWell));
-}
-
-TEST_F(KernelTest, FailedInitialiseFunctionStopsAtOnceAndUndoesNothing) {
-    g_secondFails = true;
-    EXPECT_FALSE(kernel->load(&handle, &startWell));
-    EXPECT_THAT(g_calls, ElementsAre("first+", "second"));
-    g_calls.clear();
-    kernel->unload(&startWell);
-    EXPECT_THAT(g_calls, ElementsAre("start 2", "end second", "end first"));
-    g_secondFails = false;
-    g_calls.clear();
-    EXPECT_TRUE(kernel->load(&handle, &startWell));
-    EXPECT_THAT(g_calls, ElementsAre("first+", "second", "start 1")) << "all functions run in a later load";
+TEST_F(KernelTest, FailedLoadCanBeUndoneAndTriedAgain) {
+    g_failing = "start";
+    EXPECT_THAT(load(false), ElementsAre("begin 1", "begin 2", "start", "end 2", "end 1"));
+    EXPECT_THAT(unload(), IsEmpty()) << "undone already";
+    g_failing = "begin 2";
+    EXPECT_THAT(load(false), ElementsAre("begin 1", "begin 2")) << "stops at once";
+    EXPECT_THAT(unload(), ElementsAre("stop", "end 2", "end 1"));
+    g_failing.clear();
+    EXPECT_THAT(load(true), ElementsAre("begin 1", "begin 2", "start"));
 }
 
 TEST_F(KernelTest, TeardownReleasesObjectsAndForgetsMessages) {
     const auto message = xbr::make<xbr::Message>("late");
-    kernel->load(&handle, &startWell);
+    kernel->load(this);
     const auto object = xbr::make<xbr::Message>("kept");
     kernel->addObject(xbr::query<xbr::IObject>(object.get()));
     host().signals.post(kernel.get(), message.get(), 0);
-    kernel->unload(&startWell);
+    kernel->unload();
     EXPECT_EQ(object->retain(), 2U) << "ours and this one";
     object->release();
     EXPECT_EQ(host().signals.remaining(), 0U);
@@ -126,7 +108,19 @@ TEST(ModuleMain, BrokenSkinFailsTheLoad) {
     EXPECT_EQ(XBRGetClassFactory(), factory);
     EXPECT_EQ(factory->countClasses(), 1);
     EXPECT_EQ(factory->borderVersion(), xbr::kBorderVersion);
+    EXPECT_EQ(xbr::toString(xbr::query<xbr::IModuleInfo>(factory)->version()), BRINDLEX_VERSION);
     XBRModuleMain(&handle, 2);
+    EXPECT_EQ(host().signals.remaining(), 0U);
+}
+
+TEST(ModuleMain, SecondCopyIsRefusedAndHarmsNobody) {
+    fakehost::resetHost();
+    host().files.resources = {"brindlex"};
+    int handle = 0;
+    EXPECT_EQ(XBRModuleMain(&handle, 1), 0);
+    XBRModuleMain(&handle, 2);
+    EXPECT_TRUE(host().files.resources.contains("brindlex")) << "those of the first copy";
+    EXPECT_TRUE(host().objects.factories.empty());
     EXPECT_EQ(host().signals.remaining(), 0U);
 }
 

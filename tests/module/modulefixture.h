@@ -20,6 +20,28 @@ public:
     std::uint32_t version = xbr::kBorderVersion;
 };
 
+/// A song that the host rendered. Its tags are named after their keys, but for the title.
+class Song final : public xbr::Object<xbr::IUrlSource, xbr::IMediaAttributes> {
+public:
+    Song(std::string url, std::string title) : m_url(std::move(url)), m_title(std::move(title)) {}
+    xbr::Result getUrl(xbr::IString** out) noexcept override {
+        *out = nullptr;
+        return m_url.empty() ? xbr::kFalse : xbr::giveText(m_url, out);
+    }
+    xbr::Result getMediaAttributes(xbr::IAttributes* out) noexcept override {
+        for (const char* key : {"Media:Artist", "Media:Album", "Media:AlbumArtist", "Media:Genre"}) {
+            out->set(xbr::toText(key), xbr::textValue(std::string(key).substr(6)));
+        }
+        out->set(xbr::toText("Media:Title"), xbr::textValue(m_title));
+        out->set(xbr::toText("Media:TrackIndex"), xbr::integerValue(7));
+        return xbr::kOk;
+    }
+
+private:
+    std::string m_url;
+    std::string m_title;
+};
+
 /// The module as a host has it after loading: started, with its service.
 class ModuleFixture : public testing::Test {
 protected:

@@ -8,27 +8,6 @@ namespace {
 
 using fakehost::host;
 
-/// A song that the host rendered.
-class Song final : public xbr::Object<xbr::IUrlSource, xbr::IMediaAttributes> {
-public:
-    explicit Song(std::string url) : m_url(std::move(url)) {}
-    xbr::Result getUrl(xbr::IString** out) noexcept override {
-        *out = nullptr;
-        return m_url.empty() ? xbr::kFalse : xbr::giveText(m_url, out);
-    }
-    xbr::Result getMediaAttributes(xbr::IAttributes* out) noexcept override {
-        for (const char* key :
-             {"Media:Title", "Media:Artist", "Media:Album", "Media:AlbumArtist", "Media:Genre"}) {
-            out->set(xbr::toText(key), xbr::textValue(std::string(key).substr(6)));
-        }
-        out->set(xbr::toText("Media:TrackIndex"), xbr::integerValue(7));
-        return xbr::kOk;
-    }
-
-private:
-    std::string m_url;
-};
-
 /// The panel's window.
 class Window final : public xbr::Object<xbr::IView, xbr::IShow> {
 public:
@@ -53,7 +32,7 @@ protected:
     xbr::Result publish(std::initializer_list<const char*> urls) {
         const auto items = xbr::make<xbr::ObjectList>();
         for (const char* url : urls) {
-            const auto song = xbr::make<Song>(url);
+            const auto song = xbr::make<Song>(url, "Title");
             items->add(xbr::query<xbr::IObject>(song.get()));
         }
         return publisher->publish(items.get());

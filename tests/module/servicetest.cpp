@@ -25,7 +25,15 @@ TEST_F(SupportServiceTest, OffersTheClassesInOrder) {
     xbr::Value metaClassId{};
     ASSERT_EQ(classes->attributesAt(1)->get(xbr::toText("Class:MetaClassID"), &metaClassId), xbr::kOk);
     EXPECT_EQ(xbr::textOf(metaClassId), xbr::toString(classes->classAt(2)->uid));
-    EXPECT_TRUE(create<xbr::IGadgetDescription>(*classes, classes->classAt(2)->uid));
+    host().files.files["resource://brindlex/gadget.xml"] =
+        R"(<?xml version="1.0"?><Gadget themeName="brindlex" formName="BrindlexManager" menuPriority="1"/>)";
+    const auto gadget = create<xbr::IGadgetDescription>(*classes, classes->classAt(2)->uid);
+    for (const auto& [name, value] : {std::pair{"themeName", "brindlex"},
+                                      {"formName", "BrindlexManager"},
+                                      {"menuPriority", "1"},
+                                      {"iconName", ""}}) {
+        EXPECT_EQ(xbr::toString(gadget->attribute(xbr::toText(name))), value) << name;
+    }
     EXPECT_FALSE(create<xbr::IPublisher>(*classes, classes->classAt(1)->uid)) << "a gadget is no publisher";
 }
 

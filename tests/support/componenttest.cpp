@@ -10,7 +10,7 @@ namespace {
 
 using fakehost::host;
 
-/// Remembers the tags that were changed.
+/// Remembers the tags that were changed, and their values then.
 class Recorder : public xbr::Component {
 public:
     using Component::addChild;
@@ -18,9 +18,13 @@ public:
     using Component::Component;
 
     std::vector<std::int32_t> changed;
+    std::vector<std::int64_t> values;
 
 protected:
-    void parameterChanged(xbr::Parameter& parameter) override { changed.push_back(parameter.tag()); }
+    void parameterChanged(xbr::Parameter& parameter) override {
+        changed.push_back(parameter.tag());
+        values.push_back(parameter.integer());
+    }
 };
 
 class ComponentTest : public testing::Test {
@@ -48,6 +52,42 @@ TEST_F(ComponentTest, ActsOnlyOnRealChangesByTheUser) {
     toggle.setEnabled(false);
     EXPECT_EQ(toggle.setValue(xbr::integerValue(1)), xbr::kFalse) << "disabled";
     EXPECT_EQ(component->changed, (std::vector<std::int32_t>{1, 2, 3, 3}));
+}
+
+TEST_F(ComponentTest, KeepsValuesTrue) {
+    const auto component = xbr::make<Recorder>("Root");
+    auto& list = component->addParameter(xbr::ParameterKind::kList, 1, "list");
+    list.setChoices({"a", "b", "c"});
+    list.set(xbr::integerValue(2));
+    list.setChoices({"a", "b"});
+    EXPECT_EQ(list.integer(), 1) << "held to what there is";
+    auto& number = component->addParameter(xbr::ParameterKind::kInteger, 2, "number", 0, INT64_MAX);
+    for (const std::int64_t value : {(INT64_C(1) << 53U), (INT64_C(1) << 53U) + 1}) {
+        EXPECT_EQ(number.setValue(xbr::integerValue(value)), xbr::kOk) << "no two integers are the same";
+    }
+}
+
+TEST_F(ComponentTest, ActsOnceForEachValue) {
+    /// A view that sets the next value when it learns of one.
+    class View final : public xbr::Object<xbr::IObserver> {
+    public:
+        explicit View(xbr::Parameter& parameter) : m_parameter(parameter) {}
+        void notify(xbr::ISubject*, xbr::IMessage*) noexcept override {
+            if (m_parameter.integer() < 3) {
+                m_parameter.setValue(xbr::integerValue(m_parameter.integer() + 1));
+            }
+        }
+
+    private:
+        xbr::Parameter& m_parameter;
+    };
+    const auto component = xbr::make<Recorder>("Root");
+    auto& number = component->addParameter(xbr::ParameterKind::kInteger, 1, "number", 0, 9);
+    const auto view = xbr::make<View>(number);
+    host().signals.addObserver(&number, view.get());
+    number.setValue(xbr::integerValue(1));
+    EXPECT_EQ(component->values, (std::vector<std::int64_t>{1, 2, 3}));
+    host().signals.forgetObserver(view.get());
 }
 
 TEST_F(ComponentTest, ResolvesPathsOfForms) {

@@ -118,7 +118,8 @@ xbr::Ref<xbr::IFeed> FeedElement::readFeed(xbr::IDownloadTask& task) const {
     xbr::Ref<xbr::IStream> document;
     xbr::Ref<xbr::IFeed> feed;
     if (reader && task.getData(document.out()) == xbr::kOk) {
-        reader->readFeed(document.get(), task.location(), task.mimeType(), feed.out());
+        const std::string location = xbr::toString(task.location()); // the next call may take the text back
+        reader->readFeed(document.get(), xbr::toText(location), task.mimeType(), feed.out());
     }
     return feed;
 }

@@ -54,13 +54,15 @@ void TrackEditRules::run(const std::vector<Row>& rows, std::int32_t tag, TrackIt
     }
 }
 
-void TrackEditRules::apply(std::int32_t tag, const std::vector<xbr::Ref<TrackItem>>& targets) {
+void TrackEditRules::apply(std::int32_t tag, const Tracks& targets) {
     for (const auto& target : targets) {
         run(isSingles() ? singlesRows() : albumRows(), tag, *target);
         run(commonRows(), tag, *target);
     }
     if (!isSingles()) {
-        forEachTrack(m_tracks, [&](TrackItem& track) { run(wholeAlbumRows(), tag, track); });
+        for (const auto& track : tracksOf(m_tracks)) {
+            run(wholeAlbumRows(), tag, *track);
+        }
     }
     showMarks(tag, targets);
     for (const std::int32_t markTag : std::exchange(m_cleared, {})) {
@@ -68,20 +70,15 @@ void TrackEditRules::apply(std::int32_t tag, const std::vector<xbr::Ref<TrackIte
     }
 }
 
-void TrackEditRules::showMarks(std::int32_t markTag, const std::vector<xbr::Ref<TrackItem>>& targets) {
+void TrackEditRules::showMarks(std::int32_t markTag, const Tracks& targets) {
     const auto* const field = std::find_if(kRequiredFields.begin(), kRequiredFields.end(),
                                            [&](const auto& each) { return each.markTag == markTag; });
     if (field == kRequiredFields.end()) {
         return;
     }
-    const auto showOne = [&](const TrackItem& track) { show(markTag, (*track.metadata).*field->missing); };
     const bool isOfSong = markTag == kSongTitleMissing || markTag == kSongArtistMissing;
-    if (isSingles() || isOfSong) {
-        for (const auto& target : targets) {
-            showOne(*target);
-        }
-    } else {
-        forEachTrack(m_tracks, showOne);
+    for (const auto& track : isSingles() || isOfSong ? targets : tracksOf(m_tracks)) {
+        show(markTag, (*track->metadata).*field->missing);
     }
 }
 

@@ -21,7 +21,7 @@ public:
 
     /// Applies the change of parameter `tag` to `targets` in their order and, for what an album's tracks
     /// share, to all tracks of the list.
-    void apply(std::int32_t tag, const std::vector<xbr::Ref<TrackItem>>& targets);
+    void apply(std::int32_t tag, const Tracks& targets);
 
 private:
     using Rule = std::function<void(TrackEditRules& rules, TrackItem& track)>;
@@ -60,7 +60,7 @@ private:
     bool isSingles() const { return m_mode == UploadMode::kSingles; }
     void set(std::int32_t tag, const std::string& value);
     void show(std::int32_t tag, bool missing);
-    void showMarks(std::int32_t markTag, const std::vector<xbr::Ref<TrackItem>>& targets);
+    void showMarks(std::int32_t markTag, const Tracks& targets);
     /// The mark of value `tag` goes when the record has that value now.
     void clearMark(TrackFields& record, std::int32_t tag);
 

@@ -79,6 +79,14 @@ TrackItem& trackAt(const xbr::ListViewModel& model, std::size_t index) {
     return *asTrack(model.items()[index].get());
 }
 
+Tracks tracksOf(const xbr::ListViewModel& model) {
+    Tracks tracks;
+    for (std::size_t i = 0; i < countTracks(model); ++i) {
+        tracks.push_back(xbr::Ref<TrackItem>::share(&trackAt(model, i)));
+    }
+    return tracks;
+}
+
 TrackItem* focusTrack(const xbr::ListViewModel& model) {
     return asTrack(model.focusItem());
 }

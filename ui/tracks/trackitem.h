@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -59,12 +60,9 @@ inline std::size_t countTracks(const xbr::ListViewModel& model) {
 /// The track with the focus; null for none.
 TrackItem* focusTrack(const xbr::ListViewModel& model);
 
-/// Calls `action(track)` for every track in order.
-template <class Action>
-void forEachTrack(const xbr::ListViewModel& model, const Action& action) {
-    for (std::size_t i = 0; i < countTracks(model); ++i) {
-        action(trackAt(model, i));
-    }
-}
+using Tracks = std::vector<xbr::Ref<TrackItem>>;
+
+/// All tracks in their order; they stay when the list changes.
+Tracks tracksOf(const xbr::ListViewModel& model);
 
 } // namespace brindlex

@@ -73,7 +73,7 @@ private:
 
     xbr::Ref<xbr::ListViewModel> m_model;
     xbr::Ref<TrackPropertyComponent> m_editor;
-    std::vector<xbr::Ref<TrackItem>> m_uploading;   ///< the tracks that are being transferred
+    Tracks m_uploading;                             ///< the tracks that are being transferred
     UploadMode m_uploadMode = UploadMode::kSingles; ///< of that transfer
     std::vector<std::string> m_columnTitles;
 };

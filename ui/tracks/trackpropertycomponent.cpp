@@ -114,7 +114,9 @@ void TrackPropertyComponent::applyMode() {
     if (m_mode == UploadMode::kAlbum) {
         beginAlbum(*trackAt(*m_tracks, 0).metadata);
     }
-    forEachTrack(*m_tracks, [this](TrackItem& track) { bringInLine(*track.metadata); });
+    for (const auto& track : tracksOf(*m_tracks)) {
+        bringInLine(*track->metadata);
+    }
     m_isInLine = true;
     m_tracks->signalChanged();
     updateReady();
@@ -165,8 +167,8 @@ void TrackPropertyComponent::setReady(bool ready) {
     }
 }
 
-std::vector<xbr::Ref<TrackItem>> TrackPropertyComponent::editedTracks() const {
-    std::vector<xbr::Ref<TrackItem>> edited;
+Tracks TrackPropertyComponent::editedTracks() const {
+    Tracks edited;
     for (const auto& item : m_tracks->selection()) {
         edited.push_back(xbr::Ref<TrackItem>::share(TrackItem::from(*item)));
     }

@@ -53,7 +53,7 @@ protected:
 
 private:
     /// The selected tracks in the order of selection, and the one with the focus.
-    std::vector<xbr::Ref<TrackItem>> editedTracks() const;
+    Tracks editedTracks() const;
     void loadParameters(const TrackFields& record);
     void bringInLine(TrackFields& record) const;
     void setReady(bool ready);

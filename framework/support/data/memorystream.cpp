@@ -132,26 +132,6 @@ std::int64_t measure(IStream& stream) noexcept {
     return size;
 }
 
-bool copyStream(IStream& from, IStream& to, std::uint64_t size) {
-    const auto buffer = std::make_unique_for_overwrite<std::byte[]>(MemoryStream::kChunkSize);
-    while (size > 0) {
-        std::uint64_t done = 0;
-        const auto wanted = std::min(size, MemoryStream::kChunkSize);
-        if (from.read(buffer.get(), wanted, &done) != kOk || done != wanted) {
-            return false;
-        }
-        if (to.write(buffer.get(), wanted, &done) != kOk || done != wanted) {
-            return false;
-        }
-        size -= wanted;
-    }
-    return true;
-}
-
-bool copyStream(IStream& from, MemoryStream& to, std::uint64_t size) {
-    return to.writeFrom(from, size);
-}
-
 std::string readAll(IStream& stream) {
     static constexpr std::size_t kPiece = 65536;
     std::string bytes;

@@ -48,10 +48,6 @@ bool rewind(IStream& stream) noexcept;
 /// Negative when the stream cannot be measured.
 std::int64_t measure(IStream& stream) noexcept;
 
-/// Copies exactly `size` bytes from one position to the other; false when fewer came or went.
-bool copyStream(IStream& from, IStream& to, std::uint64_t size);
-bool copyStream(IStream& from, MemoryStream& to, std::uint64_t size);
-
 /// Everything from the position to the end.
 std::string readAll(IStream& stream);
 

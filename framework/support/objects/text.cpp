@@ -28,31 +28,6 @@ std::string toString(const Uid& uid) {
     return text;
 }
 
-bool parseUid(std::string_view text, Uid& uid) {
-    if (text.size() != 36) {
-        return false;
-    }
-    Uid parsed{};
-    int digits = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (i == 8 || i == 13 || i == 18 || i == 23) {
-            if (text[i] != '-') {
-                return false;
-            }
-            continue;
-        }
-        const int digit = detail::hexDigit(text[i]);
-        if (digit < 0) {
-            return false;
-        }
-        auto& byte = parsed.bytes[digits / 2];
-        byte = static_cast<std::uint8_t>(byte * 16 + digit);
-        ++digits;
-    }
-    uid = parsed;
-    return true;
-}
-
 std::string_view trim(std::string_view text) {
     static constexpr std::string_view kWhiteSpace = " \t\r\n\v\f";
     const auto first = text.find_first_not_of(kWhiteSpace);

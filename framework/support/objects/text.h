@@ -43,9 +43,6 @@ Result giveText(std::string text, IString** out);
 /// The usual text form of a UID, in lower case.
 std::string toString(const Uid& uid);
 
-/// Reads the text form of a UID in any case; false when it is malformed.
-bool parseUid(std::string_view text, Uid& uid);
-
 /// Removes white space (space, tab, CR, LF, vertical tab, form feed) at both ends.
 std::string_view trim(std::string_view text);
 

@@ -36,6 +36,8 @@ public:
     /// Borrowed from this object.
     Value value() const noexcept;
 
+    friend bool operator==(const OwnedValue&, const OwnedValue&) = default;
+
 private:
     std::variant<std::monostate, bool, std::int64_t, double, std::string, Ref<IObject>> m_held;
 };

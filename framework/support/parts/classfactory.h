@@ -2,7 +2,7 @@
 
 #include "framework/abi/module.h"
 #include "framework/support/data/attributes.h"
-#include "framework/support/objects/object.h"
+#include "framework/support/objects/text.h"
 
 #include <functional>
 #include <vector>
@@ -10,7 +10,7 @@
 namespace xbr {
 
 /// A list of classes with their creators.
-class ClassFactory final : public Object<IClassFactory> {
+class ClassFactory : public Object<IClassFactory> {
 public:
     /// Makes one instance; empty when it cannot be made.
     using Creator = std::function<Ref<IObject>()>;
@@ -40,6 +40,11 @@ private:
     Gate m_gate;
     std::vector<Entry> m_entries;
 };
+
+/// The description of a class; the texts are literals.
+inline ClassDescription describe(const Uid& uid, std::string_view category, std::string_view name) {
+    return {0, uid, toText(category), toText(name), {}, {}};
+}
 
 /// A creator of objects of class T.
 template <class T>

@@ -54,16 +54,6 @@ bool Parameter::convert(const Value& value, OwnedValue& converted) const {
     return true;
 }
 
-bool Parameter::differs(const Value& value) const {
-    const Value current = m_value.value();
-    if (current.kind != value.kind) {
-        return true;
-    }
-    return current.kind == ValueKind::kText
-               ? textOf(current) != textOf(value)
-               : numberOf(current) != numberOf(value) || current.object != value.object;
-}
-
 Result Parameter::setValue(const Value& value) noexcept {
     OwnedValue converted;
     if (!convert(value, converted)) {
@@ -71,7 +61,7 @@ Result Parameter::setValue(const Value& value) noexcept {
     }
     const bool isCommand = m_kind == ParameterKind::kCommand;
     const bool acts = isCommand ? integerOf(converted.value()) != 0
-                                : m_kind == ParameterKind::kPlain || differs(converted.value());
+                                : m_kind == ParameterKind::kPlain || converted != m_value;
     if (!m_enabled || !acts) {
         return kFalse;
     }
@@ -79,17 +69,20 @@ Result Parameter::setValue(const Value& value) noexcept {
     const auto self = Ref<Parameter>::share(this);
     if (!isCommand) {
         m_value = std::move(converted);
-        signalChanged();
     }
+    // Before the observers: one of them may set the next value, and each value is acted on once.
     if (m_owner) {
         m_owner->parameterChanged(*this);
+    }
+    if (!isCommand) {
+        signalChanged();
     }
     return kOk;
 }
 
 void Parameter::set(const Value& value, Notify notify) {
     OwnedValue converted;
-    if (!convert(value, converted) || !differs(converted.value())) {
+    if (!convert(value, converted) || converted == m_value) {
         return;
     }
     m_value = std::move(converted);
@@ -107,6 +100,9 @@ void Parameter::setEnabled(bool enabled) {
 
 void Parameter::setChoices(std::vector<std::string> choices) {
     m_choices = std::move(choices);
+    if (m_kind == ParameterKind::kList) {
+        m_value = OwnedValue(integerValue(std::min(integer(), maximum())));
+    }
     signalChanged();
 }
 

@@ -50,6 +50,8 @@ public:
     /// change handling does not run.
     void set(const Value& value, Notify notify = Notify::kObservers);
     void setEnabled(bool enabled);
+
+    /// The value of a list is held to what there is.
     void setChoices(std::vector<std::string> choices);
 
     /// The owner is going; the parameter may outlive it in a view.
@@ -57,7 +59,6 @@ public:
 
 private:
     bool convert(const Value& value, OwnedValue& converted) const;
-    bool differs(const Value& value) const;
     void signalChanged();
 
     IParameterOwner* m_owner;

@@ -4,10 +4,14 @@
 #include "host/app/headless/commandline.h"
 #include "host/app/headless/output.h"
 #include "host/app/headless/publishcommand.h"
+#include "host/app/modules/loadedmodule.h"
+#include "host/app/modules/modulesearch.h"
 #include "host/app/process/callbackclient.h"
 #include "host/app/texts/programtexts.h"
+#include "host/base/textscan.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <iostream>
 
@@ -29,13 +33,24 @@ ExitCode openUrl(const std::string& url) {
     return ExitCode::kNoHost;
 }
 
+/// This program's version, and that of each module that can be used.
+void printVersions() {
+    std::cout << "xbrhost " << XBR_HOST_VERSION << '\n';
+    for (const auto& path :
+         findModules(QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString())) {
+        if (const auto module = LoadedModule::inspect(path)) {
+            std::cout << plainText((*module)->name() + " " + (*module)->version()) << '\n';
+        }
+    }
+}
+
 ExitCode run(const CommandLine& commandLine) {
     switch (commandLine.command) {
     case Command::kHelp:
         std::cout << helpText();
         return ExitCode::kDone;
     case Command::kVersion:
-        std::cout << "xbrhost " << XBR_HOST_VERSION << '\n';
+        printVersions();
         return ExitCode::kDone;
     case Command::kPublish:
         return runPublish(commandLine);

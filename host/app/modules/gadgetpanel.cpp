@@ -19,7 +19,7 @@ Ref<IGadgetDescription> descriptionOf(const IAttributes* attributes) {
     Value metaClass{};
     Uid uid{};
     if (!attributes || attributes->get(toText(kMetaClassAttribute), &metaClass) != kOk ||
-        !parseUid(textOf(metaClass), uid)) {
+        !parseUid(textOf(metaClass).data(), textOf(metaClass).size(), uid)) {
         return {};
     }
     void* created = nullptr;

@@ -71,14 +71,26 @@ std::vector<std::string> findModules(const std::string& programFolder) {
                                       : librariesIn(libraries / "xbrhost" / "modules");
 }
 
-Outcome<std::unique_ptr<LoadedModule>> LoadedModule::load(const std::string& path, IHostContext& context) {
+Outcome<std::unique_ptr<LoadedModule>> LoadedModule::inspect(const std::string& path) {
     auto module = std::unique_ptr<LoadedModule>(new LoadedModule(path));
-    auto loaded = module->open();
-    if (loaded) {
-        loaded = module->start();
+    auto opened = module->open();
+    if (opened) {
+        opened = module->checkBorder();
     }
+    if (!opened) {
+        return opened.problem();
+    }
+    return module;
+}
+
+Outcome<std::unique_ptr<LoadedModule>> LoadedModule::load(const std::string& path, IHostContext& context) {
+    auto module = inspect(path);
+    if (!module) {
+        return module;
+    }
+    auto loaded = (*module)->start();
     if (loaded) {
-        loaded = module->startServices(context);
+        loaded = (*module)->startServices(context);
     }
     if (!loaded) {
         return loaded.problem();
@@ -98,8 +110,21 @@ Outcome<void> LoadedModule::open() {
         return problem(std::string("cannot be loaded: ") + (reason ? reason : "no reason was given"));
     }
     m_main = lookUp<decltype(m_main)>(m_library, "XBRModuleMain");
-    m_getFactory = lookUp<decltype(m_getFactory)>(m_library, "XBRGetClassFactory");
-    return m_main && m_getFactory ? Outcome<void>() : problem("is a library, but no module");
+    const auto getFactory = lookUp<decltype(&XBRGetClassFactory)>(m_library, "XBRGetClassFactory");
+    if (!m_main || !getFactory) {
+        return problem("is a library, but no module");
+    }
+    m_factory = getFactory();
+    return m_factory ? Outcome<void>() : problem("offers no classes");
+}
+
+Outcome<void> LoadedModule::checkBorder() {
+    const std::uint32_t version = m_factory->borderVersion();
+    if (borderMajor(version) != borderMajor(kBorderVersion)) {
+        return problem("is made for border version " + versionText(version) + ", this host for " +
+                       versionText(kBorderVersion));
+    }
+    return {};
 }
 
 Outcome<void> LoadedModule::start() {
@@ -107,15 +132,6 @@ Outcome<void> LoadedModule::start() {
     m_isStarted = true;
     if (m_main(m_library, static_cast<std::int32_t>(ModuleReason::kLoad)) == 0) {
         return problem("refuses to work (a part of it is missing or damaged)");
-    }
-    m_factory = m_getFactory();
-    if (!m_factory) {
-        return problem("offers no classes");
-    }
-    const std::uint32_t version = m_factory->borderVersion();
-    if (borderMajor(version) != borderMajor(kBorderVersion)) {
-        return problem("is made for border version " + versionText(version) + ", this host for " +
-                       versionText(kBorderVersion));
     }
     return {};
 }
@@ -135,7 +151,6 @@ Outcome<void> LoadedModule::startServices(IHostContext& context) {
 
 Outcome<void> LoadedModule::startService(const ClassDescription& description, IHostContext& context) {
     const std::string name = "'" + toString(description.name) + "'";
-    m_name = m_name.empty() ? toString(description.name) : m_name;
     void* created = nullptr;
     if (m_factory->createInstance(description.uid, IProgramService::kUid, &created) != kOk) {
         return problem("cannot make its service " + name);
@@ -151,6 +166,21 @@ Outcome<void> LoadedModule::startService(const ClassDescription& description, IH
     }
     m_services.push_back({std::move(service), std::move(classes)});
     return {};
+}
+
+std::string LoadedModule::name() const {
+    for (std::int32_t i = 0; i < m_factory->countClasses(); ++i) {
+        const ClassDescription* description = m_factory->classAt(i);
+        if (description && view(description->category) == kServiceCategory) {
+            return toString(description->name);
+        }
+    }
+    return {};
+}
+
+std::string LoadedModule::version() const {
+    const auto info = query<IModuleInfo>(m_factory);
+    return info ? toString(info->version()) : std::string();
 }
 
 void LoadedModule::stopServices() noexcept {

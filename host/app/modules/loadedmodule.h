@@ -24,6 +24,9 @@ public:
     /// Loads the library at `path` and starts it. The words of the problem follow the path.
     static Outcome<std::unique_ptr<LoadedModule>> load(const std::string& path, IHostContext& context);
 
+    /// Loads the library at `path` to ask for its name and versions, without starting it.
+    static Outcome<std::unique_ptr<LoadedModule>> inspect(const std::string& path);
+
     LoadedModule(const LoadedModule&) = delete;
     LoadedModule& operator=(const LoadedModule&) = delete;
     ~LoadedModule();
@@ -31,7 +34,10 @@ public:
     const std::string& path() const { return m_path; }
 
     /// What the module calls itself: the name of its first service.
-    const std::string& name() const { return m_name; }
+    std::string name() const;
+
+    /// The module's own version; empty when it does not tell.
+    std::string version() const;
 
     /// The version of the border that it was built with.
     std::uint32_t borderVersion() const { return m_factory->borderVersion(); }
@@ -45,16 +51,15 @@ private:
     explicit LoadedModule(std::string path) : m_path(std::move(path)) {}
     Problem problem(const std::string& words) const { return {Fault::kModule, m_path, 0, words, {}, {}}; }
     Outcome<void> open();
+    Outcome<void> checkBorder();
     Outcome<void> start();
     Outcome<void> startServices(IHostContext& context);
     Outcome<void> startService(const ClassDescription& description, IHostContext& context);
     void stopServices() noexcept;
 
     std::string m_path;
-    std::string m_name;
     void* m_library = nullptr;
     decltype(&XBRModuleMain) m_main = nullptr;
-    decltype(&XBRGetClassFactory) m_getFactory = nullptr;
     bool m_isStarted = false;
     IClassFactory* m_factory = nullptr; ///< the module's own
     std::vector<Service> m_services;

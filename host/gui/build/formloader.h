@@ -20,8 +20,7 @@ public:
 };
 
 /// The form with its texts in the user's language. `form` is well-formed; texts marked as not to be
-/// translated
-/// (`notr`) stay as they are.
+/// translated (`notr`) stay as they are.
 QByteArray translateForm(const std::string& form, ITranslationTable& translations);
 
 } // namespace xbr::host

@@ -27,7 +27,7 @@ xbr::Ref<xbr::MemoryStream> load(const std::string& file) {
     XBRGetFileSystem()->openForReading(xbr::toText(xbr::host::fileUrl(file)), stream.out());
     auto body = xbr::make<xbr::MemoryStream>();
     const auto size = stream ? xbr::measure(*stream) : -1;
-    if (size < 0 || !xbr::copyStream(*stream, *body, static_cast<std::uint64_t>(size))) {
+    if (size < 0 || !body->writeFrom(*stream, static_cast<std::uint64_t>(size))) {
         return {};
     }
     xbr::rewind(*body);

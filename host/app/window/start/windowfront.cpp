@@ -21,7 +21,7 @@ namespace {
 VersionLine lineOf(const LoadedModule& module) {
     const std::uint32_t version = module.borderVersion();
     const QString name = QString::fromStdString(module.path().substr(module.path().rfind('/') + 1));
-    return {QString::fromStdString(module.name()),
+    return {QString::fromStdString(module.name() + " " + module.version()).trimmed(),
             QCoreApplication::translate("xbr::host::WindowFront", "%1, border %2.%3")
                 .arg(name)
                 .arg(borderMajor(version))

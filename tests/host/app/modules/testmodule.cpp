@@ -55,7 +55,7 @@ public:
 };
 
 /// The module's factory; of a newer border for one build.
-class Factory final : public Object<IClassFactory> {
+class Factory final : public Object<IClassFactory, IModuleInfo> {
 public:
     std::uint32_t borderVersion() const noexcept override {
 #ifdef TEST_MODULE_NEWER
@@ -77,6 +77,9 @@ public:
     }
     const IAttributes* attributesAt(std::int32_t) const noexcept override {
         return nullptr;
+    }
+    Text version() const noexcept override {
+        return toText("1.2.3");
     }
     Result createInstance(const Uid&, const Uid& interfaceUid, void** out) noexcept override {
         return make<Service>()->queryInterface(interfaceUid, out);

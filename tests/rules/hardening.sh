@@ -1,0 +1,30 @@
+#!/bin/sh
+# Reads in built files whether they are hardened: hardening.sh BUILD_TYPE FILE...
+set -eu
+type=$1
+shift
+
+for file in "$@"; do
+    missing=
+    need() { # need TEXT NAME: TEXT has to be among what was read
+        case $read in
+        *"$1"*) ;;
+        *) missing="$missing, $2" ;;
+        esac
+    }
+    read=$(readelf -W --file-header --segments --dynamic "$file")
+    need "DYN (" "a place that differs each time"
+    need GNU_RELRO "tables that cannot be written"
+    need BIND_NOW "names that are looked up at the start"
+    if [ "$type" != Debug ]; then
+        read=$(readelf -W --dyn-syms "$file")
+        need __stack_chk_fail "a guarded stack"
+        need __glibcxx_assert_fail "the library's assertions"
+        need _chk@ "copies that are checked"
+    fi
+    if [ -n "$missing" ]; then
+        echo "$file lacks${missing#,}"
+        failed=yes
+    fi
+done
+[ -z "${failed:-}" ]
