@@ -1,19 +1,29 @@
+#include "host/app/audio/audiofolder.h"
 #include "host/app/headless/command.h"
+#include "host/app/headless/commandline.h"
 #include "host/app/window/start/window.h"
 
-#include <iostream>
+#include <filesystem>
 
 namespace {
 
 using namespace xbr::host;
+namespace fs = std::filesystem;
 
-ExitCode openWindow(int& argc, char** argv, const std::vector<std::string>& arguments) {
-    const auto options = parseWindowOptions(arguments);
-    if (!options) {
-        std::cerr << "xbrhost: " << options.problem().words << " (see xbrhost --help)" << std::endl;
-        return ExitCode::kUsage;
+/// The songs, and those of folders. Another process may get the paths, with a working folder of its own.
+std::vector<std::string> songsOf(const std::vector<std::string>& words) {
+    std::vector<std::string> songs;
+    std::error_code failed;
+    for (const std::string& word : words) {
+        const fs::path path = fs::absolute(word, failed).lexically_normal();
+        const auto found = audioFilesIn(path.string(), true);
+        if (found) {
+            songs.insert(songs.end(), found->begin(), found->end());
+        } else {
+            songs.push_back(failed ? word : path.string());
+        }
     }
-    return runWindow(argc, argv, *options);
+    return songs;
 }
 
 } // namespace
@@ -21,6 +31,9 @@ ExitCode openWindow(int& argc, char** argv, const std::vector<std::string>& argu
 int main(int argc, char** argv) {
     // Taken before Qt converts them: names of files are bytes.
     const std::vector<std::string> arguments(argv + 1, argv + argc);
-    return static_cast<int>(isForWindow(arguments) ? openWindow(argc, argv, arguments)
-                                                   : runCommand(argc, argv, arguments));
+    const auto commandLine = parseCommandLine(arguments);
+    const bool isWindow = commandLine && commandLine->command == Command::kWindow;
+    return static_cast<int>(isWindow
+                                ? runWindow(argc, argv, {commandLine->module, songsOf(commandLine->words)})
+                                : runCommand(argc, argv, arguments));
 }

@@ -147,6 +147,15 @@ class DemoTest(unittest.TestCase):
             songs = subprocess.run([BIN / "brindlex-songs", word], cwd=self.folder, check=False, capture_output=True)
             self.assertEqual((songs.returncode, self.belongings()), (code, []), songs)
 
+    def test_settings_of_a_real_service_are_left_alone(self):
+        settings = self.folder / "services.ini"
+        settings.write_text("[brindlex]\nServerURL=https://service.example\n")
+        before = settings.read_text()
+        sandbox = subprocess.run([BIN / "brindlex-sandbox", "--inbox", self.folder / "inbox", "--write-settings", settings],
+                                 timeout=20, check=False, capture_output=True, text=True)
+        self.assertEqual((sandbox.returncode, settings.read_text()), (1, before))
+        self.assertIn("holds other settings", sandbox.stderr)
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -4,10 +4,9 @@
 import filecmp
 import json
 import shutil
-import subprocess
 import unittest
 
-from stage import BIN, Stage, interrupt, wait_for
+from stage import Stage, interrupt, sign_in_page
 
 INGESTION = "/api/frontstage/release_ingestion"
 
@@ -48,12 +47,47 @@ class PublishTest(unittest.TestCase):
         self.assertEqual([path.name for path in audio], sorted(song.name for song in self.songs))
         self.assertEqual(len(self.stage.log(INGESTION)), 1)
 
-    def test_json_lines_tell_the_same_as_the_text(self):
-        result = self.publish("--json", *self.songs)
+    def test_json_tells_what_became_of_each_song(self):
+        for fault in ({"delay_ms": 1}, {"status": 422, "body": {"errors": "This title already exists"}}, {"status": 413}):
+            self.stage.control("POST", "fault", {"path": INGESTION, **fault})
+        result = self.publish("--json", "--skip-unreadable", *self.songs, self.stage.folder / "none.wav")
+        self.assertEqual(result.returncode, 1, result.stderr_text)
         events = [json.loads(line) for line in result.stdout_text.splitlines()]
-        self.assertEqual(events[-1]["event"], "finished")
-        done = {event["title"] for event in events if event["event"] == "track" and event["state"] == 1}
-        self.assertEqual(done, {"Café del Último", "Night Drive", "Opening"})
+        songs = [event for event in events if event["event"] == "song"]
+        self.assertEqual([(song.get("index"), song["title"], song["result"], song.get("cause"), song.get("status")) for song in songs],
+                         [(0, "Café del Último", "published", None, None), (1, "Night Drive", "refused", "refused", 422),
+                          (2, "Opening", "refused", "too-large", 413), (None, "none.wav", "left-out", "unreadable", None)])
+        self.assertEqual(songs[1]["text"], "The service refused “Night Drive” (422): This title already exists")
+        self.assertEqual([(event["level"], event["cause"]) for event in events if event["event"] == "problem"],
+                         [("warning", "unreadable"), ("error", "partly")])
+        end = events[-1]
+        self.assertEqual((end["event"], end["exitCode"], end["verdict"], end["published"], end["notPublished"], end["unsure"]),
+                         ("finished", 1, "partly", 1, 3, 0))
+        self.assertEqual(end["bytes"], sum(entry["body_bytes"] for entry in self.stage.log(INGESTION)))
+        moving = [event for event in events if event["event"] == "track" and event.get("totalBytes")]
+        self.assertTrue(all(0 <= event["bytes"] <= event["totalBytes"] for event in moving), moving)
+
+    def test_folders_stand_for_their_songs(self):
+        folder = self.songs[0].parent
+        (folder / "notes.txt").touch()
+        inner = folder / "inner" / "deep"
+        inner.mkdir(parents=True)
+        shutil.move(self.songs[2], inner / "Opening.WAV")
+        result = self.publish("--album", "--album-title=Night", folder, "--artist=Various")
+        self.assertEqual(result.returncode, 0, result.stderr_text)
+        result = self.publish("-rn", "--json", folder)
+        drafts = [event["songs"][0]["fileName"] for event in map(json.loads, result.stdout_text.splitlines())
+                  if event["event"] == "draft"]
+        self.assertEqual(drafts, ["Café del Último.mp3", "Night Drive.flac", "Opening.WAV"])
+        [(document, _)] = self.stage.releases()
+        self.assertEqual((document["title"], [song["title"] for song in document["songs"]]),
+                         ("Night", ["Café del Último", "Night Drive"]))
+        for arguments, code, words in (([folder, self.songs[0]], 2, "is there twice"),
+                                       ([folder / "inner"], 3, "--recursive looks into"),
+                                       ([folder, "--title", "x"], 2, "is a folder")):
+            result = self.publish(*arguments)
+            self.assertEqual(result.returncode, code, result.stderr_text)
+            self.assertIn(words, result.stderr_text)
 
     def test_nothing_that_cannot_be_published_is_sent(self):
         folder = self.stage.folder
@@ -68,7 +102,7 @@ class PublishTest(unittest.TestCase):
             ([self.songs[0], folder / "missing.wav"], 3, "missing.wav"),
             (["--module", folder / "none.so", self.songs[0]], 4, "none.so"),
             (["--module", folder / "notes.txt", self.songs[0]], 4, "notes.txt"),
-            ([], 2, "file"),
+            ([], 2, "song"),
             (["--unknown", self.songs[0]], 2, "--unknown"),
         ]
         for arguments, code, word in cases:
@@ -88,32 +122,6 @@ class PublishTest(unittest.TestCase):
         result = self.publish(self.songs[0])
         self.assertEqual(result.returncode, 9, result.stderr_text)
         self.assertIn("services.ini", result.stderr_text)
-
-    def test_refusals_of_the_service_decide_each_track(self):
-        missing = {"errors": "Release metadata did not contain a required property: 'title'"}
-        faults = [
-            ({"status": 500}, 1, "failed"),
-            ({"status": 422, "body": missing}, 7, "missing"),
-            ({"status": 401, "early": True}, 10, "does not accept the stored sign-in any more"),
-            ({"reset_after": 1000}, 1, "failed"),
-            ({"truncate": True}, 1, "failed"),
-            ({"redirect": "http://127.0.0.1:9/"}, 1, "failed"),
-        ]
-        for fault, code, word in faults:
-            with self.subTest(fault=fault):
-                self.stage.control("DELETE", "log")
-                self.stage.control("POST", "fault", {"path": INGESTION, **fault})
-                result = self.publish(self.songs[0])
-                self.assertEqual(result.returncode, code, result.stderr_text)
-                self.assertIn(word, (result.stdout_text + result.stderr_text).lower())
-                self.assertEqual(len(self.stage.log(INGESTION)), 1)
-        self.assertEqual(self.publish(self.songs[0]).returncode, 0, "the next upload works")
-
-    def test_one_refused_track_does_not_stop_the_others(self):
-        self.stage.control("POST", "fault", {"path": INGESTION, "status": 500})
-        result = self.publish(*self.songs)
-        self.assertEqual(result.returncode, 1, result.stderr_text)
-        self.assertEqual(len(self.stage.releases()), 2)
 
     def test_song_that_lacks_information_is_named(self):
         song = self.stage.folder / "untagged.wav"
@@ -153,27 +161,16 @@ class PublishTest(unittest.TestCase):
 
     def test_interrupted_while_waiting_for_the_browser(self):
         process = self.stage.start("publish", self.songs[0], BROWSER="/bin/true")
-        wait_for(lambda: "oauth/authorize" in (process.stdout.readline()), "the address of the sign-in page")
+        sign_in_page(process)
         _, errors = interrupt(process)
         self.assertEqual(process.returncode, 130, errors)
         self.assertEqual(self.stage.leftovers(), [])
 
     def test_pasted_callback_completes_the_sign_in(self):
         process = self.stage.start("sign-in", BROWSER="/bin/true")
-        page = wait_for(lambda: (lambda line: line.strip() if "oauth/authorize" in line else None)(
-            process.stdout.readline()), "the address of the sign-in page")
-        opened = subprocess.run([BIN / "brindlex-browser", page], env=self.stage.environment, timeout=20, check=False)
-        self.assertEqual(opened.returncode, 0)
+        self.stage.visit(sign_in_page(process))
         process.communicate(timeout=20)
         self.assertEqual(process.returncode, 0)
-
-    def test_interrupted_in_the_middle_of_the_upload(self):
-        self.stage.control("POST", "fault", {"path": INGESTION, "stall_ms": 20000, "stall_after": 1000})
-        process = self.stage.start("publish", "--json", self.songs[2])
-        wait_for(lambda: '"uploading":true' in process.stdout.readline().replace(" ", ""), "the upload")
-        _, errors = interrupt(process)
-        self.assertEqual(process.returncode, 130, errors)
-        self.assertEqual(self.stage.leftovers(), [])
 
 
 if __name__ == "__main__":

@@ -8,7 +8,7 @@ import signal
 import unittest
 import wave
 
-from stage import Stage, interrupt, wait_for
+from stage import Stage, interrupt, sign_in_page, wait_for
 
 INGESTION = "/api/frontstage/release_ingestion"
 
@@ -179,8 +179,7 @@ class SilentFailureTest(unittest.TestCase):
     def publish_and(self, meanwhile):
         """Publishes; `meanwhile` happens when the songs are taken and the sign-in is awaited."""
         process = self.stage.start("publish", self.song, BROWSER="/bin/true")
-        page = wait_for(lambda: (lambda line: line.strip() if "oauth/authorize" in line else None)(
-            process.stdout.readline()), "the sign-in page")
+        page = sign_in_page(process)
         meanwhile()
         self.stage.visit(page)
         _, errors = process.communicate(timeout=30)

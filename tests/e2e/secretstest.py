@@ -6,7 +6,7 @@ import subprocess
 import threading
 import unittest
 
-from stage import BIN, CLIENT_SECRET, Stage, wait_for
+from stage import BIN, CLIENT_SECRET, Stage, sign_in_page
 
 TOKENS = {"access_token": "marked-access-0815", "refresh_token": "marked-refresh-0815", "id_token": "marked-id-0815"}
 CODE = "marked+code/0815="
@@ -55,8 +55,7 @@ class SecretsTest(unittest.TestCase):
     def publish(self, *songs):
         """Signs in with a marked code, as if pasted from the browser, and publishes."""
         process = self.stage.start("publish", *songs, XBR_DEBUG="1", BROWSER="/bin/true")
-        told = []
-        wait_for(lambda: told.append(process.stdout.readline()) or "oauth/authorize" in told[-1], "the sign-in page")
+        page = sign_in_page(process)
         callback = f"brindlex://authorize?code={CODE.replace('+', '%2B').replace('=', '%3D')}"
         # The desktop hands the callback over as an argument: nothing that the host could hide.
         subprocess.run([BIN / "xbrhost", "open-url", callback], env=self.stage.environment, timeout=20, check=True)
@@ -64,7 +63,7 @@ class SecretsTest(unittest.TestCase):
         output, errors = process.communicate(timeout=30)
         self.watcher.ended.set()
         self.watcher.join()
-        return process.returncode, "".join(told) + output + errors
+        return process.returncode, page + output + errors
 
     def assert_kept_secret(self, told):
         for secret in SECRETS:

@@ -14,7 +14,7 @@ from selenium import webdriver
 from selenium.webdriver.chrome.service import Service
 from selenium.webdriver.common.by import By
 
-from stage import BIN, Stage, wait_for
+from stage import BIN, Stage, sign_in_page, wait_for
 
 DESKTOP_FILE = pathlib.Path(os.environ["BRINDLEX_DESKTOP_FILE"])
 
@@ -76,8 +76,7 @@ class SignInTest(unittest.TestCase):
         """Starts the host and opens the page that it asks for."""
         host = self.stage.start("sign-in", BROWSER="/bin/true")
         self.addCleanup(host.kill)
-        page = wait_for(lambda: next((line.strip() for line in [host.stdout.readline()] if "/oauth/authorize" in line),
-                                     None), "the address of the sign-in page")
+        page = sign_in_page(host)
         self.browser.driver.get(page)
         return host, page
 
@@ -108,7 +107,7 @@ class SignInTest(unittest.TestCase):
     def test_denied_by_mistake_then_allowed(self):
         host, page = self.start_sign_in()
         self.browser.press("deny")
-        wait_for(lambda: "without a permission" in host.stdout.readline(), "the host to tell and to wait on")
+        wait_for(lambda: "without a permission" in host.stderr.readline(), "the host to tell and to wait on")
         self.browser.driver.get(page)
         self.browser.fill_in("night-drive")
         self.browser.press("allow")

@@ -38,19 +38,19 @@ class Stage:
         for name in ("home", "run", "tmp"):
             (self.folder / name).mkdir(mode=0o700)
         self.inbox = self.folder / "inbox"
+        self.settings = self.folder / "services.ini"
         port = self.folder / "port"
         self.service = subprocess.Popen(
-            [BIN / "brindlex-sandbox", "--inbox", self.inbox, "--port-file", port, "--client-secret", CLIENT_SECRET],
-            stdout=subprocess.DEVNULL)
+            [BIN / "brindlex-sandbox", "--inbox", self.inbox, "--port-file", port, "--client-secret", CLIENT_SECRET,
+             "--write-settings", self.settings], stdout=subprocess.DEVNULL)
         self.server = "http://127.0.0.1:" + wait_for(lambda: port.exists() and port.read_text().strip(), "the service")
-        self.configure(self.server)
         kept = ["DBUS_SESSION_BUS_ADDRESS"] if keyring else []
         self.environment = {key: value for key, value in os.environ.items() if key in kept or key not in SESSION}
         self.environment.update({
             "HOME": str(self.folder / "home"),
             "XDG_RUNTIME_DIR": str(self.folder / "run"),
             "TMPDIR": str(self.folder / "tmp"),
-            "XBRHOST_CONFIG": str(self.folder / "services.ini"),
+            "XBRHOST_CONFIG": str(self.settings),
             "BROWSER": str(BIN / "brindlex-browser"),
             "LC_ALL": "C.UTF-8",
         })
@@ -62,10 +62,9 @@ class Stage:
         self.service.wait(10)
         shutil.rmtree(self.folder)
 
-    def configure(self, server, secret=CLIENT_SECRET):
-        (self.folder / "services.ini").write_text(
-            f"[brindlex]\nServerURL={server}\nUserURL={server}/me\nConsumerKey=brindlex-demo\n"
-            f"ConsumerSecret={secret}\nCallbackURL=brindlex://authorize\n")
+    def configure(self, server):
+        """Another address of the service."""
+        self.settings.write_text(self.settings.read_text().replace(self.server, server))
 
     def make_songs(self):
         """Three tagged songs: MP3, FLAC and WAV, in the order of their names."""
@@ -116,6 +115,14 @@ class Stage:
 
     def leftovers(self):
         return [str(path.relative_to(self.folder)) for path in (self.folder / "tmp").rglob("*")]
+
+
+def sign_in_page(process):
+    """The address of the sign-in page, once xbrhost has told it."""
+    def told():
+        line = process.stderr.readline().strip()
+        return line if "/oauth/authorize" in line else None
+    return wait_for(told, "the address of the sign-in page")
 
 
 def interrupt(process):

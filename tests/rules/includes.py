@@ -53,7 +53,7 @@ ALLOWED = {
     "host/app/window/panels": HOST_APP + APP_CORE + ["host/app/window/look", "host/app/window/dialogs"],
     "host/app/window/frame": HOST_APP + APP_CORE + WINDOW_PARTS,
     "host/app/window/start": HOST_APP + APP_CORE + WINDOW_PARTS + ["host/app/window/frame"],
-    "host/app": ["host/app/headless", "host/app/window/start"],
+    "host/app": ["host/app/audio", "host/app/headless", "host/app/window/start"],
     "sandbox/http": [],
     "sandbox/pages": ["sandbox/http"],
     "sandbox/upload": ["sandbox/http"],

@@ -1,4 +1,5 @@
 #include "host/app/texts/programtexts.h"
+#include "tests/e2e/fulldisk.h"
 
 #include <QApplication>
 #include <QStyleFactory>
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
+    e2e::SmallDisk::mountOne();
     ::testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create("Fusion"));

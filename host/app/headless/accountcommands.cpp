@@ -2,6 +2,7 @@
 
 #include "host/app/headless/consolefront.h"
 #include "host/app/publishing/publishing.h"
+#include "host/app/publishing/words.h"
 
 #include <QEventLoop>
 
@@ -48,10 +49,7 @@ ExitCode connectAndTell(ConsoleSession& console, Expired expired) {
     if (isAccountKnown) {
         console.output().account(verdict.isGood(), console.panel().text("userName"));
     }
-    console.output().finished(verdict);
-    if (!verdict.isGood()) {
-        printVerdict(verdict);
-    }
+    console.output().finished({verdict, {}, {}, 0, 0});
     return verdict.code;
 }
 
@@ -75,10 +73,9 @@ ExitCode runSignOut(const CommandLine& commandLine) {
     if (code == ExitCode::kDone) {
         console.output().account(false, {});
     }
-    console.output().finished(code);
-    if (!isDone) {
-        printError("the module cannot sign out");
-    }
+    console.output().ended(code, isDone ? std::string()
+                                        : say(QCoreApplication::translate("xbr::host::CommandLine",
+                                                                          "The module cannot sign out.")));
     return code;
 }
 

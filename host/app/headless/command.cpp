@@ -1,12 +1,12 @@
 #include "host/app/headless/command.h"
 
 #include "host/app/headless/accountcommands.h"
-#include "host/app/headless/commandline.h"
+#include "host/app/headless/genrescommand.h"
 #include "host/app/headless/output.h"
 #include "host/app/headless/publishcommand.h"
 #include "host/app/modules/loadedmodule.h"
-#include "host/app/modules/modulesearch.h"
 #include "host/app/process/callbackclient.h"
+#include "host/app/publishing/words.h"
 #include "host/app/texts/programtexts.h"
 #include "host/base/textscan.h"
 
@@ -19,18 +19,24 @@ namespace xbr::host {
 
 namespace {
 
-ExitCode openUrl(const std::string& url) {
-    switch (sendToHosts(url)) {
+ExitCode openUrl(const CommandLine& commandLine) {
+    ExitCode code = ExitCode::kDone;
+    std::string wrong;
+    switch (sendToHosts(commandLine.words.front())) {
     case Delivery::kTaken:
-        return ExitCode::kDone;
-    case Delivery::kTooLong:
-        printError("the URL is too long, or not one line");
-        return ExitCode::kUsage;
-    case Delivery::kNoHost:
         break;
+    case Delivery::kTooLong:
+        code = ExitCode::kUsage;
+        wrong = say(
+            QCoreApplication::translate("xbr::host::CommandLine", "The link is too long, or not one line."));
+        break;
+    case Delivery::kNoHost:
+        code = ExitCode::kNoHost;
+        wrong = say(QCoreApplication::translate(
+            "xbr::host::CommandLine", "No running xbrhost waits for this link. Start the sign-in again."));
     }
-    printError("no running host takes this URL");
-    return ExitCode::kNoHost;
+    makeOutput(commandLine)->ended(code, wrong);
+    return code;
 }
 
 /// This program's version, and that of each module that can be used.
@@ -46,24 +52,27 @@ void printVersions() {
 
 ExitCode run(const CommandLine& commandLine) {
     switch (commandLine.command) {
-    case Command::kHelp:
-        std::cout << helpText();
-        return ExitCode::kDone;
-    case Command::kVersion:
-        printVersions();
-        return ExitCode::kDone;
     case Command::kPublish:
         return runPublish(commandLine);
-    case Command::kOpenUrl:
-        return openUrl(commandLine.url);
+    case Command::kGenres:
+        return runGenres(commandLine);
     case Command::kSignIn:
         return runSignIn(commandLine);
     case Command::kSignOut:
         return runSignOut(commandLine);
     case Command::kStatus:
+        return runStatus(commandLine);
+    case Command::kOpenUrl:
+        return openUrl(commandLine);
+    case Command::kVersion:
+        printVersions();
+        return ExitCode::kDone;
+    case Command::kWindow: // the program's, not ours
+    case Command::kHelp:
         break;
     }
-    return runStatus(commandLine);
+    std::cout << helpText(commandLine.topic);
+    return ExitCode::kDone;
 }
 
 } // namespace
@@ -71,13 +80,13 @@ ExitCode run(const CommandLine& commandLine) {
 ExitCode runCommand(int& argc, char** argv, const std::vector<std::string>& arguments) {
     const QCoreApplication application(argc, argv);
     const ProgramTexts texts;
-    CommandLine commandLine;
-    std::string error;
-    if (!parseCommandLine(arguments, commandLine, error)) {
-        printError(error + " (see xbrhost --help)");
+    const auto commandLine = parseCommandLine(arguments);
+    if (!commandLine) {
+        printError(commandLine.problem().words + " " +
+                   say(QCoreApplication::translate("xbr::host::CommandLine", "xbrhost help tells more.")));
         return ExitCode::kUsage;
     }
-    return run(commandLine);
+    return run(*commandLine);
 }
 
 } // namespace xbr::host

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "host/app/headless/publishoptions.h"
+#include "host/app/publishing/release.h"
+#include "host/base/problem.h"
 
 #include <cstdint>
 #include <string>
@@ -8,21 +9,43 @@
 
 namespace xbr::host {
 
-enum class Command : std::uint8_t { kHelp, kVersion, kPublish, kOpenUrl, kSignIn, kSignOut, kStatus };
-
-struct CommandLine {
-    Command command = Command::kHelp;
-    bool isJson = false;
-    std::string module; ///< path; empty for the usual one
-    std::string url;    ///< of open-url, as bytes
-    PublishOptions publish;
+enum class Command : std::uint8_t {
+    kWindow,
+    kPublish,
+    kGenres,
+    kSignIn,
+    kSignOut,
+    kStatus,
+    kOpenUrl,
+    kHelp,
+    kVersion,
 };
 
-/// Reads the arguments behind the program's name. False, with the reason in `error`, when they make no sense.
-bool parseCommandLine(const std::vector<std::string>& arguments, CommandLine& commandLine,
-                      std::string& error);
+/// What the user asks the program for.
+struct CommandLine {
+    Command command = Command::kWindow;
+    bool isQuiet = false;
+    bool isVerbose = false;
+    bool isJson = false;
+    std::string module;             ///< path; empty for the usual ones
+    std::vector<std::string> words; ///< behind the command, as bytes: songs of the window, a word, a link
+    std::string topic;              ///< of help; empty for all of it
 
-/// What the program can do, for --help.
-std::string helpText();
+    // Of publish
+    ReleaseWish wish;
+    std::string releaseFile; ///< instead of the wish; empty for none
+    bool isAlbum = false;    ///< the wish's mode says it, too
+    bool isRecursive = false;
+    bool isDryRun = false;
+};
+
+/// Reads the arguments behind the program's name. The words of a problem are a sentence.
+Outcome<CommandLine> parseCommandLine(const std::vector<std::string>& arguments);
+
+/// What the program can do, or one of its commands.
+std::string helpText(const std::string& topic);
+
+/// Why a text cannot be part of a release; empty when it can be. `name` is what the message calls it.
+std::string problemOfText(const std::string& name, const std::string& text);
 
 } // namespace xbr::host

@@ -6,6 +6,7 @@
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
 #include "host/app/publishing/reachability.h"
+#include "host/app/publishing/words.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -99,8 +100,8 @@ void ConsoleProgress::update(double fraction, Text what) noexcept {
     }
     if (!m_told.isValid() || m_told.elapsed() >= kTellEvery) {
         m_told.start();
+        m_run->progressed(fraction, toString(what)); // what it means in bytes is known before it is told
         m_output->preparation(m_title, fraction, view(what));
-        m_run->progressed(fraction, toString(what));
     }
     const auto self = Ref<ConsoleProgress>::share(this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -116,9 +117,9 @@ bool ConsoleDialog::isHopeless() const {
 void ConsoleDialog::callbackCame() {
     if (isAwaitingCode(*m_controller)) {
         // Who denied by mistake may go back in the browser and allow; and any page can open such a link.
-        m_front->output().message(
-            "The browser came back without a permission. Still waiting: allow it there, or "
-            "end with Ctrl-C.");
+        m_front->output().message(say(QCoreApplication::translate(
+            "xbr::host::Output", "The browser came back without a permission. Allow the access "
+                                 "there, or end with Ctrl-C.")));
     }
 }
 
@@ -191,23 +192,22 @@ void ConsoleFront::callbackCame() {
 }
 
 ConsoleSession::ConsoleSession(const CommandLine& commandLine, Dialogs dialogs)
-    : m_front(commandLine.isJson ? makeJsonOutput() : makeTextOutput(), dialogs),
+    : m_front(makeOutput(commandLine), dialogs),
       m_session(m_front, {commandLine.module, false, dialogs == Dialogs::kOffered}) {}
 
 /// The first panel that the module offers.
 Outcome<GadgetPanel*> ConsoleSession::openPanel(const std::vector<Problem>& problems) {
-    if (m_session.modules().empty()) {
-        return problems.empty() ? Problem{Fault::kModule,
-                                          {},
-                                          0,
-                                          "no module was found; name one with --module PATH",
-                                          {},
-                                          {}}
-                                : problems.front();
-    }
     const auto gadgets = findGadgets();
+    if (m_session.modules().empty()) {
+        return problems.empty() ? Problem{Fault::kModule, {}, 0, {}, {}, {}} : problems.front();
+    }
     if (gadgets.empty()) {
-        return Problem{Fault::kModule, {}, 0, "the module has no panel", {}, {}};
+        return Problem{Fault::kModule,
+                       m_session.modules().front()->path(),
+                       0,
+                       say(QCoreApplication::translate("xbr::host::CommandLine", "has no panel")),
+                       {},
+                       {}};
     }
     return m_session.openPanel(gadgets.front(), {});
 }
@@ -216,15 +216,15 @@ ExitCode ConsoleSession::start() {
     const auto problems = m_session.start();
     const auto panel = openPanel(problems);
     if (!panel) {
-        const Problem& problem = panel.problem();
-        output().finished(ExitCode::kModuleProblem);
-        printError(m_session.modules().empty() && !problem.subject.empty()
-                       ? "the module '" + problem.subject + "' " + problem.words
-                       : problem.words);
-        return ExitCode::kModuleProblem;
+        const Verdict verdict = judgeModule(panel.problem());
+        output().finished({verdict, {}, {}, 0, 0});
+        return verdict.code;
     }
     for (const Problem& problem : problems) { // the module is loaded: it is the browser that nobody hears
-        printError("the browser's answer to a sign-in cannot be received: " + problem.words);
+        printError(
+            say(QCoreApplication::translate("xbr::host::CommandLine",
+                                            "The browser's answer to a sign-in cannot be received: %1."),
+                problem.words));
     }
     m_panel = *panel;
     return ExitCode::kDone;

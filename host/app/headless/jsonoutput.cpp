@@ -1,7 +1,10 @@
 #include "host/app/headless/output.h"
+#include "host/app/publishing/words.h"
 
+#include <QElapsedTimer>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <iostream>
 #include <map>
 
@@ -19,6 +22,48 @@ Json namesOf(const std::vector<Detail>& details) {
     return names;
 }
 
+/// What is not known is left out.
+void addNumber(Json& event, const char* name, std::int64_t value) {
+    if (value >= 0) {
+        event[name] = value;
+    }
+}
+
+void addText(Json& event, const char* name, const std::string& value) {
+    if (!value.empty()) {
+        event[name] = value;
+    }
+}
+
+void addAmount(Json& event, const Amount& amount, std::int64_t bytesPerSecond) {
+    addNumber(event, "bytes", amount.bytes);
+    addNumber(event, "totalBytes", amount.total);
+    addNumber(event, "bytesPerSecond", bytesPerSecond);
+    addNumber(event, "secondsLeft", amount.secondsLeft);
+}
+
+/// What became of a song, as a name.
+const char* resultOf(const SongResult& song) {
+    if (song.isLeftOut) {
+        return "left-out";
+    }
+    if (song.isPublished()) {
+        return "published";
+    }
+    if (song.isUnsure()) {
+        return "unsure";
+    }
+    if (song.status > 0) {
+        return "refused";
+    }
+    return song.cause == Cause::kLost || song.cause == Cause::kStopped ? "did-not-arrive" : "not-sent";
+}
+
+std::int64_t count(const RunEnd& end, const char* result) {
+    return std::count_if(end.songs.begin(), end.songs.end(),
+                         [&](const SongResult& song) { return std::string_view(resultOf(song)) == result; });
+}
+
 /// One object per line, for programs. "event" names the kind; what a kind holds only grows.
 class JsonOutput final : public Output {
 public:
@@ -30,25 +75,51 @@ public:
         write({{"event", "account"}, {"signedIn", isSignedIn}, {"name", name}});
     }
 
+    void preparing(const PreparationProgress& progress) override { m_preparing = progress.amount; }
+
     void preparation(std::string_view title, double fraction, std::string_view what) override {
-        write({{"event", "preparation"}, {"text", title}, {"progress", fraction}, {"file", what}});
+        if (m_prepared.isValid() && !m_prepared.hasExpired(kTellEvery) && m_title == title) {
+            return;
+        }
+        m_prepared.start();
+        m_title = title;
+        Json event{{"event", "preparation"}, {"text", title}, {"progress", fraction}, {"file", what}};
+        if (m_preparing.total >= 0) {
+            addAmount(event, m_preparing, -1);
+        }
+        write(event);
     }
 
     void track(const TrackReport& track, std::size_t) override {
-        // Each percent once: a fast transfer tells its progress a thousand times.
-        const auto key = std::tuple(track.state, track.isUploading, static_cast<int>(track.progress * 100.0));
+        m_tracks[track.index] = track;
+        const auto key = std::pair(track.state, track.isUploading);
         const auto [known, isNew] = m_told.try_emplace(track.index, key);
-        if (!isNew && known->second == key) {
-            return;
+        if (isNew || std::exchange(known->second, key) != key) {
+            write(eventOf(track));
         }
-        known->second = key;
-        write({{"event", "track"},
-               {"index", track.index},
-               {"title", track.title},
-               {"file", track.file},
-               {"state", static_cast<int>(track.state)},
-               {"uploading", track.isUploading},
-               {"progress", track.progress}});
+    }
+
+    void sending(const UploadProgress& progress) override {
+        const auto found = m_tracks.find(progress.index);
+        if (found == m_tracks.end() || !found->second.isUploading) {
+            return; // its end was told
+        }
+        Json event = eventOf(found->second);
+        addAmount(event, progress.song, progress.bytesPerSecond);
+        write(event);
+        if (!m_summed.isValid() || m_summed.hasExpired(kSumEvery)) {
+            m_summed.start();
+            Json all{{"event", "progress"}};
+            addAmount(all, progress.all, progress.bytesPerSecond);
+            all["songsDone"] = progress.songsDone;
+            all["songs"] = progress.songs;
+            write(all);
+        }
+    }
+
+    void finding(const Finding& finding) override {
+        problem(finding.weight == Finding::Weight::kFatal, nameOf(causeOf(finding)), wordsOf(finding),
+                &finding);
     }
 
     void draft(const Draft& draft) override {
@@ -73,24 +144,101 @@ public:
                {"problem", draft.problem}});
     }
 
-    void finished(ExitCode code) override {
-        write({{"event", "finished"}, {"exitCode", static_cast<int>(code)}});
+    void genre(std::string_view name) override { write({{"event", "genre"}, {"name", name}}); }
+
+    void ended(ExitCode code, std::string_view text) override {
+        Json event{{"event", "finished"}, {"exitCode", static_cast<int>(code)}};
+        addText(event, "text", std::string(text));
+        write(event);
+        if (!text.empty()) {
+            printError(text);
+        }
     }
 
-    void finished(const Verdict& verdict) override {
-        write({{"event", "finished"},
-               {"exitCode", static_cast<int>(verdict.code)},
-               {"verdict", nameOf(verdict.cause)},
-               {"text", verdict.sentence}});
+    void finished(const RunEnd& end) override {
+        const Verdict& verdict = end.verdict;
+        for (const std::string& warning : verdict.warnings) {
+            problem(false, nameOf(verdict.cause), warning, nullptr);
+        }
+        if (!verdict.isGood()) {
+            problem(true, nameOf(verdict.cause), sentenceOf(verdict), nullptr);
+        }
+        for (const SongResult& song : end.songs) {
+            write(eventOf(song));
+        }
+        Json event{{"event", "finished"},
+                   {"exitCode", static_cast<int>(verdict.code)},
+                   {"verdict", nameOf(verdict.cause)},
+                   {"text", verdict.sentence}};
+        if (!end.songs.empty()) {
+            static constexpr double kSecond = 1000.0;
+            event["published"] = count(end, "published");
+            event["unsure"] = count(end, "unsure");
+            event["notPublished"] =
+                static_cast<std::int64_t>(end.songs.size()) - count(end, "published") - count(end, "unsure");
+            event["bytes"] = end.bytes;
+            event["seconds"] = static_cast<double>(end.milliseconds) / kSecond;
+        }
+        write(event);
     }
 
 private:
+    static constexpr qint64 kTellEvery = 250; // milliseconds
+    static constexpr qint64 kSumEvery = 1000;
+
     static void write(const Json& event) {
         static constexpr int kOneLine = -1;
         std::cout << event.dump(kOneLine, ' ', false, Json::error_handler_t::replace) << std::endl;
     }
 
-    std::map<std::int32_t, std::tuple<TrackState, bool, int>> m_told;
+    static void problem(bool isError, const char* cause, const std::string& text, const Finding* finding) {
+        Json event{
+            {"event", "problem"}, {"level", isError ? "error" : "warning"}, {"cause", cause}, {"text", text}};
+        if (finding) {
+            addText(event, "file", finding->path);
+            if (!finding->missing.empty()) {
+                event["fields"] = namesOf(finding->missing);
+            } else if (finding->kind == Finding::Kind::kUnknownGenre) {
+                event["fields"] = namesOf({Detail::kGenre});
+                event["near"] = finding->near;
+            }
+        }
+        write(event);
+        printError(text);
+    }
+
+    static Json eventOf(const TrackReport& track) {
+        return {{"event", "track"},
+                {"index", track.index},
+                {"title", track.title},
+                {"file", track.file},
+                {"state", static_cast<int>(track.state)},
+                {"uploading", track.isUploading},
+                {"progress", track.progress}};
+    }
+
+    static Json eventOf(const SongResult& song) {
+        Json event{{"event", "song"}};
+        addNumber(event, "index", song.index);
+        event["file"] = song.source;
+        event["title"] = song.title;
+        event["result"] = resultOf(song);
+        if (!song.isPublished()) {
+            event["cause"] = nameOf(song.cause);
+        }
+        if (song.status > 0) {
+            event["status"] = song.status;
+        }
+        addText(event, "text", song.sentence);
+        return event;
+    }
+
+    std::string m_title;
+    Amount m_preparing;
+    QElapsedTimer m_prepared;
+    QElapsedTimer m_summed;
+    std::map<std::int32_t, TrackReport> m_tracks;
+    std::map<std::int32_t, std::pair<TrackState, bool>> m_told;
 };
 
 } // namespace

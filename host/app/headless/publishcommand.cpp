@@ -1,10 +1,12 @@
 #include "host/app/headless/publishcommand.h"
 
 #include "host/app/headless/consolefront.h"
+#include "host/app/headless/folders.h"
 #include "host/app/headless/releasefile.h"
 #include "host/app/publishing/publishing.h"
 #include "host/app/publishing/words.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 
 #include <algorithm>
@@ -26,19 +28,28 @@ public:
             m_output->track(track, m_count);
         }
     }
-    void trackChanged(const TrackReport& track) override { m_output->track(track, m_count); }
+    void preparing(const PreparationProgress& progress) override { m_output->preparing(progress); }
+    void trackChanged(const TrackReport& track) override {
+        if (track.isUploading && !m_sending.isValid()) {
+            m_sending.start();
+        }
+        m_output->track(track, m_count);
+    }
+    void sending(const UploadProgress& progress) override { m_output->sending(progress); }
     void ended(const Verdict& verdict) override {
-        m_verdict = verdict;
+        m_end.verdict = verdict;
+        m_end.milliseconds = m_sending.isValid() ? m_sending.elapsed() : 0;
         m_loop->quit();
     }
 
-    const Verdict& verdict() const { return m_verdict; }
+    const RunEnd& end() const { return m_end; }
 
 private:
     Output* m_output;
     QEventLoop* m_loop;
     std::size_t m_count = 0;
-    Verdict m_verdict;
+    QElapsedTimer m_sending; ///< since the first song went
+    RunEnd m_end;
 };
 
 std::vector<SongFile> readSongs(const ReleaseWish& wish) {
@@ -65,7 +76,7 @@ std::string genreProblem(const Plan& plan, const PlannedRelease& release) {
 }
 
 /// Shows what a run would send, unless it could not even be handed over.
-Verdict runDry(const Plan& plan, Output& output) {
+void showDrafts(const Plan& plan, Output& output) {
     const bool isShown = std::none_of(plan.findings.begin(), plan.findings.end(), [](const Finding& finding) {
         return finding.weight == Finding::Weight::kFatal;
     });
@@ -73,16 +84,15 @@ Verdict runDry(const Plan& plan, Output& output) {
         const PlannedRelease& release = plan.releases[i];
         output.draft({release, genreProblem(plan, release), isIncomplete(release), i, plan.releases.size()});
     }
-    return judge(plan);
+}
+
+bool isUnreadable(const Finding& finding) {
+    return finding.kind == Finding::Kind::kUnreadable && finding.weight == Finding::Weight::kFatal;
 }
 
 /// True when the user wants the others to go without the songs that cannot be published.
-bool isLeavingOutWanted(const Plan& plan, bool mayAsk) {
-    const auto isUnreadable = [](const Finding& finding) {
-        return finding.kind == Finding::Kind::kUnreadable && finding.weight == Finding::Weight::kFatal;
-    };
-    if (!mayAsk || plan.releases.empty() ||
-        std::none_of(plan.findings.begin(), plan.findings.end(), isUnreadable)) {
+bool isLeavingOutWanted(const Plan& plan) {
+    if (plan.releases.empty() || std::none_of(plan.findings.begin(), plan.findings.end(), isUnreadable)) {
         return false;
     }
     for (const Finding& finding : plan.findings) {
@@ -90,10 +100,46 @@ bool isLeavingOutWanted(const Plan& plan, bool mayAsk) {
             printError(wordsOf(finding));
         }
     }
-    std::cerr << "Publish the other songs? [y/N] " << std::flush;
+    std::cerr << say(QCoreApplication::translate("xbr::host::Output", "Publish the other songs?"))
+              << " [y/N] " << std::flush;
     std::string answer;
     std::getline(std::cin, answer);
     return answer == "y" || answer == "Y";
+}
+
+/// Tells what a plan found, but for what the verdict is about.
+void tellFindings(const Plan& plan, Output& output) {
+    for (std::size_t i = plan.canBeSent() ? 0 : 1; i < plan.findings.size(); ++i) {
+        output.finding(plan.findings[i]);
+    }
+}
+
+SongResult resultOf(const SongVerdict& song, std::int32_t index) {
+    return {index, song.label, song.source, song.cause, song.status, song.sentence, false};
+}
+
+/// What became of each song that was asked for: those in the panel's list, then those that were left out.
+std::vector<SongResult> resultsOf(const Plan& plan, const ReleaseWish& wish, const Verdict& verdict) {
+    std::vector<SongResult> results;
+    std::vector<bool> isPlanned(wish.songs.size());
+    for (const PlannedSong* song : plan.songs()) {
+        const auto index = static_cast<std::int32_t>(results.size());
+        isPlanned[song->wish] = true;
+        results.push_back(
+            results.size() < verdict.songs.size()
+                ? resultOf(verdict.songs[results.size()], index)
+                : SongResult{index, song->title, song->source, verdict.cause, 0, verdict.sentence, false});
+    }
+    for (std::size_t i = 0; i < wish.songs.size(); ++i) {
+        const auto finding =
+            std::find_if(plan.findings.begin(), plan.findings.end(),
+                         [&](const Finding& each) { return each.path == wish.songs[i].path; });
+        if (!isPlanned[i] && finding != plan.findings.end()) {
+            results.push_back({-1, finding->song, finding->path, causeOf(*finding), 0, wordsOf(*finding),
+                               finding->weight == Finding::Weight::kToBeKnown});
+        }
+    }
+    return results;
 }
 
 class PublishRun {
@@ -104,29 +150,41 @@ public:
           m_view(console.output(), m_loop),
           m_publishing(console.session().activity(), console.session().settings(), console.panel(), m_view) {}
 
-    Verdict run(ReleaseWish wish, bool isDryRun, bool mayAsk) {
+    RunEnd run(ReleaseWish wish, bool isDryRun, bool mayAsk) {
         const std::vector<SongFile> songs = readSongs(wish);
         Plan plan = m_publishing.plan(m_entry, wish, songs);
         if (isDryRun) {
-            return runDry(plan, m_console->output());
-        }
-        if (isLeavingOutWanted(plan, mayAsk)) {
+            showDrafts(plan, m_console->output());
+        } else if (mayAsk && isLeavingOutWanted(plan)) {
             wish.skipsUnreadable = true;
             plan = m_publishing.plan(m_entry, wish, songs);
         }
-        const Verdict verdict = judge(plan);
-        return verdict.isGood() ? publish(std::move(plan), verdict.warnings) : verdict;
+        tellFindings(plan, m_console->output());
+        RunEnd end;
+        end.verdict = judge(plan);
+        end.verdict.warnings.clear(); // told already
+        if (isDryRun) {
+            return end;
+        }
+        if (end.verdict.isGood()) {
+            end = publish(plan);
+        }
+        end.songs = resultsOf(plan, wish, end.verdict);
+        return end;
     }
 
 private:
-    Verdict publish(Plan plan, const std::vector<std::string>& warnings) {
+    RunEnd publish(const Plan& plan) {
         const auto interrupted =
             m_console->session().interruption().subscribe([this] { m_publishing.stop(); });
-        m_publishing.publish(m_entry, std::move(plan));
+        m_publishing.publish(m_entry, plan);
         m_loop.exec();
-        Verdict verdict = m_view.verdict();
-        verdict.warnings.insert(verdict.warnings.begin(), warnings.begin(), warnings.end());
-        return verdict;
+        RunEnd end = m_view.end();
+        for (const SongVerdict& song : end.verdict.songs) {
+            end.bytes = plan.isAlbum() ? song.sent : end.bytes + song.sent;
+        }
+        end.account = m_console->panel().text("userName");
+        return end;
     }
 
     ConsoleSession* m_console;
@@ -136,42 +194,57 @@ private:
     Publishing m_publishing;
 };
 
-ExitCode finish(Output& output, const Verdict& verdict) {
-    output.finished(verdict);
-    printVerdict(verdict);
-    return verdict.code;
+/// The songs that are meant: a release file's, or those of the command line, and of folders their songs.
+Outcome<ReleaseWish> wishOf(const CommandLine& commandLine) {
+    ReleaseWish wish = commandLine.wish;
+    std::string error;
+    if (!commandLine.releaseFile.empty() && !readReleaseFile(commandLine.releaseFile, wish, error)) {
+        return Problem{Fault::kWish, {}, 0, error, {}, {}};
+    }
+    wish.skipsUnreadable = commandLine.wish.skipsUnreadable;
+    wish.skipsIncomplete = commandLine.wish.skipsIncomplete;
+    if (auto expanded = expandFolders(wish, commandLine.isRecursive); !expanded) {
+        return expanded.problem();
+    }
+    return wish;
+}
+
+bool isConversation(const CommandLine& commandLine) {
+    return !commandLine.isJson && !commandLine.isQuiet && isatty(STDIN_FILENO) == 1 &&
+           isatty(STDERR_FILENO) == 1;
 }
 
 } // namespace
 
 ExitCode runPublish(const CommandLine& commandLine) {
-    const PublishOptions& options = commandLine.publish;
-    ReleaseWish wish = options.wish;
-    ConsoleSession console(commandLine, options.isDryRun ? Dialogs::kNone : Dialogs::kOffered);
-    std::string error;
-    if (!options.releaseFile.empty() && !readReleaseFile(options.releaseFile, wish, error)) {
-        console.output().finished(ExitCode::kUsage);
-        printError(error);
-        return ExitCode::kUsage;
+    ConsoleSession console(commandLine, commandLine.isDryRun ? Dialogs::kNone : Dialogs::kOffered);
+    auto wish = wishOf(commandLine);
+    if (!wish) {
+        const ExitCode code =
+            wish.problem().fault == Fault::kWish ? ExitCode::kUsage : ExitCode::kFileProblem;
+        console.output().ended(code, wish.problem().words);
+        return code;
     }
-    wish.skipsUnreadable = options.wish.skipsUnreadable;
-    wish.skipsIncomplete = options.wish.skipsIncomplete;
     const ExitCode started = console.start();
     if (started != ExitCode::kDone) {
         return started;
     }
+    RunEnd end;
     const auto entries = findPublishEntries();
     if (entries.empty() || !console.panel().tracks()) {
-        return finish(console.output(), judgeModule({Fault::kModule,
-                                                     commandLine.module,
-                                                     0,
-                                                     "it has no publish entry, or no list of songs",
-                                                     {},
-                                                     {}}));
+        end.verdict =
+            judgeModule({Fault::kModule,
+                         commandLine.module,
+                         0,
+                         say(QCoreApplication::translate("xbr::host::CommandLine", "takes no songs")),
+                         {},
+                         {}});
+    } else {
+        end = PublishRun(console, entries.front())
+                  .run(std::move(*wish), commandLine.isDryRun, isConversation(commandLine));
     }
-    const bool mayAsk = !commandLine.isJson && isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
-    return finish(console.output(),
-                  PublishRun(console, entries.front()).run(std::move(wish), options.isDryRun, mayAsk));
+    console.output().finished(end);
+    return end.verdict.code;
 }
 
 } // namespace xbr::host

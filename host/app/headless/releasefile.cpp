@@ -1,5 +1,7 @@
 #include "host/app/headless/releasefile.h"
 
+#include "host/app/headless/commandline.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>

@@ -44,7 +44,4 @@ enum class TrackState : std::uint8_t {
 /// The greatest number of a track that can be said.
 constexpr std::int32_t kMaximumTrackNumber = 9999;
 
-/// Why a text cannot be part of a release; empty when it can be. `name` is what the message calls it.
-std::string problemOfText(const std::string& name, const std::string& text);
-
 } // namespace xbr::host

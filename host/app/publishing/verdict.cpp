@@ -1,5 +1,6 @@
 #include "host/app/publishing/verdict.h"
 
+#include "host/app/publishing/upload/progresswords.h"
 #include "host/app/publishing/words.h"
 
 #include <algorithm>
@@ -15,48 +16,58 @@ struct CauseRow {
     const char* next; ///< on the command line; null for nothing
 };
 
-constexpr const char* kSameAgain = "Run the same command again.";
-constexpr const char* kLater = "Try again later.";
+constexpr const char* kSameAgain = QT_TRANSLATE_NOOP("xbr::host::Words", "Run the same command again.");
+constexpr const char* kTheRest = QT_TRANSLATE_NOOP(
+    "xbr::host::Words", "Run the same command with the songs that are not published to send the rest.");
+constexpr const char* kLater = QT_TRANSLATE_NOOP("xbr::host::Words", "Try again later.");
 
 /// In the order of the causes.
 constexpr CauseRow kCauses[] = {
     {"published", ExitCode::kDone, NoticeKind::kDone, nullptr},
     {"signed-in", ExitCode::kDone, NoticeKind::kDone, nullptr},
-    {"partly", ExitCode::kNotAllDone, NoticeKind::kWarning,
-     "Run the same command with the songs that are not published to send the rest."},
-    {"missing-details", ExitCode::kInformationMissing, NoticeKind::kWarning,
-     "Add them in the files' tags, or with --title, --artist, --genre, --album-title and "
-     "--album-artist."},
-    {"unknown-genre", ExitCode::kInformationMissing, NoticeKind::kWarning, "Choose one with --genre."},
-    {"refused-missing", ExitCode::kInformationMissing, NoticeKind::kWarning,
-     "Add them in the files' tags, or with --title, --artist, --genre, --album-title and "
-     "--album-artist."},
-    {"same-file", ExitCode::kUsage, NoticeKind::kError, "Name it once."},
-    {"same-name", ExitCode::kFileProblem, NoticeKind::kError, "Rename one of them."},
-    {"unreadable", ExitCode::kFileProblem, NoticeKind::kError, "--skip-unreadable leaves it out."},
-    {"gone", ExitCode::kNotAllDone, NoticeKind::kError, "Put it back, then run the same command again."},
+    {"partly", ExitCode::kNotAllDone, NoticeKind::kWarning, kTheRest},
+    {"missing-details", ExitCode::kInformationMissing, NoticeKind::kWarning, nullptr},
+    {"unknown-genre", ExitCode::kInformationMissing, NoticeKind::kWarning,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Choose one with --genre.")},
+    {"refused-missing", ExitCode::kInformationMissing, NoticeKind::kWarning, nullptr},
+    {"same-file", ExitCode::kUsage, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Name it once.")},
+    {"same-name", ExitCode::kFileProblem, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Rename one of them.")},
+    {"unreadable", ExitCode::kFileProblem, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "--skip-unreadable leaves it out.")},
+    {"gone", ExitCode::kNotAllDone, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Put it back, then run the same command again.")},
     {"changed", ExitCode::kNotAllDone, NoticeKind::kError, kSameAgain},
-    {"disk-full", ExitCode::kNotAllDone, NoticeKind::kError, "Make room, or set TMPDIR to another folder."},
-    {"no-folder", ExitCode::kNotAllDone, NoticeKind::kError, "Set TMPDIR to another folder."},
+    {"disk-full", ExitCode::kNotAllDone, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Make room, or set TMPDIR to another folder.")},
+    {"no-folder", ExitCode::kNotAllDone, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Set TMPDIR to another folder.")},
     {"not-prepared", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
+    {"two-numbers", ExitCode::kDone, NoticeKind::kWarning,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "--track-number sets it.")},
     {"nothing-waits", ExitCode::kNotAllDone, NoticeKind::kInfo, nullptr},
     {"stopped-before", ExitCode::kInterrupted, NoticeKind::kInfo, nullptr},
-    {"stopped", ExitCode::kInterrupted, NoticeKind::kInfo, nullptr},
+    {"stopped", ExitCode::kInterrupted, NoticeKind::kInfo, kTheRest},
     {"stopped-unsure", ExitCode::kInterrupted, NoticeKind::kWarning,
-     "Look at your account page before you send it again."},
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Look at your account page before you send it again.")},
     {"lost-unsure", ExitCode::kNotAllDone, NoticeKind::kWarning,
-     "Look at your account page before you send it again."},
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Look at your account page before you send it again.")},
     {"refused", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
     {"too-large", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
     {"service-fault", ExitCode::kNotAllDone, NoticeKind::kError, kLater},
     {"too-many", ExitCode::kNotAllDone, NoticeKind::kError, kLater},
     {"lost", ExitCode::kNotAllDone, NoticeKind::kError, kSameAgain},
-    {"untrusted", ExitCode::kUnreachable, NoticeKind::kError, "Check ServerURL and this computer's clock."},
+    {"untrusted", ExitCode::kUnreachable, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "Check ServerURL and this computer's clock.")},
     {"unreachable", ExitCode::kUnreachable, NoticeKind::kError, kLater},
-    {"expired", ExitCode::kSignInExpired, NoticeKind::kWarning, "xbrhost sign-in renews it."},
-    {"not-signed-in", ExitCode::kNotSignedIn, NoticeKind::kError, "xbrhost sign-in signs in."},
+    {"expired", ExitCode::kSignInExpired, NoticeKind::kWarning,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "xbrhost sign-in renews it.")},
+    {"not-signed-in", ExitCode::kNotSignedIn, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "xbrhost sign-in signs in.")},
     {"not-set-up", ExitCode::kNotConfigured, NoticeKind::kError, nullptr},
-    {"no-module", ExitCode::kModuleProblem, NoticeKind::kError, "--module names one."},
+    {"no-module", ExitCode::kModuleProblem, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "--module names one.")},
 };
 
 const CauseRow& rowOf(Cause cause) {
@@ -70,27 +81,28 @@ Verdict verdictOf(Cause cause, std::string sentence) {
     verdict.code = row.code;
     verdict.kind = row.kind;
     verdict.sentence = std::move(sentence);
-    verdict.next = row.next ? row.next : std::string();
+    verdict.next = row.next ? say(QCoreApplication::translate("xbr::host::Words", row.next)) : std::string();
     return verdict;
+}
+
+/// "Add them with --title, --genre."
+std::string wordsOfOptions(const std::vector<Detail>& missing) {
+    static constexpr const char* kOptions[] = {"--album-title", "--album-artist", "--genre", "--title",
+                                               "--artist"};
+    std::string options;
+    for (const Detail detail : missing) {
+        options += (options.empty() ? "" : ", ") + std::string(kOptions[static_cast<std::size_t>(detail)]);
+    }
+    if (missing.size() < 2) {
+        return missing.empty()
+                   ? std::string()
+                   : say(QCoreApplication::translate("xbr::host::Words", "Add it with %1."), options);
+    }
+    return say(QCoreApplication::translate("xbr::host::Words", "Add them with %1."), options);
 }
 
 std::string nothingSent(const std::string& sentence) {
     return sentence + " " + say(QCoreApplication::translate("xbr::host::Words", "Nothing was sent."));
-}
-
-Cause causeOf(const Finding& finding) {
-    switch (finding.kind) {
-    case Finding::Kind::kUnknownGenre:
-        return Cause::kUnknownGenre;
-    case Finding::Kind::kSameFile:
-        return Cause::kSameFile;
-    case Finding::Kind::kUnreadable:
-        return finding.problem.fault == Fault::kModule ? Cause::kNoModule : Cause::kUnreadable;
-    case Finding::Kind::kSameName:
-        return Cause::kSameName;
-    default:
-        return Cause::kMissingDetails;
-    }
 }
 
 // What became of one track.
@@ -127,7 +139,8 @@ std::string wordsOfRefusal(const Sent& sent) {
                      status, words);
 }
 
-std::string wordsOfMissing(const Sent& sent) {
+/// What is empty in the song, or in any of the album.
+std::vector<Detail> missingIn(const Sent& sent) {
     std::vector<Detail> missing;
     for (const TrackFact& track : sent.facts->tracks) {
         if (&track == sent.track || sent.isAlbum()) {
@@ -136,6 +149,11 @@ std::string wordsOfMissing(const Sent& sent) {
     }
     std::sort(missing.begin(), missing.end());
     missing.erase(std::unique(missing.begin(), missing.end()), missing.end());
+    return missing;
+}
+
+std::string wordsOfMissing(const Sent& sent) {
+    const std::vector<Detail> missing = missingIn(sent);
     if (!missing.empty()) {
         return sent.say(
             QCoreApplication::translate("xbr::host::Words",
@@ -155,7 +173,26 @@ std::string wordsOfMissing(const Sent& sent) {
 }
 
 SongVerdict songVerdict(const TrackFact& track, Cause cause, std::string sentence) {
-    return {cause, track.label, track.source, std::move(sentence)};
+    return {cause, track.label, track.source, std::move(sentence), track.status, track.sent};
+}
+
+std::string wordsOfWaiting(const Sent& sent) {
+    if (sent.track->wait >= 0) {
+        return sent.say(QCoreApplication::translate(
+                            "xbr::host::Words",
+                            "The service asks to wait %2 before the next upload. “%1” was not taken."),
+                        QCoreApplication::translate("xbr::host::Words",
+                                                    "The service asks to wait %2 before the next upload. The "
+                                                    "album “%1” was not taken."),
+                        wordsOfSeconds(sent.track->wait));
+    }
+    return sent.say(
+        QCoreApplication::translate(
+            "xbr::host::Words",
+            "The service asks to wait a while before the next upload. “%1” was not taken."),
+        QCoreApplication::translate(
+            "xbr::host::Words",
+            "The service asks to wait a while before the next upload. The album “%1” was not taken."));
 }
 
 SongVerdict judgeAnswer(const Sent& sent) {
@@ -184,15 +221,7 @@ SongVerdict judgeAnswer(const Sent& sent) {
                 wordsOfSize(track.total)));
     }
     if (track.status == 429) {
-        return songVerdict(
-            track, Cause::kTooMany,
-            sent.say(QCoreApplication::translate(
-                         "xbr::host::Words",
-                         "The service asks to wait a while before the next upload. “%1” was not taken."),
-                     QCoreApplication::translate(
-                         "xbr::host::Words",
-                         "The service asks to wait a while before the next upload. The album “%1” was not "
-                         "taken.")));
+        return songVerdict(track, Cause::kTooMany, wordsOfWaiting(sent));
     }
     if (track.status >= 500) {
         return songVerdict(
@@ -479,11 +508,31 @@ const char* nameOf(Cause cause) {
     return rowOf(cause).name;
 }
 
+Cause causeOf(const Finding& finding) {
+    switch (finding.kind) {
+    case Finding::Kind::kUnknownGenre:
+        return Cause::kUnknownGenre;
+    case Finding::Kind::kSameFile:
+        return Cause::kSameFile;
+    case Finding::Kind::kUnreadable:
+        return finding.problem.fault == Fault::kModule ? Cause::kNoModule : Cause::kUnreadable;
+    case Finding::Kind::kSameName:
+        return Cause::kSameName;
+    case Finding::Kind::kTwoNumbers:
+        return Cause::kTwoNumbers;
+    default:
+        return Cause::kMissingDetails;
+    }
+}
+
 Verdict judge(const Plan& plan) {
     Verdict verdict;
     if (!plan.canBeSent()) {
         const Finding& gravest = plan.findings.front();
         verdict = verdictOf(causeOf(gravest), nothingSent(wordsOf(gravest)));
+        if (gravest.kind == Finding::Kind::kMissingDetails) {
+            verdict.next = wordsOfOptions(gravest.missing);
+        }
         if (gravest.isWish) {
             verdict.code = ExitCode::kUsage;
         }
@@ -521,7 +570,11 @@ Verdict judge(const UploadFacts& facts) {
         return judgeStop(std::move(songs), first);
     }
     if (done == 0) {
-        return judgeFailure(std::move(songs));
+        Verdict verdict = judgeFailure(std::move(songs));
+        if (verdict.cause == Cause::kRefusedMissing) {
+            verdict.next = wordsOfOptions(missingIn({&facts, &facts.tracks.front()}));
+        }
+        return verdict;
     }
     Verdict verdict = verdictOf(
         Cause::kPartly, say(QCoreApplication::translate("xbr::host::Words", "Published %1 of %2 songs. %3"),

@@ -27,6 +27,7 @@ enum class Cause : std::uint8_t {
     kDiskFull,
     kNoFolder,
     kNotPrepared,
+    kTwoNumbers,
     kNothingWaits,
     kStoppedBefore,
     kStopped,
@@ -48,6 +49,8 @@ enum class Cause : std::uint8_t {
 /// The name for programs: "missing-details".
 const char* nameOf(Cause cause);
 
+Cause causeOf(const Finding& finding);
+
 /// What is known of a track when nothing moves any more.
 struct TrackFact {
     std::string label;  ///< its title, or the name of its file
@@ -61,6 +64,7 @@ struct TrackFact {
     std::int64_t total = 0; ///< bytes of the body
     int status = 0;         ///< 0: no answer came
     std::string said;       ///< the service's own words
+    std::int64_t wait = -1; ///< seconds that it asks to wait; -1 for none
     Problem problem;        ///< why no answer came
 };
 
@@ -92,6 +96,8 @@ struct SongVerdict {
     std::string label;
     std::string source;
     std::string sentence;
+    int status = 0;        ///< of the service's answer; 0 when none came
+    std::int64_t sent = 0; ///< bytes; in an album each song's are the album's
 };
 
 /// What to tell the user, and how the program ends.

@@ -25,6 +25,125 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::CommandLine</name>
+    <message>
+        <source>The module cannot sign out.</source>
+        <translation>Das Modul kann nicht abmelden.</translation>
+    </message>
+    <message>
+        <source>The link is too long, or not one line.</source>
+        <translation>Der Link ist zu lang oder nicht eine Zeile.</translation>
+    </message>
+    <message>
+        <source>No running xbrhost waits for this link. Start the sign-in again.</source>
+        <translation>Kein laufendes xbrhost wartet auf diesen Link. Die Anmeldung neu beginnen.</translation>
+    </message>
+    <message>
+        <source>xbrhost help tells more.</source>
+        <translation>xbrhost help sagt mehr.</translation>
+    </message>
+    <message>
+        <source>Nearest: %1.</source>
+        <translation>Am nächsten: %1.</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>Es gibt keinen Befehl „%1“.</translation>
+    </message>
+    <message>
+        <source>“%1” is one word too many.</source>
+        <translation>„%1“ ist ein Wort zu viel.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value behind it.</source>
+        <translation>Hinter %1 fehlt ein Wert.</translation>
+    </message>
+    <message>
+        <source>There is no option “%1” for “%2”.</source>
+        <translation>Für „%2“ gibt es keine Option „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number from 1 to %2.</source>
+        <translation>%1 braucht eine ganze Zahl von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to the song before it: put it behind a song.</source>
+        <translation>%1 gehört zum Song davor: hinter einen Song stellen.</translation>
+    </message>
+    <message>
+        <source>%1 is there twice.</source>
+        <translation>%1 steht zweimal da.</translation>
+    </message>
+    <message>
+        <source>open-url needs a link.</source>
+        <translation>open-url braucht einen Link.</translation>
+    </message>
+    <message>
+        <source>--release tells all about the release: leave out songs and details.</source>
+        <translation>--release sagt alles über die Veröffentlichung: Songs und Angaben weglassen.</translation>
+    </message>
+    <message>
+        <source>publish needs a song, or a folder with songs.</source>
+        <translation>publish braucht einen Song oder einen Ordner mit Songs.</translation>
+    </message>
+    <message>
+        <source>--album-title and --album-artist need --album: a single bears the title and the artist of its song.</source>
+        <translation>--album-title und --album-artist brauchen --album: Eine Single trägt Titel und Interpret ihres Songs.</translation>
+    </message>
+    <message>
+        <source>%1 is empty; leave it out to keep what the file&apos;s tags say.</source>
+        <translation>%1 ist leer; weglassen, damit gilt, was die Tags der Datei sagen.</translation>
+    </message>
+    <message>
+        <source>%1 is not UTF-8.</source>
+        <translation>%1 ist nicht UTF-8.</translation>
+    </message>
+    <message>
+        <source>%1 holds a line break or another control character.</source>
+        <translation>%1 enthält einen Zeilenumbruch oder ein anderes Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>has no panel</source>
+        <translation>hat kein Panel</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>Die Antwort des Browsers auf eine Anmeldung kann nicht empfangen werden: %1.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read: %2.</source>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” and the folders in it hold no songs.</source>
+        <translation>„%1“ und die Ordner darin enthalten keine Songs.</translation>
+    </message>
+    <message>
+        <source>“%1” holds no songs; --recursive looks into the folders in it, too.</source>
+        <translation>„%1“ enthält keine Songs; --recursive sieht auch in die Ordner darin.</translation>
+    </message>
+    <message>
+        <source>--title and --track-number belong to one song, and “%1” is a folder.</source>
+        <translation>--title und --track-number gehören zu einem Song, und „%1“ ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”.</source>
+        <translation>Kein Genre enthält „%1“.</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”. Nearest: %2.</source>
+        <translation>Kein Genre enthält „%1“. Am nächsten: %2.</translation>
+    </message>
+    <message>
+        <source>takes no songs</source>
+        <translation>nimmt keine Songs an</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -135,6 +254,109 @@
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>&amp;Weiter hochladen</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Output</name>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
+        <translation>Der Browser kam ohne Erlaubnis zurück. Den Zugriff dort erlauben oder mit Strg-C beenden.</translation>
+    </message>
+    <message>
+        <source>Publish the other songs?</source>
+        <translation>Die anderen Songs veröffentlichen?</translation>
+    </message>
+    <message>
+        <source>no bytes for %1</source>
+        <translation>seit %1 keine Bytes</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation>wartet auf die Antwort</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation>noch %1, alle %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>published</source>
+        <translation>veröffentlicht</translation>
+    </message>
+    <message>
+        <source>not published</source>
+        <translation>nicht veröffentlicht</translation>
+    </message>
+    <message>
+        <source>refused, details are missing</source>
+        <translation>abgelehnt, Angaben fehlen</translation>
+    </message>
+    <message>
+        <source>(not set)</source>
+        <translation>(nicht gesetzt)</translation>
+    </message>
+    <message>
+        <source>%1, rendered from “%2”</source>
+        <translation>%1, gerendert aus „%2“</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2 (incomplete)</source>
+        <translation>Veröffentlichung %1 von %2 (unvollständig)</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2</source>
+        <translation>Veröffentlichung %1 von %2</translation>
+    </message>
+    <message>
+        <source>  Title: %1</source>
+        <translation>  Titel: %1</translation>
+    </message>
+    <message>
+        <source>  Artist: %1</source>
+        <translation>  Interpret: %1</translation>
+    </message>
+    <message>
+        <source>  Genre: %1</source>
+        <translation>  Genre: %1</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles.</source>
+        <translation>%1 von %2 Songs als Singles veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles, as %3.</source>
+        <translation>%1 von %2 Songs als Singles veröffentlicht, als %3.</translation>
+    </message>
+    <message>
+        <source>Perhaps published: %1: it was sent, the answer did not come. Look at your account page.</source>
+        <translation>Vielleicht veröffentlicht: %1: gesendet, aber ohne Antwort. Auf der Kontoseite nachsehen.</translation>
+    </message>
+    <message>
+        <source>Not published: %1: %2</source>
+        <translation>Nicht veröffentlicht: %1: %2</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser. If no page opened, open this address:</source>
+        <translation>Warten auf die Erlaubnis im Browser. Falls sich keine Seite öffnete, diese Adresse öffnen:</translation>
+    </message>
+    <message>
+        <source>Hand the link back over with: %1</source>
+        <translation>Den Link zurück übergeben mit: %1</translation>
+    </message>
+    <message>
+        <source>%1%2: sending %3</source>
+        <translation>%1%2: %3 werden gesendet</translation>
+    </message>
+    <message>
+        <source>%1%2: %3 %, %4 of %5, %6 left, all %7 left</source>
+        <translation>%1%2: %3 %, %4 von %5, noch %6, alle noch %7</translation>
+    </message>
+    <message>
+        <source>Sent %1 in %2, %3/s.</source>
+        <translation>%1 in %2 gesendet, %3/s.</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1033,86 @@
     <message>
         <source>All songs are published.</source>
         <translation>Alle Songs sind veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Run the same command again.</source>
+        <translation>Denselben Befehl noch einmal ausführen.</translation>
+    </message>
+    <message>
+        <source>Run the same command with the songs that are not published to send the rest.</source>
+        <translation>Denselben Befehl mit den Songs ausführen, die nicht veröffentlicht sind, um den Rest zu senden.</translation>
+    </message>
+    <message>
+        <source>Try again later.</source>
+        <translation>Später noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Choose one with --genre.</source>
+        <translation>Eines mit --genre wählen.</translation>
+    </message>
+    <message>
+        <source>Name it once.</source>
+        <translation>Nur einmal nennen.</translation>
+    </message>
+    <message>
+        <source>Rename one of them.</source>
+        <translation>Eine davon umbenennen.</translation>
+    </message>
+    <message>
+        <source>--skip-unreadable leaves it out.</source>
+        <translation>--skip-unreadable lässt sie aus.</translation>
+    </message>
+    <message>
+        <source>Put it back, then run the same command again.</source>
+        <translation>Zurücklegen, dann denselben Befehl noch einmal ausführen.</translation>
+    </message>
+    <message>
+        <source>Make room, or set TMPDIR to another folder.</source>
+        <translation>Platz schaffen oder TMPDIR auf einen anderen Ordner setzen.</translation>
+    </message>
+    <message>
+        <source>Set TMPDIR to another folder.</source>
+        <translation>TMPDIR auf einen anderen Ordner setzen.</translation>
+    </message>
+    <message>
+        <source>--track-number sets it.</source>
+        <translation>--track-number setzt sie.</translation>
+    </message>
+    <message>
+        <source>Look at your account page before you send it again.</source>
+        <translation>Vor dem nächsten Senden auf der Kontoseite nachsehen.</translation>
+    </message>
+    <message>
+        <source>Check ServerURL and this computer&apos;s clock.</source>
+        <translation>ServerURL und die Uhr dieses Computers prüfen.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in renews it.</source>
+        <translation>xbrhost sign-in erneuert sie.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in signs in.</source>
+        <translation>xbrhost sign-in meldet an.</translation>
+    </message>
+    <message>
+        <source>--module names one.</source>
+        <translation>--module nennt eines.</translation>
+    </message>
+    <message>
+        <source>Add it with %1.</source>
+        <translation>Mit %1 ergänzen.</translation>
+    </message>
+    <message>
+        <source>Add them with %1.</source>
+        <translation>Mit %1 ergänzen.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. “%1” was not taken.</source>
+        <translation>Der Dienst bittet, vor dem nächsten Hochladen %2 zu warten. „%1“ wurde nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
+        <translation>Der Dienst bittet, vor dem nächsten Hochladen %2 zu warten. Das Album „%1“ wurde nicht angenommen.</translation>
     </message>
 </context>
 </TS>

@@ -25,6 +25,125 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::CommandLine</name>
+    <message>
+        <source>The module cannot sign out.</source>
+        <translation>El módulo no puede cerrar la sesión.</translation>
+    </message>
+    <message>
+        <source>The link is too long, or not one line.</source>
+        <translation>El enlace es demasiado largo o no es una sola línea.</translation>
+    </message>
+    <message>
+        <source>No running xbrhost waits for this link. Start the sign-in again.</source>
+        <translation>Ningún xbrhost en marcha espera este enlace. Inicie la sesión de nuevo.</translation>
+    </message>
+    <message>
+        <source>xbrhost help tells more.</source>
+        <translation>xbrhost help explica más.</translation>
+    </message>
+    <message>
+        <source>Nearest: %1.</source>
+        <translation>Lo más parecido: %1.</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>No existe la orden «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is one word too many.</source>
+        <translation>«%1» es una palabra de más.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value behind it.</source>
+        <translation>Falta un valor detrás de %1.</translation>
+    </message>
+    <message>
+        <source>There is no option “%1” for “%2”.</source>
+        <translation>No hay opción «%1» para «%2».</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 no lleva valor.</translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number from 1 to %2.</source>
+        <translation>%1 necesita un número entero de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to the song before it: put it behind a song.</source>
+        <translation>%1 corresponde a la canción anterior: póngalo detrás de una canción.</translation>
+    </message>
+    <message>
+        <source>%1 is there twice.</source>
+        <translation>%1 aparece dos veces.</translation>
+    </message>
+    <message>
+        <source>open-url needs a link.</source>
+        <translation>open-url necesita un enlace.</translation>
+    </message>
+    <message>
+        <source>--release tells all about the release: leave out songs and details.</source>
+        <translation>--release lo dice todo del lanzamiento: omita canciones y datos.</translation>
+    </message>
+    <message>
+        <source>publish needs a song, or a folder with songs.</source>
+        <translation>publish necesita una canción o una carpeta con canciones.</translation>
+    </message>
+    <message>
+        <source>--album-title and --album-artist need --album: a single bears the title and the artist of its song.</source>
+        <translation>--album-title y --album-artist necesitan --album: un sencillo lleva el título y el artista de su canción.</translation>
+    </message>
+    <message>
+        <source>%1 is empty; leave it out to keep what the file&apos;s tags say.</source>
+        <translation>%1 está vacío; omítalo para conservar lo que dicen las etiquetas del archivo.</translation>
+    </message>
+    <message>
+        <source>%1 is not UTF-8.</source>
+        <translation>%1 no es UTF-8.</translation>
+    </message>
+    <message>
+        <source>%1 holds a line break or another control character.</source>
+        <translation>%1 contiene un salto de línea u otro carácter de control.</translation>
+    </message>
+    <message>
+        <source>has no panel</source>
+        <translation>no tiene panel</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>No se puede recibir la respuesta del navegador al iniciar sesión: %1.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read: %2.</source>
+        <translation>«%1» no se puede leer: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” and the folders in it hold no songs.</source>
+        <translation>«%1» y sus carpetas no contienen canciones.</translation>
+    </message>
+    <message>
+        <source>“%1” holds no songs; --recursive looks into the folders in it, too.</source>
+        <translation>«%1» no contiene canciones; --recursive mira también en sus carpetas.</translation>
+    </message>
+    <message>
+        <source>--title and --track-number belong to one song, and “%1” is a folder.</source>
+        <translation>--title y --track-number corresponden a una canción, y «%1» es una carpeta.</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”.</source>
+        <translation>Ningún género contiene «%1».</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”. Nearest: %2.</source>
+        <translation>Ningún género contiene «%1». Lo más parecido: %2.</translation>
+    </message>
+    <message>
+        <source>takes no songs</source>
+        <translation>no acepta canciones</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -135,6 +254,109 @@
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>&amp;Seguir subiendo</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Output</name>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
+        <translation>El navegador ha vuelto sin permiso. Permita allí el acceso o termine con Ctrl-C.</translation>
+    </message>
+    <message>
+        <source>Publish the other songs?</source>
+        <translation>¿Publicar las demás canciones?</translation>
+    </message>
+    <message>
+        <source>no bytes for %1</source>
+        <translation>sin bytes desde hace %1</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation>esperando la respuesta</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation>quedan %1, todas %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>quedan %1</translation>
+    </message>
+    <message>
+        <source>published</source>
+        <translation>publicada</translation>
+    </message>
+    <message>
+        <source>not published</source>
+        <translation>no publicada</translation>
+    </message>
+    <message>
+        <source>refused, details are missing</source>
+        <translation>rechazada, faltan datos</translation>
+    </message>
+    <message>
+        <source>(not set)</source>
+        <translation>(sin indicar)</translation>
+    </message>
+    <message>
+        <source>%1, rendered from “%2”</source>
+        <translation>%1, convertido de «%2»</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2 (incomplete)</source>
+        <translation>Lanzamiento %1 de %2 (incompleto)</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2</source>
+        <translation>Lanzamiento %1 de %2</translation>
+    </message>
+    <message>
+        <source>  Title: %1</source>
+        <translation>  Título: %1</translation>
+    </message>
+    <message>
+        <source>  Artist: %1</source>
+        <translation>  Artista: %1</translation>
+    </message>
+    <message>
+        <source>  Genre: %1</source>
+        <translation>  Género: %1</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles.</source>
+        <translation>Publicadas %1 de %2 canciones como sencillos.</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles, as %3.</source>
+        <translation>Publicadas %1 de %2 canciones como sencillos, como %3.</translation>
+    </message>
+    <message>
+        <source>Perhaps published: %1: it was sent, the answer did not come. Look at your account page.</source>
+        <translation>Quizá publicada: %1: se envió, la respuesta no llegó. Mire su página de cuenta.</translation>
+    </message>
+    <message>
+        <source>Not published: %1: %2</source>
+        <translation>No publicada: %1: %2</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser. If no page opened, open this address:</source>
+        <translation>Esperando su permiso en el navegador. Si no se abrió ninguna página, abra esta dirección:</translation>
+    </message>
+    <message>
+        <source>Hand the link back over with: %1</source>
+        <translation>Entregue el enlace de vuelta con: %1</translation>
+    </message>
+    <message>
+        <source>%1%2: sending %3</source>
+        <translation>%1%2: enviando %3</translation>
+    </message>
+    <message>
+        <source>%1%2: %3 %, %4 of %5, %6 left, all %7 left</source>
+        <translation>%1%2: %3 %, %4 de %5, quedan %6, en total %7</translation>
+    </message>
+    <message>
+        <source>Sent %1 in %2, %3/s.</source>
+        <translation>Enviados %1 en %2, %3/s.</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1033,86 @@
     <message>
         <source>All songs are published.</source>
         <translation>Todas las canciones están publicadas.</translation>
+    </message>
+    <message>
+        <source>Run the same command again.</source>
+        <translation>Ejecute la misma orden de nuevo.</translation>
+    </message>
+    <message>
+        <source>Run the same command with the songs that are not published to send the rest.</source>
+        <translation>Ejecute la misma orden con las canciones no publicadas para enviar el resto.</translation>
+    </message>
+    <message>
+        <source>Try again later.</source>
+        <translation>Inténtelo de nuevo más tarde.</translation>
+    </message>
+    <message>
+        <source>Choose one with --genre.</source>
+        <translation>Elija uno con --genre.</translation>
+    </message>
+    <message>
+        <source>Name it once.</source>
+        <translation>Nómbrelo una sola vez.</translation>
+    </message>
+    <message>
+        <source>Rename one of them.</source>
+        <translation>Cambie el nombre de uno.</translation>
+    </message>
+    <message>
+        <source>--skip-unreadable leaves it out.</source>
+        <translation>--skip-unreadable lo omite.</translation>
+    </message>
+    <message>
+        <source>Put it back, then run the same command again.</source>
+        <translation>Devuélvalo a su sitio y ejecute la misma orden de nuevo.</translation>
+    </message>
+    <message>
+        <source>Make room, or set TMPDIR to another folder.</source>
+        <translation>Haga sitio o indique otra carpeta en TMPDIR.</translation>
+    </message>
+    <message>
+        <source>Set TMPDIR to another folder.</source>
+        <translation>Indique otra carpeta en TMPDIR.</translation>
+    </message>
+    <message>
+        <source>--track-number sets it.</source>
+        <translation>--track-number lo fija.</translation>
+    </message>
+    <message>
+        <source>Look at your account page before you send it again.</source>
+        <translation>Mire su página de cuenta antes de enviarla de nuevo.</translation>
+    </message>
+    <message>
+        <source>Check ServerURL and this computer&apos;s clock.</source>
+        <translation>Compruebe ServerURL y el reloj de este equipo.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in renews it.</source>
+        <translation>xbrhost sign-in lo renueva.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in signs in.</source>
+        <translation>xbrhost sign-in inicia la sesión.</translation>
+    </message>
+    <message>
+        <source>--module names one.</source>
+        <translation>--module indica uno.</translation>
+    </message>
+    <message>
+        <source>Add it with %1.</source>
+        <translation>Añádalo con %1.</translation>
+    </message>
+    <message>
+        <source>Add them with %1.</source>
+        <translation>Añádalos con %1.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. “%1” was not taken.</source>
+        <translation>El servicio pide esperar %2 antes del próximo envío. «%1» no se aceptó.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
+        <translation>El servicio pide esperar %2 antes del próximo envío. El álbum «%1» no se aceptó.</translation>
     </message>
 </context>
 </TS>

@@ -25,6 +25,125 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::CommandLine</name>
+    <message>
+        <source>The module cannot sign out.</source>
+        <translation>Le module ne peut pas se déconnecter.</translation>
+    </message>
+    <message>
+        <source>The link is too long, or not one line.</source>
+        <translation>Le lien est trop long, ou n&apos;est pas d&apos;une seule ligne.</translation>
+    </message>
+    <message>
+        <source>No running xbrhost waits for this link. Start the sign-in again.</source>
+        <translation>Aucun xbrhost en marche n&apos;attend ce lien. Recommencez la connexion.</translation>
+    </message>
+    <message>
+        <source>xbrhost help tells more.</source>
+        <translation>xbrhost help en dit plus.</translation>
+    </message>
+    <message>
+        <source>Nearest: %1.</source>
+        <translation>Le plus proche : %1.</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>Il n&apos;y a pas de commande « %1 ».</translation>
+    </message>
+    <message>
+        <source>“%1” is one word too many.</source>
+        <translation>« %1 » est un mot de trop.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value behind it.</source>
+        <translation>Il manque une valeur après %1.</translation>
+    </message>
+    <message>
+        <source>There is no option “%1” for “%2”.</source>
+        <translation>Il n&apos;y a pas d&apos;option « %1 » pour « %2 ».</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 ne prend pas de valeur.</translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number from 1 to %2.</source>
+        <translation>%1 demande un nombre entier de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to the song before it: put it behind a song.</source>
+        <translation>%1 se rapporte au morceau qui précède : placez-le après un morceau.</translation>
+    </message>
+    <message>
+        <source>%1 is there twice.</source>
+        <translation>%1 est donné deux fois.</translation>
+    </message>
+    <message>
+        <source>open-url needs a link.</source>
+        <translation>open-url demande un lien.</translation>
+    </message>
+    <message>
+        <source>--release tells all about the release: leave out songs and details.</source>
+        <translation>--release dit tout de la sortie : omettez morceaux et détails.</translation>
+    </message>
+    <message>
+        <source>publish needs a song, or a folder with songs.</source>
+        <translation>publish demande un morceau, ou un dossier de morceaux.</translation>
+    </message>
+    <message>
+        <source>--album-title and --album-artist need --album: a single bears the title and the artist of its song.</source>
+        <translation>--album-title et --album-artist demandent --album : un single porte le titre et l&apos;artiste de son morceau.</translation>
+    </message>
+    <message>
+        <source>%1 is empty; leave it out to keep what the file&apos;s tags say.</source>
+        <translation>%1 est vide ; omettez-le pour garder ce que disent les étiquettes du fichier.</translation>
+    </message>
+    <message>
+        <source>%1 is not UTF-8.</source>
+        <translation>%1 n&apos;est pas en UTF-8.</translation>
+    </message>
+    <message>
+        <source>%1 holds a line break or another control character.</source>
+        <translation>%1 contient un saut de ligne ou un autre caractère de contrôle.</translation>
+    </message>
+    <message>
+        <source>has no panel</source>
+        <translation>n&apos;a pas de panneau</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>La réponse du navigateur à une connexion ne peut pas être reçue : %1.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read: %2.</source>
+        <translation>« %1 » ne peut pas être lu : %2.</translation>
+    </message>
+    <message>
+        <source>“%1” and the folders in it hold no songs.</source>
+        <translation>« %1 » et ses dossiers ne contiennent pas de morceaux.</translation>
+    </message>
+    <message>
+        <source>“%1” holds no songs; --recursive looks into the folders in it, too.</source>
+        <translation>« %1 » ne contient pas de morceaux ; --recursive regarde aussi dans ses dossiers.</translation>
+    </message>
+    <message>
+        <source>--title and --track-number belong to one song, and “%1” is a folder.</source>
+        <translation>--title et --track-number se rapportent à un morceau, et « %1 » est un dossier.</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”.</source>
+        <translation>Aucun genre ne contient « %1 ».</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”. Nearest: %2.</source>
+        <translation>Aucun genre ne contient « %1 ». Le plus proche : %2.</translation>
+    </message>
+    <message>
+        <source>takes no songs</source>
+        <translation>n&apos;accepte pas de morceaux</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -135,6 +254,109 @@
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>&amp;Continuer l’envoi</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Output</name>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
+        <translation>Le navigateur est revenu sans permission. Autorisez l&apos;accès là-bas, ou terminez avec Ctrl-C.</translation>
+    </message>
+    <message>
+        <source>Publish the other songs?</source>
+        <translation>Publier les autres morceaux ?</translation>
+    </message>
+    <message>
+        <source>no bytes for %1</source>
+        <translation>aucun octet depuis %1</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation>attend la réponse</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation>reste %1, tout %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>reste %1</translation>
+    </message>
+    <message>
+        <source>published</source>
+        <translation>publié</translation>
+    </message>
+    <message>
+        <source>not published</source>
+        <translation>non publié</translation>
+    </message>
+    <message>
+        <source>refused, details are missing</source>
+        <translation>refusé, des détails manquent</translation>
+    </message>
+    <message>
+        <source>(not set)</source>
+        <translation>(non indiqué)</translation>
+    </message>
+    <message>
+        <source>%1, rendered from “%2”</source>
+        <translation>%1, rendu à partir de « %2 »</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2 (incomplete)</source>
+        <translation>Sortie %1 sur %2 (incomplète)</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2</source>
+        <translation>Sortie %1 sur %2</translation>
+    </message>
+    <message>
+        <source>  Title: %1</source>
+        <translation>  Titre : %1</translation>
+    </message>
+    <message>
+        <source>  Artist: %1</source>
+        <translation>  Artiste : %1</translation>
+    </message>
+    <message>
+        <source>  Genre: %1</source>
+        <translation>  Genre : %1</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles.</source>
+        <translation>%1 morceaux sur %2 publiés comme singles.</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles, as %3.</source>
+        <translation>%1 morceaux sur %2 publiés comme singles, en tant que %3.</translation>
+    </message>
+    <message>
+        <source>Perhaps published: %1: it was sent, the answer did not come. Look at your account page.</source>
+        <translation>Peut-être publié : %1 : envoyé, la réponse n&apos;est pas venue. Regardez la page de votre compte.</translation>
+    </message>
+    <message>
+        <source>Not published: %1: %2</source>
+        <translation>Non publié : %1 : %2</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser. If no page opened, open this address:</source>
+        <translation>En attente de votre permission dans le navigateur. Si aucune page ne s&apos;est ouverte, ouvrez cette adresse :</translation>
+    </message>
+    <message>
+        <source>Hand the link back over with: %1</source>
+        <translation>Remettez le lien de retour avec : %1</translation>
+    </message>
+    <message>
+        <source>%1%2: sending %3</source>
+        <translation>%1%2 : envoi de %3</translation>
+    </message>
+    <message>
+        <source>%1%2: %3 %, %4 of %5, %6 left, all %7 left</source>
+        <translation>%1%2 : %3 %, %4 sur %5, reste %6, en tout %7</translation>
+    </message>
+    <message>
+        <source>Sent %1 in %2, %3/s.</source>
+        <translation>%1 envoyés en %2, %3/s.</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1033,86 @@
     <message>
         <source>All songs are published.</source>
         <translation>Tous les morceaux sont publiés.</translation>
+    </message>
+    <message>
+        <source>Run the same command again.</source>
+        <translation>Relancez la même commande.</translation>
+    </message>
+    <message>
+        <source>Run the same command with the songs that are not published to send the rest.</source>
+        <translation>Relancez la même commande avec les morceaux non publiés pour envoyer le reste.</translation>
+    </message>
+    <message>
+        <source>Try again later.</source>
+        <translation>Réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>Choose one with --genre.</source>
+        <translation>Choisissez-en un avec --genre.</translation>
+    </message>
+    <message>
+        <source>Name it once.</source>
+        <translation>Ne le nommez qu&apos;une fois.</translation>
+    </message>
+    <message>
+        <source>Rename one of them.</source>
+        <translation>Renommez l&apos;un des deux.</translation>
+    </message>
+    <message>
+        <source>--skip-unreadable leaves it out.</source>
+        <translation>--skip-unreadable l&apos;omet.</translation>
+    </message>
+    <message>
+        <source>Put it back, then run the same command again.</source>
+        <translation>Remettez-le en place, puis relancez la même commande.</translation>
+    </message>
+    <message>
+        <source>Make room, or set TMPDIR to another folder.</source>
+        <translation>Faites de la place, ou indiquez un autre dossier dans TMPDIR.</translation>
+    </message>
+    <message>
+        <source>Set TMPDIR to another folder.</source>
+        <translation>Indiquez un autre dossier dans TMPDIR.</translation>
+    </message>
+    <message>
+        <source>--track-number sets it.</source>
+        <translation>--track-number le fixe.</translation>
+    </message>
+    <message>
+        <source>Look at your account page before you send it again.</source>
+        <translation>Regardez la page de votre compte avant de l&apos;envoyer à nouveau.</translation>
+    </message>
+    <message>
+        <source>Check ServerURL and this computer&apos;s clock.</source>
+        <translation>Vérifiez ServerURL et l&apos;horloge de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in renews it.</source>
+        <translation>xbrhost sign-in la renouvelle.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in signs in.</source>
+        <translation>xbrhost sign-in connecte.</translation>
+    </message>
+    <message>
+        <source>--module names one.</source>
+        <translation>--module en nomme un.</translation>
+    </message>
+    <message>
+        <source>Add it with %1.</source>
+        <translation>Ajoutez-le avec %1.</translation>
+    </message>
+    <message>
+        <source>Add them with %1.</source>
+        <translation>Ajoutez-les avec %1.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. “%1” was not taken.</source>
+        <translation>Le service demande d&apos;attendre %2 avant le prochain envoi. « %1 » n&apos;a pas été pris.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
+        <translation>Le service demande d&apos;attendre %2 avant le prochain envoi. L&apos;album « %1 » n&apos;a pas été pris.</translation>
     </message>
 </context>
 </TS>

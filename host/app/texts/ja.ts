@@ -25,6 +25,125 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::CommandLine</name>
+    <message>
+        <source>The module cannot sign out.</source>
+        <translation>モジュールはサインアウトできません。</translation>
+    </message>
+    <message>
+        <source>The link is too long, or not one line.</source>
+        <translation>リンクが長すぎるか、1 行ではありません。</translation>
+    </message>
+    <message>
+        <source>No running xbrhost waits for this link. Start the sign-in again.</source>
+        <translation>このリンクを待つ xbrhost はありません。サインインをやり直してください。</translation>
+    </message>
+    <message>
+        <source>xbrhost help tells more.</source>
+        <translation>詳しくは xbrhost help をご覧ください。</translation>
+    </message>
+    <message>
+        <source>Nearest: %1.</source>
+        <translation>近いもの: %1。</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>コマンド「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is one word too many.</source>
+        <translation>「%1」が余分です。</translation>
+    </message>
+    <message>
+        <source>%1 needs a value behind it.</source>
+        <translation>%1 の後に値が必要です。</translation>
+    </message>
+    <message>
+        <source>There is no option “%1” for “%2”.</source>
+        <translation>「%2」にオプション「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 に値は付けられません。</translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number from 1 to %2.</source>
+        <translation>%1 には 1 から %2 までの整数が必要です。</translation>
+    </message>
+    <message>
+        <source>%1 belongs to the song before it: put it behind a song.</source>
+        <translation>%1 は直前の曲に付きます。曲の後に置いてください。</translation>
+    </message>
+    <message>
+        <source>%1 is there twice.</source>
+        <translation>%1 が 2 回あります。</translation>
+    </message>
+    <message>
+        <source>open-url needs a link.</source>
+        <translation>open-url にはリンクが必要です。</translation>
+    </message>
+    <message>
+        <source>--release tells all about the release: leave out songs and details.</source>
+        <translation>--release がすべてを伝えます。曲と情報は省いてください。</translation>
+    </message>
+    <message>
+        <source>publish needs a song, or a folder with songs.</source>
+        <translation>publish には曲か、曲の入ったフォルダーが必要です。</translation>
+    </message>
+    <message>
+        <source>--album-title and --album-artist need --album: a single bears the title and the artist of its song.</source>
+        <translation>--album-title と --album-artist には --album が必要です。シングルは曲のタイトルとアーティストを使います。</translation>
+    </message>
+    <message>
+        <source>%1 is empty; leave it out to keep what the file&apos;s tags say.</source>
+        <translation>%1 が空です。ファイルのタグのままにするには省いてください。</translation>
+    </message>
+    <message>
+        <source>%1 is not UTF-8.</source>
+        <translation>%1 は UTF-8 ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 holds a line break or another control character.</source>
+        <translation>%1 に改行などの制御文字があります。</translation>
+    </message>
+    <message>
+        <source>has no panel</source>
+        <translation>にはパネルがありません</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>サインインへのブラウザーの応答を受け取れません: %1。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read: %2.</source>
+        <translation>「%1」を読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” and the folders in it hold no songs.</source>
+        <translation>「%1」とその中のフォルダーに曲はありません。</translation>
+    </message>
+    <message>
+        <source>“%1” holds no songs; --recursive looks into the folders in it, too.</source>
+        <translation>「%1」に曲はありません。--recursive で中のフォルダーも調べます。</translation>
+    </message>
+    <message>
+        <source>--title and --track-number belong to one song, and “%1” is a folder.</source>
+        <translation>--title と --track-number は 1 曲に付くものですが、「%1」はフォルダーです。</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”.</source>
+        <translation>「%1」を含むジャンルはありません。</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”. Nearest: %2.</source>
+        <translation>「%1」を含むジャンルはありません。近いもの: %2。</translation>
+    </message>
+    <message>
+        <source>takes no songs</source>
+        <translation>は曲を受け取りません</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -134,6 +253,109 @@
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>アップロードを続ける(&amp;K)</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Output</name>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
+        <translation>ブラウザーは許可なしで戻りました。そこでアクセスを許可するか、Ctrl-C で終了してください。</translation>
+    </message>
+    <message>
+        <source>Publish the other songs?</source>
+        <translation>ほかの曲を公開しますか?</translation>
+    </message>
+    <message>
+        <source>no bytes for %1</source>
+        <translation>%1 送信なし</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation>応答待ち</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation>残り %1、全体 %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>published</source>
+        <translation>公開しました</translation>
+    </message>
+    <message>
+        <source>not published</source>
+        <translation>公開されませんでした</translation>
+    </message>
+    <message>
+        <source>refused, details are missing</source>
+        <translation>拒否されました。情報が足りません</translation>
+    </message>
+    <message>
+        <source>(not set)</source>
+        <translation>(未設定)</translation>
+    </message>
+    <message>
+        <source>%1, rendered from “%2”</source>
+        <translation>%1、「%2」からレンダリング</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2 (incomplete)</source>
+        <translation>リリース %1 / %2 (不完全)</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2</source>
+        <translation>リリース %1 / %2</translation>
+    </message>
+    <message>
+        <source>  Title: %1</source>
+        <translation>  タイトル: %1</translation>
+    </message>
+    <message>
+        <source>  Artist: %1</source>
+        <translation>  アーティスト: %1</translation>
+    </message>
+    <message>
+        <source>  Genre: %1</source>
+        <translation>  ジャンル: %1</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles.</source>
+        <translation>%2 曲のうち %1 曲をシングルとして公開しました。</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles, as %3.</source>
+        <translation>%2 曲のうち %1 曲を %3 としてシングルで公開しました。</translation>
+    </message>
+    <message>
+        <source>Perhaps published: %1: it was sent, the answer did not come. Look at your account page.</source>
+        <translation>公開された可能性: %1: 送信しましたが応答がありません。アカウントのページをご覧ください。</translation>
+    </message>
+    <message>
+        <source>Not published: %1: %2</source>
+        <translation>未公開: %1: %2</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser. If no page opened, open this address:</source>
+        <translation>ブラウザーでの許可を待っています。ページが開かない場合は、このアドレスを開いてください:</translation>
+    </message>
+    <message>
+        <source>Hand the link back over with: %1</source>
+        <translation>戻りのリンクの渡し方: %1</translation>
+    </message>
+    <message>
+        <source>%1%2: sending %3</source>
+        <translation>%1%2: %3 を送信中</translation>
+    </message>
+    <message>
+        <source>%1%2: %3 %, %4 of %5, %6 left, all %7 left</source>
+        <translation>%1%2: %3 %、%5 のうち %4、残り %6、全体の残り %7</translation>
+    </message>
+    <message>
+        <source>Sent %1 in %2, %3/s.</source>
+        <translation>%1 を %2 で送信しました (%3/s)。</translation>
     </message>
 </context>
 <context>
@@ -810,6 +1032,86 @@
     <message>
         <source>All songs are published.</source>
         <translation>すべての曲が公開されています。</translation>
+    </message>
+    <message>
+        <source>Run the same command again.</source>
+        <translation>同じコマンドをもう一度実行してください。</translation>
+    </message>
+    <message>
+        <source>Run the same command with the songs that are not published to send the rest.</source>
+        <translation>残りを送るには、公開されていない曲で同じコマンドを実行してください。</translation>
+    </message>
+    <message>
+        <source>Try again later.</source>
+        <translation>後でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Choose one with --genre.</source>
+        <translation>--genre で選んでください。</translation>
+    </message>
+    <message>
+        <source>Name it once.</source>
+        <translation>一度だけ指定してください。</translation>
+    </message>
+    <message>
+        <source>Rename one of them.</source>
+        <translation>どちらかの名前を変えてください。</translation>
+    </message>
+    <message>
+        <source>--skip-unreadable leaves it out.</source>
+        <translation>--skip-unreadable で省けます。</translation>
+    </message>
+    <message>
+        <source>Put it back, then run the same command again.</source>
+        <translation>元に戻してから、同じコマンドをもう一度実行してください。</translation>
+    </message>
+    <message>
+        <source>Make room, or set TMPDIR to another folder.</source>
+        <translation>空きを作るか、TMPDIR に別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>Set TMPDIR to another folder.</source>
+        <translation>TMPDIR に別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>--track-number sets it.</source>
+        <translation>--track-number で設定できます。</translation>
+    </message>
+    <message>
+        <source>Look at your account page before you send it again.</source>
+        <translation>もう一度送る前に、アカウントのページをご覧ください。</translation>
+    </message>
+    <message>
+        <source>Check ServerURL and this computer&apos;s clock.</source>
+        <translation>ServerURL とこのコンピューターの時計を確認してください。</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in renews it.</source>
+        <translation>xbrhost sign-in で更新できます。</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in signs in.</source>
+        <translation>xbrhost sign-in でサインインします。</translation>
+    </message>
+    <message>
+        <source>--module names one.</source>
+        <translation>--module で指定できます。</translation>
+    </message>
+    <message>
+        <source>Add it with %1.</source>
+        <translation>%1 で追加してください。</translation>
+    </message>
+    <message>
+        <source>Add them with %1.</source>
+        <translation>%1 で追加してください。</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. “%1” was not taken.</source>
+        <translation>サービスは次のアップロードまで %2 待つよう求めています。「%1」は受け付けられませんでした。</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
+        <translation>サービスは次のアップロードまで %2 待つよう求めています。アルバム「%1」は受け付けられませんでした。</translation>
     </message>
 </context>
 </TS>

@@ -25,6 +25,125 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::CommandLine</name>
+    <message>
+        <source>The module cannot sign out.</source>
+        <translation>O módulo não pode encerrar a sessão.</translation>
+    </message>
+    <message>
+        <source>The link is too long, or not one line.</source>
+        <translation>O link é longo demais ou não é uma só linha.</translation>
+    </message>
+    <message>
+        <source>No running xbrhost waits for this link. Start the sign-in again.</source>
+        <translation>Nenhum xbrhost em execução espera por este link. Inicie a sessão de novo.</translation>
+    </message>
+    <message>
+        <source>xbrhost help tells more.</source>
+        <translation>xbrhost help diz mais.</translation>
+    </message>
+    <message>
+        <source>Nearest: %1.</source>
+        <translation>Mais próximo: %1.</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>Não há comando “%1”.</translation>
+    </message>
+    <message>
+        <source>“%1” is one word too many.</source>
+        <translation>“%1” é uma palavra a mais.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value behind it.</source>
+        <translation>Falta um valor depois de %1.</translation>
+    </message>
+    <message>
+        <source>There is no option “%1” for “%2”.</source>
+        <translation>Não há opção “%1” para “%2”.</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 não leva valor.</translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number from 1 to %2.</source>
+        <translation>%1 precisa de um número inteiro de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to the song before it: put it behind a song.</source>
+        <translation>%1 pertence à música anterior: coloque depois de uma música.</translation>
+    </message>
+    <message>
+        <source>%1 is there twice.</source>
+        <translation>%1 aparece duas vezes.</translation>
+    </message>
+    <message>
+        <source>open-url needs a link.</source>
+        <translation>open-url precisa de um link.</translation>
+    </message>
+    <message>
+        <source>--release tells all about the release: leave out songs and details.</source>
+        <translation>--release diz tudo sobre o lançamento: omita músicas e dados.</translation>
+    </message>
+    <message>
+        <source>publish needs a song, or a folder with songs.</source>
+        <translation>publish precisa de uma música ou de uma pasta com músicas.</translation>
+    </message>
+    <message>
+        <source>--album-title and --album-artist need --album: a single bears the title and the artist of its song.</source>
+        <translation>--album-title e --album-artist precisam de --album: um single leva o título e o artista da sua música.</translation>
+    </message>
+    <message>
+        <source>%1 is empty; leave it out to keep what the file&apos;s tags say.</source>
+        <translation>%1 está vazio; omita para manter o que dizem as etiquetas do arquivo.</translation>
+    </message>
+    <message>
+        <source>%1 is not UTF-8.</source>
+        <translation>%1 não é UTF-8.</translation>
+    </message>
+    <message>
+        <source>%1 holds a line break or another control character.</source>
+        <translation>%1 contém uma quebra de linha ou outro caractere de controle.</translation>
+    </message>
+    <message>
+        <source>has no panel</source>
+        <translation>não tem painel</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>Não é possível receber a resposta do navegador ao iniciar a sessão: %1.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read: %2.</source>
+        <translation>“%1” não pode ser lida: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” and the folders in it hold no songs.</source>
+        <translation>“%1” e as pastas nela não contêm músicas.</translation>
+    </message>
+    <message>
+        <source>“%1” holds no songs; --recursive looks into the folders in it, too.</source>
+        <translation>“%1” não contém músicas; --recursive procura também nas pastas nela.</translation>
+    </message>
+    <message>
+        <source>--title and --track-number belong to one song, and “%1” is a folder.</source>
+        <translation>--title e --track-number pertencem a uma música, e “%1” é uma pasta.</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”.</source>
+        <translation>Nenhum gênero contém “%1”.</translation>
+    </message>
+    <message>
+        <source>No genre holds “%1”. Nearest: %2.</source>
+        <translation>Nenhum gênero contém “%1”. Mais próximo: %2.</translation>
+    </message>
+    <message>
+        <source>takes no songs</source>
+        <translation>não aceita músicas</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -135,6 +254,109 @@
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>&amp;Continuar o envio</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Output</name>
+    <message>
+        <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
+        <translation>O navegador voltou sem permissão. Permita o acesso lá ou termine com Ctrl-C.</translation>
+    </message>
+    <message>
+        <source>Publish the other songs?</source>
+        <translation>Publicar as outras músicas?</translation>
+    </message>
+    <message>
+        <source>no bytes for %1</source>
+        <translation>sem bytes há %1</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation>esperando a resposta</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation>faltam %1, todas %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>faltam %1</translation>
+    </message>
+    <message>
+        <source>published</source>
+        <translation>publicada</translation>
+    </message>
+    <message>
+        <source>not published</source>
+        <translation>não publicada</translation>
+    </message>
+    <message>
+        <source>refused, details are missing</source>
+        <translation>recusada, faltam dados</translation>
+    </message>
+    <message>
+        <source>(not set)</source>
+        <translation>(não indicado)</translation>
+    </message>
+    <message>
+        <source>%1, rendered from “%2”</source>
+        <translation>%1, renderizado de “%2”</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2 (incomplete)</source>
+        <translation>Lançamento %1 de %2 (incompleto)</translation>
+    </message>
+    <message>
+        <source>Release %1 of %2</source>
+        <translation>Lançamento %1 de %2</translation>
+    </message>
+    <message>
+        <source>  Title: %1</source>
+        <translation>  Título: %1</translation>
+    </message>
+    <message>
+        <source>  Artist: %1</source>
+        <translation>  Artista: %1</translation>
+    </message>
+    <message>
+        <source>  Genre: %1</source>
+        <translation>  Gênero: %1</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles.</source>
+        <translation>Publicadas %1 de %2 músicas como singles.</translation>
+    </message>
+    <message>
+        <source>Published %1 of %2 songs as singles, as %3.</source>
+        <translation>Publicadas %1 de %2 músicas como singles, como %3.</translation>
+    </message>
+    <message>
+        <source>Perhaps published: %1: it was sent, the answer did not come. Look at your account page.</source>
+        <translation>Talvez publicada: %1: foi enviada, a resposta não veio. Veja a página da sua conta.</translation>
+    </message>
+    <message>
+        <source>Not published: %1: %2</source>
+        <translation>Não publicada: %1: %2</translation>
+    </message>
+    <message>
+        <source>Waiting for your permission in the browser. If no page opened, open this address:</source>
+        <translation>Esperando a sua permissão no navegador. Se nenhuma página abriu, abra este endereço:</translation>
+    </message>
+    <message>
+        <source>Hand the link back over with: %1</source>
+        <translation>Entregue o link de volta com: %1</translation>
+    </message>
+    <message>
+        <source>%1%2: sending %3</source>
+        <translation>%1%2: enviando %3</translation>
+    </message>
+    <message>
+        <source>%1%2: %3 %, %4 of %5, %6 left, all %7 left</source>
+        <translation>%1%2: %3 %, %4 de %5, faltam %6, no total %7</translation>
+    </message>
+    <message>
+        <source>Sent %1 in %2, %3/s.</source>
+        <translation>Enviados %1 em %2, %3/s.</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1033,86 @@
     <message>
         <source>All songs are published.</source>
         <translation>Todas as músicas estão publicadas.</translation>
+    </message>
+    <message>
+        <source>Run the same command again.</source>
+        <translation>Execute o mesmo comando de novo.</translation>
+    </message>
+    <message>
+        <source>Run the same command with the songs that are not published to send the rest.</source>
+        <translation>Execute o mesmo comando com as músicas não publicadas para enviar o resto.</translation>
+    </message>
+    <message>
+        <source>Try again later.</source>
+        <translation>Tente de novo mais tarde.</translation>
+    </message>
+    <message>
+        <source>Choose one with --genre.</source>
+        <translation>Escolha um com --genre.</translation>
+    </message>
+    <message>
+        <source>Name it once.</source>
+        <translation>Nomeie uma só vez.</translation>
+    </message>
+    <message>
+        <source>Rename one of them.</source>
+        <translation>Renomeie um deles.</translation>
+    </message>
+    <message>
+        <source>--skip-unreadable leaves it out.</source>
+        <translation>--skip-unreadable o omite.</translation>
+    </message>
+    <message>
+        <source>Put it back, then run the same command again.</source>
+        <translation>Coloque-o de volta e execute o mesmo comando de novo.</translation>
+    </message>
+    <message>
+        <source>Make room, or set TMPDIR to another folder.</source>
+        <translation>Abra espaço ou indique outra pasta em TMPDIR.</translation>
+    </message>
+    <message>
+        <source>Set TMPDIR to another folder.</source>
+        <translation>Indique outra pasta em TMPDIR.</translation>
+    </message>
+    <message>
+        <source>--track-number sets it.</source>
+        <translation>--track-number o define.</translation>
+    </message>
+    <message>
+        <source>Look at your account page before you send it again.</source>
+        <translation>Veja a página da sua conta antes de enviar de novo.</translation>
+    </message>
+    <message>
+        <source>Check ServerURL and this computer&apos;s clock.</source>
+        <translation>Verifique ServerURL e o relógio deste computador.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in renews it.</source>
+        <translation>xbrhost sign-in renova.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-in signs in.</source>
+        <translation>xbrhost sign-in inicia a sessão.</translation>
+    </message>
+    <message>
+        <source>--module names one.</source>
+        <translation>--module indica um.</translation>
+    </message>
+    <message>
+        <source>Add it with %1.</source>
+        <translation>Adicione com %1.</translation>
+    </message>
+    <message>
+        <source>Add them with %1.</source>
+        <translation>Adicione com %1.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. “%1” was not taken.</source>
+        <translation>O serviço pede para esperar %2 antes do próximo envio. “%1” não foi aceita.</translation>
+    </message>
+    <message>
+        <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
+        <translation>O serviço pede para esperar %2 antes do próximo envio. O álbum “%1” não foi aceito.</translation>
     </message>
 </context>
 </TS>

@@ -13,11 +13,12 @@ struct Exchange {
     std::string host;
     bool hadCredentials = false;
     bool hadBody = false;
-    std::int64_t size = 0; ///< bytes of the body
-    std::int64_t sent = 0; ///< bytes of the body that left
-    int status = 0;        ///< 0: no answer came
-    std::string said;      ///< what an answer that is no success says to people: one line of 200 characters
-    Problem problem;       ///< why it was no success
+    std::int64_t size = 0;  ///< bytes of the body
+    std::int64_t sent = 0;  ///< bytes of the body that left
+    int status = 0;         ///< 0: no answer came
+    std::string said;       ///< what an answer that is no success says to people: one line of 200 characters
+    std::int64_t wait = -1; ///< seconds that an answer asks to wait; -1 for none
+    Problem problem;        ///< why it was no success
 };
 
 /// Hears of requests, in the calls of modules and from the event loop. May not send, abort or release

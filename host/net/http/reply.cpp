@@ -4,14 +4,19 @@
 #include "host/base/textscan.h"
 #include "host/net/http/request.h"
 
+#include <curl/curl.h>
 #include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <charconv>
+#include <ctime>
 
 namespace xbr::host {
 
 namespace {
 
-constexpr std::array<std::string_view, ReplyHeaders::kNames> kHeaderNames = {"Cache-Control", "Content-Type",
-                                                                             "ETag", "Last-Modified"};
+constexpr std::array<std::string_view, ReplyHeaders::kNames> kHeaderNames = {
+    "Cache-Control", "Content-Type", "ETag", "Last-Modified", "Retry-After"};
 
 using Json = nlohmann::ordered_json;
 
@@ -45,6 +50,18 @@ void ReplyHeaders::addLine(std::string_view line) {
             value += (value.empty() ? "" : ", ") + std::string(trim(line.substr(colon + 1)));
         }
     }
+}
+
+std::int64_t ReplyHeaders::secondsToWait() const {
+    static constexpr std::int64_t kLongest = 86'400; // a day
+    const std::string& text = m_values[kRetryAfter];
+    std::int64_t seconds = -1;
+    const auto [end, failed] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+    if (failed != std::errc() || end != text.data() + text.size()) {
+        const std::time_t time = curl_getdate(text.c_str(), nullptr);
+        seconds = time < 0 ? -1 : std::max<std::int64_t>(time - std::time(nullptr), 0);
+    }
+    return seconds > kLongest ? -1 : seconds;
 }
 
 bool Reply::addHeaderLine(std::string_view line) {

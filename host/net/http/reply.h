@@ -12,7 +12,7 @@ namespace xbr::host {
 /// What is read of the headers of an answer.
 class ReplyHeaders {
 public:
-    enum Name { kCacheControl, kContentType, kEntityTag, kLastModified, kNames };
+    enum Name { kCacheControl, kContentType, kEntityTag, kLastModified, kRetryAfter, kNames };
 
     /// Takes one line of the headers; a status line begins a new answer.
     void addLine(std::string_view line);
@@ -20,6 +20,9 @@ public:
     /// The value without white space around it; those of a header that repeats are joined by commas, as they
     /// mean the same then (RFC 9110, section 5.3). Empty when there is none.
     const std::string& operator[](Name name) const { return m_values.at(name); }
+
+    /// How many seconds the server asks to wait (RFC 9110, section 10.2.3); -1 for nothing that makes sense.
+    std::int64_t secondsToWait() const;
 
 private:
     std::array<std::string, kNames> m_values;

@@ -98,8 +98,12 @@ Result WebRequest::send(IStream* body, IObserver* handler) noexcept {
     if (!content.open(body) || (content.exists() && m_method == "HEAD")) {
         return kInvalidArgument;
     }
-    m_exchange = {m_method, m_host, static_cast<bool>(m_credentials), content.exists(), content.size(), 0, 0,
-                  {},       {}};
+    m_exchange = {};
+    m_exchange.method = m_method;
+    m_exchange.host = m_host;
+    m_exchange.hadCredentials = static_cast<bool>(m_credentials);
+    m_exchange.hadBody = content.exists();
+    m_exchange.size = content.size();
     auto& loop = TransferLoop::instance();
     auto transfer =
         Transfer::create({m_method, m_url, m_host, buildHeaders(), std::move(content), nullptr}, *this);
@@ -203,6 +207,7 @@ void WebRequest::endSilently() {
 void WebRequest::note(const Answer& answer) {
     m_exchange.sent = answer.sent;
     m_exchange.status = answer.status;
+    m_exchange.wait = answer.headers.secondsToWait();
     if (answer.status >= kFirstRefusal && answer.body) {
         m_exchange.said = wordsOf(*answer.body);
     }

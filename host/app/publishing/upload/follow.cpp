@@ -227,7 +227,7 @@ void Follow::exchangeEnded(const Exchange& exchange) {
     m_finished += exchange.sent;
     m_request = {};
     for (const std::string& file : std::exchange(m_travelling, {})) {
-        m_carried[file] = {exchange.sent, exchange.size, exchange.status, exchange.said, exchange.problem};
+        m_carried[file] = exchange;
     }
     lookLater();
 }
@@ -388,9 +388,10 @@ TrackFact Follow::factOf(const TrackReport& report) const {
     fact.wasSent = carried != m_carried.end();
     if (fact.wasSent) {
         fact.sent = carried->second.sent;
-        fact.total = carried->second.total;
+        fact.total = carried->second.size;
         fact.status = carried->second.status;
         fact.said = carried->second.said;
+        fact.wait = carried->second.wait;
         fact.problem = carried->second.problem;
     }
     return fact;

@@ -57,15 +57,6 @@ public:
 private:
     enum class Phase : std::uint8_t { kIdle, kPreparing, kSending };
 
-    /// What is known of the request that carried a track last.
-    struct Carried {
-        std::int64_t sent = 0;
-        std::int64_t total = 0;
-        int status = 0;
-        std::string said;
-        Problem problem;
-    };
-
     void began(Activity::Kind kind) override;
     void ended(Activity::Kind kind, bool isCancelled) override;
     void exchangeBegan(const Exchange& exchange) override;
@@ -103,7 +94,7 @@ private:
     std::vector<HandedSong> m_songs;
     std::vector<Problem> m_files;
     std::vector<Finding> m_findings;
-    std::map<std::string, Carried> m_carried;    ///< by the URL of the track's file
+    std::map<std::string, Exchange> m_carried;   ///< what carried a track last, by the URL of its file
     std::vector<std::string> m_travelling;       ///< URLs of the tracks on their way
     std::map<std::string, std::int64_t> m_sizes; ///< of files, by URL, while an upload runs
     Pace m_pace;

@@ -1,0 +1,75 @@
+#include "host/app/headless/folders.h"
+
+#include "host/app/audio/audiofolder.h"
+#include "host/app/publishing/words.h"
+
+#include <filesystem>
+
+namespace xbr::host {
+
+namespace {
+
+Problem complaint(Fault fault, const QString& text, const std::string& folder, const std::string& more = {}) {
+    return {fault, folder, 0, more.empty() ? say(text, folder) : say(text, folder, more), {}, {}};
+}
+
+Problem cannotBeRead(const Problem& problem) {
+    return complaint(Fault::kUnreadable,
+                     QCoreApplication::translate("xbr::host::CommandLine", "“%1” cannot be read: %2."),
+                     problem.subject, wordsOfErrno(problem.code));
+}
+
+Problem isEmpty(const std::string& folder, bool isRecursive) {
+    return complaint(Fault::kNotAudio,
+                     isRecursive ? QCoreApplication::translate("xbr::host::CommandLine",
+                                                               "“%1” and the folders in it hold no songs.")
+                                 : QCoreApplication::translate(
+                                       "xbr::host::CommandLine",
+                                       "“%1” holds no songs; --recursive looks into the folders in it, too."),
+                     folder);
+}
+
+Outcome<std::vector<SongWish>> songsIn(const SongWish& folder, bool isRecursive) {
+    if (!folder.title.empty() || folder.number != 0) {
+        return complaint(Fault::kWish,
+                         QCoreApplication::translate(
+                             "xbr::host::CommandLine",
+                             "--title and --track-number belong to one song, and “%1” is a folder."),
+                         folder.path);
+    }
+    const auto files = audioFilesIn(folder.path, isRecursive);
+    if (!files) {
+        return cannotBeRead(files.problem());
+    }
+    if (files->empty()) {
+        return isEmpty(folder.path, isRecursive);
+    }
+    std::vector<SongWish> songs;
+    for (const std::string& file : *files) {
+        songs.push_back(folder);
+        songs.back().path = file;
+    }
+    return songs;
+}
+
+} // namespace
+
+Outcome<void> expandFolders(ReleaseWish& wish, bool isRecursive) {
+    std::vector<SongWish> songs;
+    for (const SongWish& song : wish.songs) {
+        std::error_code failed;
+        if (!std::filesystem::is_directory(song.path, failed)) {
+            songs.push_back(song);
+            continue;
+        }
+        auto found = songsIn(song, isRecursive);
+        if (!found) {
+            return found.problem();
+        }
+        songs.insert(songs.end(), found->begin(), found->end());
+    }
+    wish.songs = std::move(songs);
+    return {};
+}
+
+} // namespace xbr::host
