@@ -12,7 +12,7 @@ namespace {
 constexpr long kPatience = 60; // seconds
 constexpr std::size_t kLargestPage = 1U << 20U;
 constexpr long kShown = 200;
-constexpr long kSentOn = 302;
+constexpr std::string_view kLeadsTo = "url=";
 
 using Handle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 using Url = std::unique_ptr<CURLU, decltype(&curl_url_cleanup)>;
@@ -36,7 +36,7 @@ Url parse(const std::string& text) {
 
 struct Page {
     long status = 0;
-    std::string location; // byte for byte as sent
+    std::string refresh; // where it leads by itself, byte for byte as sent
     std::string body;
 };
 
@@ -62,9 +62,11 @@ Page fetch(const std::string& url, const std::string& form = {}) {
         throw VisitError(std::string("the server does not answer: ") + curl_easy_strerror(result));
     }
     curl_easy_getinfo(handle.get(), CURLINFO_RESPONSE_CODE, &page.status);
-    curl_header* location = nullptr;
-    if (curl_easy_header(handle.get(), "Location", 0, CURLH_HEADER, -1, &location) == CURLHE_OK) {
-        page.location = location->value;
+    curl_header* refresh = nullptr;
+    if (curl_easy_header(handle.get(), "Refresh", 0, CURLH_HEADER, -1, &refresh) == CURLHE_OK) {
+        const std::string_view value = refresh->value;
+        const auto start = value.find(kLeadsTo);
+        page.refresh = start == std::string_view::npos ? "" : value.substr(start + kLeadsTo.size());
     }
     return page;
 }
@@ -105,10 +107,10 @@ std::string Visitor::authorize(const std::string& url) const {
                                         "&password=" + percentEncode(m_password));
     const auto decision = m_allows ? "allow" : "deny";
     const auto end = fetch(url, fields + decision + "&ticket=" + percentEncode(ticketOf(consent)));
-    if (end.status != kSentOn || end.location.find("://") == std::string::npos || parse(end.location)) {
+    if (end.status != kShown || end.refresh.find("://") == std::string::npos || parse(end.refresh)) {
         throw VisitError("the pages do not lead to the program (status " + std::to_string(end.status) + ")");
     }
-    return end.location;
+    return end.refresh;
 }
 
 } // namespace sandbox

@@ -117,8 +117,9 @@ Reply Authorization::checkPassword(const Form& form) {
 Reply Authorization::redirect(const std::string& query) const {
     const auto& uri = m_settings.client.redirectUri;
     const auto callback = uri + (uri.find('?') == std::string::npos ? "?" : "&") + query;
-    auto reply = htmlReply(302, returnPage(callback));
-    reply.headers.emplace_back("Location", callback);
+    // A page, not a redirect: where nothing handles the program's links, the person still has one to copy.
+    auto reply = htmlReply(200, returnPage(callback));
+    reply.headers.emplace_back("Refresh", "0; url=" + callback);
     return guarded(reply);
 }
 

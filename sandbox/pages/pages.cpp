@@ -94,10 +94,14 @@ std::string consentPage(const Account& account, const HiddenFields& hidden) {
 }
 
 std::string returnPage(const std::string& callback) {
-    return page("Back to the program",
-                "<p>You can close this page now. If nothing happens, hand the answer over by hand:</p>\n"
-                "<p><a href=\"" +
-                    escapeMarkup(callback) + "\">Return to the program</a></p>\n");
+    return page(
+        "Back to the program",
+        "<p>You can close this page now. If nothing happens, hand the answer over by hand:</p>\n"
+        "<p><a href=\"" +
+            escapeMarkup(callback) +
+            "\">Return to the program</a></p>\n<p>Or copy this link, and paste it in the program:</p>\n"
+            "<p><code>" +
+            escapeMarkup(callback) + "</code></p>\n");
 }
 
 std::string errorPage(const std::string& message) {
