@@ -26,6 +26,15 @@ JoinToken mayJoinTokenBeSent() {
     return permission && permission->isAllowed() ? JoinToken::kSend : JoinToken::kWithhold;
 }
 
+/// What requests carry; null when no header can carry the token.
+xbr::Ref<xbr::IWebCredentials> makeCredentials(const std::string& token) {
+    xbr::Ref<xbr::IWebCredentials> credentials;
+    const bool isMade =
+        XBRGetWebService()->createCredentials(credentials.out()) == xbr::kOk &&
+        credentials->set(xbr::toText(""), xbr::toText(token), xbr::toText("Bearer")) == xbr::kOk;
+    return isMade ? credentials : xbr::Ref<xbr::IWebCredentials>();
+}
+
 [[maybe_unused]] bool isLegal(ClientState from, ClientState to) {
     switch (to) {
     case ClientState::kIdle:
@@ -121,11 +130,14 @@ void OAuth2Client::onTokenReply(const xbr::IMessage& message, xbr::IWebRequest& 
         return;
     }
     const auto self = xbr::Ref<OAuth2Client>::share(this);
-    if (!finished || !readTokenReply(request)) {
+    // A token that no header can carry is no sign-in: every request would go out without it.
+    auto credentials = finished && readTokenReply(request) ? makeCredentials(m_tokens.accessToken)
+                                                           : xbr::Ref<xbr::IWebCredentials>();
+    if (!credentials) {
         exchangeFailed();
         return;
     }
-    becomeAuthorized();
+    becomeAuthorized(std::move(credentials));
     // A reply without an access token signs in all the same, with nothing stored: the service answers so for
     // accounts that wait for confirmation, and the panel must show them as connected.
     if (!m_tokens.accessToken.empty()) {
@@ -144,17 +156,10 @@ bool OAuth2Client::readTokenReply(xbr::IWebRequest& request) {
            parseTokenReply(m_tokens, *body, XBRGetSystem()->currentTime());
 }
 
-void OAuth2Client::becomeAuthorized() {
+void OAuth2Client::becomeAuthorized(xbr::Ref<xbr::IWebCredentials> credentials) {
     setState(ClientState::kAuthorized);
     if (m_state != ClientState::kAuthorized) {
         return; // an observer of the change reset it
-    }
-    xbr::Ref<xbr::IWebCredentials> credentials;
-    if (XBRGetWebService()->createCredentials(credentials.out()) == xbr::kOk &&
-        credentials->set(xbr::toText(""), xbr::toText(m_tokens.accessToken), xbr::toText("Bearer")) !=
-            xbr::kOk) {
-        credentials
-            .reset(); // a token that no header can carry: the service will refuse us, and the user sees it
     }
     setCredentials(std::move(credentials));
     xbr::postSignal(*this, "authorizationCompleted");
@@ -180,11 +185,18 @@ void OAuth2Client::retryAuthorization() {
 }
 
 bool OAuth2Client::restoreAuthorization() {
-    if (isAuthorized() || isBusy() || !loadTokens(m_tokens, m_credentialName)) {
+    if (isAuthorized() || isBusy()) {
         return false;
     }
     const auto self = xbr::Ref<OAuth2Client>::share(this);
-    becomeAuthorized();
+    OAuth2Tokens tokens = m_tokens;
+    auto credentials = loadTokens(tokens, m_credentialName) ? makeCredentials(tokens.accessToken)
+                                                            : xbr::Ref<xbr::IWebCredentials>();
+    if (!credentials) {
+        return false;
+    }
+    m_tokens = std::move(tokens);
+    becomeAuthorized(std::move(credentials));
     return isAuthorized();
 }
 

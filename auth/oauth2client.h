@@ -85,7 +85,7 @@ private:
     void onTokenReply(const xbr::IMessage& message, xbr::IWebRequest& request);
     bool readTokenReply(xbr::IWebRequest& request);
     void exchangeFailed();
-    void becomeAuthorized();
+    void becomeAuthorized(xbr::Ref<xbr::IWebCredentials> credentials);
     void setState(ClientState state);
     xbr::Url serviceUrl(std::string_view path) const;
 

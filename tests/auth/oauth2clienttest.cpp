@@ -62,10 +62,16 @@ protected:
         listener->heard.clear();
     }
 
-    /// The states that were passed through, without what else was told.
+    /// The states that were passed through, and the messages; one that was not posted is marked.
     std::vector<std::string> told() {
         host().signals.pump();
         auto names = listener->heard;
+        for (std::string& name : names) {
+            const auto& posted = host().signals.postedSignals;
+            const bool isState = name.size() == 1;
+            name +=
+                isState || std::find(posted.begin(), posted.end(), name) != posted.end() ? "" : " at once";
+        }
         names.erase(std::unique(names.begin(), names.end()), names.end()); // busy changes repeat the state
         return names;
     }
@@ -145,7 +151,8 @@ TEST_F(OAuth2ClientTest, FailedExchangeEndsInAFullReset) {
     };
     for (const auto& [status, body] :
          {Case{400, R"({"error":"invalid_grant"})"}, Case{200, ""}, Case{200, "text"}, Case{302, kReply},
-          Case{0, ""}, Case{500, kReply}}) {
+          Case{0, ""}, Case{500, kReply}, Case{199, kReply}, Case{300, kReply},
+          Case{200, R"({"access_token":"A\nX: y"})"}}) {
         host().credentials.stored = {"Name", "OAuth2Tokens", "old&old", ""};
         listener->heard.clear();
         reachTokenRequest();
@@ -196,7 +203,11 @@ TEST_F(OAuth2ClientTest, RetryDuringTheExchangeStartsAfreshAndStays) {
 }
 
 TEST_F(OAuth2ClientTest, RestoresFromTheStoreWithoutAskingAnyone) {
-    EXPECT_FALSE(client->restoreAuthorization());
+    for (const char* unusable : {"", "&", "sto\nred&R"}) {
+        host().credentials.stored = {"Name", "OAuth2Tokens", unusable, ""};
+        EXPECT_FALSE(client->restoreAuthorization()) << unusable;
+    }
+    EXPECT_THAT(told(), ElementsAre());
     host().credentials.stored = {"Name", "OAuth2Tokens", "stored&R", ""};
     client->getAuthorizationCode();
     EXPECT_TRUE(client->restoreAuthorization()) << "also while the browser is open";
@@ -204,6 +215,8 @@ TEST_F(OAuth2ClientTest, RestoresFromTheStoreWithoutAskingAnyone) {
     EXPECT_TRUE(host().web.sent.empty());
     ASSERT_TRUE(client->sendAuthorizedQuery([](const auto&, auto&) {}, "api/me"));
     EXPECT_EQ(host().web.sent.back().headers.at("Authorization"), "Bearer stored");
+    EXPECT_EQ(host().web.sent.back().method, "GET");
+    EXPECT_EQ(host().web.sent.back().url, "https://service.example/base/api/me");
 }
 
 TEST_F(OAuth2ClientTest, SendsServiceRequestsOnlyWhenAuthorizedAndFree) {
@@ -236,6 +249,13 @@ TEST_F(OAuth2ClientTest, ParametersActAndPropertiesTell) {
         client->getProperty(xbr::toText(name), &value);
         return xbr::integerOf(value, -1);
     };
+    std::int32_t tag = 100; // forms and scripts know them by number, too
+    for (const char* name :
+         {"getAuthorizationCode", "resetAuthorization", "retryAuthorization", "isAuthorized"}) {
+        EXPECT_EQ(client->findParameter(xbr::toText(name))->tag(), tag++) << name;
+    }
+    set("isAuthorized");
+    EXPECT_EQ(xbr::integerOf(client->findParameter(xbr::toText("isAuthorized"))->value()), 0) << "only shows";
     set("getAuthorizationCode");
     EXPECT_EQ(property("clientState"), 1);
     set("retryAuthorization");

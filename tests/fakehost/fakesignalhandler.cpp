@@ -29,6 +29,7 @@ void FakeSignalHandler::signal(xbr::ISubject* subject, xbr::IMessage* message) n
 }
 
 void FakeSignalHandler::postSignal(xbr::ISubject* subject, xbr::IMessage* message) noexcept {
+    postedSignals.push_back(xbr::toString(message->name()));
     m_posted.push_back({subject, nullptr, xbr::Ref<xbr::IMessage>::share(message), nullptr});
 }
 

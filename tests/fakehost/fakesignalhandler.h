@@ -31,6 +31,9 @@ public:
     /// What was posted to observers, as "name delay".
     std::vector<std::string> posts;
 
+    /// What was posted to the observers of a subject, by name.
+    std::vector<std::string> postedSignals;
+
     /// Observers and undelivered messages: 0 when everybody cleaned up.
     std::size_t remaining() const { return m_pairs.size() + m_posted.size(); }
 

@@ -12,6 +12,9 @@ namespace {
 class FakeCredentials final : public xbr::Object<xbr::IWebCredentials> {
 public:
     xbr::Result set(xbr::Text, xbr::Text password, xbr::Text scheme) noexcept override {
+        if (xbr::view(password).find_first_of("\r\n") != std::string_view::npos) {
+            return xbr::kInvalidArgument;
+        }
         header = xbr::toString(scheme) + " " + xbr::toString(password);
         return xbr::kOk;
     }
