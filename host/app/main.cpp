@@ -4,6 +4,7 @@
 #include "host/app/window/start/window.h"
 
 #include <filesystem>
+#include <sys/prctl.h>
 
 namespace {
 
@@ -29,6 +30,8 @@ std::vector<std::string> songsOf(const std::vector<std::string>& words) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // Tokens pass through many hands that cannot be made to wipe them: nobody gets a dump of this process.
+    prctl(PR_SET_DUMPABLE, 0);
     // Taken before Qt converts them: names of files are bytes.
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     const auto commandLine = parseCommandLine(arguments);

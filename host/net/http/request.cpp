@@ -37,16 +37,8 @@ bool isTransportHeader(std::string_view name) noexcept {
 RequestHeaders::RequestHeaders(RequestHeaders&& other) noexcept
     : m_list(std::exchange(other.m_list, nullptr)) {}
 
-RequestHeaders::~RequestHeaders() {
-    for (curl_slist* line = m_list; line; line = line->next) {
-        explicit_bzero(line->data, std::strlen(line->data));
-    }
-    curl_slist_free_all(m_list);
-}
-
-void RequestHeaders::append(std::string line) {
+void RequestHeaders::append(const std::string& line) {
     curl_slist* longer = curl_slist_append(m_list, line.c_str());
-    Secret::wipe(line);
     if (!longer) {
         throw std::bad_alloc();
     }
@@ -54,12 +46,8 @@ void RequestHeaders::append(std::string line) {
 }
 
 void RequestHeaders::add(std::string_view name, std::string_view value) {
-    std::string line;
-    line.reserve(name.size() + value.size() + 2);
-    line.append(name);
     // "Name;" is how libcurl writes a header without a value; "Name:" would remove it.
-    line.append(value.empty() ? ";" : ": ").append(value);
-    append(std::move(line));
+    append(std::string(name) + (value.empty() ? ";" : ": ") + std::string(value));
 }
 
 void RequestHeaders::suppress(std::string_view name) {

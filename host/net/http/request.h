@@ -23,29 +23,6 @@ bool isSameHeader(std::string_view left, std::string_view right) noexcept;
 /// the transport's: a second opinion about the length of a body lets two requests be read out of one.
 bool isTransportHeader(std::string_view name) noexcept;
 
-/// A text that is overwritten before its memory is given back.
-class Secret {
-public:
-    Secret() = default;
-    Secret(const Secret&) = delete;
-    Secret& operator=(const Secret&) = delete;
-    ~Secret() { wipe(m_text); }
-
-    void assign(std::string_view text) {
-        // Wiped first: assigning may move to a larger block and leave the old one as it is.
-        wipe(m_text);
-        m_text.assign(text);
-    }
-    std::string_view view() const noexcept { return m_text; }
-    bool isEmpty() const noexcept { return m_text.empty(); }
-
-    /// Overwrites what is in `text`.
-    static void wipe(std::string& text) noexcept { explicit_bzero(text.data(), text.size()); }
-
-private:
-    std::string m_text;
-};
-
 /// The headers of one request as libcurl takes them.
 class RequestHeaders {
 public:
@@ -55,8 +32,7 @@ public:
     RequestHeaders(RequestHeaders&& other) noexcept;
     RequestHeaders& operator=(RequestHeaders&&) = delete;
 
-    /// Overwrites the lines before it frees them: one of them may hold a token.
-    ~RequestHeaders();
+    ~RequestHeaders() { curl_slist_free_all(m_list); }
 
     void add(std::string_view name, std::string_view value);
 
@@ -66,7 +42,7 @@ public:
     curl_slist* list() const noexcept { return m_list; }
 
 private:
-    void append(std::string line);
+    void append(const std::string& line);
 
     curl_slist* m_list = nullptr;
 };

@@ -18,13 +18,13 @@ public:
     Result queryInterface(const Uid& interfaceUid, void** out) noexcept override;
     Result set(Text userName, Text password, Text scheme) noexcept override;
 
-    bool isSet() const noexcept { return !m_authorization.isEmpty(); }
+    bool isSet() const noexcept { return !m_authorization.empty(); }
 
     /// The header's value, for example "Bearer abc".
-    std::string_view authorization() const noexcept { return m_authorization.view(); }
+    std::string_view authorization() const noexcept { return m_authorization; }
 
 private:
-    Secret m_authorization;
+    std::string m_authorization;
 };
 
 } // namespace xbr::host
