@@ -13,12 +13,14 @@ struct ICredential : IObject {
 };
 
 /// The user's system credential store. Texts are valid UTF-8 without zero bytes and a target is not empty,
-/// otherwise kInvalidArgument.
+/// otherwise kInvalidArgument. A call may take as long as the user needs to unlock the store; nothing of the
+/// module is called meanwhile.
 struct ICredentialManager : IObject {
     static constexpr Uid kUid = uid("2ab431ef-49fc-445a-9599-2d14111e31e0");
 
     /// Stores a credential; one of the same target and user name is replaced. `note` is kept with it and not
-    /// looked up. kUnexpected: the store is missing or locked, or the user refused.
+    /// looked up. kUnexpected: there is no store, it is locked and the user refused, or it does not answer in
+    /// time.
     virtual Result add(Text target, Text userName, Text password, Text note) noexcept = 0;
 
     /// Finds the credential of a target that was stored last, handed over. kFalse and null when there is

@@ -39,6 +39,10 @@ void abortUploads() {
     WebRequest::abortUploads();
 }
 
+void holdRequests(bool isHeld) {
+    TransferLoop::hold(isHeld);
+}
+
 void setIdleLimit(std::chrono::milliseconds limit) {
     Transfer::setIdleLimit(limit);
 }

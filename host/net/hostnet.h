@@ -17,6 +17,10 @@ __attribute__((visibility("default"))) void abortAllRequests();
 /// handlers hear "onabort" later, and what was told of them says how far they came.
 __attribute__((visibility("default"))) void abortUploads();
 
+/// Lets requests and downloads stand still, and go on again: while a call of a module waits for something
+/// that the module does not expect to run the event loop, nothing is reported.
+__attribute__((visibility("default"))) void holdRequests(bool isHeld);
+
 /// How long a request may pass without a byte in either direction before it fails. Applies to requests sent
 /// afterwards; 60 seconds at the start. Time during which the event loop does not run is not counted.
 __attribute__((visibility("default"))) void setIdleLimit(std::chrono::milliseconds limit);

@@ -1,51 +1,103 @@
 #include "host/security/hostsecurity.h"
 
-#include "host/security/interruptwatch.h"
-#include "host/security/storeproblem.h"
+#include "framework/abi/credentials.h"
+#include "framework/support/objects/text.h"
+#include "host/security/secretservice.h"
+#include "host/security/storecall.h"
+
+#include <memory>
+#include <string>
 
 namespace xbr::host {
 
 namespace {
 
-StoreProblemListener g_listener;
-IsInterrupted g_isInterrupted = nullptr;
+StoreListener* g_listener = nullptr;
 
-/// Tells the listener unless `told` says that it was told before.
-void tellOnce(bool& told, const std::string& words) {
-    if (!g_listener || told) {
-        return;
+/// Runs an operation beside the main thread, and tells how it ended.
+StoreResult ask(StoreOperation kind, StoreCall::Operation operation) {
+    const StoreResult result = StoreCall::run(std::move(operation), g_listener);
+    if (g_listener) {
+        g_listener->storeAnswered(kind, result);
     }
-    told = true;
-    // A copy: the listener may replace itself.
-    const StoreProblemListener listener = g_listener;
-    listener(words);
+    return result;
 }
+
+class Credential final : public Object<ICredential> {
+public:
+    explicit Credential(FoundSecret found) : m_found(std::move(found)) {}
+
+    Text userName() const noexcept override { return toText(m_found.userName); }
+    Text password() const noexcept override { return toText(m_found.password); }
+
+private:
+    FoundSecret m_found;
+};
+
+Result resultOf(StoreResult result) {
+    switch (result) {
+    case StoreResult::kDone:
+        return kOk;
+    case StoreResult::kNothing:
+        return kFalse;
+    default:
+        return kUnexpected;
+    }
+}
+
+/// A credential without a name could be told apart neither here nor by people who look through their keyring.
+bool isTarget(Text target) {
+    return target.length > 0 && isAttributeText(view(target));
+}
+
+class CredentialManager final : public Object<ICredentialManager> {
+public:
+    Result add(Text target, Text userName, Text password, Text note) noexcept override {
+        if (!isTarget(target) || !isAttributeText(view(userName)) || !isAttributeText(view(note))) {
+            return kInvalidArgument;
+        }
+        return resultOf(ask(StoreOperation::kAdd,
+                            [target = toString(target), user = toString(userName),
+                             password = toString(password), note = toString(note)](StoreCall& call) {
+                                return storeSecret(call, target, user, password, note);
+                            }));
+    }
+
+    Result find(Text target, ICredential** out) noexcept override {
+        *out = nullptr;
+        if (!isTarget(target)) {
+            return kInvalidArgument;
+        }
+        const auto found = std::make_shared<FoundSecret>();
+        const StoreResult result =
+            ask(StoreOperation::kFind, [target = toString(target), found](StoreCall& call) {
+                return findSecret(call, target, *found);
+            });
+        if (result == StoreResult::kDone) {
+            *out = make<Credential>(std::move(*found)).detach();
+        }
+        return resultOf(result);
+    }
+
+    Result remove(Text target) noexcept override {
+        if (!isTarget(target)) {
+            return kInvalidArgument;
+        }
+        return resultOf(ask(StoreOperation::kRemove, [target = toString(target)](StoreCall& call) {
+            return removeSecrets(call, target);
+        }));
+    }
+};
 
 } // namespace
 
-void setStoreProblemListener(StoreProblemListener listener) {
-    g_listener = std::move(listener);
-}
-
-void setStoreInterruption(bool (*isInterrupted)() noexcept) {
-    g_isInterrupted = isInterrupted;
-}
-
-IsInterrupted storeInterruption() {
-    return g_isInterrupted;
-}
-
-void tellStoreProblem(StoreResult result) {
-    static bool told = false;
-    tellOnce(told, storeProblemText(result));
-}
-
-void tellRemoveProblem(StoreResult result) {
-    static bool told = false;
-    // Without a store nothing can have been kept.
-    if (result == StoreResult::kLocked || result == StoreResult::kFailed) {
-        tellOnce(told, removeProblemText(result));
-    }
+void setStoreListener(StoreListener* listener) {
+    g_listener = listener;
 }
 
 } // namespace xbr::host
+
+xbr::ICredentialManager* XBRGetCredentialManager() noexcept {
+    static xbr::host::CredentialManager manager;
+    return &manager;
+}

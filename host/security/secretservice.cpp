@@ -1,15 +1,12 @@
 #include "host/security/secretservice.h"
 
-#include "host/security/interruptwatch.h"
-
 #include <libsecret/secret.h>
+
+#include <memory>
 
 namespace xbr::host {
 
 namespace {
-
-/// How long the service may take for an answer that does not depend on the user. Covers its start by the bus.
-constexpr int kPatience = 5'000; // milliseconds
 
 template <auto kFree>
 struct Freer {
@@ -65,49 +62,88 @@ bool hasSessionBus() {
     return folder && *folder && g_file_test((std::string(folder) + "/bus").c_str(), G_FILE_TEST_EXISTS);
 }
 
-Connection connectToBus() {
-    if (!hasSessionBus()) {
-        return nullptr;
-    }
-    Connection bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
-    if (bus) {
-        // The default would end this program when the bus ends.
-        g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
-    }
-    return bus;
-}
-
-/// Whether the service is there and answers in time; the bus starts it when it knows how.
-bool isServiceAlive(GDBusConnection* bus, GCancellable* cancellable) {
-    const Variant answer(g_dbus_connection_call_sync(
-        bus, "org.freedesktop.secrets", "/org/freedesktop/secrets", "org.freedesktop.DBus.Properties", "Get",
-        g_variant_new("(ss)", "org.freedesktop.Secret.Service", "Collections"), nullptr,
-        G_DBUS_CALL_FLAGS_NONE, kPatience, cancellable, nullptr));
-    return answer != nullptr;
-}
-
-/// Opens the service for one operation. Nothing is kept between operations, so that a service that was
-/// restarted or came late is found, and nothing is left to clean up at the end.
-Service openService(GCancellable* cancellable) {
-    const Connection bus = connectToBus();
-    if (!bus || !isServiceAlive(bus.get(), cancellable)) {
-        return nullptr;
-    }
-    Service service(secret_service_open_sync(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION,
-                                             cancellable, nullptr));
-    if (service) {
-        g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(service.get()), kPatience);
-    }
-    return service;
+/// Whether there is nobody to ask, rather than somebody who does not answer.
+bool isNoStore(const GError& error) {
+    return g_error_matches(&error, G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN) ||
+           g_error_matches(&error, G_DBUS_ERROR, G_DBUS_ERROR_NAME_HAS_NO_OWNER) ||
+           g_error_matches(&error, G_DBUS_ERROR, G_DBUS_ERROR_SPAWN_SERVICE_NOT_FOUND) ||
+           g_error_matches(&error, G_DBUS_ERROR, G_DBUS_ERROR_SPAWN_EXEC_FAILED);
 }
 
 StoreResult failureOf(const Error& error) {
     // No error, yet not done: a question to the user was dismissed.
-    if (!error || g_error_matches(error.get(), SECRET_ERROR, SECRET_ERROR_IS_LOCKED) ||
-        g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED)) {
+    if (!error || g_error_matches(error.get(), SECRET_ERROR, SECRET_ERROR_IS_LOCKED)) {
         return StoreResult::kLocked;
     }
-    return StoreResult::kFailed;
+    return isNoStore(*error) ? StoreResult::kNoStore : StoreResult::kSilent;
+}
+
+/// The methods of SecretService with which questions to the user are shown.
+decltype(SecretServiceClass::prompt_sync) g_prompt = nullptr;
+decltype(SecretServiceClass::prompt_async) g_beginPrompt = nullptr;
+decltype(SecretServiceClass::prompt_finish) g_endPrompt = nullptr;
+
+GVariant* prompt(SecretService* self, SecretPrompt* question, GCancellable* cancellable,
+                 const GVariantType* type, GError** error) {
+    StoreCall::current().setAsking(true);
+    GVariant* answer = g_prompt(self, question, cancellable, type, error);
+    StoreCall::current().setAsking(false);
+    return answer;
+}
+
+void beginPrompt(SecretService* self, SecretPrompt* question, const GVariantType* type,
+                 GCancellable* cancellable, GAsyncReadyCallback callback, gpointer data) {
+    StoreCall::current().setAsking(true);
+    g_beginPrompt(self, question, type, cancellable, callback, data);
+}
+
+GVariant* endPrompt(SecretService* self, GAsyncResult* result, GError** error) {
+    StoreCall::current().setAsking(false);
+    return g_endPrompt(self, result, error);
+}
+
+/// A service that tells the call when the user is asked: that may take as long as it takes.
+GType serviceType() {
+    static const GType kType = g_type_register_static_simple(
+        SECRET_TYPE_SERVICE, "XbrSecretService", sizeof(SecretServiceClass),
+        [](gpointer type, gpointer) {
+            auto* methods = static_cast<SecretServiceClass*>(type);
+            g_prompt = std::exchange(methods->prompt_sync, &prompt);
+            g_beginPrompt = std::exchange(methods->prompt_async, &beginPrompt);
+            g_endPrompt = std::exchange(methods->prompt_finish, &endPrompt);
+        },
+        sizeof(SecretService), nullptr, G_TYPE_FLAG_NONE);
+    return kType;
+}
+
+/// Connects to the bus; the default would end this program when the bus ends.
+StoreResult connectToBus(GCancellable* cancellable) {
+    if (!hasSessionBus()) {
+        return StoreResult::kNoStore;
+    }
+    GError* raw = nullptr;
+    const Connection bus(g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, &raw));
+    const Error error(raw);
+    if (!bus) {
+        const bool isSilent = g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) ||
+                              g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED);
+        return isSilent ? StoreResult::kSilent : StoreResult::kNoStore;
+    }
+    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+    return StoreResult::kDone;
+}
+
+/// Opens the service for one operation. Nothing is kept between operations, so that a service that was
+/// restarted or came late is found, and nothing is left to clean up at the end.
+StoreResult openService(GCancellable* cancellable, Service& service) {
+    if (const StoreResult bus = connectToBus(cancellable); bus != StoreResult::kDone) {
+        return bus;
+    }
+    GError* raw = nullptr;
+    service.reset(
+        secret_service_open_sync(serviceType(), nullptr, SECRET_SERVICE_OPEN_SESSION, cancellable, &raw));
+    const Error error(raw);
+    return service ? StoreResult::kDone : failureOf(error);
 }
 
 /// All items of a target, unlocked where the user allowed it.
@@ -156,60 +192,56 @@ bool isAttributeText(std::string_view text) {
     return g_utf8_validate_len(text.data(), text.size(), nullptr) != 0;
 }
 
-StoreResult storeSecret(std::string_view target, std::string_view userName, std::string_view password,
-                        std::string_view note) {
-    const InterruptWatch watch;
-    const Service service = openService(watch.cancellable());
-    if (!service) {
-        return StoreResult::kMissing;
+StoreResult storeSecret(StoreCall& call, std::string_view target, std::string_view userName,
+                        std::string_view password, std::string_view note) {
+    Service service;
+    if (const StoreResult opened = openService(call.cancellable(), service); opened != StoreResult::kDone) {
+        return opened;
     }
     const Attributes attributes = attributesOf(target);
     addAttribute(attributes, "user", userName);
     const SecretText secret(
         secret_value_new(password.data(), static_cast<gssize>(password.size()), "text/plain"));
     GError* raw = nullptr;
-    const bool done = secret_service_store_sync(service.get(), &schema(), attributes.get(),
-                                                SECRET_COLLECTION_DEFAULT, labelOf(target, note).c_str(),
-                                                secret.get(), watch.cancellable(), &raw) != 0;
+    const bool done =
+        secret_service_store_sync(service.get(), &schema(), attributes.get(), SECRET_COLLECTION_DEFAULT,
+                                  labelOf(target, note).c_str(), secret.get(), call.cancellable(), &raw) != 0;
     const Error error(raw);
     return done ? StoreResult::kDone : failureOf(error);
 }
 
-StoreResult findSecret(std::string_view target, FoundSecret& found) {
-    const InterruptWatch watch;
-    const Service service = openService(watch.cancellable());
-    if (!service) {
-        return StoreResult::kMissing;
+StoreResult findSecret(StoreCall& call, std::string_view target, FoundSecret& found) {
+    Service service;
+    if (const StoreResult opened = openService(call.cancellable(), service); opened != StoreResult::kDone) {
+        return opened;
     }
     Items items;
-    if (const StoreResult result = searchItems(service.get(), target, items, watch.cancellable());
+    if (const StoreResult result = searchItems(service.get(), target, items, call.cancellable());
         result != StoreResult::kDone) {
         return result;
     }
     SecretItem* item = lastModified(items);
-    SecretValue* value = secret_item_get_secret(item);
+    const SecretText value(secret_item_get_secret(item));
     if (!value) {
         return StoreResult::kLocked;
     }
     gsize length = 0;
-    const char* password = secret_value_get(value, &length);
+    const char* password = secret_value_get(value.get(), &length);
     found.userName = userNameOf(item);
-    found.password = {password, length};
-    found.keeper = {value, [](const void* kept) { secret_value_unref(const_cast<void*>(kept)); }};
+    found.password.assign(password, length);
     return StoreResult::kDone;
 }
 
-StoreResult removeSecrets(std::string_view target) {
-    const InterruptWatch watch;
-    const Service service = openService(watch.cancellable());
-    if (!service) {
-        return StoreResult::kMissing;
+StoreResult removeSecrets(StoreCall& call, std::string_view target) {
+    Service service;
+    if (const StoreResult opened = openService(call.cancellable(), service); opened != StoreResult::kDone) {
+        return opened;
     }
     Items items;
-    StoreResult result = searchItems(service.get(), target, items, watch.cancellable());
+    StoreResult result = searchItems(service.get(), target, items, call.cancellable());
     for (const GList* node = items.get(); node; node = node->next) {
         GError* raw = nullptr;
-        const bool removed = secret_item_delete_sync(itemOf(node), watch.cancellable(), &raw) != 0;
+        const bool removed = secret_item_delete_sync(itemOf(node), call.cancellable(), &raw) != 0;
         const Error error(raw);
         if (!removed) {
             // The others are removed all the same: fewer secrets left behind.

@@ -5,12 +5,7 @@
 #include "framework/support/objects/text.h"
 #include "host/base/fileurl.h"
 #include "host/base/mainthread.h"
-#include "host/base/weburl.h"
 #include "host/system/signalhandler.h"
-
-#include <QByteArray>
-#include <QProcess>
-#include <QUrl>
 
 #include <algorithm>
 #include <chrono>
@@ -28,28 +23,6 @@ public:
     Result getTemporaryFolder(IString** out) noexcept override;
     void writeDebugWarning(Text message) noexcept override;
 };
-
-class SystemShell final : public Object<ISystemShell> {
-public:
-    Result openUrl(Text url) noexcept override;
-};
-
-BrowserAnnouncer& announcer() {
-    static auto* const announcer = new BrowserAnnouncer;
-    return *announcer;
-}
-
-/// Starts the browser by itself: no shell reads the URL, and nothing that the browser prints reaches the
-/// host's own output.
-bool startBrowser(const QString& url) {
-    QProcess process;
-    process.setProgram(QStringLiteral("xdg-open"));
-    process.setArguments({url});
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    return process.startDetached();
-}
 
 } // namespace
 
@@ -82,28 +55,22 @@ void System::writeDebugWarning(Text message) noexcept {
     [[maybe_unused]] const auto written = std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
-Result SystemShell::openUrl(Text url) noexcept {
-    assertMainThread();
-    const auto bytes = QByteArray::fromRawData(url.data, static_cast<qsizetype>(url.length));
-    const QUrl parsed = QUrl::fromEncoded(bytes, QUrl::StrictMode);
-    if (!isWebAddress(parsed)) {
-        return kInvalidArgument;
-    }
-    const QByteArray encoded = parsed.toEncoded();
-    const auto announce = announcer(); // a copy: it may be replaced while it runs
-    const bool isReachable =
-        announce && announce(std::string_view(encoded.constData(), static_cast<std::size_t>(encoded.size())));
-    const bool isStarted = startBrowser(QString::fromLatin1(encoded));
-    return isStarted || isReachable ? kOk : kUnexpected;
-}
-
 void setBrowserAnnouncer(BrowserAnnouncer announcer) {
     assertMainThread();
-    host::announcer() = std::move(announcer);
+    SystemShell::instance().setAnnouncer(std::move(announcer));
+}
+
+void setBrowserProblemListener(BrowserProblemListener listener) {
+    assertMainThread();
+    SystemShell::instance().setProblemListener(std::move(listener));
 }
 
 void dropPostedMessages() noexcept {
     SignalHandler::instance().dropPosted();
+}
+
+void holdPostedMessages(bool isHeld) {
+    SignalHandler::instance().hold(isHeld);
 }
 
 bool hasPostedMessages() noexcept {
@@ -119,9 +86,4 @@ void setQuietListener(std::function<void()> listener) {
 xbr::ISystem* XBRGetSystem() noexcept {
     static auto* const system = xbr::make<xbr::host::System>().detach();
     return system;
-}
-
-xbr::ISystemShell* XBRGetSystemShell() noexcept {
-    static auto* const shell = xbr::make<xbr::host::SystemShell>().detach();
-    return shell;
 }

@@ -142,6 +142,14 @@ SignalHandler::Serial SignalHandler::add(Queue& queue, Posted posted) {
     return m_lastSerial;
 }
 
+void SignalHandler::hold(bool isHeld) {
+    assertMainThread();
+    m_isHeld = isHeld;
+    if (!isHeld && !m_posted.empty()) {
+        postTurn();
+    }
+}
+
 void SignalHandler::postTurn() {
     // One message with each turn of the loop, so that a long row of them does not hold up what the user does.
     if (!std::exchange(m_hasTurn, true)) {
@@ -152,6 +160,9 @@ void SignalHandler::postTurn() {
 
 void SignalHandler::takeTurn() {
     m_hasTurn = false;
+    if (m_isHeld) {
+        return;
+    }
     if (m_posted.size() > 1) {
         postTurn(); // before the delivery: a handler may run a loop of its own, which delivers the next
     }
@@ -173,9 +184,14 @@ void SignalHandler::startDelay(Serial serial, std::int64_t deadline) {
         std::max(deadline - QDeadlineTimer::current(Qt::PreciseTimer).deadline(), qint64{0});
     QTimer::singleShot(static_cast<int>(remaining), Qt::PreciseTimer, &m_loop, [this, serial] {
         const auto place = m_delayed.find(serial);
-        if (place != m_delayed.end()) {
-            deliver(m_delayed, place);
+        if (place == m_delayed.end()) {
+            return;
         }
+        if (m_isHeld) {
+            m_posted.insert(m_delayed.extract(place));
+            return;
+        }
+        deliver(m_delayed, place);
         tellQuiet();
     });
 }

@@ -28,6 +28,9 @@ public:
 
     void dropPosted() noexcept;
 
+    /// Holds back what is posted, until it is let go again.
+    void hold(bool isHeld);
+
     /// True while a message is posted, or is being delivered. Those that wait for their time do not count.
     bool hasPosted() const noexcept { return !m_posted.empty() || m_delivering > 0; }
 
@@ -68,6 +71,7 @@ private:
     Queue m_delayed;
     std::set<std::pair<const void*, Serial>> m_postedTo; ///< by the addresses of both queues
     Serial m_lastSerial = 0;
+    bool m_isHeld = false;
     bool m_hasTurn = false; ///< the next turn of the event loop is asked for
     int m_delivering = 0;   ///< deliveries on the stack: one may run the event loop
     std::function<void()> m_quietListener;

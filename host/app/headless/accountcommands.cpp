@@ -27,27 +27,33 @@ private:
     std::optional<Verdict> m_verdict;
 };
 
-/// Runs "connect" of the panel until it is over, or the user ends it.
-Verdict connect(ConsoleSession& console, Expired expired) {
+/// Asks something of the panel's account, and waits until it is over, or the user ends it.
+template <class Ask>
+Verdict run(ConsoleSession& console, const Ask& ask) {
     HostSession& session = console.session();
     QEventLoop loop;
     SignInView view(loop);
     Publishing publishing(session.activity(), session.settings(), console.panel(), view);
     const auto interrupted = session.interruption().subscribe([&publishing] { publishing.stop(); });
-    publishing.signIn(expired);
+    ask(publishing);
     if (!view.verdict()) {
         loop.exec();
     }
     return *view.verdict();
 }
 
-/// Connects and tells who is signed in afterwards.
-ExitCode connectAndTell(ConsoleSession& console, Expired expired) {
-    const Verdict verdict = connect(console, expired);
-    const bool isAccountKnown =
-        verdict.isGood() || verdict.cause == Cause::kNotSignedIn || verdict.cause == Cause::kExpired;
-    if (isAccountKnown) {
-        console.output().account(verdict.isGood(), console.panel().text("userName"));
+/// Does something with the account, and tells what came of it and who is signed in afterwards.
+template <class Ask>
+ExitCode runAndTell(const CommandLine& commandLine, Dialogs dialogs, const Ask& ask) {
+    ConsoleSession console(commandLine, dialogs);
+    const ExitCode started = console.start();
+    if (started != ExitCode::kDone) {
+        return started;
+    }
+    const Verdict verdict = run(console, ask);
+    if (verdict.isGood() || verdict.code == ExitCode::kNotSignedIn || verdict.cause == Cause::kExpired) {
+        console.output().account(verdict.isGood() && verdict.cause != Cause::kSignedOut,
+                                 console.panel().text("userName"));
     }
     console.output().finished({verdict, {}, {}, 0, 0});
     return verdict.code;
@@ -56,34 +62,16 @@ ExitCode connectAndTell(ConsoleSession& console, Expired expired) {
 } // namespace
 
 ExitCode runSignIn(const CommandLine& commandLine) {
-    ConsoleSession console(commandLine, Dialogs::kOffered);
-    const ExitCode started = console.start();
-    return started == ExitCode::kDone ? connectAndTell(console, Expired::kRenew) : started;
+    return runAndTell(commandLine, Dialogs::kOffered,
+                      [](Publishing& publishing) { publishing.signIn(Expired::kRenew); });
 }
 
 ExitCode runSignOut(const CommandLine& commandLine) {
-    ConsoleSession console(commandLine, Dialogs::kNone);
-    const ExitCode started = console.start();
-    if (started != ExitCode::kDone) {
-        return started;
-    }
-    const bool isDone = console.panel().set("Client/resetAuthorization", 1);
-    const ExitCode removed = console.hadStoreProblem() ? ExitCode::kNotAllDone : ExitCode::kDone;
-    const ExitCode code = isDone ? removed : ExitCode::kModuleProblem;
-    if (code == ExitCode::kDone) {
-        console.output().account(false, {});
-    }
-    console.output().ended(code, isDone ? std::string()
-                                        : say(QCoreApplication::translate("xbr::host::CommandLine",
-                                                                          "The module cannot sign out.")));
-    return code;
+    return runAndTell(commandLine, Dialogs::kNone, [](Publishing& publishing) { publishing.signOut(); });
 }
 
 ExitCode runStatus(const CommandLine& commandLine) {
-    // Without a dialog "connect" uses a stored sign-in or gives up; no browser is opened.
-    ConsoleSession console(commandLine, Dialogs::kNone);
-    const ExitCode started = console.start();
-    return started == ExitCode::kDone ? connectAndTell(console, Expired::kTell) : started;
+    return runAndTell(commandLine, Dialogs::kNone, [](Publishing& publishing) { publishing.restore(); });
 }
 
 } // namespace xbr::host

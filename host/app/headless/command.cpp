@@ -22,7 +22,7 @@ namespace {
 ExitCode openUrl(const CommandLine& commandLine) {
     ExitCode code = ExitCode::kDone;
     std::string wrong;
-    switch (sendToHosts(commandLine.words.front())) {
+    switch (sendLinkBack(commandLine.words.front())) {
     case Delivery::kTaken:
         break;
     case Delivery::kTooLong:

@@ -111,7 +111,10 @@ void ConsoleProgress::update(double fraction, Text what) noexcept {
 
 bool ConsoleDialog::isHopeless() const {
     const ConfigurationReport& settings = m_session->settings();
-    return Interruption::isInterrupted() || (settings.wasAsked && !settings.isComplete());
+    const StoreResult found = m_session->activity().lastFound();
+    const bool isKept = m_front->dialogs() == Dialogs::kUnlessStored &&
+                        (found == StoreResult::kLocked || found == StoreResult::kSilent);
+    return isKept || Interruption::isInterrupted() || (settings.wasAsked && !settings.isComplete());
 }
 
 void ConsoleDialog::callbackCame() {
@@ -180,9 +183,19 @@ bool ConsoleFront::announceBrowser(std::string_view url) {
     return true;
 }
 
-void ConsoleFront::storeFailed(const Problem& problem) {
-    m_hadStoreProblem = true;
-    m_output->message(problem.words);
+bool ConsoleFront::keyringWaits(bool isForUser) {
+    if (isForUser && !std::exchange(m_isKeyringTold, true)) {
+        m_output->message(
+            say(QCoreApplication::translate("xbr::host::Words", "Waiting for the keyring to be unlocked.")));
+    }
+    QCoreApplication::processEvents(); // signals
+    return true;
+}
+
+void ConsoleFront::browserFailed(const std::string& reason) {
+    m_output->message(
+        say(QCoreApplication::translate("xbr::host::Words", "The web browser could not be started: %1."),
+            reason));
 }
 
 void ConsoleFront::callbackCame() {
@@ -193,7 +206,7 @@ void ConsoleFront::callbackCame() {
 
 ConsoleSession::ConsoleSession(const CommandLine& commandLine, Dialogs dialogs)
     : m_front(makeOutput(commandLine), dialogs),
-      m_session(m_front, {commandLine.module, false, dialogs == Dialogs::kOffered}) {}
+      m_session(m_front, {commandLine.module, false, dialogs != Dialogs::kNone}) {}
 
 /// The first panel that the module offers.
 Outcome<GadgetPanel*> ConsoleSession::openPanel(const std::vector<Problem>& problems) {

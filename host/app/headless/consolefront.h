@@ -10,8 +10,9 @@
 namespace xbr::host {
 
 enum class Dialogs : std::uint8_t {
-    kOffered, ///< the browser may come back
-    kNone,    ///< a module that would ask the user gives up at once
+    kOffered,      ///< the browser may come back
+    kUnlessStored, ///< the same, unless a sign-in may be stored that the keyring keeps to itself
+    kNone,         ///< a module that would ask the user gives up at once
 };
 
 class ConsoleDialog;
@@ -27,14 +28,15 @@ public:
 
     Output& output() { return *m_output; }
 
-    /// True when a sign-in could not be stored or removed.
-    bool hadStoreProblem() const { return m_hadStoreProblem; }
-
     Ref<IObject> makeDialog(HostSession& session) override;
     Ref<IObject> makeProgress(HostSession& session) override;
     bool announceBrowser(std::string_view url) override;
-    void storeFailed(const Problem& problem) override;
+    bool keyringWaits(bool isForUser) override;
+    void keyringAnswered() override { m_isKeyringTold = false; }
+    void browserFailed(const std::string& reason) override;
     void callbackCame() override;
+
+    Dialogs dialogs() const { return m_dialogs; }
 
     /// The dialog that runs; null for none.
     void setDialog(ConsoleDialog* dialog) { m_dialog = dialog; }
@@ -43,7 +45,7 @@ private:
     std::unique_ptr<Output> m_output;
     Dialogs m_dialogs;
     ConsoleDialog* m_dialog = nullptr;
-    bool m_hadStoreProblem = false;
+    bool m_isKeyringTold = false;
 };
 
 /// A session for one command: one module and its panel.
@@ -57,7 +59,6 @@ public:
     HostSession& session() { return m_session; }
     GadgetPanel& panel() { return *m_panel; }
     Output& output() { return m_front.output(); }
-    bool hadStoreProblem() const { return m_front.hadStoreProblem(); }
 
 private:
     Outcome<GadgetPanel*> openPanel(const std::vector<Problem>& problems);

@@ -28,6 +28,10 @@ public:
             m_output->track(track, m_count);
         }
     }
+    void signedIn(const Verdict& verdict, const std::string& account) override {
+        m_output->account(true, account);
+        m_output->message(verdict.sentence);
+    }
     void preparing(const PreparationProgress& progress) override { m_output->preparing(progress); }
     void trackChanged(const TrackReport& track) override {
         if (track.isUploading && !m_sending.isValid()) {
@@ -217,7 +221,7 @@ bool isConversation(const CommandLine& commandLine) {
 } // namespace
 
 ExitCode runPublish(const CommandLine& commandLine) {
-    ConsoleSession console(commandLine, commandLine.isDryRun ? Dialogs::kNone : Dialogs::kOffered);
+    ConsoleSession console(commandLine, commandLine.isDryRun ? Dialogs::kNone : Dialogs::kUnlessStored);
     auto wish = wishOf(commandLine);
     if (!wish) {
         const ExitCode code =

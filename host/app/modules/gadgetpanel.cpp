@@ -104,11 +104,13 @@ Outcome<std::unique_ptr<GadgetPanel>> GadgetPanel::open(const GadgetClass& gadge
         return Problem{Fault::kModule, gadget.name, 0, "cannot make its panel", {}, {}};
     }
     auto panelView = make<View>(gadget.formName, *controller, std::move(show));
-    return std::unique_ptr<GadgetPanel>(new GadgetPanel(std::move(controller), std::move(panelView)));
+    return std::unique_ptr<GadgetPanel>(
+        new GadgetPanel(gadget.name, std::move(controller), std::move(panelView)));
 }
 
-GadgetPanel::GadgetPanel(Ref<IController> controller, Ref<View> view)
-    : m_controller(std::move(controller)),
+GadgetPanel::GadgetPanel(std::string name, Ref<IController> controller, Ref<View> view)
+    : m_name(std::move(name)),
+      m_controller(std::move(controller)),
       m_view(std::move(view)) {
     m_controller->viewAttached(m_view.get());
 }
@@ -122,13 +124,18 @@ Ref<IListViewModel> GadgetPanel::tracks() const {
     return findObject<IListViewModel>(*m_controller, "TrackList/tracks");
 }
 
-bool GadgetPanel::isClient(std::string_view property) const {
+std::int64_t GadgetPanel::numberOfClient(std::string_view property) const {
     const auto client = findObject<IPropertySource>(*m_controller, "Client");
     Value value{};
-    if (!client || client->getProperty(toText(property), &value) != kOk) {
-        return false;
-    }
-    return integerOf(value) != 0;
+    return client && client->getProperty(toText(property), &value) == kOk ? integerOf(value) : 0;
+}
+
+bool GadgetPanel::isClient(std::string_view property) const {
+    return numberOfClient(property) != 0;
+}
+
+ClientState GadgetPanel::clientState() const {
+    return static_cast<ClientState>(numberOfClient("clientState"));
 }
 
 std::string GadgetPanel::text(std::string_view path) const {

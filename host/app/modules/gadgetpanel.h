@@ -30,6 +30,9 @@ struct GadgetClass {
 /// The panels of all modules that are loaded, in the order in which a menu lists them.
 std::vector<GadgetClass> findGadgets();
 
+/// Where a panel's client stands (its property "clientState").
+enum class ClientState : std::uint8_t { kIdle, kAwaitingBrowser, kRequestingToken, kConnected, kFailed };
+
 /// The panel of a module: the controller of its gadget, with the view that stands for it in this host.
 ///
 /// The names below are those that the panel's forms bind to: the child "Client" with its properties, the list
@@ -43,6 +46,7 @@ public:
     GadgetPanel& operator=(const GadgetPanel&) = delete;
     ~GadgetPanel();
 
+    const std::string& name() const { return m_name; }
     IController& controller() const { return *m_controller; }
 
     /// The list of tracks; empty when the panel has none.
@@ -50,6 +54,8 @@ public:
 
     /// A true or false property of the child "Client"; false when it is missing.
     bool isClient(std::string_view property) const;
+
+    ClientState clientState() const;
 
     /// The text of a parameter; empty when it is missing.
     std::string text(std::string_view path) const;
@@ -64,8 +70,10 @@ public:
 
 private:
     class View;
-    GadgetPanel(Ref<IController> controller, Ref<View> view);
+    std::int64_t numberOfClient(std::string_view property) const;
+    GadgetPanel(std::string name, Ref<IController> controller, Ref<View> view);
 
+    std::string m_name; ///< for people
     Ref<IController> m_controller;
     Ref<View> m_view;
 };

@@ -2,13 +2,18 @@
 
 #include "host/app/process/callbackplace.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
 
-#include <chrono>
-#include <cstdint>
+#include <algorithm>
+#include <charconv>
 #include <filesystem>
+#include <future>
+#include <optional>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace xbr::host {
 
@@ -16,66 +21,103 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kConnectLimit = 1000; ///< milliseconds
-constexpr int kAnswerLimit = 3000;  ///< milliseconds
-
-enum class Answer : std::uint8_t { kTaken, kRefused, kNone };
-
-Answer send(const fs::path& path, const std::string& line) {
-    QLocalSocket socket;
-    socket.connectToServer(QFile::decodeName(path.c_str()));
-    if (!socket.waitForConnected(kConnectLimit)) {
-        if (socket.error() == QLocalSocket::ConnectionRefusedError) { // nobody listens any more
-            std::error_code ignored;
-            fs::remove(path, ignored);
+/// The answer of one host to a line; empty when there is none in time. One that is flooded closes connections
+/// without an answer, and is tried again.
+std::string ask(const fs::path& path, const std::string& line) {
+    static constexpr int kLimit = 1000; // milliseconds
+    static constexpr std::chrono::milliseconds kPause{50};
+    const QDeadlineTimer limit(kLimit);
+    const auto left = [&limit] { return static_cast<int>(limit.remainingTime()); };
+    while (!limit.hasExpired()) {
+        QLocalSocket socket;
+        socket.connectToServer(QFile::decodeName(path.c_str()));
+        if (!socket.waitForConnected(left())) {
+            if (socket.error() == QLocalSocket::ConnectionRefusedError) { // nobody listens any more
+                std::error_code ignored;
+                fs::remove(path, ignored);
+            }
+            return {};
         }
-        return Answer::kRefused;
-    }
-    socket.write(line.data(), static_cast<qint64>(line.size()));
-    while (!socket.canReadLine() && socket.waitForReadyRead(kAnswerLimit)) {
-    }
-    const QByteArray answer = socket.readLine();
-    if (answer.isEmpty()) {
-        return Answer::kNone;
-    }
-    return answer == "ok\n" ? Answer::kTaken : Answer::kRefused;
-}
-
-/// A host that is flooded closes connections without an answer: it gets another try, and another.
-bool sendPatiently(const fs::path& path, const std::string& line) {
-    static constexpr int kTries = 8;
-    static constexpr std::chrono::milliseconds kPause{400};
-    for (int i = 0; i < kTries; ++i) {
-        const Answer answer = send(path, line);
-        if (answer != Answer::kNone) {
-            return answer == Answer::kTaken;
+        socket.write((line + '\n').c_str());
+        while (!socket.canReadLine() && socket.waitForReadyRead(left())) {
+        }
+        const QByteArray answer = socket.readLine();
+        if (answer.endsWith('\n')) {
+            return answer.chopped(1).toStdString();
         }
         std::this_thread::sleep_for(kPause);
     }
-    return false;
+    return {};
 }
 
-} // namespace
+struct Host {
+    fs::path path;
+    std::string answer;
+};
 
-Delivery sendToHosts(const std::string& url) {
-    if (url.size() > kMaximumUrlSize || url.find('\n') != std::string::npos) {
-        return Delivery::kTooLong;
-    }
+/// Asks all of them at once.
+std::vector<Host> askHosts(const std::string& line) {
     const std::string folder = callbackFolder();
     std::error_code ignored;
     if (!fs::exists(folder, ignored) || !makePrivateFolder(folder)) {
-        return Delivery::kNoHost;
+        return {};
     }
-    bool isTaken = false;
+    std::vector<std::pair<fs::path, std::future<std::string>>> asked;
     // Hosts come and go meanwhile: a step that fails ends the walk.
     for (fs::directory_iterator entry(folder, ignored), end; !ignored && entry != end;
          entry.increment(ignored)) {
         std::error_code vanished;
         if (entry->is_socket(vanished) && entry->path().extension() == ".sock") {
-            isTaken = sendPatiently(entry->path(), url + "\n") || isTaken;
+            asked.emplace_back(entry->path(), std::async(std::launch::async, ask, entry->path(), line));
         }
     }
-    return isTaken ? Delivery::kTaken : Delivery::kNoHost;
+    std::vector<Host> hosts;
+    for (auto& [path, answer] : asked) {
+        hosts.push_back({path, answer.get()});
+    }
+    return hosts;
+}
+
+/// When a host that waits opened a browser; none: it does not wait.
+std::optional<std::int64_t> waitsSince(const std::string& answer) {
+    if (!answer.starts_with(kWaits)) {
+        return std::nullopt;
+    }
+    std::int64_t time = 0;
+    std::from_chars(answer.data() + kWaits.size(), answer.data() + answer.size(), time);
+    return time;
+}
+
+bool isLine(const std::string& url) {
+    return url.size() <= kMaximumUrlSize && url.find('\n') == std::string::npos &&
+           url.find('\0') == std::string::npos;
+}
+
+} // namespace
+
+Delivery sendToHosts(const std::string& url) {
+    if (!isLine(url)) {
+        return Delivery::kTooLong;
+    }
+    const auto hosts = askHosts(url);
+    return std::any_of(hosts.begin(), hosts.end(), [](const Host& host) { return host.answer == kTaken; })
+               ? Delivery::kTaken
+               : Delivery::kNoHost;
+}
+
+Delivery sendLinkBack(const std::string& url) {
+    if (!isLine(url)) {
+        return Delivery::kTooLong;
+    }
+    auto hosts = askHosts(std::string(kWhoWaits));
+    std::erase_if(hosts, [](const Host& host) { return !waitsSince(host.answer); });
+    std::sort(hosts.begin(), hosts.end(), [](const Host& left, const Host& right) {
+        return waitsSince(left.answer) > waitsSince(right.answer);
+    });
+    return std::any_of(hosts.begin(), hosts.end(),
+                       [&url](const Host& host) { return ask(host.path, url) == kTaken; })
+               ? Delivery::kTaken
+               : Delivery::kNoHost;
 }
 
 } // namespace xbr::host

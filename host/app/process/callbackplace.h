@@ -4,11 +4,19 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace xbr::host {
 
 /// How long a URL may be, in bytes without the end of the line.
 constexpr std::size_t kMaximumUrlSize = 8192;
+
+// What is said on a connection: one line with a URL is answered by one with `kTaken` or `kNotTaken`, and the
+// question `kWhoWaits` by `kWaits` and a time, or by `kNotTaken`.
+constexpr std::string_view kWhoWaits = "?";
+constexpr std::string_view kWaits = "waits ";
+constexpr std::string_view kTaken = "ok";
+constexpr std::string_view kNotTaken = "no";
 
 /// The folder in which running hosts listen: "xbrhost" in $XDG_RUNTIME_DIR, or "xbrhost-<user id>" in the
 /// temporary folder.

@@ -26,27 +26,34 @@ bool isPrintable(const std::string& url) {
 /// One connection: reads a line, answers it, and is gone. Deletes itself.
 class Connection final : public QObject {
 public:
-    using Open = std::function<bool(const std::string& url)>;
-
-    /// Takes `socket` over.
-    Connection(QLocalSocket& socket, QObject& parent, Open open);
+    /// Takes `socket` over. `server` and `host` outlive it.
+    Connection(QLocalSocket& socket, QObject& parent, CallbackServer& server, CallbackServer::Host& host);
 
 private:
     void read();
     void answer(const QByteArray& line);
+    std::string answerTo(const std::string& line);
     void drop();
 
     QLocalSocket* m_socket;
     QTimer m_limit;
+    QTimer m_later; ///< looks again when the program could not be asked
     QByteArray m_received;
-    Open m_open;
+    CallbackServer* m_server;
+    CallbackServer::Host* m_host;
     bool m_isAnswered = false;
 };
 
-Connection::Connection(QLocalSocket& socket, QObject& parent, Open open)
+Connection::Connection(QLocalSocket& socket, QObject& parent, CallbackServer& server,
+                       CallbackServer::Host& host)
     : QObject(&parent),
       m_socket(&socket),
-      m_open(std::move(open)) {
+      m_server(&server),
+      m_host(&host) {
+    static constexpr int kLookAgain = 20; // milliseconds
+    m_later.setSingleShot(true);
+    m_later.setInterval(kLookAgain);
+    m_later.callOnTimeout([this] { read(); });
     m_socket->setParent(this);
     m_socket->setReadBufferSize(kMaximumUrlSize + 2);
     connect(m_socket, &QLocalSocket::readyRead, this, [this] { read(); });
@@ -64,20 +71,29 @@ void Connection::read() {
     }
     m_received += m_socket->read(static_cast<qint64>(kMaximumUrlSize) + 1 - m_received.size());
     const auto end = m_received.indexOf('\n');
-    if (end >= 0) {
+    if (end >= 0 && m_host->isHeld()) {
+        m_later.start();
+    } else if (end >= 0) {
         answer(m_received.left(end));
     } else if (m_received.size() > static_cast<qsizetype>(kMaximumUrlSize)) {
         drop();
     }
 }
 
+std::string Connection::answerTo(const std::string& line) {
+    if (line != kWhoWaits) {
+        return std::string(m_server->openUrl(line) ? kTaken : kNotTaken);
+    }
+    const auto since = m_host->waitsForBrowserSince();
+    return since ? std::string(kWaits) + std::to_string(*since) : std::string(kNotTaken);
+}
+
 void Connection::answer(const QByteArray& line) {
     m_isAnswered = true;
     const QPointer<Connection> self(this); // opening may end the program's server, and us with it
-    const Open open = m_open;              // that may take the function away, too
-    const bool isTaken = open(line.toStdString());
+    const std::string answer = answerTo(line.toStdString());
     if (self) {
-        m_socket->write(isTaken ? "ok\n" : "no\n");
+        m_socket->write((answer + '\n').c_str());
         m_socket->disconnectFromServer();
     }
 }
@@ -91,7 +107,7 @@ void Connection::drop() {
 
 } // namespace
 
-CallbackServer::CallbackServer() {
+CallbackServer::CallbackServer(Host& host) : m_host(&host) {
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(&m_server, &QLocalServer::newConnection, &m_connections, [this] { accept(); });
 }
@@ -136,7 +152,7 @@ void CallbackServer::accept() {
             socket->deleteLater();
             continue;
         }
-        new Connection(*socket, m_connections, [this](const std::string& url) { return openUrl(url); });
+        new Connection(*socket, m_connections, *this, *m_host);
     }
 }
 
@@ -145,10 +161,7 @@ bool CallbackServer::openUrl(const std::string& url) {
         return false;
     }
     const bool isTaken = XBRGetFileTypeRegistry()->openUrl(toText(url));
-    const auto listener = m_listener; // a copy: it may be replaced while it runs
-    if (listener) {
-        listener();
-    }
+    m_host->urlCame();
     return isTaken;
 }
 

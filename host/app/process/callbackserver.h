@@ -5,7 +5,8 @@
 #include <QLocalServer>
 #include <QObject>
 
-#include <functional>
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace xbr::host {
@@ -14,23 +15,35 @@ namespace xbr::host {
 /// them to the file-type registry. Every running host listens on a socket of its own in the callback folder;
 /// only the same user reaches it.
 ///
-/// One connection carries one line with the URL, and is answered "ok" when a module took it, otherwise "no".
 /// Main thread.
 class CallbackServer {
 public:
+    /// What the server asks of the rest of the program.
+    struct Host {
+        /// When a browser was opened whose answer is waited for, on the clock that all processes share; none:
+        /// nobody waits for one.
+        virtual std::optional<std::int64_t> waitsForBrowserSince() = 0;
+
+        /// True while modules may not be called: what comes has to wait.
+        virtual bool isHeld() = 0;
+
+        /// A URL was offered to the modules, whatever they did with it.
+        virtual void urlCame() = 0;
+
+    protected:
+        ~Host() = default;
+    };
+
     static constexpr int kMaximumConnections = 16; ///< further ones are closed at once
     static constexpr int kTimeLimit = 2000;        ///< milliseconds for a whole connection
 
-    CallbackServer();
+    explicit CallbackServer(Host& host);
     CallbackServer(const CallbackServer&) = delete;
     CallbackServer& operator=(const CallbackServer&) = delete;
     ~CallbackServer();
 
     /// Begins to listen. The words of a problem are a whole line.
     Outcome<void> start();
-
-    /// Is told after a URL was offered to the modules, whatever they did with it. An empty function ends it.
-    void setUrlListener(std::function<void()> listener) { m_listener = std::move(listener); }
 
     /// Offers a URL to the modules; true when one took it.
     bool openUrl(const std::string& url);
@@ -39,10 +52,10 @@ private:
     Outcome<void> listen();
     void accept();
 
+    Host* m_host;
     QLocalServer m_server;
     QObject m_connections; ///< parent of the connections
     std::string m_folder;
-    std::function<void()> m_listener;
 };
 
 } // namespace xbr::host

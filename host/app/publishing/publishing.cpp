@@ -104,6 +104,29 @@ void Publishing::signIn(Expired expired) {
     });
 }
 
+void Publishing::restore() {
+    m_activity->allowDialogs(false);
+    signIn(Expired::kTell);
+    m_activity->allowDialogs(true);
+}
+
+void Publishing::signOut() {
+    const auto removed = m_signIn.forget();
+    m_listener->ended(
+        removed ? judgeSignOut(*removed, m_signIn.mayBeKept())
+                : judgeModule({Fault::kModule,
+                               m_panel->name(),
+                               0,
+                               say(QCoreApplication::translate("xbr::host::Words", "cannot sign out")),
+                               {},
+                               {}}));
+}
+
+void Publishing::signOutBegan() {
+    m_signIn.followRemoval(
+        [this](StoreResult removed) { m_listener->ended(judgeSignOut(removed, m_signIn.mayBeKept())); });
+}
+
 /// Does something that may run the event loop. False when it all came to its end in there.
 template <class Call>
 bool Publishing::doInPanel(const Call& call) {
@@ -130,10 +153,19 @@ void Publishing::begin() {
         m_signIn.start([this](SignInFacts facts) {
             nameServer(facts.problem);
             facts.isForUpload = true;
+            facts.wantedAccount = m_wantedAccount;
             const Verdict verdict = judge(facts);
-            if (!m_isEnded) {
-                verdict.isGood() ? upload() : end(verdict);
+            if (m_isEnded) {
+                return;
             }
+            if (!verdict.isGood()) {
+                end(verdict);
+                return;
+            }
+            if (facts.kept) {
+                m_listener->signedIn(verdict, facts.account);
+            }
+            upload();
         });
     });
 }

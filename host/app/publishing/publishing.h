@@ -25,6 +25,9 @@ public:
     /// Songs are copied and packed; more than once.
     virtual void preparing(const PreparationProgress& /*progress*/) {}
 
+    /// The user has just signed in, and songs are about to go to that account.
+    virtual void signedIn(const Verdict& /*verdict*/, const std::string& /*account*/) {}
+
     /// Bytes are on their way; four times a second.
     virtual void sending(const UploadProgress& /*progress*/) {}
 
@@ -59,6 +62,18 @@ public:
 
     /// Signs in, and tells what came of it.
     void signIn(Expired expired);
+
+    /// Signs in with what is stored, and asks nobody: at the start of a window, or to know.
+    void restore();
+
+    /// Songs go to this account only; empty for any.
+    void setAccount(std::string name) { m_wantedAccount = std::move(name); }
+
+    /// Signs out, and tells what came of it. Such a verdict says no more than was done.
+    void signOut();
+
+    /// The user signs out through the panel, which is about to do it.
+    void signOutBegan();
 
     /// The user signs in through the panel: what comes of it is told.
     void signInBegan();
@@ -108,6 +123,7 @@ private:
     PublishEntry m_entry;
     Plan m_plan;
     bool m_isStopped = false;
+    std::string m_wantedAccount;
     bool m_isEnded = true; ///< of what `publish` or `signIn` began
     int m_calls = 0;       ///< calls into the module that may run the event loop
     Follow m_follow;

@@ -32,18 +32,49 @@ void SignIn::follow(Done done) {
     if (m_phase == Phase::kIdle) {
         m_done = std::move(done);
         m_expired = Expired::kTell;
-        m_problem = {};
+        m_facts = {};
+        m_facts.wasUserAsked = true;
         setPhase(Phase::kConnecting);
         lookLater();
     }
 }
 
 void SignIn::connect() {
-    m_problem = {};
+    m_facts = {};
     setPhase(Phase::kConnecting);
     m_panel->set("connect", 1);
     // After the sign-in the panel asks for the account; an upload that starts before would find it busy.
     lookLater();
+}
+
+std::optional<StoreResult> SignIn::forget() {
+    std::optional<StoreResult> result;
+    followRemoval([&result](StoreResult removed) { result = removed; });
+    m_panel->set("Client/resetAuthorization", 1);
+    m_removed = {};
+    return result;
+}
+
+void SignIn::began(Activity::Kind kind) {
+    m_facts.wasUserAsked = m_facts.wasUserAsked || kind == Activity::Kind::kDialog;
+}
+
+void SignIn::storeAnswered(StoreOperation operation, StoreResult result) {
+    switch (operation) {
+    case StoreOperation::kFind:
+        m_facts.found = result;
+        m_mayBeKept = true;
+        break;
+    case StoreOperation::kAdd:
+        m_facts.kept = result;
+        m_mayBeKept = result != StoreResult::kNoStore;
+        break;
+    case StoreOperation::kRemove:
+        if (const auto removed = std::exchange(m_removed, {})) {
+            removed(result);
+        }
+        break;
+    }
 }
 
 void SignIn::ended(Activity::Kind, bool) {
@@ -55,7 +86,8 @@ void SignIn::exchangeEnded(const Exchange& exchange) {
     const bool isSignIn = exchange.hadCredentials || exchange.hadBody;
     const bool isGivenUp = exchange.problem.fault == Fault::kCancelled;
     if (!isGivenUp && (exchange.status == 0 || isSignIn)) {
-        m_problem = exchange.problem;
+        m_facts.problem = exchange.problem;
+        m_facts.isAnswerUnusable = !exchange.hadCredentials && !exchange.problem;
     }
     lookLater();
 }
@@ -67,13 +99,13 @@ void SignIn::lookLater() {
 }
 
 bool SignIn::isAtRest() const {
-    return !m_activity->isOpen(Activity::Kind::kDialog) && !hasPostedMessages() &&
-           !m_panel->isClient("isBusy");
+    return !m_activity->isOpen(Activity::Kind::kDialog) && !m_activity->isOpen(Activity::Kind::kKeyring) &&
+           !hasPostedMessages() && !m_panel->isClient("isBusy");
 }
 
 /// The panel asked for the account with the tokens that it has, and was refused.
 bool SignIn::isExpired() const {
-    return m_panel->isClient("isAuthorized") && m_problem.fault == Fault::kSignInRefused;
+    return m_panel->isClient("isAuthorized") && m_facts.problem.fault == Fault::kSignInRefused;
 }
 
 void SignIn::look() {
@@ -95,11 +127,10 @@ void SignIn::look() {
 
 void SignIn::finish() {
     setPhase(Phase::kIdle);
-    SignInFacts facts;
+    SignInFacts facts = std::exchange(m_facts, {});
     facts.isAuthorized = m_panel->isClient("isAuthorized");
     facts.account = m_panel->text("userName");
     facts.settings = *m_report;
-    facts.problem = m_problem;
     const Done done = std::exchange(m_done, {});
     done(facts);
 }

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "host/app/modules/gadgetpanel.h"
-#include "host/app/publishing/verdict.h"
+#include "host/app/publishing/account.h"
 #include "host/app/session/activity.h"
 
 #include <QTimer>
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace xbr::host {
 
@@ -38,10 +39,21 @@ public:
 
     bool isBusy() const { return m_phase != Phase::kIdle; }
 
+    /// Signs out; how the keyring answered. None: the panel cannot.
+    std::optional<StoreResult> forget();
+
+    /// Is told once how the keyring answers to a sign-out that somebody else begins.
+    void followRemoval(std::function<void(StoreResult)> removed) { m_removed = std::move(removed); }
+
+    /// False when what is in force was certainly not stored.
+    bool mayBeKept() const { return m_mayBeKept; }
+
 private:
     enum class Phase : std::uint8_t { kIdle, kConnecting, kForgetting };
 
+    void began(Activity::Kind kind) override;
     void ended(Activity::Kind kind, bool isCancelled) override;
+    void storeAnswered(StoreOperation operation, StoreResult result) override;
     void exchangeEnded(const Exchange& exchange) override;
     void becameQuiet() override { lookLater(); }
 
@@ -59,7 +71,9 @@ private:
     Done m_done;
     Expired m_expired = Expired::kTell;
     Phase m_phase = Phase::kIdle;
-    Problem m_problem; ///< of the last request that went wrong
+    SignInFacts m_facts; ///< as far as they are known
+    std::function<void(StoreResult)> m_removed;
+    bool m_mayBeKept = true;
     QTimer m_later;
     Activity::Handle m_watching;
 };

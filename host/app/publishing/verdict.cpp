@@ -19,6 +19,8 @@ struct CauseRow {
 constexpr const char* kSameAgain = QT_TRANSLATE_NOOP("xbr::host::Words", "Run the same command again.");
 constexpr const char* kTheRest = QT_TRANSLATE_NOOP(
     "xbr::host::Words", "Run the same command with the songs that are not published to send the rest.");
+constexpr const char* kUnlock =
+    QT_TRANSLATE_NOOP("xbr::host::Words", "Unlock it, then run the same command again.");
 constexpr const char* kLater = QT_TRANSLATE_NOOP("xbr::host::Words", "Try again later.");
 
 /// In the order of the causes.
@@ -65,6 +67,12 @@ constexpr CauseRow kCauses[] = {
      QT_TRANSLATE_NOOP("xbr::host::Words", "xbrhost sign-in renews it.")},
     {"not-signed-in", ExitCode::kNotSignedIn, NoticeKind::kError,
      QT_TRANSLATE_NOOP("xbr::host::Words", "xbrhost sign-in signs in.")},
+    {"other-account", ExitCode::kNotSignedIn, NoticeKind::kError,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "xbrhost sign-out signs out.")},
+    {"signed-out", ExitCode::kDone, NoticeKind::kInfo, nullptr},
+    {"keyring-none", ExitCode::kKeyring, NoticeKind::kWarning, nullptr},
+    {"keyring-locked", ExitCode::kKeyring, NoticeKind::kWarning, kUnlock},
+    {"keyring-silent", ExitCode::kKeyring, NoticeKind::kWarning, kUnlock},
     {"not-set-up", ExitCode::kNotConfigured, NoticeKind::kError, nullptr},
     {"no-module", ExitCode::kModuleProblem, NoticeKind::kError,
      QT_TRANSLATE_NOOP("xbr::host::Words", "--module names one.")},
@@ -72,17 +80,6 @@ constexpr CauseRow kCauses[] = {
 
 const CauseRow& rowOf(Cause cause) {
     return kCauses[static_cast<std::size_t>(cause)];
-}
-
-Verdict verdictOf(Cause cause, std::string sentence) {
-    const CauseRow& row = rowOf(cause);
-    Verdict verdict;
-    verdict.cause = cause;
-    verdict.code = row.code;
-    verdict.kind = row.kind;
-    verdict.sentence = std::move(sentence);
-    verdict.next = row.next ? say(QCoreApplication::translate("xbr::host::Words", row.next)) : std::string();
-    return verdict;
 }
 
 /// "Add them with --title, --genre."
@@ -99,10 +96,6 @@ std::string wordsOfOptions(const std::vector<Detail>& missing) {
                    : say(QCoreApplication::translate("xbr::host::Words", "Add it with %1."), options);
     }
     return say(QCoreApplication::translate("xbr::host::Words", "Add them with %1."), options);
-}
-
-std::string nothingSent(const std::string& sentence) {
-    return sentence + " " + say(QCoreApplication::translate("xbr::host::Words", "Nothing was sent."));
 }
 
 // What became of one track.
@@ -237,25 +230,6 @@ SongVerdict judgeAnswer(const Sent& sent) {
                      status));
     }
     return songVerdict(track, Cause::kRefused, wordsOfRefusal(sent));
-}
-
-std::string wordsOfServer(const Problem& problem) {
-    const bool hasStop = problem.words.ends_with('.');
-    const std::string reason = problem.words.substr(0, problem.words.size() - (hasStop ? 1 : 0));
-    return problem.fault == Fault::kUntrusted
-               ? say(QCoreApplication::translate("xbr::host::Words", "%1 could not prove its identity: %2."),
-                     problem.subject, reason)
-               : say(QCoreApplication::translate("xbr::host::Words",
-                                                 "The service at %1 cannot be reached: %2."),
-                     problem.subject, reason);
-}
-
-bool isAboutServer(const Problem& problem) {
-    return problem.fault == Fault::kNoServer || problem.fault == Fault::kUntrusted;
-}
-
-Cause causeOfServer(const Problem& problem) {
-    return problem.fault == Fault::kUntrusted ? Cause::kUntrusted : Cause::kUnreachable;
 }
 
 /// All of it left, and nobody answered.
@@ -464,45 +438,48 @@ Verdict judgeFailure(std::vector<SongVerdict> songs) {
     return verdict;
 }
 
-Verdict judgeSignIn(const SignInFacts& facts) {
-    if (facts.isCancelled) {
-        return verdictOf(Cause::kStoppedBefore,
-                         nothingSent(say(QCoreApplication::translate("xbr::host::Words", "Stopped."))));
-    }
-    if (facts.isAuthorized && facts.problem.fault == Fault::kSignInRefused) {
-        return verdictOf(Cause::kExpired, say(QCoreApplication::translate(
-                                              "xbr::host::Words",
-                                              "The service does not accept the stored sign-in any more.")));
-    }
-    if (facts.settings.wasAsked && !facts.settings.isComplete()) {
-        return verdictOf(Cause::kNotSetUp, wordsOf(facts.settings));
-    }
-    if (facts.isAuthorized) {
-        return verdictOf(
-            Cause::kSignedIn,
-            facts.account.empty()
-                ? say(QCoreApplication::translate("xbr::host::Words", "Signed in."))
-                : say(QCoreApplication::translate("xbr::host::Words", "Signed in as %1."), facts.account));
-    }
-    if (isAboutServer(facts.problem)) {
-        return verdictOf(causeOfServer(facts.problem), wordsOfServer(facts.problem));
-    }
-    if (!facts.problem) {
-        return verdictOf(
-            Cause::kNotSignedIn,
-            say(QCoreApplication::translate("xbr::host::Words", "Not signed in: the sign-in was given up.")));
-    }
-    const std::string words = quoted(facts.problem.words);
-    return verdictOf(Cause::kNotSignedIn,
-                     words.empty()
-                         ? say(QCoreApplication::translate("xbr::host::Words",
-                                                           "Not signed in: the service did not accept it."))
-                         : say(QCoreApplication::translate("xbr::host::Words",
-                                                           "Not signed in: the service refused it: %1."),
-                               words));
+} // namespace
+
+Verdict verdictOf(Cause cause, std::string sentence) {
+    const CauseRow& row = rowOf(cause);
+    Verdict verdict;
+    verdict.cause = cause;
+    verdict.code = row.code;
+    verdict.kind = row.kind;
+    verdict.sentence = std::move(sentence);
+    verdict.next = row.next ? say(QCoreApplication::translate("xbr::host::Words", row.next)) : std::string();
+    return verdict;
 }
 
-} // namespace
+std::string nothingSent(const std::string& sentence) {
+    return sentence + " " + say(QCoreApplication::translate("xbr::host::Words", "Nothing was sent."));
+}
+
+std::string reasonOf(const Problem& problem) {
+    const std::string words = problem.code == 0
+                                  ? problem.words
+                                  : say(QCoreApplication::translate("xbr::host::Words", "it answered %1"),
+                                        std::to_string(problem.code));
+    return words.substr(0, words.size() - (words.ends_with('.') ? 1 : 0));
+}
+
+std::string wordsOfServer(const Problem& problem) {
+    const std::string reason = reasonOf(problem);
+    return problem.fault == Fault::kUntrusted
+               ? say(QCoreApplication::translate("xbr::host::Words", "%1 could not prove its identity: %2."),
+                     problem.subject, reason)
+               : say(QCoreApplication::translate("xbr::host::Words",
+                                                 "The service at %1 cannot be reached: %2."),
+                     problem.subject, reason);
+}
+
+bool isAboutServer(const Problem& problem) {
+    return problem.fault == Fault::kNoServer || problem.fault == Fault::kUntrusted;
+}
+
+Cause causeOfServer(const Problem& problem) {
+    return problem.fault == Fault::kUntrusted ? Cause::kUntrusted : Cause::kUnreachable;
+}
 
 const char* nameOf(Cause cause) {
     return rowOf(cause).name;
@@ -580,14 +557,6 @@ Verdict judge(const UploadFacts& facts) {
         Cause::kPartly, say(QCoreApplication::translate("xbr::host::Words", "Published %1 of %2 songs. %3"),
                             std::to_string(done), std::to_string(songs.size()), first.sentence));
     verdict.songs = std::move(songs);
-    return verdict;
-}
-
-Verdict judge(const SignInFacts& facts) {
-    Verdict verdict = judgeSignIn(facts);
-    if (facts.isForUpload && !verdict.isGood() && !facts.isCancelled && verdict.cause != Cause::kNotSetUp) {
-        verdict.sentence = nothingSent(verdict.sentence);
-    }
     return verdict;
 }
 

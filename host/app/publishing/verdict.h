@@ -3,7 +3,6 @@
 #include "host/app/process/exitcodes.h"
 #include "host/app/publishing/notice.h"
 #include "host/app/publishing/plan.h"
-#include "host/app/settings/configurationstore.h"
 
 #include <cstdint>
 #include <string>
@@ -42,6 +41,11 @@ enum class Cause : std::uint8_t {
     kUnreachable,
     kExpired,
     kNotSignedIn,
+    kOtherAccount,
+    kSignedOut,
+    kKeyringNone,
+    kKeyringLocked,
+    kKeyringSilent,
     kNotSetUp,
     kNoModule,
 };
@@ -81,15 +85,6 @@ struct UploadFacts {
     bool isCancelled = false;
 };
 
-struct SignInFacts {
-    bool isAuthorized = false;
-    std::string account; ///< may be empty
-    ConfigurationReport settings;
-    Problem problem; ///< what went wrong with a request meanwhile
-    bool isCancelled = false;
-    bool isForUpload = false; ///< songs wait for it
-};
-
 /// What came of one song.
 struct SongVerdict {
     Cause cause = Cause::kPublished;
@@ -117,9 +112,23 @@ struct Verdict {
 Verdict judge(const Plan& plan);
 
 Verdict judge(const UploadFacts& facts);
-Verdict judge(const SignInFacts& facts);
 
 /// Of a module that cannot be used.
 Verdict judgeModule(const Problem& problem);
+
+// What verdicts are made of
+
+Verdict verdictOf(Cause cause, std::string sentence);
+
+/// The sentence, and that nothing was sent.
+std::string nothingSent(const std::string& sentence);
+
+/// Whether the service could not be reached at all.
+bool isAboutServer(const Problem& problem);
+Cause causeOfServer(const Problem& problem);
+std::string wordsOfServer(const Problem& problem);
+
+/// Its own words, or the status of the answer; without a full stop.
+std::string reasonOf(const Problem& problem);
 
 } // namespace xbr::host

@@ -1,5 +1,6 @@
 #include "host/app/publishing/words.h"
 
+#include "host/app/publishing/reachability.h"
 #include "host/base/textscan.h"
 
 #include <QLocale>
@@ -165,6 +166,12 @@ std::string wordsOf(const ConfigurationReport& report) {
         return say(
             QCoreApplication::translate("xbr::host::Words", "The settings of %1 cannot be read from “%2”."),
             report.title, report.path);
+    }
+    if (report.isUnencrypted) {
+        return say(QCoreApplication::translate(
+                       "xbr::host::Words", "%1 is not set up: %2 is not encrypted, and only this computer "
+                                           "may be reached that way."),
+                   report.title, serverOf(report.serverUrl));
     }
     return report.missingKeys.empty()
                ? say(QCoreApplication::translate("xbr::host::Words",

@@ -36,9 +36,11 @@ Activity::Activity() {
         tell([&problem](Watcher& watcher) { watcher.fileFailed(problem); });
     });
     setQuietListener([this] { look(); });
+    setStoreListener(this);
 }
 
 Activity::~Activity() {
+    setStoreListener(nullptr);
     setQuietListener({});
     setFileProblemListener({});
     setExchangeListener(nullptr);
@@ -80,6 +82,31 @@ void Activity::ended(const Exchange& exchange) {
     m_exchanges = std::max(m_exchanges - 1, 0); // one that is older than this object was not counted
     tell([&exchange](Watcher& watcher) { watcher.exchangeEnded(exchange); });
     askForQuiet();
+}
+
+bool Activity::storeWaits(bool isForUser) {
+    if (!m_keyring) {
+        holdPostedMessages(true);
+        holdRequests(true);
+        m_isKeyringGivenUp = m_isEnding;
+        m_keyring.emplace(*this, Kind::kKeyring, [this] { m_isKeyringGivenUp = true; });
+    }
+    return (!m_waiter || m_waiter->keyringWaits(isForUser)) && !m_isKeyringGivenUp;
+}
+
+void Activity::storeAnswered(StoreOperation operation, StoreResult result) {
+    if (m_keyring) {
+        if (m_waiter) {
+            m_waiter->keyringAnswered();
+        }
+        m_keyring.reset();
+        holdRequests(false);
+        holdPostedMessages(false);
+    }
+    if (operation == StoreOperation::kFind) {
+        m_lastFound = result;
+    }
+    tell([&](Watcher& watcher) { watcher.storeAnswered(operation, result); });
 }
 
 void Activity::askForQuiet() {

@@ -2,6 +2,7 @@
 
 #include "framework/abi/progress.h"
 #include "host/net/hostnet.h"
+#include "host/security/hostsecurity.h"
 
 #include <QObject>
 
@@ -16,14 +17,15 @@
 namespace xbr::host {
 
 /// What runs at the moment, and who is told when it ends: dialogs and indicators that run the event loop
-/// inside a call of a module, and requests. While there is any of the former, code of the module is on the
-/// stack: it may not be unloaded. One object per process. Main thread.
-class Activity final : private ExchangeListener {
+/// inside a call of a module, requests, and questions to the keyring. While there is any of the former, code
+/// of the module is on the stack: it may not be unloaded. One object per process. Main thread.
+class Activity final : private ExchangeListener, private StoreListener {
 public:
     enum class Kind : std::uint8_t {
         kDialog,
         kPreparing, ///< a progress indicator
         kRendering, ///< work of the host's own; an indicator that is shown meanwhile belongs to it
+        kKeyring,   ///< the keyring is asked, and keeps us waiting
     };
 
     /// One run of a dialog, an indicator or a piece of work; it is over when this object dies.
@@ -59,6 +61,7 @@ public:
         virtual void exchangeProgressed(const Exchange&) {}
         virtual void exchangeEnded(const Exchange&) {}
         virtual void fileFailed(const Problem&) {}
+        virtual void storeAnswered(StoreOperation, StoreResult) {}
 
         /// From the event loop: nothing runs any more, and all that was posted is delivered.
         virtual void becameQuiet() {}
@@ -90,6 +93,25 @@ public:
     /// Has `becameQuiet` told in a later turn of the event loop, or when it comes to that.
     void askForQuiet();
 
+    /// Names who keeps the event loop going while a module waits for the keyring: called again and again, for
+    /// a moment each. Nothing of a module is called in there: messages, requests and callback URLs wait.
+    struct KeyringWaiter {
+        /// `isForUser`: the desktop asks for the password. False gives it up.
+        virtual bool keyringWaits(bool isForUser) = 0;
+        virtual void keyringAnswered() = 0;
+
+    protected:
+        ~KeyringWaiter() = default;
+    };
+    void setKeyringWaiter(KeyringWaiter* waiter) { m_waiter = waiter; }
+
+    /// How the keyring answered the last question for something stored.
+    StoreResult lastFound() const { return m_lastFound; }
+
+    /// Whether modules get dialogs; without, one that would ask the user gives up at once.
+    void allowDialogs(bool areAllowed) { m_areDialogsAllowed = areAllowed; }
+    bool areDialogsAllowed() const { return m_areDialogsAllowed; }
+
     /// Asks the runs of a kind, or of all, to end, the newest first.
     void end(std::optional<Kind> kind);
 
@@ -103,13 +125,20 @@ private:
     void began(const Exchange& exchange) override;
     void progressed(const Exchange& exchange) override;
     void ended(const Exchange& exchange) override;
+    bool storeWaits(bool isForUser) override;
+    void storeAnswered(StoreOperation operation, StoreResult result) override;
     void look();
     template <class Tell>
     void tell(const Tell& tellOne);
 
     std::list<std::pair<Kind, std::function<void()>>> m_runs;
     std::vector<Watcher*> m_watchers;
-    int m_exchanges = 0; ///< on their way
+    int m_exchanges = 0;          ///< on their way
+    std::optional<Run> m_keyring; ///< while it keeps us waiting
+    KeyringWaiter* m_waiter = nullptr;
+    StoreResult m_lastFound = StoreResult::kNothing;
+    bool m_isKeyringGivenUp = false;
+    bool m_areDialogsAllowed = true;
     bool m_isEnding = false;
     bool m_isLookDue = false;
     QObject m_loop; ///< receives the turns of the event loop

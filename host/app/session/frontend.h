@@ -1,8 +1,9 @@
 #pragma once
 
 #include "framework/support/objects/object.h"
-#include "host/base/problem.h"
+#include "host/app/session/activity.h"
 
+#include <string>
 #include <string_view>
 
 namespace xbr::host {
@@ -10,7 +11,7 @@ namespace xbr::host {
 class HostSession;
 
 /// What a session asks of the window or the command line. Outlives the session.
-class FrontEnd {
+class FrontEnd : public Activity::KeyringWaiter {
 public:
     /// New objects of the classes that modules ask for: IDialog, IProgressIndicator with IProgress,
     /// IFileSelector. Empty where there is none; a module that would ask the user gives up at once then.
@@ -21,8 +22,12 @@ public:
     /// Shows the URL that a browser is started for. True when the user can reach it without that browser.
     virtual bool announceBrowser(std::string_view /*url*/) { return false; }
 
-    /// A sign-in cannot be kept or removed. Comes from within a call of a module: to be shown later.
-    virtual void storeFailed(const Problem& problem) = 0;
+    /// The web browser that was to show a page has failed; comes from the event loop.
+    virtual void browserFailed(const std::string& /*reason*/) {}
+
+    /// With no more input than to give it up.
+    bool keyringWaits(bool /*isForUser*/) override { return true; }
+    void keyringAnswered() override {}
 
     /// The browser came back, and the modules were told.
     virtual void callbackCame() {}

@@ -23,7 +23,7 @@ const ClassDescription kSelector = describe(IFileSelector::kClassUid, "File Sele
 
 } // namespace
 
-HostClasses::HostClasses(FrontEnd& front, HostSession& session,
+HostClasses::HostClasses(FrontEnd& front, HostSession& session, Activity& activity,
                          const std::shared_ptr<ConfigurationReport>& report)
     : m_classes(make<ClassFactory>()) {
     m_classes->add(kConfigurationStore, [report] {
@@ -31,7 +31,8 @@ HostClasses::HostClasses(FrontEnd& front, HostSession& session,
         return query<IObject>(store.get());
     });
     m_classes->add(kMediaFileInfo, creatorOf<MediaFileInfo>());
-    m_classes->add(kDialog, [&] { return front.makeDialog(session); });
+    m_classes->add(kDialog,
+                   [&] { return activity.areDialogsAllowed() ? front.makeDialog(session) : Ref<IObject>(); });
     m_classes->add(kProgress, [&] { return front.makeProgress(session); });
     m_classes->add(kSelector, [&] { return front.makeFileSelector(session); });
     XBRGetPlugInManager()->addFactory(m_classes.get());

@@ -7,6 +7,7 @@
 
 namespace xbr::host {
 
+class Activity;
 class FrontEnd;
 class HostSession;
 
@@ -15,7 +16,8 @@ class HostSession;
 /// configuration file says for them.
 class HostClasses {
 public:
-    HostClasses(FrontEnd& front, HostSession& session, const std::shared_ptr<ConfigurationReport>& report);
+    HostClasses(FrontEnd& front, HostSession& session, Activity& activity,
+                const std::shared_ptr<ConfigurationReport>& report);
     HostClasses(const HostClasses&) = delete;
     HostClasses& operator=(const HostClasses&) = delete;
     ~HostClasses();

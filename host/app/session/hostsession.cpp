@@ -2,13 +2,14 @@
 
 #include "framework/support/objects/text.h"
 #include "host/gui/hostgui.h"
-#include "host/security/hostsecurity.h"
 #include "host/system/hostsystem.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
+#include <algorithm>
 #include <cassert>
+#include <chrono>
 #include <utility>
 
 namespace xbr::host {
@@ -29,29 +30,45 @@ HostSession::HostSession(FrontEnd& front, SessionOptions options)
     : m_front(front),
       m_options(std::move(options)),
       m_settings(std::make_shared<ConfigurationReport>()),
-      m_classes(front, *this, m_settings),
+      m_classes(front, *this, m_activity, m_settings),
       m_context(make<HostContext>()),
       m_interrupted(m_interruption.subscribe([this] { m_activity.endAll(); })) {
     registerGuiClasses();
-    setBrowserAnnouncer([this](std::string_view url) { return m_front.announceBrowser(url); });
-    setStoreInterruption(&Interruption::isInterrupted);
-    setStoreProblemListener([this](const std::string& words) {
-        m_front.storeFailed({Fault::kNotWritable, {}, 0, words, {}, {}});
+    setBrowserAnnouncer([this](std::string_view url) {
+        m_browserOpened = std::chrono::steady_clock::now().time_since_epoch().count();
+        return m_front.announceBrowser(url);
     });
+    setBrowserProblemListener([this](const std::string& reason) { m_front.browserFailed(reason); });
+    m_activity.setKeyringWaiter(&front);
 }
 
 HostSession::~HostSession() {
     setState(State::kClosing);
     m_interrupted.reset();
-    m_callbacks.setUrlListener({});
     closePanels();
     while (!m_modules.empty()) {
         m_modules.pop_back();
     }
-    setStoreProblemListener({});
-    setStoreInterruption(nullptr);
+    m_activity.setKeyringWaiter(nullptr);
+    setBrowserProblemListener({});
     setBrowserAnnouncer({});
     unregisterGuiClasses();
+}
+
+bool HostSession::isBrowserAwaited() const {
+    return std::any_of(m_panels.begin(), m_panels.end(), [](const auto& panel) {
+        return panel->clientState() == ClientState::kAwaitingBrowser;
+    });
+}
+
+std::optional<std::int64_t> HostSession::waitsForBrowserSince() {
+    return isBrowserAwaited() ? std::optional(m_browserOpened) : std::nullopt;
+}
+
+void HostSession::urlCame() {
+    if (m_state == State::kRunning) {
+        m_front.callbackCame();
+    }
 }
 
 void HostSession::setState(State state) {
@@ -86,7 +103,6 @@ std::vector<Problem> HostSession::start() {
         if (!listening) {
             problems.push_back(listening.problem());
         }
-        m_callbacks.setUrlListener([this] { m_front.callbackCame(); });
     }
     return problems;
 }

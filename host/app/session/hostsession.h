@@ -26,7 +26,7 @@ struct SessionOptions {
 /// A running host, whatever its front end is: the classes for modules, the modules and their panels. Its end
 /// takes everything down in the reverse order; nothing of a module may be on the stack then. One object per
 /// process. Main thread.
-class HostSession {
+class HostSession final : private CallbackServer::Host {
 public:
     HostSession(FrontEnd& front, SessionOptions options);
     HostSession(const HostSession&) = delete;
@@ -46,11 +46,21 @@ public:
     /// Those that could be loaded.
     const std::vector<std::unique_ptr<LoadedModule>>& modules() const { return m_modules; }
 
+    /// True while a panel waits for the browser to come back.
+    bool isBrowserAwaited() const;
+
+    /// Takes a link with which a browser comes back, as if it had come by itself.
+    void takeLinkBack(const std::string& link) { m_callbacks.openUrl(link); }
+
     Activity& activity() { return m_activity; }
     Interruption& interruption() { return m_interruption; }
     const ConfigurationReport& settings() const { return *m_settings; }
 
 private:
+    std::optional<std::int64_t> waitsForBrowserSince() override;
+    bool isHeld() override { return m_activity.isOpen(Activity::Kind::kKeyring); }
+    void urlCame() override;
+
     enum class State : std::uint8_t { kNew, kRunning, kClosing };
     void setState(State state);
     std::vector<std::string> modulesToLoad() const;
@@ -63,7 +73,8 @@ private:
     Activity m_activity;
     std::shared_ptr<ConfigurationReport> m_settings;
     HostClasses m_classes;
-    CallbackServer m_callbacks;
+    std::int64_t m_browserOpened = 0; ///< on the clock that all processes share
+    CallbackServer m_callbacks{*this};
     Ref<IHostContext> m_context;
     std::vector<std::unique_ptr<LoadedModule>> m_modules;
     std::vector<std::unique_ptr<GadgetPanel>> m_panels;

@@ -5,6 +5,7 @@
 #include "host/app/settings/configurationfile.h"
 #include "host/base/weburl.h"
 
+#include <QHostAddress>
 #include <QUrl>
 
 namespace xbr::host {
@@ -25,8 +26,19 @@ bool isWrong(std::string_view key, const std::string& value) {
     return (key == kServerKey && !isWebAddress(value)) || (key == kCallbackKey && !isAddress(value));
 }
 
+/// A token that goes to another computer unencrypted is anybody's.
+bool isUnencrypted(const std::string& server) {
+    const QUrl url(QString::fromStdString(server), QUrl::StrictMode);
+    const QString host = url.host();
+    const bool isThisComputer =
+        host == "localhost" || host.endsWith(".localhost") || QHostAddress(host).isLoopback();
+    return url.scheme() == "http" && !isThisComputer;
+}
+
 void examine(const Settings& settings, ConfigurationReport& report) {
     report.serverUrl = valueOf(settings, kServerKey);
+    report.callbackUrl = valueOf(settings, kCallbackKey);
+    report.isUnencrypted = isUnencrypted(report.serverUrl);
     for (const auto key : kNeededKeys) {
         const std::string value = valueOf(settings, key);
         if (value.empty()) {
@@ -48,8 +60,11 @@ Result ConfigurationStore::load(IAttributes* out, Text id, Text title, std::int3
     const std::string path = configurationPath();
     Settings settings;
     const auto result = readConfiguration(path, view(id), settings);
-    *m_report = {true, result, path, toString(id), toString(title), {}, {}, {}};
+    *m_report = {true, result, path, toString(id), toString(title), {}, {}, {}, {}, false};
     examine(settings, *m_report);
+    if (m_report->isUnencrypted) {
+        return kUnexpected;
+    }
     for (const auto& [key, value] : settings) {
         out->set(toText(key), textValue(value));
     }

@@ -22,9 +22,12 @@ struct ConfigurationReport {
     std::string serverUrl;
     std::vector<std::string> missingKeys; ///< keys that a sign-in needs
     std::vector<std::string> wrongKeys;   ///< keys whose value is no address of the kind that is needed
+    std::string callbackUrl;
+    bool isUnencrypted = false; ///< the server is another computer, reached with plain http
 
     bool isComplete() const {
-        return result == ConfigurationResult::kRead && missingKeys.empty() && wrongKeys.empty();
+        return result == ConfigurationResult::kRead && missingKeys.empty() && wrongKeys.empty() &&
+               !isUnencrypted;
     }
 };
 

@@ -69,6 +69,19 @@ bool TransferLoop::start(Transfer& transfer) {
     return true;
 }
 
+void TransferLoop::hold(bool isHeld) {
+    if (!s_instance || s_instance->m_isHeld == isHeld) {
+        return;
+    }
+    s_instance->m_isHeld = isHeld;
+    for (const auto& [socket, watch] : s_instance->m_watches) {
+        s_instance->watch(socket, watch.what);
+    }
+    if (!isHeld) {
+        s_instance->m_timer.start(0); // it may have run out meanwhile
+    }
+}
+
 void TransferLoop::end(std::unique_ptr<Transfer> transfer) {
     if (m_insideCurl) {
         // The stream of a body called us from within libcurl, which still works on the handle.
@@ -88,6 +101,9 @@ void TransferLoop::detach(Transfer& transfer) {
 }
 
 void TransferLoop::act(curl_socket_t socket) {
+    if (m_isHeld) {
+        return;
+    }
     if (m_insideCurl) {
         // The stream of a body runs an event loop of its own. What is ready now will still be ready
         // afterwards, but the timer has to be wound again.
@@ -132,7 +148,7 @@ void TransferLoop::reportFinished() {
 }
 
 void TransferLoop::tick() {
-    if (m_insideCurl) {
+    if (m_insideCurl || m_isHeld) {
         return;
     }
     ++m_depth;
@@ -154,9 +170,11 @@ void TransferLoop::tick() {
 
 void TransferLoop::watch(curl_socket_t socket, int what) {
     Watch& watch = m_watches[socket];
-    setNotifier(watch.read, socket, QSocketNotifier::Read, what == CURL_POLL_IN || what == CURL_POLL_INOUT);
-    setNotifier(watch.write, socket, QSocketNotifier::Write,
-                what == CURL_POLL_OUT || what == CURL_POLL_INOUT);
+    watch.what = what;
+    const bool isRead = what == CURL_POLL_IN || what == CURL_POLL_INOUT;
+    const bool isWritten = what == CURL_POLL_OUT || what == CURL_POLL_INOUT;
+    setNotifier(watch.read, socket, QSocketNotifier::Read, isRead && !m_isHeld);
+    setNotifier(watch.write, socket, QSocketNotifier::Write, isWritten && !m_isHeld);
 }
 
 void TransferLoop::setNotifier(QSocketNotifier*& slot, curl_socket_t socket, int type, bool wanted) {

@@ -30,6 +30,9 @@ public:
     /// Starts a transfer; it reports from the event loop only. False when libcurl refuses it.
     bool start(Transfer& transfer);
 
+    /// Lets all transfers stand still: nothing is reported until they go on.
+    static void hold(bool isHeld);
+
     /// Ends a transfer without a report.
     void end(std::unique_ptr<Transfer> transfer);
 
@@ -37,6 +40,7 @@ private:
     struct Watch {
         QSocketNotifier* read = nullptr;
         QSocketNotifier* write = nullptr;
+        int what = CURL_POLL_NONE; ///< that libcurl waits for
     };
 
     TransferLoop();
@@ -59,6 +63,7 @@ private:
     std::map<curl_socket_t, Watch> m_watches;
     std::vector<Transfer*> m_transfers;
     std::vector<std::unique_ptr<Transfer>> m_doomed;
+    bool m_isHeld = false;
     bool m_insideCurl = false;
     int m_depth = 0; ///< how many calls that may lead to listeners or streams are on the stack
 

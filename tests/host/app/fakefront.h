@@ -8,7 +8,6 @@ namespace xbr::host {
 struct FakeFront final : FrontEnd {
     Ref<IObject> makeDialog(HostSession&) override { return {}; }
     Ref<IObject> makeProgress(HostSession&) override { return {}; }
-    void storeFailed(const Problem&) override {}
 };
 
 } // namespace xbr::host

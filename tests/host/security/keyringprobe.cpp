@@ -33,6 +33,20 @@ GDBusConnection* ownConnection() {
                                                   nullptr, nullptr);
 }
 
+GVariant* callBus(GDBusConnection* bus, const char* method, GVariant* arguments) {
+    return g_dbus_connection_call_sync(bus, "org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                       "org.freedesktop.DBus", method, arguments, nullptr,
+                                       G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr);
+}
+
+pid_t processOf(GDBusConnection* bus, const char* name) {
+    GVariant* answer = callBus(bus, "GetConnectionUnixProcessID", g_variant_new("(s)", name));
+    guint32 process = 0;
+    g_variant_get(answer, "(u)", &process);
+    g_variant_unref(answer);
+    return static_cast<pid_t>(process);
+}
+
 } // namespace
 
 std::vector<SeenItem> itemsOf(const std::string& target) {
@@ -64,16 +78,36 @@ void lockKeyring() {
     g_object_unref(bus);
 }
 
+void stopKeyring(bool isStopped) {
+    GDBusConnection* bus = ownConnection();
+    ::kill(processOf(bus, "org.freedesktop.secrets"), isStopped ? SIGSTOP : SIGCONT);
+    g_object_unref(bus);
+}
+
+SilentPrompter::SilentPrompter() : m_bus(ownConnection()) {
+    auto* bus = static_cast<GDBusConnection*>(m_bus);
+    // Calls are dropped, which GDBus would answer.
+    g_dbus_connection_add_filter(
+        bus,
+        [](GDBusConnection*, GDBusMessage* message, gboolean incoming, gpointer) -> GDBusMessage* {
+            if (incoming && g_dbus_message_get_message_type(message) == G_DBUS_MESSAGE_TYPE_METHOD_CALL) {
+                g_object_unref(message);
+                return nullptr;
+            }
+            return message;
+        },
+        nullptr, nullptr);
+    g_variant_unref(
+        callBus(bus, "RequestName", g_variant_new("(su)", "org.gnome.keyring.SystemPrompter", 4U)));
+}
+
+SilentPrompter::~SilentPrompter() {
+    g_object_unref(m_bus);
+}
+
 void endSessionBus() {
     GDBusConnection* bus = ownConnection();
-    GVariant* answer = g_dbus_connection_call_sync(bus, "org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                                   "org.freedesktop.DBus", "GetConnectionUnixProcessID",
-                                                   g_variant_new("(s)", "org.freedesktop.DBus"), nullptr,
-                                                   G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr);
-    guint32 process = 0;
-    g_variant_get(answer, "(u)", &process);
-    g_variant_unref(answer);
-    ::kill(static_cast<pid_t>(process), SIGTERM);
+    ::kill(processOf(bus, "org.freedesktop.DBus"), SIGTERM);
     while (!g_dbus_connection_is_closed(bus)) {
         g_usleep(10'000);
     }

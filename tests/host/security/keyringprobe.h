@@ -18,6 +18,21 @@ std::vector<SeenItem> itemsOf(const std::string& target);
 /// Locks the default keyring.
 void lockKeyring();
 
+/// Stops the process of the keyring, or lets it go on.
+void stopKeyring(bool isStopped);
+
+/// While it lives, the keyring's question for a password is shown to nobody, and gets no answer.
+class SilentPrompter {
+public:
+    SilentPrompter();
+    SilentPrompter(const SilentPrompter&) = delete;
+    SilentPrompter& operator=(const SilentPrompter&) = delete;
+    ~SilentPrompter();
+
+private:
+    void* m_bus;
+};
+
 /// Ends the session bus, and returns when it is gone.
 void endSessionBus();
 

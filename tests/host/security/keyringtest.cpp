@@ -1,6 +1,5 @@
 // With a real Secret Service.
 
-#include "host/security/hostsecurity.h"
 #include "tests/host/security/keyringprobe.h"
 #include "tests/host/security/stored.h"
 
@@ -67,26 +66,6 @@ TEST(Keyring, showsNoMoreThanNeeded) {
     ASSERT_THAT(itemsOf("Seen"), SizeIs(1)) << "the note is not looked up";
     EXPECT_EQ(itemsOf("Seen")[0].label, "Seen (of the studio)");
     EXPECT_EQ(remove("Seen"), kOk);
-}
-
-TEST(LockedKeyring, refusesInTimeAndTellsTheHost) {
-    // Nobody can be asked for the password here: there is no display. That is the answer of a user who
-    // refuses.
-    ASSERT_EQ(add("Locked", "U", "secret"), kOk);
-    std::vector<std::string> told;
-    setStoreProblemListener([&](const std::string& words) { told.push_back(words); });
-    lockKeyring();
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(find("Locked"), "failed");
-    EXPECT_EQ(remove("Locked"), kUnexpected);
-    EXPECT_EQ(remove("Locked"), kUnexpected);
-    EXPECT_THAT(told, ::testing::ElementsAre(::testing::HasSubstr("could not be removed"))) << "told once";
-    told.clear();
-    EXPECT_EQ(add("Locked", "U", "other"), kUnexpected);
-    EXPECT_EQ(add("New", "U", "other"), kUnexpected);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
-    EXPECT_THAT(told, ::testing::ElementsAre(::testing::HasSubstr("is locked")));
-    setStoreProblemListener({});
 }
 
 } // namespace

@@ -2,11 +2,18 @@
 
 #include "framework/abi/credentials.h"
 #include "framework/support/objects/text.h"
+#include "host/security/hostsecurity.h"
 
+#include <algorithm>
+#include <chrono>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace xbr::host::test {
+
+using Clock = std::chrono::steady_clock;
+using Milliseconds = std::chrono::milliseconds;
 
 inline Result add(std::string_view target, std::string_view user, std::string_view password,
                   std::string_view note = {}) {
@@ -26,5 +33,36 @@ inline std::string find(std::string_view target) {
     }
     return found ? "failed, yet there is one" : result == kFalse ? "none" : "failed";
 }
+
+/// Hears as the host program does; gives up after a while.
+class Hearing final : public StoreListener {
+public:
+    explicit Hearing(Milliseconds patience = std::chrono::hours(1)) : m_patience(patience) {
+        setStoreListener(this);
+    }
+    Hearing(const Hearing&) = delete;
+    Hearing& operator=(const Hearing&) = delete;
+    ~Hearing() { setStoreListener(nullptr); }
+
+    bool storeWaits(bool isForUser) override {
+        const auto now = Clock::now();
+        longestGap = std::max(longestGap, now - m_last);
+        m_last = now;
+        wasUserAsked = wasUserAsked || isForUser;
+        return now - m_start < m_patience;
+    }
+    void storeAnswered(StoreOperation, StoreResult result) override { results.push_back(result); }
+
+    Clock::duration time() const { return Clock::now() - m_start; }
+
+    std::vector<StoreResult> results;
+    bool wasUserAsked = false;
+    Clock::duration longestGap{}; ///< in which no window could have been painted
+
+private:
+    Milliseconds m_patience;
+    Clock::time_point m_start = Clock::now();
+    Clock::time_point m_last = Clock::now();
+};
 
 } // namespace xbr::host::test

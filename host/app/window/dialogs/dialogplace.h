@@ -13,6 +13,7 @@ class ViewDialogFrame;
 struct DialogPlace {
     HostSession& session;
     QPointer<QWidget> window{};         ///< dialogs belong to it
+    QString address{};                  ///< for which a browser was started last
     QPointer<ViewDialogFrame> dialog{}; ///< of a module; the one on top
 };
 

@@ -1,6 +1,7 @@
 #include "host/app/window/dialogs/viewdialog.h"
 
 #include "host/app/publishing/reachability.h"
+#include "host/app/window/dialogs/signinstrip.h"
 #include "host/app/window/look/desktop.h"
 #include "host/gui/hostwidgets.h"
 
@@ -48,7 +49,16 @@ bool ViewDialogFrame::showView(IView& view) {
     return true;
 }
 
+void ViewDialogFrame::showSignIn(HostSession& session, const QString& address) {
+    m_strip = new SignInStrip(session, address, this);
+    layout()->addWidget(m_strip);
+}
+
 void ViewDialogFrame::setNotice(const QString& text) {
+    if (m_strip) {
+        m_strip->tell(text);
+        return;
+    }
     m_notice->setText(text);
     m_notice->setAccessibleName(text);
     m_notice->setVisible(!text.isEmpty());
@@ -92,6 +102,9 @@ Result ViewDialog::runModal(IView* view, std::int32_t styleFlags) noexcept {
     if (!frame->showView(*view)) {
         delete frame;
         return kInvalidArgument;
+    }
+    if (m_place->session.isBrowserAwaited()) {
+        frame->showSignIn(m_place->session, m_place->address);
     }
     const QScopedValueRollback<QPointer<ViewDialogFrame>> onTop(m_place->dialog, frame);
     QEventLoop loop;

@@ -11,6 +11,8 @@ class QLabel;
 
 namespace xbr::host {
 
+class SignInStrip;
+
 /// The frame around a form that is shown as a dialog, with room for a line in which the host says what the
 /// form cannot know.
 class ViewDialogFrame final : public QDialog {
@@ -22,6 +24,9 @@ public:
     /// Builds the form; false when it cannot be shown.
     bool showView(IView& view);
 
+    /// Offers the way out of a sign-in whose browser does not come back.
+    void showSignIn(HostSession& session, const QString& address);
+
     /// Shows the line; an empty text takes it away.
     void setNotice(const QString& text);
 
@@ -32,6 +37,7 @@ private:
     bool m_isClosable;
     QWidget* m_form = nullptr;
     QLabel* m_notice;
+    SignInStrip* m_strip = nullptr;
 };
 
 /// A dialog that shows a form of a module.

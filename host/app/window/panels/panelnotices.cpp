@@ -1,25 +1,11 @@
 #include "host/app/window/panels/panelnotices.h"
 
 #include "framework/support/objects/message.h"
-#include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
 #include "host/app/publishing/upload/progresswords.h"
 #include "host/app/publishing/words.h"
 
 namespace xbr::host {
-
-namespace {
-
-/// Where a panel's client stands (its property "clientState").
-enum ClientState : std::int64_t { kNotConnected, kAwaitingCode, kRequestingToken, kConnected, kFailed };
-
-std::int64_t clientStateOf(const GadgetPanel& panel) {
-    const auto client = findObject<IPropertySource>(panel.controller(), "Client");
-    Value state{};
-    return client && client->getProperty(toText("clientState"), &state) == kOk ? integerOf(state) : 0;
-}
-
-} // namespace
 
 PanelNotices::PanelNotices(GadgetPanel& panel, HostSession& session,
                            std::function<void(const QString&)> tellInDialog, QObject* parent)
@@ -28,7 +14,7 @@ PanelNotices::PanelNotices(GadgetPanel& panel, HostSession& session,
       m_settings(&session.settings()),
       m_tellInDialog(std::move(tellInDialog)),
       m_publishing(session.activity(), session.settings(), panel, *this),
-      m_state(clientStateOf(panel)),
+      m_state(panel.clientState()),
       m_client([this](ISubject*, const IMessage& message) {
           if (isNamed(message, "propertyChanged")) {
               clientChanged();
@@ -42,7 +28,7 @@ void PanelNotices::tell(NoticeKind kind, const QString& text) {
 }
 
 void PanelNotices::callbackArrived() {
-    if (clientStateOf(*m_panel) == kAwaitingCode) {
+    if (m_panel->clientState() == ClientState::kAwaitingBrowser) {
         m_tellInDialog(QCoreApplication::translate(
             "xbr::host::Words",
             "The browser came back without a permission. Allow the access there, or cancel here."));
@@ -50,27 +36,27 @@ void PanelNotices::callbackArrived() {
 }
 
 void PanelNotices::clientChanged() {
-    const std::int64_t state = clientStateOf(*m_panel);
+    const ClientState state = m_panel->clientState();
     if (state == m_state) {
         return;
     }
-    const bool wasConnected = m_state == kConnected;
+    const bool wasConnected = m_state == ClientState::kConnected;
     m_state = state;
-    if (state != kNotConnected) {
+    if (state != ClientState::kIdle) {
         m_publishing.signInBegan();
         tellState(state);
     } else if (wasConnected) {
-        tell(NoticeKind::kInfo, QCoreApplication::translate("xbr::host::Words", "Signed out."));
+        m_publishing.signOutBegan();
     }
 }
 
-void PanelNotices::tellState(std::int64_t state) {
+void PanelNotices::tellState(ClientState state) {
     const bool isHopeless = m_settings->wasAsked && !m_settings->isComplete();
-    if (state == kAwaitingCode && !isHopeless) {
+    if (state == ClientState::kAwaitingBrowser && !isHopeless) {
         m_tellInDialog({});
         tell(NoticeKind::kBusy,
              QCoreApplication::translate("xbr::host::Words", "Waiting for your permission in the browser."));
-    } else if (state == kRequestingToken) {
+    } else if (state == ClientState::kRequestingToken) {
         tell(NoticeKind::kBusy, QCoreApplication::translate("xbr::host::Words", "Signing in…"));
     }
 }
@@ -83,7 +69,16 @@ void PanelNotices::sending(const UploadProgress& progress) {
     tell(NoticeKind::kBusy, QString::fromStdString(wordsOf(progress).headline));
 }
 
+void PanelNotices::restoreSignIn() {
+    m_isRestoring = true;
+    m_publishing.restore();
+}
+
 void PanelNotices::ended(const Verdict& verdict) {
+    const bool isRestoring = std::exchange(m_isRestoring, false);
+    if (isRestoring && (verdict.code == ExitCode::kNotSignedIn || verdict.cause == Cause::kNotSetUp)) {
+        return; // nobody has asked yet
+    }
     tell(verdict.kind, QString::fromStdString(verdict.sentence));
 }
 

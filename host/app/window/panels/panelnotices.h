@@ -22,6 +22,9 @@ public:
 
     Publishing& publishing() { return m_publishing; }
 
+    /// Signs in with what is stored, if anything is, without a question to the user.
+    void restoreSignIn();
+
     /// The browser came back, and the module was told.
     void callbackArrived();
 
@@ -30,7 +33,7 @@ signals:
 
 private:
     void clientChanged();
-    void tellState(std::int64_t state);
+    void tellState(ClientState state);
     void preparing(const PreparationProgress& progress) override;
     void sending(const UploadProgress& progress) override;
     void ended(const Verdict& verdict) override;
@@ -40,7 +43,8 @@ private:
     const ConfigurationReport* m_settings;
     std::function<void(const QString&)> m_tellInDialog;
     Publishing m_publishing;
-    std::int64_t m_state;
+    bool m_isRestoring = false;
+    ClientState m_state;
     Listener m_client;
 };
 

@@ -6,6 +6,7 @@
 #include "host/app/window/dialogs/progressindicator.h"
 #include "host/app/window/dialogs/viewdialog.h"
 #include "host/app/window/look/desktop.h"
+#include "host/base/qttext.h"
 
 #include <QApplication>
 
@@ -74,16 +75,11 @@ Ref<IObject> WindowFront::makeFileSelector(HostSession&) {
     return makeFor<FileSelector>(m_place);
 }
 
-void WindowFront::storeFailed(const Problem& problem) {
-    if (m_window) {
-        // Later: it is told from within a call of a module.
-        QMetaObject::invokeMethod(
-            m_window.get(),
-            [this, words = problem.words] {
-                m_window->showNotice({NoticeKind::kWarning, QString::fromStdString(words)});
-            },
-            Qt::QueuedConnection);
+bool WindowFront::keyringWaits(bool isForUser) {
+    if (!m_keyring) {
+        m_keyring = std::make_unique<KeyringSheet>(m_place.window);
     }
+    return m_keyring->wait(isForUser);
 }
 
 void WindowFront::start() {
@@ -96,6 +92,17 @@ void WindowFront::start() {
     tell(problems);
     m_window->addSongs(m_options.files);
     m_window->show();
+    // Once the window is there: the keyring may ask for its password.
+    QMetaObject::invokeMethod(
+        m_window.get(),
+        [this] {
+            for (const GadgetDock* dock : m_window->docks()) {
+                if (dock->notices()) {
+                    dock->notices()->restoreSignIn();
+                }
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void WindowFront::tell(const std::vector<Problem>& problems) {
@@ -108,6 +115,27 @@ void WindowFront::tell(const std::vector<Problem>& problems) {
     }
     if (m_session.modules().empty() && !isAboutModules) {
         m_window->showNotice({NoticeKind::kWarning, QString::fromStdString(judgeModule({}).sentence)});
+    }
+}
+
+bool WindowFront::announceBrowser(std::string_view url) {
+    m_place.address = toQString(url);
+    return m_session.isBrowserAwaited(); // the address can be copied
+}
+
+void WindowFront::browserFailed(const std::string& reason) {
+    const QString words = QString::fromStdString(reason);
+    if (m_place.dialog) {
+        m_place.dialog->setNotice(
+            QCoreApplication::translate(
+                "xbr::host::Words", "The web browser could not be started: %1. Copy the address and open it "
+                                    "in a browser.")
+                .arg(words));
+    } else {
+        m_window->showNotice(
+            {NoticeKind::kError,
+             QCoreApplication::translate("xbr::host::Words", "The web browser could not be started: %1.")
+                 .arg(words)});
     }
 }
 

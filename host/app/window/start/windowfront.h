@@ -3,6 +3,7 @@
 #include "host/app/process/singleinstance.h"
 #include "host/app/session/hostsession.h"
 #include "host/app/window/dialogs/dialogplace.h"
+#include "host/app/window/dialogs/keyringsheet.h"
 #include "host/app/window/frame/mainwindow.h"
 #include "host/app/window/start/windowoptions.h"
 
@@ -29,7 +30,10 @@ public:
     Ref<IObject> makeDialog(HostSession& session) override;
     Ref<IObject> makeProgress(HostSession& session) override;
     Ref<IObject> makeFileSelector(HostSession& session) override;
-    void storeFailed(const Problem& problem) override;
+    bool keyringWaits(bool isForUser) override;
+    void keyringAnswered() override { m_keyring.reset(); }
+    bool announceBrowser(std::string_view url) override;
+    void browserFailed(const std::string& reason) override;
     void callbackCame() override;
 
 private:
@@ -40,6 +44,7 @@ private:
     HostSession m_session;
     DialogPlace m_place;
     Ref<OpenHandler> m_opening;
+    std::unique_ptr<KeyringSheet> m_keyring; ///< while it is asked
     Interruption::Handle m_interrupted;
 };
 

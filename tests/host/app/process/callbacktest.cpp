@@ -6,6 +6,8 @@
 #include "host/app/process/callbackserver.h"
 #include "tests/fixtures/testfolder.h"
 
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -72,7 +74,36 @@ private:
     bool m_isConnected = false;
 };
 
-class Callbacks : public testing::Test {
+/// Another running host, with one answer to the question who waits; without it never heard of again.
+class OtherHost {
+public:
+    OtherHost(const std::string& path, std::string answer) : m_answer(std::move(answer)) {
+        m_server.listen(QString::fromStdString(path));
+        QObject::connect(&m_server, &QLocalServer::newConnection, &m_server, [this] {
+            QLocalSocket* socket = m_server.nextPendingConnection();
+            QObject::connect(socket, &QLocalSocket::readyRead, socket, [this, socket] { read(*socket); });
+        });
+    }
+
+    const std::string& answer() const { return m_answer; }
+    bool wasSentUrl() const { return m_wasSentUrl; }
+
+private:
+    void read(QLocalSocket& socket) {
+        const bool isQuestion = socket.readLine() == "?\n";
+        m_wasSentUrl = m_wasSentUrl || !isQuestion;
+        if (!isQuestion || !m_answer.empty()) {
+            socket.write(isQuestion ? (m_answer + "\n").c_str() : "ok\n");
+            socket.disconnectFromServer();
+        }
+    }
+
+    std::string m_answer;
+    bool m_wasSentUrl = false;
+    QLocalServer m_server;
+};
+
+class Callbacks : public testing::Test, protected CallbackServer::Host {
 protected:
     Callbacks() : m_runtime("XDG_RUNTIME_DIR", m_folder.path()) {
         XBRGetFileTypeRegistry()->addHandler(m_handler.get());
@@ -83,16 +114,24 @@ protected:
     std::string socketPath() const { return m_folder.path("xbrhost/" + std::to_string(getpid()) + ".sock"); }
 
     /// Sends a URL as another process would, while this one runs its event loop.
-    static Delivery sendElsewhere(const std::string& url) {
-        auto result = std::async(std::launch::async, [url] { return sendToHosts(url); });
+    static Delivery sendElsewhere(const std::string& url,
+                                  Delivery (*send)(const std::string&) = &sendToHosts) {
+        auto result = std::async(std::launch::async, [url, send] { return send(url); });
         runUntil([&] { return result.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
         return result.get();
     }
 
+    std::optional<std::int64_t> waitsForBrowserSince() override { return m_since; }
+    bool isHeld() override { return m_isHeld; }
+    void urlCame() override { ++m_told; }
+
+    std::optional<std::int64_t> m_since;
+    bool m_isHeld = false;
+    int m_told = 0;
     TestFolder m_folder;
     TestVariable m_runtime;
     Ref<FakeHandler> m_handler = make<FakeHandler>();
-    CallbackServer m_server;
+    CallbackServer m_server{*this};
 };
 
 } // namespace
@@ -100,8 +139,6 @@ protected:
 TEST_F(Callbacks, urlReachesTheModule) {
     EXPECT_EQ(sendElsewhere("test:before"), Delivery::kNoHost);
     ASSERT_TRUE(start());
-    int told = 0;
-    m_server.setUrlListener([&] { ++told; });
     const std::string longest = "test:" + std::string(kMaximumUrlSize - 5, 'x');
     EXPECT_EQ(sendElsewhere("test:a?code=1"), Delivery::kTaken);
     EXPECT_EQ(sendElsewhere("other:a"), Delivery::kNoHost);
@@ -109,7 +146,7 @@ TEST_F(Callbacks, urlReachesTheModule) {
     EXPECT_EQ(sendElsewhere(longest + "x"), Delivery::kTooLong);
     EXPECT_EQ(sendElsewhere("test:a\ntest:b"), Delivery::kTooLong);
     EXPECT_THAT(m_handler->urls, ElementsAre("test:a?code=1", longest));
-    EXPECT_EQ(told, 3);
+    EXPECT_EQ(m_told, 3);
 }
 
 TEST_F(Callbacks, onlyOneOrdinaryLineIsTaken) {
@@ -156,6 +193,51 @@ TEST_F(Callbacks, aFloodOfConnectionsIsTurnedAway) {
     EXPECT_TRUE(runUntil([&] { return sendElsewhere("test:b") == Delivery::kTaken; }));
 }
 
+TEST_F(Callbacks, whatComesWaitsWhileModulesMayNotBeCalled) {
+    ASSERT_TRUE(start());
+    m_isHeld = true;
+    const Client client(socketPath());
+    client.send("test:a\n");
+    EXPECT_EQ(client.answer(100), "open");
+    EXPECT_THAT(m_handler->urls, IsEmpty());
+    m_isHeld = false;
+    EXPECT_EQ(client.answer(), "ok\n");
+    EXPECT_THAT(m_handler->urls, ElementsAre("test:a"));
+}
+
+TEST_F(Callbacks, oneHostThatWaitsGetsTheLinkBack) {
+    struct Case {
+        std::vector<std::string> others; ///< what other hosts answer to the question; empty: they are stopped
+        std::optional<std::int64_t> since;
+        Delivery delivery;
+        bool isOurs;
+    };
+    const Case cases[] = {{{}, std::nullopt, Delivery::kNoHost, false},
+                          {{"no", "no"}, 5, Delivery::kTaken, true},
+                          {{"waits 4", "waits x", "nonsense"}, 5, Delivery::kTaken, true},
+                          {{"waits 6", "waits 10", "no", "", ""}, 9, Delivery::kTaken, false},
+                          {{"", "", "", ""}, 5, Delivery::kTaken, true},
+                          {{"waits", "", "no"}, std::nullopt, Delivery::kNoHost, false}};
+    ASSERT_TRUE(start());
+    for (const Case& each : cases) {
+        m_since = each.since;
+        m_handler->urls.clear();
+        std::vector<std::unique_ptr<OtherHost>> others;
+        for (const std::string& answer : each.others) {
+            others.push_back(std::make_unique<OtherHost>(
+                m_folder.path("xbrhost/" + std::to_string(others.size()) + ".sock"), answer));
+        }
+        const auto began = std::chrono::steady_clock::now();
+        EXPECT_EQ(sendElsewhere("test:a", &sendLinkBack), each.delivery);
+        EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(2));
+        EXPECT_EQ(m_handler->urls.size(), each.isOurs ? 1U : 0U);
+        for (const auto& other : others) {
+            EXPECT_EQ(other->wasSentUrl(), !each.isOurs && other->answer() == "waits 10");
+        }
+    }
+    EXPECT_EQ(sendElsewhere("test:a\nb", &sendLinkBack), Delivery::kTooLong);
+}
+
 TEST_F(Callbacks, socketsOfDeadHostsAreRemoved) {
     const std::string stale = m_folder.path("xbrhost/1.sock");
     std::filesystem::create_directory(m_folder.path("xbrhost"));
@@ -189,7 +271,7 @@ TEST_F(Callbacks, aPlantedFolderIsRefused) {
 
 TEST_F(Callbacks, nothingIsLeftBehind) {
     {
-        CallbackServer server;
+        CallbackServer server(*this);
         ASSERT_TRUE(server.start());
         struct stat status {};
         ASSERT_EQ(stat(socketPath().c_str(), &status), 0);

@@ -26,7 +26,7 @@ class PublishingTest : public testing::Test, protected PublishingListener {
 protected:
     PublishingTest() {
         m_script.activity = &m_host.activity();
-        m_settings = {true, ConfigurationResult::kRead, {}, {}, {}, "http://127.0.0.1:1/", {}, {}};
+        m_settings = {true, ConfigurationResult::kRead, {}, {}, {}, "http://127.0.0.1:1/", {}, {}, {}};
         for (const char* name : {"a.wav", "b.wav", "c.wav"}) {
             const auto tags = infoChunk({{"IGNR", "Rock"}, {"IART", "Ann"}});
             m_files.push_back(m_folder.write(name, waveFile(tags)));

@@ -1,10 +1,11 @@
 // What became of an upload, from what is known of it: one table.
 
-#include "host/app/publishing/verdict.h"
-
+#include "host/app/publishing/account.h"
 #include "host/app/publishing/words.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace xbr::host {
 namespace {
@@ -152,39 +153,132 @@ TEST(Verdict, OfASignIn) {
     missing.missingKeys = {"ServerURL", "ConsumerKey"};
     const Problem refused{Fault::kSignInRefused, "https://service.example", 401, "invalid\ngrant", {}, {}};
     const Problem nobody{Fault::kNoServer, "https://service.example", 0, "Connection refused", {}, {}};
-    const struct {
-        SignInFacts facts;
+    struct SignInCase {
+        std::function<void(SignInFacts&)>
+            change; ///< of somebody who was sent to the browser and did nothing there
         Cause cause;
         int code;
         const char* sentence;
-    } cases[] = {
-        {{true, "Mara", complete, {}, false, false}, Cause::kSignedIn, 0, "Signed in as Mara."},
-        {{true, "", complete, refused, false},
-         Cause::kExpired,
-         10,
-         "The service does not accept the stored sign-in any more."},
-        {{false, "", missing, {}, false},
-         Cause::kNotSetUp,
-         9,
+    };
+    const auto signIn = [](SignInFacts& facts) {
+        facts.isAuthorized = true;
+        facts.account = "Mara";
+    };
+    const auto keep = [&signIn](StoreResult kept) {
+        return [kept, &signIn](SignInFacts& facts) {
+            signIn(facts);
+            facts.kept = kept;
+        };
+    };
+    const auto status = [](StoreResult found) {
+        return [found](SignInFacts& facts) {
+            facts.wasUserAsked = false;
+            facts.found = found;
+        };
+    };
+    const SignInCase cases[] = {
+        {signIn, Cause::kSignedIn, 0, "Signed in as Mara."},
+        {[](SignInFacts& facts) { facts.isAuthorized = true; }, Cause::kSignedIn, 0, "Signed in."},
+        {[&](SignInFacts& facts) {
+             signIn(facts);
+             facts.problem = refused;
+         },
+         Cause::kExpired, 10, "The service does not accept the stored sign-in any more."},
+        {[&](SignInFacts& facts) {
+             signIn(facts);
+             facts.problem = nobody;
+         },
+         Cause::kUnreachable, 6,
+         "A sign-in is stored, but the service could not be asked: Connection refused."},
+        {[&](SignInFacts& facts) {
+             signIn(facts);
+             facts.problem = {Fault::kServerFault, {}, 503, "down", {}, {}};
+         },
+         Cause::kUnreachable, 6, "A sign-in is stored, but the service could not be asked: it answered 503."},
+        {[&](SignInFacts& facts) {
+             signIn(facts);
+             facts.problem = nobody;
+             facts.isForUpload = true;
+         },
+         Cause::kUnreachable, 6,
+         "The service at https://service.example cannot be reached: Connection refused. Nothing was sent."},
+        {[&](SignInFacts& facts) {
+             signIn(facts);
+             facts.isForUpload = true;
+             facts.wantedAccount = "Ann";
+         },
+         Cause::kOtherAccount, 5, "Signed in as Mara, not as Ann. Nothing was sent."},
+        {[&](SignInFacts& facts) {
+             signIn(facts);
+             facts.wantedAccount = "Mara";
+         },
+         Cause::kSignedIn, 0, "Signed in as Mara."},
+        {[](SignInFacts& facts) {
+             facts.isAuthorized = true;
+             facts.wantedAccount = "Ann";
+         },
+         Cause::kOtherAccount, 5, "The service does not say who is signed in; it may not be Ann."},
+        {keep(StoreResult::kDone), Cause::kSignedIn, 0, "Signed in as Mara."},
+        {keep(StoreResult::kNoStore), Cause::kKeyringNone, 0,
+         "Signed in as Mara, until the program ends: this computer has no keyring."},
+        {keep(StoreResult::kLocked), Cause::kKeyringLocked, 0,
+         "Signed in as Mara, until the program ends: the keyring was not unlocked."},
+        {keep(StoreResult::kSilent), Cause::kKeyringSilent, 0,
+         "Signed in as Mara, until the program ends: the keyring does not answer."},
+        {[&](SignInFacts& facts) { facts.settings = missing; }, Cause::kNotSetUp, 9,
          "Brindlex Client is not set up: ServerURL, ConsumerKey is missing in “/home/services.ini”, section "
          "[brindlex]."},
-        {{false, "", complete, nobody, false},
-         Cause::kUnreachable,
-         6,
+        {[&](SignInFacts& facts) { facts.problem = nobody; }, Cause::kUnreachable, 6,
          "The service at https://service.example cannot be reached: Connection refused."},
-        {{false, "", complete, refused, false},
-         Cause::kNotSignedIn,
-         5,
-         "Not signed in: the service refused it: invalid grant."},
-        {{false, "", complete, {}, false},
-         Cause::kNotSignedIn,
-         5,
-         "Not signed in: the sign-in was given up."},
-        {{false, "", complete, {}, true, true}, Cause::kStoppedBefore, 130, "Stopped. Nothing was sent."},
+        {[&](SignInFacts& facts) {
+             facts.problem = refused;
+             facts.problem.fault = Fault::kRefused;
+         },
+         Cause::kNotSignedIn, 5, "Not signed in: the service refused it: invalid grant."},
+        {[](SignInFacts& facts) { facts.isAnswerUnusable = true; }, Cause::kNotSignedIn, 5,
+         "Not signed in: the service sent an answer that cannot be used."},
+        {[](SignInFacts&) {}, Cause::kNotSignedIn, 5, "Not signed in: the sign-in was given up."},
+        {status(StoreResult::kNothing), Cause::kNotSignedIn, 5, "Not signed in."},
+        {status(StoreResult::kNoStore), Cause::kKeyringNone, 5,
+         "Not signed in: this computer has no keyring."},
+        {status(StoreResult::kLocked), Cause::kKeyringLocked, 12,
+         "The keyring was not unlocked: the stored sign-in cannot be read."},
+        {status(StoreResult::kSilent), Cause::kKeyringSilent, 12,
+         "The keyring does not answer: the stored sign-in cannot be read."},
+        {[](SignInFacts& facts) { facts.isCancelled = facts.isForUpload = true; }, Cause::kStoppedBefore, 130,
+         "Stopped. Nothing was sent."},
+    };
+    for (const SignInCase& each : cases) {
+        SignInFacts facts;
+        facts.settings = complete;
+        facts.wasUserAsked = true;
+        each.change(facts);
+        const Verdict verdict = judge(facts);
+        EXPECT_EQ(verdict.cause, each.cause) << nameOf(verdict.cause);
+        EXPECT_EQ(static_cast<int>(verdict.code), each.code) << verdict.sentence;
+        EXPECT_EQ(verdict.sentence, each.sentence);
+    }
+}
+
+TEST(Verdict, OfASignOutClaimsNoMoreThanWasDone) {
+    const struct {
+        StoreResult removed;
+        bool wasKept;
+        int code;
+        const char* sentence;
+    } cases[] = {
+        {StoreResult::kDone, true, 0, "Signed out."},
+        {StoreResult::kNothing, true, 0, "Nobody was signed in."},
+        {StoreResult::kNothing, false, 0, "Signed out."},
+        {StoreResult::kNoStore, false, 0, "Signed out."},
+        {StoreResult::kNoStore, true, 12, "No keyring can be reached from here: nothing was removed."},
+        {StoreResult::kLocked, false, 12,
+         "The keyring was not unlocked: the stored sign-in may still be there."},
+        {StoreResult::kSilent, true, 12,
+         "The keyring does not answer: the stored sign-in may still be there."},
     };
     for (const auto& each : cases) {
-        const Verdict verdict = judge(each.facts);
-        EXPECT_EQ(verdict.cause, each.cause) << nameOf(verdict.cause);
+        const Verdict verdict = judgeSignOut(each.removed, each.wasKept);
         EXPECT_EQ(static_cast<int>(verdict.code), each.code);
         EXPECT_EQ(verdict.sentence, each.sentence);
     }

@@ -71,14 +71,17 @@ TEST_F(Configuration, storeTellsModuleAndUser) {
     EXPECT_EQ(report->path, m_folder.path("services.ini"));
 
     m_folder.write("services.ini",
-                   "[brindlex]\nServerURL=http://x/\nConsumerKey=k\nCallbackURL=b:c\n[broken]\n");
-    EXPECT_EQ(load("brindlex"), std::pair(kOk, std::string("http://x/")));
+                   "[brindlex]\nServerURL=https://x/\nConsumerKey=k\nCallbackURL=b:c\n[broken]\n");
+    EXPECT_EQ(load("brindlex"), std::pair(kOk, std::string("https://x/")));
     EXPECT_FALSE(report->isComplete());
     EXPECT_THAT(report->missingKeys, ElementsAre("ConsumerSecret"));
 
     m_folder.write("services.ini", "[brindlex]\nServerURL=\xFF\n");
     EXPECT_EQ(load("brindlex"), std::pair(kUnexpected, std::string()));
     EXPECT_EQ(report->result, ConfigurationResult::kUnreadable);
+
+    m_folder.write("services.ini", "[brindlex]\nServerURL=http://x/\nConsumerKey=k\n");
+    EXPECT_EQ(load("brindlex"), std::pair(kUnexpected, std::string())) << "nothing goes there unencrypted";
 }
 
 TEST_F(Configuration, newsComeFromAnAddressOfTheWebOnly) {
@@ -114,15 +117,22 @@ TEST_F(Configuration, wrongAddressesAreTold) {
         const char* callback;
         std::vector<std::string> missing;
         std::vector<std::string> wrong;
+        bool isUnencrypted;
     } cases[] = {
-        {"https://service.example/api", "brindlex://authorize", {}, {}},
-        {"http://127.0.0.1:8080", "brindlex:x", {}, {}},
-        {"", "brindlex:x", {"ServerURL"}, {}},
-        {"", "", {"ServerURL", "CallbackURL"}, {}},
-        {"service.example", "brindlex:x", {}, {"ServerURL"}},
-        {"ftp://service.example", "brindlex:x", {}, {"ServerURL"}},
-        {"https://", "brindlex:x", {}, {"ServerURL"}},
-        {"https://a b/", "authorize", {}, {"ServerURL", "CallbackURL"}},
+        {"https://service.example/api", "brindlex://authorize", {}, {}, false},
+        {"http://127.0.0.1:8080", "brindlex:x", {}, {}, false},
+        {"http://127.8.0.1", "brindlex:x", {}, {}, false},
+        {"http://[::1]:80/a", "brindlex:x", {}, {}, false},
+        {"http://LocalHost", "brindlex:x", {}, {}, false},
+        {"http://service.example", "brindlex:x", {}, {}, true},
+        {"HTTP://localhost.example", "brindlex:x", {}, {}, true},
+        {"http://localhost@service.example", "brindlex:x", {}, {}, true},
+        {"", "brindlex:x", {"ServerURL"}, {}, false},
+        {"", "", {"ServerURL", "CallbackURL"}, {}, false},
+        {"service.example", "brindlex:x", {}, {"ServerURL"}, false},
+        {"ftp://service.example", "brindlex:x", {}, {"ServerURL"}, false},
+        {"https://", "brindlex:x", {}, {"ServerURL"}, false},
+        {"https://a b/", "authorize", {}, {"ServerURL", "CallbackURL"}, false},
     };
     const auto report = std::make_shared<ConfigurationReport>();
     const auto store = make<ConfigurationStore>(report);
@@ -131,9 +141,10 @@ TEST_F(Configuration, wrongAddressesAreTold) {
         m_folder.write("services.ini", "[brindlex]\nConsumerKey=k\nConsumerSecret=s\nServerURL=" +
                                            std::string(one.server) + "\nCallbackURL=" + one.callback + "\n");
         store->load(make<Attributes>().get(), toText("brindlex"), toText("Client"), 0, 1);
-        EXPECT_EQ(report->isComplete(), one.missing.empty() && one.wrong.empty()) << one.server;
         EXPECT_EQ(report->missingKeys, one.missing) << one.server;
         EXPECT_EQ(report->wrongKeys, one.wrong) << one.server;
+        EXPECT_EQ(report->isUnencrypted, one.isUnencrypted) << one.server;
+        EXPECT_EQ(report->isComplete(), one.missing.empty() && one.wrong.empty() && !one.isUnencrypted);
     }
 }
 

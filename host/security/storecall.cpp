@@ -1,0 +1,87 @@
+#include "host/security/storecall.h"
+
+#include <atomic>
+#include <memory>
+#include <thread>
+#include <utility>
+
+namespace xbr::host {
+
+namespace {
+
+thread_local StoreCall* t_current = nullptr;
+
+/// A store that did not answer gets less time, until it answers again: a sign-in asks it more than once.
+std::atomic<bool> g_wasSilent = false;
+constexpr std::chrono::seconds kLessPatience{1};
+
+} // namespace
+
+StoreCall& StoreCall::current() {
+    return *t_current;
+}
+
+void StoreCall::setAsking(bool isAsking) {
+    const std::lock_guard lock(m_mutex);
+    m_isAsking = isAsking;
+}
+
+bool StoreCall::isAsking() {
+    const std::lock_guard lock(m_mutex);
+    return m_isAsking;
+}
+
+void StoreCall::end(StoreResult result) {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_result = result;
+        m_isOver = true;
+    }
+    m_ended.notify_one();
+}
+
+bool StoreCall::isOverWithin(std::chrono::milliseconds time) {
+    std::unique_lock lock(m_mutex);
+    return m_ended.wait_for(lock, time, [this] { return m_isOver; });
+}
+
+/// False when time is up, or the user has given it up.
+bool StoreCall::waitFor(StoreListener* listener) {
+    static constexpr std::chrono::milliseconds kGlance{20};
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point end = Clock::now() + (g_wasSilent ? kLessPatience : kPatience);
+    while (!isOverWithin(kGlance)) {
+        const bool isForUser = isAsking();
+        if (isForUser) {
+            end = Clock::now() + kPatience;
+        }
+        const bool isGivenUp = listener && !listener->storeWaits(isForUser);
+        if (isGivenUp || Clock::now() >= end) {
+            return false;
+        }
+    }
+    return true;
+}
+
+StoreResult StoreCall::run(Operation operation, StoreListener* listener) {
+    static constexpr std::chrono::milliseconds kFarewell{250}; // it may just be done, or close a question
+    const auto call = std::make_shared<StoreCall>();
+    std::thread([call, work = std::move(operation)] {
+        t_current = call.get();
+        call->end(work(*call));
+    }).detach();
+    if (call->waitFor(listener)) {
+        g_wasSilent = call->m_result == StoreResult::kSilent;
+        return call->m_result;
+    }
+    const bool wasAsking = call->isAsking();
+    g_cancellable_cancel(call->m_cancellable);
+    const bool isOver = call->isOverWithin(kFarewell);
+    if (isOver && (call->m_result == StoreResult::kDone || call->m_result == StoreResult::kNothing)) {
+        return call->m_result;
+    }
+    g_wasSilent = !wasAsking;
+    return wasAsking ? StoreResult::kLocked : StoreResult::kSilent;
+}
+
+} // namespace xbr::host
