@@ -55,7 +55,7 @@ class PublishTest(unittest.TestCase):
         events = [json.loads(line) for line in result.stdout_text.splitlines()]
         songs = [event for event in events if event["event"] == "song"]
         self.assertEqual([(song.get("index"), song["title"], song["result"], song.get("cause"), song.get("status")) for song in songs],
-                         [(0, "Café del Último", "published", None, None), (1, "Night Drive", "refused", "refused", 422),
+                         [(0, "Café del Último", "published", None, 201), (1, "Night Drive", "refused", "refused", 422),
                           (2, "Opening", "refused", "too-large", 413), (None, "none.wav", "left-out", "unreadable", None)])
         self.assertEqual(songs[1]["text"], "The service refused “Night Drive” (422): This title already exists")
         self.assertEqual([(event["level"], event["cause"]) for event in events if event["event"] == "problem"],

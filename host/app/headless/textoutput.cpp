@@ -64,7 +64,7 @@ std::vector<std::string> linesOf(const Draft& draft) {
 
 /// Several songs that came to different ends need a line each; otherwise the verdict says it all.
 bool needsList(const RunEnd& end) {
-    return end.songs.size() > 1 &&
+    return end.verdict.songs.size() > 1 &&
            std::any_of(end.songs.begin(), end.songs.end(),
                        [&](const SongResult& song) { return song.sentence != end.songs.front().sentence; });
 }
