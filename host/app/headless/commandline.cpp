@@ -65,6 +65,7 @@ std::vector<SongWish>& songsOf(CommandLine& line) {
 constexpr TextOption kValues[] = {
     {"--module", kModule, [](CommandLine& line) { return &line.module; }, false},
     {"--release", kPublish, [](CommandLine& line) { return &line.releaseFile; }, false},
+    {"--as", kPublish, [](CommandLine& line) { return &line.account; }, false},
     {"--album-title", kPublish, [](CommandLine& line) { return &line.wish.albumTitle; }, true},
     {"--album-artist", kPublish, [](CommandLine& line) { return &line.wish.albumArtist; }, true},
     {"--genre", kPublish, [](CommandLine& line) { return &line.wish.genre; }, true},

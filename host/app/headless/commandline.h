@@ -37,6 +37,7 @@ struct CommandLine {
     bool isAlbum = false;    ///< the wish's mode says it, too
     bool isRecursive = false;
     bool isDryRun = false;
+    std::string account; ///< the only one to send as; empty for any
 };
 
 /// Reads the arguments behind the program's name. The words of a problem are a sentence.

@@ -148,11 +148,14 @@ std::vector<SongResult> resultsOf(const Plan& plan, const ReleaseWish& wish, con
 
 class PublishRun {
 public:
-    PublishRun(ConsoleSession& console, const PublishEntry& entry)
+    /// `account` is the only one to send as; empty for any.
+    PublishRun(ConsoleSession& console, const PublishEntry& entry, const std::string& account)
         : m_console(&console),
           m_entry(entry),
           m_view(console.output(), m_loop),
-          m_publishing(console.session().activity(), console.session().settings(), console.panel(), m_view) {}
+          m_publishing(console.session().activity(), console.session().settings(), console.panel(), m_view) {
+        m_publishing.setAccount(account);
+    }
 
     RunEnd run(ReleaseWish wish, bool isDryRun, bool mayAsk) {
         const std::vector<SongFile> songs = readSongs(wish);
@@ -244,7 +247,7 @@ ExitCode runPublish(const CommandLine& commandLine) {
                          {},
                          {}});
     } else {
-        end = PublishRun(console, entries.front())
+        end = PublishRun(console, entries.front(), commandLine.account)
                   .run(std::move(*wish), commandLine.isDryRun, isConversation(commandLine));
     }
     console.output().finished(end);
