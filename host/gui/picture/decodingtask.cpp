@@ -51,6 +51,12 @@ Result makeImage(DecodeResult decoded, Picture picture, Ref<IImage>& image) {
 }
 
 struct DecodingTask::Work {
+    Work(QByteArray bytes, std::string ending, std::int64_t pixels, DecodingTask* who)
+        : file(std::move(bytes)),
+          extension(std::move(ending)),
+          maximumPixels(pixels),
+          task(who) {}
+
     QByteArray file;
     std::string extension;
     std::int64_t maximumPixels;

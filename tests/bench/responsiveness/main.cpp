@@ -22,6 +22,8 @@ namespace {
 
 constexpr int kPages = 1000;
 constexpr int kSomePages = 40;
+constexpr int kLook = 120;  // milliseconds for a page of news: their pictures come
+constexpr int kGlance = 50; // for a page of a list
 
 QString cell(const QAbstractItemView& list, int row, int column) {
     return list.model()->index(row, column).data().toString();
@@ -59,7 +61,7 @@ void readNews(Person& person, const std::string& cache) {
         [&] { return entries->isVisible() && !entries->findChildren<QWidget*>("FeedEntry").empty(); });
     person.wait(2000); // while pictures come
     person.measure("news are scrolled, " + cache);
-    person.pageDown(*entries, kPages);
+    person.pageDown(*entries, kPages, kLook);
     person.pause();
     person.click("showPublish");
 }
@@ -91,13 +93,13 @@ void workOnSongs(Person& person, const QStringList& files) {
     person.measure(number + " songs are added");
     QAbstractItemView& songs = addSongs(person, files);
     person.measure("their list is scrolled");
-    person.pageDown(songs, kSomePages);
+    person.pageDown(songs, kSomePages, kGlance);
     person.measure(number + " songs are handed over");
     QAbstractItemView& tracks = handOver(person, songs);
     person.find<QStackedWidget>("pages")->setCurrentIndex(1); // nobody is signed in
     person.wait(200);
     person.measure("the panel's list is scrolled");
-    person.pageDown(tracks, kSomePages);
+    person.pageDown(tracks, kSomePages, kGlance);
     tracks.setCurrentIndex(tracks.model()->index(0, 0));
     person.wait(200);
     person.measure("a title is typed");
@@ -141,7 +143,7 @@ void waitForKeyring(Person& person) {
 int play(const std::string& scene, const QString& folder) {
     const QStringList files = filesIn(folder);
     Person person;
-    person.measure("the window is there");
+    person.measure("nobody does anything");
     person.wait(500);
     person.pause();
     if (scene == "empty" || scene == "full") {

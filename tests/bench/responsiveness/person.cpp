@@ -16,7 +16,6 @@ namespace {
 
 constexpr int kBeat = 2;
 constexpr double kNanoseconds = 1e6; // a millisecond
-constexpr int kPage = 50;            // milliseconds from one key to the next
 constexpr int kLongest = 240'000;
 
 /// The most memory that the process had, in MiB.
@@ -100,10 +99,10 @@ void Person::type(const char* name, const QString& text) {
     }
 }
 
-void Person::pageDown(QAbstractScrollArea& area, int times) {
+void Person::pageDown(QAbstractScrollArea& area, int times, int milliseconds) {
     for (int i = 0, atEnd = 0; i < times && atEnd < 20; ++i) {
         QTest::keyClick(&area, Qt::Key_PageDown);
-        wait(kPage);
+        wait(milliseconds);
         const QScrollBar& bar = *area.verticalScrollBar();
         atEnd = bar.value() == bar.maximum() ? atEnd + 1 : 0;
     }

@@ -57,8 +57,8 @@ public:
     void click(const char* name);
     void type(const char* name, const QString& text);
 
-    /// Scrolls with the key until the end is reached, or so many times.
-    void pageDown(QAbstractScrollArea& area, int times);
+    /// Scrolls with the key until the end is reached, or so many times; looks at each page so long.
+    void pageDown(QAbstractScrollArea& area, int times, int milliseconds);
 
     /// Closes the window.
     void leave();

@@ -40,6 +40,9 @@ class News(http.server.ThreadingHTTPServer):
         threading.Thread(target=self.serve_forever, daemon=True).start()
         self.url = "http://127.0.0.1:%d/feed" % self.server_port
 
+    def handle_error(self, *_):
+        pass  # whoever scrolls on hangs up
+
 
 class Visit(http.server.BaseHTTPRequestHandler):
     protocol_version = "HTTP/1.1"
@@ -153,7 +156,11 @@ def main(programs, quick):
     print("| with %d entries, %d songs, albums of %d and %d MiB | deaf for ms | goal | seconds |"
           % (entries, songs, mebibytes, mebibytes // 3))
     print("|---|---:|---:|---:|")
-    for row in {row["what"]: row for row in rows if row["what"] != "the window is there"}.values():
+    worst = {}
+    for row in rows:
+        if row["gap"] > worst.get(row["what"], {"gap": -1})["gap"]:
+            worst[row["what"]] = row
+    for row in worst.values():
         follows_hand = "scrolled" in row["what"] or "typed" in row["what"]
         print("| %s | %.0f | %d | %.1f |"
               % (row["what"], row["gap"], QUICK_GOAL if follows_hand else GOAL, row["seconds"]))
