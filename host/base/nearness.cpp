@@ -60,6 +60,20 @@ std::optional<std::size_t> difference(const QString& typed, const QString& name)
                                              : std::nullopt; // every third may be wrong
 }
 
+constexpr int kLikeness = 4; // degrees
+
+/// How like a name is to a word: it is the name, its beginning, that of one of its words, or anywhere in it.
+int likeness(const std::string& word, const std::string& name) {
+    const auto at = name.find(word);
+    if (at == 0) {
+        return word.size() == name.size() ? 0 : 1;
+    }
+    if (at == std::string::npos) {
+        return kLikeness;
+    }
+    return (" " + name).find(" " + word) != std::string::npos ? 2 : 3;
+}
+
 } // namespace
 
 std::vector<std::string> nearestTo(std::string_view typed, const std::vector<std::string>& names) {
@@ -81,6 +95,21 @@ std::vector<std::string> nearestTo(std::string_view typed, const std::vector<std
 
 std::string foldedText(std::string_view text) {
     return folded(text).toStdString();
+}
+
+std::vector<std::string> namesLike(std::string_view word, const std::vector<std::string>& names) {
+    const std::string wanted = foldedText(word);
+    std::vector<std::string> ranked[kLikeness];
+    for (const std::string& name : names) {
+        if (const int rank = likeness(wanted, foldedText(name)); rank < kLikeness) {
+            ranked[rank].push_back(name);
+        }
+    }
+    std::vector<std::string> found;
+    for (const auto& group : ranked) {
+        found.insert(found.end(), group.begin(), group.end());
+    }
+    return found;
 }
 
 } // namespace xbr::host

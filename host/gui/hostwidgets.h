@@ -5,8 +5,11 @@
 #include "host/gui/picture/image.h" // pixelsOf
 #include "host/gui/skin/palette.h"
 
+#include <QStringList>
+
 #include <functional>
 
+class QLineEdit;
 class QWidget;
 
 /// What a front end with windows uses of this library. Needs a QApplication; main thread. Modules never use
@@ -33,8 +36,27 @@ namespace xbr::host {
 /// opening a dock, say. Without one its window is raised.
 [[gnu::visibility("default")]] void setShowAction(QWidget& viewWidget, std::function<void()> show);
 
-/// Hears of each command that the user performed in a view of this library, once it has come back: modules
-/// do not say that a command came to nothing. An empty function ends it.
-[[gnu::visibility("default")]] void setCommandListener(std::function<void(IParameter& command)> listener);
+/// Hears of each command that the user performs in a view of this library: `comes` before, whose false answer
+/// prevents it, and `performed` once it has come back, as modules do not say that a command came to nothing.
+/// Empty functions end it.
+[[gnu::visibility("default")]] void setCommandListener(std::function<bool(IParameter& command)> comes,
+                                                       std::function<void(IParameter& command)> performed);
+
+/// Hears of a text that the user typed into a field of choices, and that names none of them. An empty
+/// function ends it.
+[[gnu::visibility("default")]] void
+setEntryListener(std::function<void(IParameter& parameter, const QString& text)> listener);
+
+/// Offers names while one is typed into a field: the best match first.
+[[gnu::visibility("default")]] void offerNames(QLineEdit& field, const QStringList& names);
+
+/// Says why the control of a parameter can do nothing, in its tooltip and in the label that the form keeps
+/// for it (`xbrReasonFor`), which calls `show` when it is followed; an empty reason takes it away. Parameters
+/// go by the last part of their paths.
+[[gnu::visibility("default")]] void setReason(QWidget& viewWidget, const QString& parameter,
+                                              const QString& reason, const std::function<void()>& show);
+
+/// The control of a parameter, by the last part of its path; null when there is none.
+[[gnu::visibility("default")]] QWidget* controlOf(const QWidget& viewWidget, const QString& parameter);
 
 } // namespace xbr::host

@@ -127,6 +127,8 @@ TEST_F(WindowTest, everythingCanBeDoneFromTheMenusWithKeys) {
     songList().setFocus();
     QTest::keyClick(&window(), Qt::Key_F6);
     EXPECT_TRUE(window().docks().front()->isAncestorOf(QApplication::focusWidget()));
+    QTest::keyClick(&window(), Qt::Key_F6); // the bar says how many songs were added
+    EXPECT_TRUE(find(window(), "statusLine")->isAncestorOf(QApplication::focusWidget()));
     QTest::keyClick(&window(), Qt::Key_F6);
     EXPECT_EQ(QApplication::focusWidget(), &songList());
     QTest::keyClick(&songList(), Qt::Key_A, Qt::ControlModifier);

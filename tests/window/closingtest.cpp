@@ -5,34 +5,12 @@
 #include "tests/window/fixture.h"
 
 #include <QCloseEvent>
-#include <QMessageBox>
 #include <QTest>
 
 #include <filesystem>
 #include <fstream>
 
 namespace xbr::host::tests {
-
-namespace {
-
-/// Presses a button of the message box that comes up.
-std::unique_ptr<QTimer> answer(const QString& button) {
-    return whenever([button] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box) {
-            return false;
-        }
-        for (QAbstractButton* each : box->buttons()) {
-            if (each->text().remove('&') == button) {
-                QTest::mouseClick(each, Qt::LeftButton);
-                return true;
-            }
-        }
-        return false;
-    });
-}
-
-} // namespace
 
 TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
     openReady(stage.songs());
@@ -46,8 +24,10 @@ TEST_F(WindowTest, closingWhileAnUploadRunsAsksFirst) {
     EXPECT_TRUE(window().isVisible());
     ASSERT_TRUE(waitFor([&] { return states() == "Done|Done|Done"; })) << states();
 
+    const auto replacing = answer("Replace");
     click(window(), "publish");
     makeAlbum();
+    const auto again = answer("Publish Again");
     click(window(), "upload");
     ASSERT_TRUE(statusSays("Waiting for the service"));
     const auto stopping = answer("Stop and Quit");

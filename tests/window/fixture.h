@@ -13,6 +13,8 @@ namespace xbr::host::tests {
 /// A test that plays on a stage.
 class WindowTest : public testing::Test {
 protected:
+    explicit WindowTest(int seconds = 1) : stage(seconds) {}
+
     MainWindow& window() { return stage.window(); }
     QAbstractItemView& songList() { return *window().findChild<SongView*>(); }
     QAbstractItemView& trackList() { return *window().findChild<QAbstractItemView*>("tracks"); }

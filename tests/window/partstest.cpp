@@ -35,7 +35,7 @@ TEST(SongTexts, lengthsAndFormatsAreForPeople) {
     EXPECT_EQ(formatText({}).toStdString(), "");
 }
 
-TEST(SongList, filesComeOnceStayInOrderAndAreEditedWithinBounds) {
+TEST(SongModel, filesComeOnceStayInOrderAndAreEditedWithinBounds) {
     SongListModel songs;
     EXPECT_EQ(songs.addFiles({"/a.wav", "/b.wav", "/a.wav"}).size(), 2U);
     EXPECT_EQ(songs.addFiles({"/b.wav", "/c.wav"}).size(), 1U);
@@ -56,8 +56,7 @@ TEST(SongList, filesComeOnceStayInOrderAndAreEditedWithinBounds) {
     EXPECT_EQ(songs.song(1).number, 9999);
     EXPECT_FALSE(songs.setData(songs.index(1, SongListModel::kLength), 3, Qt::EditRole));
 
-    EXPECT_TRUE(songs.moveSong(1, -1));
-    EXPECT_FALSE(songs.moveSong(0, -1));
+    EXPECT_EQ(songs.moveSongs({1}, 0), 0);
     EXPECT_EQ(songs.song(0).path, "/b.wav");
     EXPECT_TRUE(songs.removeRows(0, 2));
     EXPECT_EQ(songs.song(0).path, "/c.wav");
@@ -149,14 +148,15 @@ TEST_F(WindowTest, aProgressIndicatorBlocksTheWindowAndCanBeCancelled) {
     indicator->end();
 }
 
-TEST(Status, goodNewsDoNotHideAWarning) {
+TEST(Status, goodNewsDoNotHideAWarningAndWhatRunsOnlyCoversIt) {
     StatusLine line(nullptr);
     const struct {
         Notice notice;
         const char* shown;
     } steps[] = {{{NoticeKind::kDone, "good"}, "good"},    {{NoticeKind::kWarning, "careful"}, "careful"},
                  {{NoticeKind::kDone, "good"}, "careful"}, {{NoticeKind::kError, "worse"}, "worse"},
-                 {{NoticeKind::kBusy, "anew"}, "anew"},    {{NoticeKind::kDone, "good"}, "good"}};
+                 {{NoticeKind::kBusy, "runs"}, "runs"},    {{NoticeKind::kDone, "good"}, "worse"},
+                 {{NoticeKind::kInfo, "asked"}, "asked"}};
     for (const auto& step : steps) {
         line.showNotice(step.notice);
         EXPECT_EQ(line.notice().text, step.shown);

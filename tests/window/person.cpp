@@ -1,10 +1,14 @@
 #include "tests/window/person.h"
 
+#include "tests/window/stage.h"
+
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QTest>
 #include <QUrl>
@@ -84,6 +88,22 @@ bool choose(QWidget& window, const QString& text) {
         }
     }
     return false;
+}
+
+std::unique_ptr<QTimer> answer(const QString& button) {
+    return whenever([button] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) {
+            return false;
+        }
+        for (QAbstractButton* each : box->buttons()) {
+            if (each->text().remove('&') == button) {
+                QTest::mouseClick(each, Qt::LeftButton);
+                return true;
+            }
+        }
+        return false;
+    });
 }
 
 } // namespace xbr::host::tests

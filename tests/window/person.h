@@ -2,8 +2,10 @@
 
 #include <QAbstractItemView>
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -36,5 +38,8 @@ std::string cell(const QAbstractItemView& list, int row, int column);
 /// Performs an entry of the window's menus by its text (without mnemonics); false when it is disabled or
 /// missing.
 bool choose(QWidget& window, const QString& text);
+
+/// Presses a button of the question that comes up, whatever event loop runs then.
+[[nodiscard]] std::unique_ptr<QTimer> answer(const QString& button);
 
 } // namespace xbr::host::tests

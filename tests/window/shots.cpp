@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 
 /// Writes pictures of the window in its main states.
@@ -42,10 +43,13 @@ public:
             {"preparing", &Shots::preparing},   {"uploading", &Shots::uploading},
             {"missing", &Shots::missing},       {"done", &Shots::done},
             {"about", &Shots::about},           {"news", &Shots::news},
+            {"stopped", &Shots::stopped},       {"partly", &Shots::partly},
+            {"several", &Shots::several},       {"restored", &Shots::restored},
+            {"genre", &Shots::genre},           {"question", &Shots::question},
         };
         for (const auto& [name, shoot] : kStates) {
             if (state == name) {
-                m_stage = std::make_unique<Stage>(state == "uploading" ? 90 : 3);
+                m_stage = std::make_unique<Stage>(state == "uploading" || state == "stopped" ? 90 : 3);
                 m_state = name;
                 (this->*shoot)();
                 m_stage.reset();
@@ -68,8 +72,10 @@ private:
         }
         window().resize(kSize);
         auto* songs = window().findChild<SongView*>();
-        waitFor(
-            [&] { return files.empty() || cell(*songs, static_cast<int>(files.size()) - 1, 7).size() > 10; });
+        waitFor([&] {
+            return files.empty() ||
+                   cell(*songs, static_cast<int>(files.size()) - 1, SongListModel::kFormat).size() > 10;
+        });
     }
 
     void publish() {
@@ -187,20 +193,84 @@ private:
     }
 
     /// The first song is published, the second one on its way.
-    void uploading() {
-        for (const char* fault : {R"("delay_ms":1)", R"("read_rate":2000000)"}) {
-            m_stage->service().addFault(std::string(R"({"path":"/api/frontstage/release_ingestion",)") +
-                                        fault + "}");
-        }
+    /// Until the service has stopped reading the longest song for some seconds.
+    void sendAndStall() {
+        m_stage->service().addFault(
+            R"({"path":"/api/frontstage/release_ingestion","stall_after":2500000,"stall_ms":60000,"times":3})");
         openReady(false);
         click(window(), "upload");
-        const auto* tracks = findAs<QAbstractItemView>(window(), "tracks");
-        waitFor([tracks] {
-            static constexpr int kFarEnough = 40; // percent
-            const std::string state = cell(*tracks, 1, 2);
-            return !state.empty() && state.back() == '%' && std::stoi(state) > kFarEnough;
+        waitFor([this] {
+            const auto* details = window().findChild<QLabel*>("sendingDetails");
+            return details->isVisible() && details->text().count(QString::fromUtf8("·")) == 2;
         });
+    }
+
+    void uploading() {
+        sendAndStall();
         save();
+        click(window(), "stop");
+    }
+
+    void stopped() {
+        sendAndStall();
+        click(window(), "stop");
+        waitFor([this] { return window().findChild<StatusLine*>()->notice().kind == NoticeKind::kInfo; });
+        save();
+    }
+
+    void partly() {
+        m_stage->service().addFault(
+            R"({"path":"/api/frontstage/release_ingestion","status":422,"body":{"errors":"This title already exists"},"times":1})");
+        openReady(false);
+        click(window(), "upload");
+        waitFor([this] { return window().findChild<StatusLine*>()->notice().kind == NoticeKind::kWarning; });
+        click(window(), "unfold");
+        save();
+    }
+
+    void several() {
+        openReady(true);
+        select({0, 1, 2});
+        type(window(), "songArtist", "The Lamps");
+        QTest::qWait(100);
+        save();
+    }
+
+    void restored() {
+        open(songs());
+        window().close();
+        m_stage->close();
+        std::filesystem::rename(m_stage->songs().front(), m_stage->songs().front() + ".away");
+        open({});
+        waitFor([this] { return m_stage->status().find("last time") != std::string::npos; }, 2000);
+        QTest::qWait(500);
+        save();
+    }
+
+    void genre() {
+        open(songs());
+        auto* list = window().findChild<SongView*>();
+        list->model()->setData(list->model()->index(1, SongListModel::kGenre), "Tekno");
+        click(window(), "publish");
+        save();
+    }
+
+    void question() {
+        auto files = songs();
+        files.push_back(m_stage->untaggedSong("Demo take 4.wav"));
+        open(files);
+        publish();
+        connectPanel();
+        click(window(), "singles");
+        const auto act = whenever([this] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog) {
+                save();
+                dialog->reject();
+            }
+            return dialog != nullptr;
+        });
+        click(window(), "upload");
     }
 
     void missing() {

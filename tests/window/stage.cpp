@@ -29,6 +29,7 @@ Stage::Stage(int seconds) : m_service(std::make_unique<RunningService>()) {
     const std::pair<const char*, const char*> folders[] = {{"HOME", "home"},
                                                            {"XDG_CONFIG_HOME", "home/config"},
                                                            {"XDG_CACHE_HOME", "home/cache"},
+                                                           {"XDG_DATA_HOME", "home/data"},
                                                            {"XDG_RUNTIME_DIR", "run"},
                                                            {"TMPDIR", "tmp"}};
     for (const auto& [variable, name] : folders) {
@@ -123,6 +124,11 @@ WindowFront& Stage::open(const std::vector<std::string>& files, const std::strin
 void Stage::activate() {
     window().activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+}
+
+void Stage::forget() const {
+    fs::remove(path("home/config/xbrhost/songs.json"));
+    fs::remove(path("home/data/xbrhost/published.json"));
 }
 
 std::string Stage::status() {

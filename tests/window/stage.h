@@ -59,6 +59,9 @@ public:
     /// Takes the window down, as the end of the program does.
     void close() { m_host.reset(); }
 
+    /// The list and what was published are forgotten, as on another computer.
+    void forget() const;
+
     /// What the status line says.
     std::string status();
 

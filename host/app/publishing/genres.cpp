@@ -23,20 +23,6 @@ std::string nameOfNumber(int number) {
     return number < 0 ? std::string() : TagLib::ID3v1::genre(number).to8Bit(true);
 }
 
-constexpr int kLikeness = 4; // degrees
-
-/// How like a name is to a word: it is the name, its beginning, that of one of its words, or anywhere in it.
-int likeness(const std::string& word, const std::string& name) {
-    const auto at = name.find(word);
-    if (at == 0) {
-        return word.size() == name.size() ? 0 : 1;
-    }
-    if (at == std::string::npos) {
-        return kLikeness;
-    }
-    return (" " + name).find(" " + word) != std::string::npos ? 2 : 3;
-}
-
 } // namespace
 
 std::optional<std::string> Genres::find(std::string_view genre) const {
@@ -66,18 +52,7 @@ std::vector<std::string> Genres::near(std::string_view genre) const {
 }
 
 std::vector<std::string> Genres::like(std::string_view word) const {
-    const std::string wanted = foldedText(word);
-    std::vector<std::string> ranked[kLikeness];
-    for (const std::string& name : m_names) {
-        if (const int rank = likeness(wanted, foldedText(name)); rank < kLikeness) {
-            ranked[rank].push_back(name);
-        }
-    }
-    std::vector<std::string> names;
-    for (const auto& group : ranked) {
-        names.insert(names.end(), group.begin(), group.end());
-    }
-    return names;
+    return namesLike(word, m_names);
 }
 
 } // namespace xbr::host

@@ -1,20 +1,10 @@
 #pragma once
 
-#include <QMetaType>
-#include <QString>
+#include <cstdint>
 
 namespace xbr::host {
 
-enum class NoticeKind { kNone, kInfo, kBusy, kDone, kWarning, kError };
-
-/// One line that the user should read.
-struct Notice {
-    NoticeKind kind = NoticeKind::kNone;
-    QString text;
-
-    bool operator==(const Notice&) const = default;
-};
+/// What kind of line the user reads.
+enum class NoticeKind : std::uint8_t { kNone, kInfo, kBusy, kDone, kWarning, kError };
 
 } // namespace xbr::host
-
-Q_DECLARE_METATYPE(xbr::host::Notice)

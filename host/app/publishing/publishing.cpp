@@ -53,7 +53,20 @@ void Publishing::judgeUpload(UploadFacts facts) {
         nameServer(track.problem);
     }
     m_isStopped = false; // it is told with the facts
-    end(judge(facts));
+    const Verdict verdict = judge(facts);
+    remember(verdict, facts);
+    end(verdict);
+}
+
+/// What the service took in this upload goes into the history.
+void Publishing::remember(const Verdict& verdict, const UploadFacts& facts) {
+    std::vector<std::string> taken;
+    for (std::size_t i = 0; i < verdict.songs.size(); ++i) {
+        if (verdict.songs[i].cause == Cause::kPublished && facts.tracks[i].isNew) {
+            taken.push_back(facts.tracks[i].source);
+        }
+    }
+    m_history.add(taken, m_panel->text("userName"));
 }
 
 Plan Publishing::plan(const PublishEntry& entry, const ReleaseWish& wish,

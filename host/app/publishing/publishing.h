@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/app/publishing/history.h"
 #include "host/app/publishing/notice.h"
 #include "host/app/publishing/signin.h"
 #include "host/app/publishing/upload/follow.h"
@@ -101,12 +102,16 @@ public:
     /// The tracks of the panel, by the user's files.
     std::vector<TrackReport> tracks() { return m_follow.tracks(); }
 
+    /// What was published from this computer.
+    const History& history() const { return m_history; }
+
     /// True while songs are handed over, prepared or on their way.
     bool isBusy();
 
 private:
     void begin();
     void judgeUpload(UploadFacts facts);
+    void remember(const Verdict& verdict, const UploadFacts& facts);
     void upload();
     template <class Call>
     bool doInPanel(const Call& call);
@@ -126,6 +131,7 @@ private:
     std::string m_wantedAccount;
     bool m_isEnded = true; ///< of what `publish` or `signIn` began
     int m_calls = 0;       ///< calls into the module that may run the event loop
+    History m_history;
     Follow m_follow;
     SignIn m_signIn;
     QTimer m_start;

@@ -166,7 +166,7 @@ std::string wordsOfMissing(const Sent& sent) {
 }
 
 SongVerdict songVerdict(const TrackFact& track, Cause cause, std::string sentence) {
-    return {cause, track.label, track.source, std::move(sentence), track.status, track.sent};
+    return {cause, track.label, track.source, std::move(sentence), track.status, track.sent, track.missing};
 }
 
 std::string wordsOfWaiting(const Sent& sent) {

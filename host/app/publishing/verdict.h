@@ -64,6 +64,7 @@ struct TrackFact {
 
     // The request that carried it
     bool wasSent = false;
+    bool isNew = false;     ///< it was sent in this upload
     std::int64_t sent = 0;  ///< bytes that left
     std::int64_t total = 0; ///< bytes of the body
     int status = 0;         ///< 0: no answer came
@@ -93,6 +94,7 @@ struct SongVerdict {
     std::string sentence;
     int status = 0;        ///< of the service's answer; 0 when none came
     std::int64_t sent = 0; ///< bytes; in an album each song's are the album's
+    std::vector<Detail> missing{}; ///< what its editor shows empty
 };
 
 /// What to tell the user, and how the program ends.

@@ -16,7 +16,7 @@ LUPDATE = "/usr/lib/qt6/bin/lupdate"
 
 def main():
     folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else HERE
-    rooms = [HERE.parent / room for room in ("window", "publishing", "headless")]
+    rooms = [HERE.parent / room for room in ("window", "publishing", "headless")] + [ROOT / "host" / "gui"]
     sources = [str(path) for room in rooms for suffix in ("h", "cpp") for path in sorted(room.rglob("*." + suffix))]
     for path in sorted(folder.glob("*.ts")):
         plurals = ["-pluralonly"] if path.stem == "en" else []

@@ -55,6 +55,13 @@ bool bindStyle(QWidget& widget, std::unique_ptr<ValueSource> source, const std::
 /// A list for a list model.
 bool bindList(QWidget& widget, IController& scope, const std::string& path);
 
+/// Three ways in which an editor beside a list model says what it works on: fields that are disabled while an
+/// edited row may not be changed; a line that tells so, or that several rows are edited; and a mark for a
+/// property ("path:property") in which these differ.
+bool bindLock(QWidget& widget, IController& scope, const std::string& path);
+bool bindEditorHeader(QWidget& widget, IController& scope, const std::string& path);
+bool bindDifference(QWidget& widget, IController& scope, const std::string& path);
+
 /// The picture of an image source, instead of a label's text.
 bool bindImage(QWidget& widget, IController& scope, const std::string& path);
 

@@ -1,10 +1,13 @@
 #include "framework/support/objects/text.h"
+#include "host/base/nearness.h"
 #include "host/gui/bind/bindings.h"
 #include "host/gui/bind/controlbinding.h"
 
 #include <QComboBox>
 #include <QCompleter>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QStringListModel>
 
 namespace xbr::host {
 
@@ -28,17 +31,27 @@ public:
 private:
     void findByTyping() {
         m_box->setInsertPolicy(QComboBox::NoInsert);
-        auto* completer = new QCompleter(m_box->model(), m_box);
-        completer->setCaseSensitivity(Qt::CaseInsensitive);
-        completer->setFilterMode(Qt::MatchContains);
-        completer->setCompletionMode(QCompleter::PopupCompletion);
-        m_box->setCompleter(completer);
+        m_box->setCompleter(nullptr);
         QLineEdit* edit = m_box->lineEdit();
+        QCompleter* completer = completeNames(*edit, [this] { return m_choices; });
+        connect(completer, qOverload<const QString&>(&QCompleter::activated), this,
+                [this](const QString& text) { takeEntry(text); });
+        edit->installEventFilter(this);
+        m_edit = edit;
         edit->setPlaceholderText(m_box->placeholderText());
         nameField(*m_box, *edit);
         connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) { takeEntry(text); });
         connect(edit, &QLineEdit::returnPressed, this, [this] { take(Match::kFirst); });
         connect(edit, &QLineEdit::editingFinished, this, [this] { take(Match::kOnly); });
+    }
+
+    /// Tab takes what is typed before it looks where it leads: that may be what the entry enables.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == m_edit && event->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab) {
+            take(Match::kOnly);
+        }
+        return watched == m_edit ? false : ParameterBinding::eventFilter(watched, event);
     }
 
     /// A whole entry counts as soon as it is typed: who leaves by a key or a button that takes no focus has
@@ -75,8 +88,11 @@ private:
         const int index = text == shown(m_box->itemText(current())) ? current() : find(text, match);
         if (index != current()) {
             set(integerValue(index));
-        } else {
-            show();
+            return;
+        }
+        show();
+        if (!text.isEmpty() && text.compare(shown(m_box->itemText(index)), Qt::CaseInsensitive) != 0) {
+            refuseEntry(parameter(), text);
         }
     }
 
@@ -133,10 +149,32 @@ private:
     }
 
     QComboBox* m_box;
+    QObject* m_edit = nullptr; ///< the editor; only compared, as it may outlive the box
     QStringList m_choices;
 };
 
 } // namespace
+
+QCompleter* completeNames(QLineEdit& field, const std::function<QStringList()>& names) {
+    auto* completer = new QCompleter(&field);
+    auto* model = new QStringListModel(completer);
+    completer->setModel(model);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    QObject::connect(&field, &QLineEdit::textEdited, model, [model, names](const QString& text) {
+        std::vector<std::string> all;
+        for (const QString& name : names()) {
+            all.push_back(name.toStdString());
+        }
+        QStringList found;
+        for (const std::string& name : namesLike(text.toStdString(), all)) {
+            found.append(QString::fromStdString(name));
+        }
+        model->setStringList(text.trimmed().isEmpty() ? QStringList() : found);
+    });
+    field.setCompleter(completer);
+    return completer;
+}
 
 bool bindChoice(QWidget& widget, std::unique_ptr<ValueSource> source) {
     auto* box = qobject_cast<QComboBox*>(&widget);

@@ -119,7 +119,22 @@ CommandListener& commandListener() {
     return listener;
 }
 
+EntryListener& entryListener() {
+    static EntryListener listener;
+    return listener;
+}
+
 } // namespace
+
+void hearEntries(EntryListener listener) {
+    entryListener() = std::move(listener);
+}
+
+void refuseEntry(IParameter& parameter, const QString& text) {
+    if (const auto hears = entryListener()) {
+        hears(parameter, text);
+    }
+}
 
 void hearCommands(CommandListener listener) {
     commandListener() = std::move(listener);
@@ -139,12 +154,16 @@ void ParameterBinding::set(const Value& value) {
     // The module may do anything now, closing the panel included.
     const QPointer<ParameterBinding> self(this);
     const auto kept = Ref<IParameter>::share(&parameter());
+    const auto hears = kept->kind() == ParameterKind::kCommand ? commandListener() : CommandListener();
+    if (hears.comes && !hears.comes(*kept)) {
+        return;
+    }
     kept->setValue(value);
     if (self) {
         refresh();
     }
-    if (const auto hears = commandListener(); hears && kept->kind() == ParameterKind::kCommand) {
-        hears(*kept);
+    if (hears.performed) {
+        hears.performed(*kept);
     }
 }
 

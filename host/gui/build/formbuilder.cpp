@@ -101,6 +101,9 @@ constexpr ScopeBinding kObjects[] = {
     {"xbrListModel", bindList},
     {"xbrImage", bindImage},
     {"xbrCommand", bindCommand},
+    {"xbrLockedBy", bindLock},
+    {"xbrEditorHeader", bindEditorHeader},
+    {"xbrDifference", bindDifference},
 };
 
 /// Ways that put a condition on it.

@@ -133,6 +133,7 @@ void Follow::beginUpload() {
     m_isCancelled = false;
     m_hasNoRoom = false;
     m_sizes.clear();
+    ++m_upload;
     m_finished = 0;
     for (const TrackReport& track : m_follower.reports()) {
         if (track.state == TrackState::kNone) {
@@ -227,7 +228,7 @@ void Follow::exchangeEnded(const Exchange& exchange) {
     m_finished += exchange.sent;
     m_request = {};
     for (const std::string& file : std::exchange(m_travelling, {})) {
-        m_carried[file] = exchange;
+        m_carried[file] = {exchange, m_upload};
     }
     lookLater();
 }
@@ -387,12 +388,14 @@ TrackFact Follow::factOf(const TrackReport& report) const {
     const auto carried = m_carried.find(report.file);
     fact.wasSent = carried != m_carried.end();
     if (fact.wasSent) {
-        fact.sent = carried->second.sent;
-        fact.total = carried->second.size;
-        fact.status = carried->second.status;
-        fact.said = carried->second.said;
-        fact.wait = carried->second.wait;
-        fact.problem = carried->second.problem;
+        const Exchange& exchange = carried->second.exchange;
+        fact.sent = exchange.sent;
+        fact.total = exchange.size;
+        fact.status = exchange.status;
+        fact.said = exchange.said;
+        fact.wait = exchange.wait;
+        fact.problem = exchange.problem;
+        fact.isNew = carried->second.upload == m_upload;
     }
     return fact;
 }

@@ -57,6 +57,12 @@ public:
 private:
     enum class Phase : std::uint8_t { kIdle, kPreparing, kSending };
 
+    /// The request that carried a track last.
+    struct Carried {
+        Exchange exchange;
+        int upload = 0; ///< in which it was
+    };
+
     void began(Activity::Kind kind) override;
     void ended(Activity::Kind kind, bool isCancelled) override;
     void exchangeBegan(const Exchange& exchange) override;
@@ -94,9 +100,10 @@ private:
     std::vector<HandedSong> m_songs;
     std::vector<Problem> m_files;
     std::vector<Finding> m_findings;
-    std::map<std::string, Exchange> m_carried;   ///< what carried a track last, by the URL of its file
+    std::map<std::string, Carried> m_carried;    ///< by the URL of the track's file
     std::vector<std::string> m_travelling;       ///< URLs of the tracks on their way
     std::map<std::string, std::int64_t> m_sizes; ///< of files, by URL, while an upload runs
+    int m_upload = 0;                            ///< counts the uploads
     Pace m_pace;
     Amount m_request;            ///< on its way; no total when there is none
     std::int64_t m_finished = 0; ///< bytes of the upload's requests that have ended

@@ -10,7 +10,7 @@ namespace xbr::host {
 
 namespace {
 
-constexpr int kLayoutVersion = 1; ///< of the docks and columns; older layouts are forgotten
+constexpr int kLayoutVersion = 2; ///< of the docks and columns; older layouts are forgotten
 
 struct ChoiceName {
     AppearanceChoice choice;

@@ -1,9 +1,13 @@
 #include "host/app/window/frame/mainwindow.h"
 
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
 #include "host/app/publishing/words.h"
 #include "host/app/window/dialogs/fileselector.h"
+#include "host/app/window/dialogs/question.h"
 #include "host/app/window/dialogs/viewdialog.h"
+#include "host/app/window/frame/handover.h"
 #include "host/app/window/frame/header.h"
 #include "host/app/window/frame/statusline.h"
 #include "host/app/window/look/icon.h"
@@ -17,9 +21,9 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -31,14 +35,16 @@ namespace {
 
 constexpr QSize kFirstSize(1440, 840);
 constexpr int kPanelWidth = 500;
+constexpr double kShareOfScreen = 0.95; ///< the frame needs some
 
 } // namespace
 
 MainWindow::MainWindow(DialogPlace& place)
     : m_place(&place),
+      m_notification(*this),
       m_appearance(this),
-      m_reader(this),
       m_view(new SongView(m_songs, this)),
+      m_commands(m_songs, *m_view, this),
       m_empty(new EmptyState(this)),
       m_area(new QStackedWidget(this)),
       m_header(new Header(m_songs, this)),
@@ -55,11 +61,22 @@ MainWindow::MainWindow(DialogPlace& place)
     connect(&m_appearance, &AppearanceSetting::applied, this, &MainWindow::applyAppearance);
     applyAppearance();
     updateActions();
-    setCommandListener([this](IParameter& command) { commandPerformed(command); });
+    setEntryListener([this](IParameter& parameter, const QString& text) { refuseEntry(parameter, text); });
+    setCommandListener(
+        [this](IParameter& command) {
+            PanelNotices* panel = ownerOf(command, "upload");
+            return !panel || panel->uploadComes();
+        },
+        [this](IParameter& command) {
+            if (PanelNotices* panel = ownerOf(command, "upload")) {
+                panel->publishing().uploadAsked(); // one that finds nothing to send is a word worth
+            }
+        });
 }
 
 MainWindow::~MainWindow() {
-    setCommandListener({});
+    setCommandListener({}, {});
+    setEntryListener({});
     closePanels();
 }
 
@@ -68,7 +85,8 @@ void MainWindow::build() {
     setWindowIcon(QIcon(":/xbrhost/icons/app.svg"));
     setDockOptions(AnimatedDocks | AllowTabbedDocks);
     setDocumentMode(true);
-    resize(kFirstSize);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    resize(screen ? kFirstSize.boundedTo(screen->availableSize() * kShareOfScreen) : kFirstSize);
     m_area->addWidget(m_empty);
     m_area->addWidget(m_view);
     auto* center = new QWidget(this);
@@ -87,12 +105,30 @@ void MainWindow::connectActions() {
     connect(m_actions->add, &QAction::triggered, this, &MainWindow::askForSongs);
     connect(&m_empty->button(), &QPushButton::clicked, this, &MainWindow::askForSongs);
     connect(m_actions->edit, &QAction::triggered, m_view, &SongView::editCurrent);
-    connect(m_actions->remove, &QAction::triggered, m_view, &SongView::removeSelected);
-    connect(m_actions->up, &QAction::triggered, this, [this] { m_view->moveCurrent(-1); });
-    connect(m_actions->down, &QAction::triggered, this, [this] { m_view->moveCurrent(1); });
+    connect(m_actions->remove, &QAction::triggered, &m_commands, &SongCommands::removeSelected);
+    connect(m_actions->up, &QAction::triggered, this, [this] { m_commands.moveSelected(-1); });
+    connect(m_actions->down, &QAction::triggered, this, [this] { m_commands.moveSelected(1); });
+    connect(m_actions->nextProblem, &QAction::triggered, this, [this] { m_commands.showProblem(1); });
+    connect(m_actions->previousProblem, &QAction::triggered, this, [this] { m_commands.showProblem(-1); });
+    connect(&m_commands, &SongCommands::changed, this, &MainWindow::noteChange);
+    connect(&m_commands, &SongCommands::noticed, this, &MainWindow::showNotice);
+    connect(&m_commands, &SongCommands::settled, m_status, &StatusLine::clear);
     connect(m_actions->quit, &QAction::triggered, this, &QWidget::close);
     connect(m_actions->nextArea, &QAction::triggered, this, &MainWindow::focusNextArea);
     connect(m_actions->resetLayout, &QAction::triggered, this, &MainWindow::resetLayout);
+    connect(m_actions->stop, &QAction::triggered, this, &MainWindow::stop);
+    connect(m_status, &StatusLine::stopAsked, this, &MainWindow::stop);
+    connect(m_actions->tryAgain, &QAction::triggered, this, [this] {
+        if (PanelNotices* panel = panelToTryAgain()) {
+            panel->tryAgain();
+        }
+    });
+    connect(m_actions->undo, &QAction::triggered, this, [this] { m_changes.undo(); });
+    connect(m_actions->redo, &QAction::triggered, this, [this] { m_changes.redo(); });
+    connect(&m_changes, &Changes::moved, this, [this] {
+        m_actions->undo->setEnabled(m_changes.canUndo());
+        m_actions->redo->setEnabled(m_changes.canRedo());
+    });
     connect(m_actions->about, &QAction::triggered, this, [this] {
         auto* about = new AboutDialog(m_versions, this);
         about->setAttribute(Qt::WA_DeleteOnClose);
@@ -102,7 +138,6 @@ void MainWindow::connectActions() {
     const auto* onEmpty = new FileDrop(*m_empty, *m_empty);
     connect(onView, &FileDrop::filesDropped, this, &MainWindow::addSongs);
     connect(onEmpty, &FileDrop::filesDropped, this, &MainWindow::addSongs);
-    connect(&m_reader, &SongReader::songRead, this, [this](const Song& song) { m_songs.setSong(song); });
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::updateActions);
     connect(&m_songs, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateActions);
@@ -119,16 +154,18 @@ void MainWindow::updateActions() {
     for (QAction* action : {m_actions->edit, m_actions->remove, m_actions->up, m_actions->down}) {
         action->setEnabled(m_view->hasSelection());
     }
-    for (QAction* action : m_actions->publishMenu->actions()) {
+    for (QAction* action : m_publishEntries) {
         action->setEnabled(hasSongs);
     }
+    m_actions->stop->setEnabled(isUploading());
+    m_actions->tryAgain->setEnabled(panelToTryAgain() != nullptr);
 }
 
 void MainWindow::addSongs(const std::vector<std::string>& paths) {
-    if (m_place->session.activity().isWorking()) {
-        return; // a drop from another program is no input that a sheet can block
+    if (!m_place->session.activity()
+             .isWorking()) { // a drop from another program is no input that a sheet blocks
+        m_commands.addSongs(paths);
     }
-    m_reader.read(m_songs.addFiles(paths));
 }
 
 void MainWindow::askForSongs() {
@@ -153,11 +190,12 @@ void MainWindow::showModules(std::vector<VersionLine> versions) {
         ++number;
         action->setShortcut(number == 1 ? QKeySequence(Qt::CTRL | Qt::Key_U)
                                         : QKeySequence(QString("Ctrl+Alt+%1").arg(number)));
-        action->setToolTip(tr("Publish the selected songs, or all"));
+        action->setToolTip(tr("Hands the selected songs, or all, over to the panel; nothing is sent yet"));
         connect(action, &QAction::triggered, this, [this, entry] { publish(entry); });
-        m_actions->publishMenu->addAction(action);
+        m_publishEntries.append(action);
     }
-    m_header->setPublishEntries(m_actions->publishMenu->actions());
+    m_actions->publishMenu->insertActions(m_actions->publishMenu->actions().front(), m_publishEntries);
+    m_header->setPublishEntries(m_publishEntries);
     number = 0;
     // A dialog hides the status line; its form shows what the module knows, which may be nothing.
     const auto tellInDialog = [this](const QString& text) {
@@ -166,7 +204,7 @@ void MainWindow::showModules(std::vector<VersionLine> versions) {
         }
     };
     for (const GadgetClass& gadget : findGadgets()) {
-        auto* dock = new GadgetDock(gadget, m_place->session, tellInDialog, this);
+        auto* dock = new GadgetDock(gadget, *m_place, tellInDialog, this);
         m_docks.push_back(dock);
         addDockWidget(Qt::RightDockWidgetArea, dock);
         connectDock(*dock, ++number);
@@ -188,18 +226,29 @@ void MainWindow::connectDock(GadgetDock& dock, int number) {
             dock.bringToFront();
         }
     });
-    if (dock.notices()) {
-        connect(dock.notices(), &PanelNotices::noticed, this, &MainWindow::showNotice);
+    if (PanelNotices* panel = dock.notices()) {
+        connect(panel, &PanelNotices::noticed, this, &MainWindow::showNotice);
+        connect(panel, &PanelNotices::progressed, m_status, &StatusLine::showProgress);
+        connect(panel, &PanelNotices::began, m_status, &StatusLine::clear);
+        connect(panel, &PanelNotices::touched, this, &MainWindow::updateActions);
+        connect(panel, &PanelNotices::uploadEnded, this, &MainWindow::tellDesktop);
+        connect(&panel->memory(), &PanelMemory::changed, this, &MainWindow::noteChange);
     }
     const QStringList genres = dock.genres();
     if (!genres.isEmpty()) {
         m_view->setGenres(genres);
+        m_songs.setGenres(genres);
+    }
+    if (dock.notices()) {
+        m_songs.setPublished([panel = QPointer(dock.notices())](const Song& song) {
+            return panel ? panel->wordsOfPublication(song.fingerprint) : QString();
+        });
     }
 }
 
 void MainWindow::closePanels() {
-    m_actions->publishMenu->clear();
     m_header->setPublishEntries({});
+    qDeleteAll(std::exchange(m_publishEntries, {}));
     const auto docks = std::exchange(m_docks, {});
     for (const GadgetDock* dock : docks) {
         delete dock;
@@ -221,97 +270,90 @@ void MainWindow::publish(const PublishEntry& entry) {
     const bool isReading =
         std::any_of(songs.begin(), songs.end(), [](const Song& song) { return song.isBeingRead; });
     if (songs.empty() || isReading) {
-        showNotice({NoticeKind::kInfo, isReading
-                                           ? tr("Some songs are still being read; try again in a moment.")
-                                           : tr("Add songs first.")});
+        showNotice({NoticeKind::kInfo,
+                    isReading ? tr("Some songs are still being read; try again in a moment.")
+                              : tr("Add songs first."),
+                    {},
+                    {}});
     } else if (isUploading()) {
-        showNotice({NoticeKind::kWarning, tr("Wait until the upload that runs has ended.")});
+        showNotice({NoticeKind::kWarning, tr("Wait until the upload that runs has ended."), {}, {}});
     } else {
         const auto dock = std::find_if(m_docks.begin(), m_docks.end(),
                                        [](const GadgetDock* each) { return each->notices(); });
         if (dock == m_docks.end()) {
-            showNotice({NoticeKind::kError, QString::fromStdString(judgeModule({}).sentence)});
+            showNotice({NoticeKind::kError, QString::fromStdString(judgeModule({}).sentence), {}, {}});
         } else {
-            handOver((*dock)->notices()->publishing(), entry, songs);
+            const QPointer<MainWindow> self(this);
+            const Notice notice = handOverSongs(*m_place, *(*dock)->notices(), entry, songs);
+            if (self) {
+                showNotice(notice);
+            }
         }
     }
 }
 
-void MainWindow::handOver(Publishing& publishing, const PublishEntry& entry, const std::vector<Song>& songs) {
-    ReleaseWish wish;
-    wish.mode = ReleaseMode::kPanel;
-    wish.songs.resize(songs.size());
-    std::vector<SongFile> files;
-    files.reserve(songs.size());
-    for (const Song& song : songs) {
-        files.push_back(fileOf(song));
+/// The text that was typed names no choice: what may be meant is offered.
+void MainWindow::refuseEntry(IParameter& parameter, const QString& text) {
+    std::vector<std::string> choices;
+    for (std::int32_t i = 0; i < parameter.countChoices(); ++i) {
+        choices.push_back(toString(parameter.choiceAt(i)));
     }
-    Plan plan = publishing.plan(entry, wish, files);
-    if (askWhetherToLeaveOut(plan)) {
-        wish.skipsUnreadable = true;
-        plan = publishing.plan(entry, wish, files);
+    Finding finding;
+    finding.kind = Finding::Kind::kUnknownGenre;
+    finding.text = text.toStdString();
+    finding.isWish = true;
+    finding.near = Genres(choices).near(finding.text);
+    std::vector<NoticeStep> steps;
+    for (std::size_t i = 0; i < std::min<std::size_t>(finding.near.size(), 2); ++i) {
+        const auto choice = std::find(choices.begin(), choices.end(), finding.near[i]) - choices.begin();
+        steps.push_back({"near", QString::fromStdString(finding.near[i]),
+                         [this, kept = Ref<IParameter>::share(&parameter), choice] {
+                             kept->setValue(integerValue(choice));
+                             m_status->clear();
+                         }});
     }
-    const QPointer<MainWindow> self(this);
-    const auto failed = publishing.handOver(entry, plan);
-    if (!self) {
-        return;
-    }
-    const Verdict verdict = failed ? *failed : judge(plan);
-    if (!verdict.isGood()) {
-        showNotice({failed ? verdict.kind : NoticeKind::kWarning, QString::fromStdString(verdict.sentence)});
-        return;
-    }
-    const auto count = plan.songs().size();
-    QString text =
-        count == 1
-            ? QCoreApplication::translate("xbr::host::Words",
-                                          "One song handed over to the panel; nothing is sent yet. Check the "
-                                          "details there, then upload.")
-            : QCoreApplication::translate("xbr::host::Words",
-                                          "%1 songs handed over to the panel; nothing is sent yet. Check the "
-                                          "details there, then upload.")
-                  .arg(count);
-    for (const std::string& warning : verdict.warnings) {
-        text += " " + QString::fromStdString(warning);
-    }
-    showNotice({verdict.warnings.empty() ? NoticeKind::kInfo : NoticeKind::kWarning, text});
+    m_status->showNotice({NoticeKind::kWarning, QString::fromStdString(wordsOf(finding)), steps, {}});
 }
 
-/// Asked when some of the songs cannot be published, and others can.
-bool MainWindow::askWhetherToLeaveOut(const Plan& plan) {
-    QStringList sentences;
-    for (const Finding& finding : plan.findings) {
-        if (finding.kind == Finding::Kind::kUnreadable) {
-            sentences.append(QString::fromStdString(wordsOf(finding)));
-        }
-    }
-    if (sentences.isEmpty() || plan.releases.empty()) {
-        return false;
-    }
-    QMessageBox question(QMessageBox::Warning,
-                         QCoreApplication::translate("xbr::host::Words", "Leave out songs?"),
-                         sentences.join('\n'), QMessageBox::NoButton, this);
-    question.setInformativeText(
-        QCoreApplication::translate("xbr::host::Words", "The other songs can be handed over without them."));
-    question.setTextFormat(Qt::PlainText);
-    auto* leaveOut = question.addButton(QCoreApplication::translate("xbr::host::Words", "Leave out"),
-                                        QMessageBox::AcceptRole);
-    auto* keep = question.addButton(QCoreApplication::translate("xbr::host::Words", "Cancel"),
-                                    QMessageBox::RejectRole);
-    question.setDefaultButton(keep);
-    question.setEscapeButton(keep);
-    const Activity::Run run(m_place->session.activity(), Activity::Kind::kDialog,
-                            [&question] { question.reject(); });
-    question.exec();
-    return question.clickedButton() == leaveOut;
-}
-
-/// An upload that finds nothing to send is a word worth.
-void MainWindow::commandPerformed(IParameter& command) {
+PanelNotices* MainWindow::ownerOf(const IParameter& command, const char* name) const {
     for (const GadgetDock* dock : m_docks) {
-        if (dock->notices() && findParameter(dock->panel()->controller(), "upload") == &command) {
-            dock->notices()->publishing().uploadAsked();
+        if (dock->notices() && findParameter(dock->panel()->controller(), name) == &command) {
+            return dock->notices();
         }
+    }
+    return nullptr;
+}
+
+PanelNotices* MainWindow::panelToTryAgain() const {
+    const auto found = std::find_if(m_docks.begin(), m_docks.end(), [](const GadgetDock* dock) {
+        return dock->notices() && dock->notices()->publishing().canTryAgain();
+    });
+    return found == m_docks.end() ? nullptr : (*found)->notices();
+}
+
+void MainWindow::stop() {
+    for (const GadgetDock* dock : m_docks) {
+        if (dock->notices() && dock->notices()->publishing().isBusy()) {
+            dock->notices()->stop();
+        }
+    }
+}
+
+/// Something was changed, and can be taken back.
+void MainWindow::noteChange(const Change& change) {
+    m_changes.note(change);
+    if (change.text.isEmpty()) {
+        return; // it is seen
+    }
+    m_status->showNotice(
+        {NoticeKind::kInfo, change.text, {{"undo", tr("&Undo"), [this] { m_changes.undo(); }}}, {}});
+}
+
+/// A long upload has ended, and the user is elsewhere.
+void MainWindow::tellDesktop(const Notice& notice, qint64 seconds) {
+    static constexpr qint64 kLong = 20;
+    if (seconds > kLong && !isActiveWindow() && notice.kind != NoticeKind::kInfo) {
+        m_notification.show(notice.text);
     }
 }
 
@@ -327,6 +369,9 @@ void MainWindow::focusNextArea() {
         if (dock->isVisible()) {
             areas.push_back(dock);
         }
+    }
+    if (m_status->notice().kind != NoticeKind::kNone) {
+        areas.push_back(m_status);
     }
     const QWidget* focus = QApplication::focusWidget();
     const auto present = std::find_if(areas.begin(), areas.end(), [focus](const QWidget* area) {
@@ -350,19 +395,37 @@ void MainWindow::resetLayout() {
     }
 }
 
-bool MainWindow::askWhetherToStop() {
-    QMessageBox question(QMessageBox::Warning, tr("Stop the Upload?"), tr("An upload is running."),
-                         QMessageBox::NoButton, this);
-    question.setInformativeText(
-        tr("When you quit now, it is stopped; songs that have not arrived are not published."));
-    auto* stop = question.addButton(tr("&Stop and Quit"), QMessageBox::DestructiveRole);
-    auto* goOn = question.addButton(tr("&Keep Uploading"), QMessageBox::RejectRole);
-    question.setDefaultButton(goOn);
-    question.setEscapeButton(goOn);
-    const Activity::Run run(m_place->session.activity(), Activity::Kind::kDialog,
-                            [&question] { question.reject(); });
-    question.exec();
-    return question.clickedButton() == stop || m_isEnding;
+/// What would be lost by quitting, in one question.
+bool MainWindow::mayQuit() {
+    QStringList losses;
+    int edited = 0;
+    bool isSending = false;
+    for (const GadgetDock* dock : m_docks) {
+        if (!dock->notices()) {
+            continue;
+        }
+        if (dock->notices()->publishing().isBusy()) {
+            isSending = true;
+            losses.append(dock->notices()->wordsOfLoss());
+        }
+        edited += static_cast<int>(dock->notices()->memory().countEdited());
+    }
+    if (edited > 0) {
+        losses.append(
+            tr("%n song(s) in the panel have edits that were not sent; they would be lost. The list comes "
+               "back at the next start.",
+               nullptr, edited));
+    }
+    if (losses.isEmpty()) {
+        return true;
+    }
+    const Question question =
+        isSending
+            ? Question{tr("Stop the upload?"),
+                       losses.join(' '),
+                       {tr("&Keep Uploading"), tr("&Stop and Quit")}}
+            : Question{tr("Quit without publishing?"), losses.join(' '), {tr("&Keep Editing"), tr("&Quit")}};
+    return ask(*m_place, question) == 1 || m_isEnding;
 }
 
 void MainWindow::end() {
@@ -371,12 +434,13 @@ void MainWindow::end() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!m_isEnding && isUploading() && !askWhetherToStop()) {
+    if (!m_isEnding && !mayQuit()) {
         event->ignore();
         return;
     }
     m_isEnding = true;
     m_layout.save(*this, *m_view->header());
+    m_commands.save();
     event->accept();
     m_place->session.activity().endAll();
     emit closed();

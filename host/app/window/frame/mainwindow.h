@@ -2,12 +2,13 @@
 
 #include "host/app/window/dialogs/dialogplace.h"
 #include "host/app/window/frame/aboutdialog.h"
+#include "host/app/window/frame/changes.h"
 #include "host/app/window/frame/layoutsettings.h"
 #include "host/app/window/frame/windowactions.h"
 #include "host/app/window/look/appearance.h"
+#include "host/app/window/look/desktopnotification.h"
 #include "host/app/window/panels/gadgetdock.h"
-#include "host/app/window/songs/songlistmodel.h"
-#include "host/app/window/songs/songreader.h"
+#include "host/app/window/songs/songcommands.h"
 
 #include <QMainWindow>
 
@@ -21,7 +22,6 @@ namespace xbr::host {
 
 class EmptyState;
 class Header;
-class SongView;
 class StatusLine;
 
 /// The window that plays the workstation: songs, the publish menu, docked panels of modules.
@@ -40,6 +40,9 @@ public:
 
     /// Takes the panels down. Before the modules go.
     void closePanels();
+
+    /// The songs that the list held when the program ended last.
+    void restoreSongs() { m_commands.restore(); }
 
     void showNotice(const Notice& notice);
     const std::vector<GadgetDock*>& docks() const { return m_docks; }
@@ -69,22 +72,28 @@ private:
     void focusNextArea();
     void resetLayout();
     bool isUploading() const;
-    bool askWhetherToStop();
-    bool askWhetherToLeaveOut(const Plan& plan);
-    void handOver(Publishing& publishing, const PublishEntry& entry, const std::vector<Song>& songs);
-    void commandPerformed(IParameter& command);
+    bool mayQuit();
+    void stop();
+    void noteChange(const Change& change);
+    void tellDesktop(const Notice& notice, qint64 seconds);
+    void refuseEntry(IParameter& parameter, const QString& text);
+    PanelNotices* ownerOf(const IParameter& command, const char* name) const;
+    PanelNotices* panelToTryAgain() const;
 
     DialogPlace* m_place;
     LayoutSettings m_layout;
+    Changes m_changes;
+    DesktopNotification m_notification;
     AppearanceSetting m_appearance;
     SongListModel m_songs;
-    SongReader m_reader;
     SongView* m_view;
+    SongCommands m_commands;
     EmptyState* m_empty;
     QStackedWidget* m_area;
     Header* m_header;
     StatusLine* m_status;
     std::unique_ptr<WindowActions> m_actions;
+    QList<QAction*> m_publishEntries;
     std::vector<GadgetDock*> m_docks;
     std::vector<VersionLine> m_versions;
     bool m_isEnding = false;

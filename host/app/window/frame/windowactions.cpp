@@ -38,7 +38,7 @@ WindowActions::WindowActions(QMainWindow& window, SongView& songs) {
     window.menuBar()->setAccessibleName(Texts::tr("Menus"));
     makeFileMenu(window);
     makeSongMenu(window, songs);
-    publishMenu = window.menuBar()->addMenu(Texts::tr("&Publish"));
+    makePublishMenu(window);
     makeViewMenu(window);
     about = makeAction(window, "about", Texts::tr("&About xbrhost"), QKeySequence(Qt::CTRL | Qt::Key_F1));
     window.menuBar()->addMenu(Texts::tr("&Help"))->addAction(about);
@@ -68,12 +68,31 @@ void WindowActions::makeSongMenu(QMainWindow& window, SongView& songs) {
     down = makeAction(window, "moveDown", Texts::tr("Move &Down"), QKeySequence(Qt::ALT | Qt::Key_Down));
     auto* all = makeAction(window, "selectAllSongs", Texts::tr("Select &All"), QKeySequence::SelectAll);
     QObject::connect(all, &QAction::triggered, &songs, &QTreeView::selectAll);
+    undo = makeAction(window, "undo", Texts::tr("&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z));
+    redo = makeAction(window, "redo", Texts::tr("Red&o"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    nextProblem = makeAction(window, "nextProblem", Texts::tr("&Next Problem"), QKeySequence(Qt::Key_F8));
+    previousProblem = makeAction(window, "previousProblem", Texts::tr("&Previous Problem"),
+                                 QKeySequence(Qt::SHIFT | Qt::Key_F8));
+    undo->setEnabled(false);
+    redo->setEnabled(false);
     auto* menu = window.menuBar()->addMenu(Texts::tr("&Edit"));
+    menu->addActions({undo, redo});
+    menu->addSeparator();
     for (QAction* action : {edit, remove, up, down, all}) {
         bindToList(*action, songs);
         menu->addAction(action);
     }
+    menu->addSeparator();
+    menu->addActions({nextProblem, previousProblem});
     songs.setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void WindowActions::makePublishMenu(QMainWindow& window) {
+    stop = makeAction(window, "stopUpload", Texts::tr("&Stop"), QKeySequence(Qt::CTRL | Qt::Key_Period));
+    tryAgain = makeAction(window, "uploadAgain", Texts::tr("&Try again"),
+                          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_U));
+    publishMenu = window.menuBar()->addMenu(Texts::tr("&Publish"));
+    publishMenu->addActions({publishMenu->addSeparator(), stop, tryAgain});
 }
 
 void WindowActions::makeViewMenu(QMainWindow& window) {

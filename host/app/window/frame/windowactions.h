@@ -23,6 +23,12 @@ public:
     QAction* remove;
     QAction* up;
     QAction* down;
+    QAction* undo;
+    QAction* redo;
+    QAction* stop;
+    QAction* tryAgain;
+    QAction* nextProblem;
+    QAction* previousProblem;
     QAction* quit;
     QAction* nextArea;
     QAction* resetLayout;
@@ -36,6 +42,7 @@ public:
 private:
     void makeFileMenu(QMainWindow& window);
     void makeSongMenu(QMainWindow& window, SongView& songs);
+    void makePublishMenu(QMainWindow& window);
     void makeViewMenu(QMainWindow& window);
 
     QMenu* m_appearanceMenu;

@@ -30,21 +30,24 @@ Ref<IView> makeView(const GadgetClass& gadget, IController& controller) {
 
 } // namespace
 
-GadgetDock::GadgetDock(const GadgetClass& gadget, HostSession& session,
+GadgetDock::GadgetDock(const GadgetClass& gadget, DialogPlace& place,
                        std::function<void(const QString&)> tellInDialog, QWidget* parent)
     : QDockWidget(QString::fromStdString(gadget.name), parent) {
     setObjectName("gadget-" + QString::fromStdString(toString(gadget.uid)));
     setAccessibleName(windowTitle());
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     setTitleBarWidget(new DockTitle(*this));
-    const auto panel = session.openPanel(gadget, [this] { bringToFront(); });
+    const auto panel = place.session.openPanel(gadget, [this] { bringToFront(); });
     if (!panel) {
         showProblem(QString::fromStdString(judgeModule(panel.problem()).sentence));
         return;
     }
     m_panel = *panel;
-    m_notices = new PanelNotices(*m_panel, session, std::move(tellInDialog), this);
+    m_notices = new PanelNotices(*m_panel, place, std::move(tellInDialog), this);
     showForm(gadget);
+    connect(m_notices, &PanelNotices::showAsked, this, &GadgetDock::showTrack);
+    connect(m_notices, &PanelNotices::touched, this, &GadgetDock::showReason);
+    showReason();
 }
 
 GadgetDock::~GadgetDock() {
@@ -68,6 +71,30 @@ void GadgetDock::showForm(const GadgetClass& gadget) {
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(m_form);
     setWidget(area);
+}
+
+/// Why "upload" can do nothing, beside its button.
+void GadgetDock::showReason() {
+    if (!m_form) {
+        return;
+    }
+    const Hindrance hindrance = m_notices->publishing().hindrance();
+    const QString parameter = hindrance.missing.empty() ? "" : parameterOf(hindrance.missing.front());
+    setReason(*m_form, "upload", QString::fromStdString(hindrance.sentence),
+              [this, row = hindrance.index, parameter] { showTrack(row, parameter); });
+}
+
+void GadgetDock::showTrack(int row, const QString& parameter) {
+    const auto tracks = m_panel->tracks();
+    bringToFront();
+    if (row < 0 || !tracks || row >= tracks->countRows()) {
+        return;
+    }
+    tracks->setSelection(&row, 1);
+    tracks->setFocus(row);
+    if (QWidget* field = parameter.isEmpty() ? nullptr : controlOf(*m_form, parameter)) {
+        field->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void GadgetDock::showProblem(const QString& text) {

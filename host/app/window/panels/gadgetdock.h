@@ -15,7 +15,7 @@ class GadgetDock final : public QDockWidget {
 
 public:
     /// Opens the panel; one that cannot be opened says so in its place.
-    GadgetDock(const GadgetClass& gadget, HostSession& session,
+    GadgetDock(const GadgetClass& gadget, DialogPlace& place,
                std::function<void(const QString&)> tellInDialog, QWidget* parent);
     ~GadgetDock() override;
 
@@ -26,12 +26,16 @@ public:
     /// To the user's sight, with the keyboard.
     void bringToFront();
 
+    /// Selects a track; with the keyboard to a field of its editor where one is named.
+    void showTrack(int row, const QString& parameter);
+
     /// The genres that the panel offers.
     QStringList genres() const;
 
 private:
     void showForm(const GadgetClass& gadget);
     void showProblem(const QString& text);
+    void showReason();
 
     GadgetPanel* m_panel = nullptr; ///< the session's
     PanelNotices* m_notices = nullptr;

@@ -1,5 +1,6 @@
 #include "host/app/window/songs/song.h"
 
+#include "host/app/publishing/history.h"
 #include "host/app/publishing/words.h"
 
 #include <QCoreApplication>
@@ -79,6 +80,7 @@ Song readSong(const std::string& path) {
         song.title = fileNameOf(song);
         return song;
     }
+    song.fingerprint = History::fingerprintOf(path);
     takeTags(song.file.tags, song);
     const NameTags names = namesOf(song.file);
     song.title = QString::fromStdString(names.title);

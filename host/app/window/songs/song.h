@@ -20,6 +20,8 @@ struct Song {
     int number = 0;          ///< from 1; 0 for none
     SongFile file;           ///< as it was read
     QString problem;         ///< why it cannot be published; empty when it can
+    std::string fingerprint; ///< by which the history knows it
+    bool isEdited = false;   ///< the texts are the user's, whatever the tags say
     bool isBeingRead = true; ///< its tags are still to come
 };
 

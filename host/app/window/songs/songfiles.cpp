@@ -76,6 +76,11 @@ void FileDrop::hover(QDropEvent& event) {
 }
 
 bool FileDrop::eventFilter(QObject*, QEvent* event) {
+    const bool isDrag = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove ||
+                        event->type() == QEvent::Drop;
+    if (isDrag && !holdsFiles(*static_cast<QDropEvent*>(event)->mimeData())) {
+        return false; // rows of the list itself
+    }
     switch (event->type()) {
     case QEvent::DragEnter:
         hover(static_cast<QDropEvent&>(*event));

@@ -22,6 +22,10 @@ void SongReader::read(const std::vector<std::string>& paths) {
             }
         });
     }
+    m_pool.start([this, paths] {
+        QMetaObject::invokeMethod(
+            this, [this, paths] { emit allRead(paths); }, Qt::QueuedConnection);
+    });
 }
 
 } // namespace xbr::host

@@ -26,6 +26,9 @@ signals:
     /// A song was read, in the order of the calls.
     void songRead(const xbr::host::Song& song);
 
+    /// All songs of one call were read.
+    void allRead(const std::vector<std::string>& paths);
+
 private:
     QThreadPool m_pool; ///< one thread: disks do not get faster from being asked twice
     std::atomic<bool> m_isEnding = false;

@@ -2,12 +2,14 @@
 
 #include "host/app/window/look/icon.h"
 #include "host/app/window/look/tints.h"
+#include "host/gui/hostwidgets.h"
 
-#include <QCompleter>
 #include <QHeaderView>
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
+#include <QPainter>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QStyledItemDelegate>
@@ -27,11 +29,12 @@ bool isQuiet(int column) {
            column == SongListModel::kFormat;
 }
 
-constexpr int kWidths[] = {44, 170, 140, 120, 120, 110, 62, 160}; ///< points; shares of what there is
+constexpr int kWidths[] = {24, 44, 170, 140, 120, 120, 110, 62, 160}; ///< points; shares of what there is
 constexpr int kLeastWidth = 60;
 
 bool isFixed(int column) {
-    return column == SongListModel::kNumber || column == SongListModel::kLength;
+    return column == SongListModel::kMark || column == SongListModel::kNumber ||
+           column == SongListModel::kLength;
 }
 
 QString widestFormat() {
@@ -67,6 +70,8 @@ public:
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
 
 private:
     QStringList m_genres;
@@ -82,10 +87,7 @@ QWidget* SongView::Delegate::createEditor(QWidget* parent, const QStyleOptionVie
         field->setAlignment(Qt::AlignRight);
         field->setValidator(new QIntValidator(0, kGreatestTypedNumber, field));
     } else if (index.column() == SongListModel::kGenre) {
-        auto* completer = new QCompleter(m_genres, field);
-        completer->setCaseSensitivity(Qt::CaseInsensitive);
-        completer->setFilterMode(Qt::MatchContains);
-        field->setCompleter(completer);
+        offerNames(*field, m_genres);
     }
     return field;
 }
@@ -110,6 +112,16 @@ void SongView::Delegate::initStyleOption(QStyleOptionViewItem* option, const QMo
     }
 }
 
+/// A cell that needs a look is outlined.
+void SongView::Delegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!index.data(SongListModel::kProblemRole).toString().isEmpty()) {
+        painter->setPen(noticeColor(NoticeKind::kWarning, option.palette));
+        painter->drawRect(option.rect.adjusted(1, 2, -2, -3));
+    }
+}
+
 SongView::SongView(SongListModel& model, QWidget* parent)
     : QTreeView(parent),
       m_songs(&model),
@@ -128,6 +140,9 @@ SongView::SongView(SongListModel& model, QWidget* parent)
     setTextElideMode(Qt::ElideRight);
     setFrameShape(NoFrame);
     setTabKeyNavigation(false);
+    setDragEnabled(true);
+    setDragDropMode(DragDrop);
+    setDropIndicatorShown(false);
     header()->setStretchLastSection(true);
     header()->setHighlightSections(false);
     header()->setTextElideMode(Qt::ElideRight);
@@ -173,11 +188,83 @@ void SongView::removeSelected() {
     }
 }
 
-void SongView::moveCurrent(int by) {
-    const int row = currentIndex().row();
-    if (m_songs->moveSong(row, by)) {
+void SongView::selectRows(const std::vector<int>& rows) {
+    QItemSelection selection;
+    for (const int row : rows) {
+        selection.select(m_songs->index(row, 0), m_songs->index(row, SongListModel::kColumnCount - 1));
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.empty()) {
+        selectionModel()->setCurrentIndex(m_songs->index(rows.front(), SongListModel::kTitle),
+                                          QItemSelectionModel::NoUpdate);
         scrollTo(currentIndex());
     }
+}
+
+void SongView::editCell(int row, int column) {
+    setFocus(Qt::OtherFocusReason);
+    setCurrentIndex(m_songs->index(row, column));
+    scrollTo(currentIndex());
+    if (m_songs->flags(currentIndex()) & Qt::ItemIsEditable) {
+        edit(currentIndex());
+    }
+}
+
+int SongView::rowBefore(const QPoint& place) const {
+    const QModelIndex index = indexAt(place);
+    if (!index.isValid()) {
+        return m_songs->rowCount();
+    }
+    const QRect cell = visualRect(index);
+    return index.row() + (place.y() > cell.center().y() ? 1 : 0);
+}
+
+void SongView::setDropRow(int row) {
+    m_dropRow = row;
+    viewport()->update();
+}
+
+void SongView::dragEnterEvent(QDragEnterEvent* event) {
+    dragMoveEvent(event);
+}
+
+void SongView::dragMoveEvent(QDragMoveEvent* event) {
+    if (event->mimeData()->hasFormat(SongListModel::kRowsType)) {
+        setDropRow(rowBefore(event->position().toPoint()));
+        event->acceptProposedAction();
+    }
+}
+
+void SongView::dragLeaveEvent(QDragLeaveEvent*) {
+    setDropRow(-1);
+}
+
+void SongView::dropEvent(QDropEvent* event) {
+    const auto rows = SongListModel::rowsOf(*event->mimeData());
+    const int before = rowBefore(event->position().toPoint());
+    setDropRow(-1);
+    event->acceptProposedAction();
+    if (!rows.empty()) {
+        emit moveAsked(rows, before);
+    }
+}
+
+/// The line shows where dragged rows would go.
+void SongView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (m_dropRow < 0) {
+        return;
+    }
+    static constexpr int kDot = 3; ///< radius, points
+    const int last = m_songs->rowCount() - 1;
+    const QRect row = visualRect(m_songs->index(std::min(m_dropRow, last), 0));
+    const int y = std::max(m_dropRow > last ? row.bottom() : row.top(), kDot);
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Link), 2));
+    painter.setBrush(palette().color(QPalette::Link));
+    painter.drawLine(0, y, viewport()->width(), y);
+    painter.drawEllipse(QPoint(kDot + 1, y), kDot, kDot);
 }
 
 void SongView::editCurrent() {
@@ -188,7 +275,7 @@ void SongView::editCurrent() {
 
 int SongView::neededWidth(int column) const {
     static constexpr int kPadding = 24;
-    const QString widest[] = {"9999", {}, {}, {}, {}, {}, "0:00:00", widestFormat()};
+    const QString widest[] = {"!", "9999", {}, {}, {}, {}, {}, "0:00:00", widestFormat()};
     return std::max(fontMetrics().horizontalAdvance(widest[column]) + kPadding,
                     header()->sectionSizeHint(column));
 }

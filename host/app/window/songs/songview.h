@@ -23,18 +23,33 @@ public:
     std::vector<int> chosenRows() const;
     bool hasSelection() const;
 
+    std::vector<int> selectedRows() const;
+    void selectRows(const std::vector<int>& rows);
+
     void removeSelected();
-    void moveCurrent(int by);
     void editCurrent();
+
+    /// To a cell, for editing it.
+    void editCell(int row, int column);
 
     /// Names of genres that are offered while one is typed.
     void setGenres(const QStringList& genres);
 
+signals:
+    /// The user wants rows to be before another one.
+    void moveAsked(const std::vector<int>& rows, int before);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
-    std::vector<int> selectedRows() const;
+    int rowBefore(const QPoint& place) const;
+    void setDropRow(int row);
     int neededWidth(int column) const;
     void fitColumns();
 
@@ -42,6 +57,7 @@ private:
 
     SongListModel* m_songs;
     Delegate* m_delegate;
+    int m_dropRow = -1; ///< before which dragged rows would come
 };
 
 /// What stands in the place of an empty list: what it is for, and how to fill it.

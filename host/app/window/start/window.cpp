@@ -30,6 +30,14 @@ ExitCode fail(const std::string& text) {
     return ExitCode::kUsage;
 }
 
+/// Where the library for windows cannot reach the display it ends the process with a core dump.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type == QtFatalMsg) {
+        std::_Exit(static_cast<int>(
+            fail("the display cannot be reached (xbrhost --help lists what works without)")));
+    }
+}
+
 ExitCode open(const WindowOptions& options) {
     WindowFront front(options);
     QObject::connect(&front.window(), &MainWindow::closed, qApp, &QCoreApplication::quit);
@@ -57,7 +65,9 @@ ExitCode runWindow(int& argc, char** argv, const WindowOptions& options) {
     case SingleInstance::Place::kFirst:
         break;
     }
+    const QtMessageHandler usual = qInstallMessageHandler(&endWithoutDisplay);
     QApplication application(argc, argv);
+    qInstallMessageHandler(usual);
     QApplication::setApplicationName("xbrhost");
     QApplication::setApplicationVersion(XBR_HOST_VERSION);
     QGuiApplication::setDesktopFileName("xbrhost");

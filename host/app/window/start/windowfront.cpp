@@ -31,12 +31,14 @@ VersionLine lineOf(const LoadedModule& module) {
 
 Notice noticeOf(const Problem& problem) {
     if (problem.fault == Fault::kModule) {
-        return {NoticeKind::kError, QString::fromStdString(judgeModule(problem).sentence)};
+        return {NoticeKind::kError, QString::fromStdString(judgeModule(problem).sentence), {}, {}};
     }
     return {NoticeKind::kWarning,
             QCoreApplication::translate("xbr::host::WindowFront",
                                         "The browser's answer to a sign-in cannot be received: %1.")
-                .arg(QString::fromStdString(problem.words))};
+                .arg(QString::fromStdString(problem.words)),
+            {},
+            {}};
 }
 
 template <class T>
@@ -90,6 +92,7 @@ void WindowFront::start() {
     }
     m_window->showModules(std::move(versions));
     tell(problems);
+    m_window->restoreSongs();
     m_window->addSongs(m_options.files);
     m_window->show();
     // Once the window is there: the keyring may ask for its password.
@@ -114,7 +117,8 @@ void WindowFront::tell(const std::vector<Problem>& problems) {
         }
     }
     if (m_session.modules().empty() && !isAboutModules) {
-        m_window->showNotice({NoticeKind::kWarning, QString::fromStdString(judgeModule({}).sentence)});
+        m_window->showNotice(
+            {NoticeKind::kWarning, QString::fromStdString(judgeModule({}).sentence), {}, {}});
     }
 }
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace xbr::host {
+
+/// One notification of the desktop; taken back when its window comes to the front.
+class DesktopNotification final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit DesktopNotification(QWidget& window);
+
+    /// Shows it, where the desktop has such a thing. A click brings the window to the front.
+    void show(const QString& title);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private slots:
+    void actionInvoked(uint id, const QString& action);
+
+private:
+    void takeBack();
+
+    QWidget* m_window;
+    uint m_id = 0; ///< 0: none is shown
+};
+
+} // namespace xbr::host
