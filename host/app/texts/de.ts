@@ -27,10 +27,6 @@
 <context>
     <name>xbr::host::CommandLine</name>
     <message>
-        <source>The module cannot sign out.</source>
-        <translation>Das Modul kann nicht abmelden.</translation>
-    </message>
-    <message>
         <source>The link is too long, or not one line.</source>
         <translation>Der Link ist zu lang oder nicht eine Zeile.</translation>
     </message>
@@ -144,6 +140,13 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -188,6 +191,66 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>Es enthält Änderungen an %n Song, die nicht gesendet wurden.</numerusform>
+            <numerusform>Es enthält Änderungen an %n Songs, die nicht gesendet wurden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>Es enthält die Ergebnisse des letzten Sendens.</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>Die Songs im Panel ersetzen?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Die anderen Songs können ohne sie übergeben werden.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Songs weglassen?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n Song wurde an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</numerusform>
+            <numerusform>%n Songs wurden an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>%1 von %n Song fehlen Angaben, die der Dienst braucht. „%2“: %3.</numerusform>
+            <numerusform>%1 von %n Songs fehlen Angaben, die der Dienst braucht. „%2“: %3.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::Header</name>
     <message>
         <source>Songs</source>
@@ -206,6 +269,17 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::MainWindow</name>
     <message>
         <source>Songs – xbrhost</source>
@@ -220,10 +294,6 @@
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>Publish the selected songs, or all</source>
-        <translation>Die ausgewählten Songs veröffentlichen, oder alle</translation>
-    </message>
-    <message>
         <source>Some songs are still being read; try again in a moment.</source>
         <translation>Einige Songs werden noch gelesen; gleich noch einmal versuchen.</translation>
     </message>
@@ -236,24 +306,43 @@
         <translation>Bitte warten, bis das laufende Hochladen beendet ist.</translation>
     </message>
     <message>
-        <source>Stop the Upload?</source>
-        <translation>Hochladen abbrechen?</translation>
-    </message>
-    <message>
-        <source>An upload is running.</source>
-        <translation>Es wird gerade hochgeladen.</translation>
-    </message>
-    <message>
-        <source>When you quit now, it is stopped; songs that have not arrived are not published.</source>
-        <translation>Beim Beenden wird es abgebrochen; Songs, die noch nicht angekommen sind, werden nicht veröffentlicht.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Quit</source>
         <translation>Abbrechen und &amp;beenden</translation>
     </message>
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>&amp;Weiter hochladen</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>Übergibt die ausgewählten Songs oder alle an das Panel; noch wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>%n Song im Panel hat Änderungen, die nicht gesendet wurden; sie gingen verloren. Die Liste kommt beim nächsten Start wieder.</numerusform>
+            <numerusform>%n Songs im Panel haben Änderungen, die nicht gesendet wurden; sie gingen verloren. Die Liste kommt beim nächsten Start wieder.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>Das Senden anhalten?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>Beenden, ohne zu veröffentlichen?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>Weiter &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
     </message>
 </context>
 <context>
@@ -360,6 +449,123 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>Titelnummer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n Song aus dem Panel entfernt.</numerusform>
+            <numerusform>%n Songs aus dem Panel entfernt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%1 in %n Song geändert.</numerusform>
+            <numerusform>%1 in %n Songs geändert.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%1 von %n Song ist veröffentlicht; der Rest würde es nicht.</numerusform>
+            <numerusform>%1 von %n Songs sind veröffentlicht; der Rest würde es nicht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>„%1“ wird gerade gesendet.</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>Veröffentlicht %1</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>Veröffentlicht %1 als %2</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>Ohne diese Angaben senden?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>„%1“: %2. Der Dienst wird das wahrscheinlich ablehnen. Noch ist nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>&amp;Trotzdem senden</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>Noch einmal veröffentlichen?</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>„%1“ wurde am %2 von diesem Computer aus veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>Noch einmal &amp;veröffentlichen</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%1 von %n Song wurde schon von diesem Computer aus veröffentlicht.</numerusform>
+            <numerusform>%1 von %n Songs wurden schon von diesem Computer aus veröffentlicht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>&amp;Kontoseite</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>&amp;Anmelden</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>Das Senden beenden; was angekommen ist, bleibt veröffentlicht</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::ProgressSheet</name>
     <message>
         <source>&amp;Cancel</source>
@@ -372,6 +578,61 @@
     <message>
         <source>Stopping…</source>
         <translation>Wird abgebrochen …</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>„%1“ ist unterwegs und kann jetzt nicht geändert werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n Song ausgewählt: eine Änderung gilt für alle.</numerusform>
+            <numerusform>%n Songs ausgewählt: eine Änderung gilt für alle.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n Wert</numerusform>
+            <numerusform>≠ %n Werte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>gleich</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n verschiedener Wert: %1</numerusform>
+            <numerusform>%n verschiedene Werte: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>Adresse kopieren</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>Rücklink</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>Nichts passiert?</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
     </message>
 </context>
 <context>
@@ -391,6 +652,66 @@
     <message>
         <source>Audio files</source>
         <translation>Audiodateien</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n Song hinzugefügt.</numerusform>
+            <numerusform>%n Songs hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n Song hinzugefügt; %1 schon in der Liste.</numerusform>
+            <numerusform>%n Songs hinzugefügt; %1 schon in der Liste.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n Song aus der Liste entfernt; die Datei bleibt.</numerusform>
+            <numerusform>%n Songs aus der Liste entfernt; die Dateien bleiben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%1 von %n Song braucht einen Blick, bevor er veröffentlicht werden kann. %2</numerusform>
+            <numerusform>%1 von %n Songs brauchen einen Blick, bevor sie veröffentlicht werden können. %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>%n Song vom letzten Mal.</numerusform>
+            <numerusform>%n Songs vom letzten Mal.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>%n Song vom letzten Mal; %1 nicht mehr da.</numerusform>
+            <numerusform>%n Songs vom letzten Mal; %1 nicht mehr da.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>&amp;Leer beginnen</translation>
     </message>
 </context>
 <context>
@@ -435,6 +756,10 @@
         <source>Track number</source>
         <translation>Titelnummer</translation>
     </message>
+    <message>
+        <source>Mark</source>
+        <translation>Zeichen</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::SongView</name>
@@ -460,6 +785,10 @@
     <message>
         <source>Ready.</source>
         <translation>Bereit.</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>Jeden Song zeigen</translation>
     </message>
 </context>
 <context>
@@ -560,6 +889,30 @@
         <source>Da&amp;rk</source>
         <translation>D&amp;unkel</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>&amp;Nächstes Problem</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>&amp;Voriges Problem</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::WindowFront</name>
@@ -574,30 +927,6 @@
 </context>
 <context>
     <name>xbr::host::Words</name>
-    <message>
-        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>Ein Song wurde an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</translation>
-    </message>
-    <message>
-        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>%1 Songs wurden an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>Songs weglassen?</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>Die anderen Songs können ohne sie übergeben werden.</translation>
-    </message>
-    <message>
-        <source>Leave out</source>
-        <translation>Weglassen</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>Der Browser kam ohne Erlaubnis zurück. Den Zugriff dort erlauben oder hier abbrechen.</translation>
@@ -1113,6 +1442,110 @@
     <message>
         <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
         <translation>Der Dienst bittet, vor dem nächsten Hochladen %2 zu warten. Das Album „%1“ wurde nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to be unlocked.</source>
+        <translation>Warten darauf, dass der Schlüsselbund entsperrt wird.</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to answer.</source>
+        <translation>Warten auf eine Antwort des Schlüsselbunds.</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1. Copy the address and open it in a browser.</source>
+        <translation>Der Webbrowser konnte nicht gestartet werden: %1. Kopieren Sie die Adresse und öffnen Sie sie in einem Browser.</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1.</source>
+        <translation>Der Webbrowser konnte nicht gestartet werden: %1.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: this computer has no keyring.</source>
+        <translation>Angemeldet als %1, bis das Programm endet: Dieser Computer hat keinen Schlüsselbund.</translation>
+    </message>
+    <message>
+        <source>Not signed in: this computer has no keyring.</source>
+        <translation>Nicht angemeldet: Dieser Computer hat keinen Schlüsselbund.</translation>
+    </message>
+    <message>
+        <source>No keyring can be reached from here: nothing was removed.</source>
+        <translation>Von hier ist kein Schlüsselbund erreichbar: Es wurde nichts entfernt.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring was not unlocked.</source>
+        <translation>Angemeldet als %1, bis das Programm endet: Der Schlüsselbund wurde nicht entsperrt.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in cannot be read.</source>
+        <translation>Der Schlüsselbund wurde nicht entsperrt: Die gespeicherte Anmeldung kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in may still be there.</source>
+        <translation>Der Schlüsselbund wurde nicht entsperrt: Die gespeicherte Anmeldung ist vielleicht noch da.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring does not answer.</source>
+        <translation>Angemeldet als %1, bis das Programm endet: Der Schlüsselbund antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in cannot be read.</source>
+        <translation>Der Schlüsselbund antwortet nicht: Die gespeicherte Anmeldung kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in may still be there.</source>
+        <translation>Der Schlüsselbund antwortet nicht: Die gespeicherte Anmeldung ist vielleicht noch da.</translation>
+    </message>
+    <message>
+        <source>The service does not say who is signed in; it may not be %1.</source>
+        <translation>Der Dienst sagt nicht, wer angemeldet ist; vielleicht ist es nicht %1.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, not as %2.</source>
+        <translation>Angemeldet als %1, nicht als %2.</translation>
+    </message>
+    <message>
+        <source>A sign-in is stored, but the service could not be asked: %1.</source>
+        <translation>Eine Anmeldung ist gespeichert, aber der Dienst konnte nicht gefragt werden: %1.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service sent an answer that cannot be used.</source>
+        <translation>Nicht angemeldet: Der Dienst hat eine Antwort gesendet, die nicht verwendbar ist.</translation>
+    </message>
+    <message>
+        <source>Not signed in.</source>
+        <translation>Nicht angemeldet.</translation>
+    </message>
+    <message>
+        <source>This is not a link back: it begins with “%1:”.</source>
+        <translation>Das ist kein Rücklink: Er beginnt mit „%1:“.</translation>
+    </message>
+    <message>
+        <source>This link back belongs to another sign-in. Open the address again.</source>
+        <translation>Dieser Rücklink gehört zu einer anderen Anmeldung. Öffnen Sie die Adresse noch einmal.</translation>
+    </message>
+    <message>
+        <source>Nobody was signed in.</source>
+        <translation>Niemand war angemeldet.</translation>
+    </message>
+    <message>
+        <source>cannot sign out</source>
+        <translation>kann nicht abmelden</translation>
+    </message>
+    <message>
+        <source>Unlock it, then run the same command again.</source>
+        <translation>Entsperren Sie ihn, dann starten Sie denselben Befehl noch einmal.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-out signs out.</source>
+        <translation>xbrhost sign-out meldet ab.</translation>
+    </message>
+    <message>
+        <source>it answered %1</source>
+        <translation>er antwortete %1</translation>
+    </message>
+    <message>
+        <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
+        <translation>%1 ist nicht eingerichtet: %2 ist nicht verschlüsselt, und nur dieser Computer darf so erreicht werden.</translation>
     </message>
 </context>
 </TS>

@@ -27,10 +27,6 @@
 <context>
     <name>xbr::host::CommandLine</name>
     <message>
-        <source>The module cannot sign out.</source>
-        <translation>El módulo no puede cerrar la sesión.</translation>
-    </message>
-    <message>
         <source>The link is too long, or not one line.</source>
         <translation>El enlace es demasiado largo o no es una sola línea.</translation>
     </message>
@@ -144,6 +140,13 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -188,6 +191,66 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>Contiene cambios de %n canción que no se han enviado.</numerusform>
+            <numerusform>Contiene cambios de %n canciones que no se han enviado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>Contiene los resultados del último envío.</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>¿Reemplazar las canciones del panel?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Conservar</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Las demás canciones se pueden pasar sin ellas.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>¿Omitir canciones?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Omitir</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n canción pasada al panel; aún no se ha enviado nada. Revisa allí los datos y súbela.</numerusform>
+            <numerusform>%n canciones pasadas al panel; aún no se ha enviado nada. Revisa allí los datos y súbelas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>A %1 de %n canción le faltan datos que el servicio necesita. «%2»: %3.</numerusform>
+            <numerusform>A %1 de %n canciones les faltan datos que el servicio necesita. «%2»: %3.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::Header</name>
     <message>
         <source>Songs</source>
@@ -206,6 +269,17 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>Llavero</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::MainWindow</name>
     <message>
         <source>Songs – xbrhost</source>
@@ -220,10 +294,6 @@
         <translation>Todos los archivos (*)</translation>
     </message>
     <message>
-        <source>Publish the selected songs, or all</source>
-        <translation>Publicar las canciones seleccionadas, o todas</translation>
-    </message>
-    <message>
         <source>Some songs are still being read; try again in a moment.</source>
         <translation>Algunas canciones aún se están leyendo; inténtelo de nuevo en un momento.</translation>
     </message>
@@ -236,24 +306,43 @@
         <translation>Espere a que termine la subida en curso.</translation>
     </message>
     <message>
-        <source>Stop the Upload?</source>
-        <translation>¿Detener la subida?</translation>
-    </message>
-    <message>
-        <source>An upload is running.</source>
-        <translation>Hay una subida en curso.</translation>
-    </message>
-    <message>
-        <source>When you quit now, it is stopped; songs that have not arrived are not published.</source>
-        <translation>Si sale ahora, se detiene; las canciones que no hayan llegado no se publican.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Quit</source>
         <translation>&amp;Detener y salir</translation>
     </message>
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>&amp;Seguir subiendo</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>Pasa las canciones seleccionadas, o todas, al panel; aún no se envía nada</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>%n canción del panel tiene cambios sin enviar; se perderían. La lista vuelve en el próximo inicio.</numerusform>
+            <numerusform>%n canciones del panel tienen cambios sin enviar; se perderían. La lista vuelve en el próximo inicio.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>¿Detener el envío?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>¿Salir sin publicar?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>&amp;Seguir editando</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
     </message>
 </context>
 <context>
@@ -360,6 +449,123 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>Número de pista</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n canción quitada del panel.</numerusform>
+            <numerusform>%n canciones quitadas del panel.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%1 ha cambiado en %n canción.</numerusform>
+            <numerusform>%1 ha cambiado en %n canciones.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%1 de %n canción está publicada; el resto no lo estaría.</numerusform>
+            <numerusform>%1 de %n canciones están publicadas; el resto no lo estaría.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>«%1» se está enviando.</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>Publicada el %1</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>Publicada el %1 como %2</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>¿Enviar sin estos datos?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>«%1»: %2. Es probable que el servicio la rechace. Aún no se ha enviado nada.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>Enviar de &amp;todos modos</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>¿Publicar de nuevo?</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>«%1» se publicó desde este equipo el %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>Publicar de &amp;nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>&amp;Omitirlas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%1 de %n canción ya se publicó desde este equipo.</numerusform>
+            <numerusform>%1 de %n canciones ya se publicaron desde este equipo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>Página de la &amp;cuenta</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Omitir</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>&amp;Iniciar sesión</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>Terminar el envío; lo que ha llegado sigue publicado</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::ProgressSheet</name>
     <message>
         <source>&amp;Cancel</source>
@@ -372,6 +578,61 @@
     <message>
         <source>Stopping…</source>
         <translation>Deteniendo…</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>«%1» está en camino y no se puede cambiar ahora.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n canción seleccionada: un cambio las afecta a todas.</numerusform>
+            <numerusform>%n canciones seleccionadas: un cambio las afecta a todas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n valor</numerusform>
+            <numerusform>≠ %n valores</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>igual</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n valor distinto: %1</numerusform>
+            <numerusform>%n valores distintos: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>Copiar la dirección</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>Enlace de vuelta</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>¿No ha pasado nada?</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
     </message>
 </context>
 <context>
@@ -391,6 +652,66 @@
     <message>
         <source>Audio files</source>
         <translation>Archivos de audio</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n canción añadida.</numerusform>
+            <numerusform>%n canciones añadidas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n canción añadida; %1 ya en la lista.</numerusform>
+            <numerusform>%n canciones añadidas; %1 ya en la lista.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n canción quitada de la lista; el archivo se queda.</numerusform>
+            <numerusform>%n canciones quitadas de la lista; los archivos se quedan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%1 de %n canción necesita una revisión antes de publicarse. %2</numerusform>
+            <numerusform>%1 de %n canciones necesitan una revisión antes de publicarse. %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>%n canción de la última vez.</numerusform>
+            <numerusform>%n canciones de la última vez.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>%n canción de la última vez; %1 ya no está.</numerusform>
+            <numerusform>%n canciones de la última vez; %1 ya no está.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n archivo</numerusform>
+            <numerusform>%n archivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>Empezar &amp;vacío</translation>
     </message>
 </context>
 <context>
@@ -435,6 +756,10 @@
         <source>Track number</source>
         <translation>Número de pista</translation>
     </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marca</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::SongView</name>
@@ -460,6 +785,10 @@
     <message>
         <source>Ready.</source>
         <translation>Listo.</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>Mostrar cada canción</translation>
     </message>
 </context>
 <context>
@@ -560,6 +889,30 @@
         <source>Da&amp;rk</source>
         <translation>&amp;Oscuro</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>Problema &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>Problema &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::WindowFront</name>
@@ -574,30 +927,6 @@
 </context>
 <context>
     <name>xbr::host::Words</name>
-    <message>
-        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>Una canción entregada al panel; aún no se ha enviado nada. Compruebe allí los datos y súbala.</translation>
-    </message>
-    <message>
-        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>%1 canciones entregadas al panel; aún no se ha enviado nada. Compruebe allí los datos y súbalas.</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>¿Omitir canciones?</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>Las demás canciones se pueden entregar sin ellas.</translation>
-    </message>
-    <message>
-        <source>Leave out</source>
-        <translation>Omitir</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>El navegador volvió sin permiso. Permita allí el acceso o cancele aquí.</translation>
@@ -1113,6 +1442,110 @@
     <message>
         <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
         <translation>El servicio pide esperar %2 antes del próximo envío. El álbum «%1» no se aceptó.</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to be unlocked.</source>
+        <translation>Esperando a que se desbloquee el llavero.</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to answer.</source>
+        <translation>Esperando la respuesta del llavero.</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1. Copy the address and open it in a browser.</source>
+        <translation>No se ha podido iniciar el navegador web: %1. Copie la dirección y ábrala en un navegador.</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1.</source>
+        <translation>No se ha podido iniciar el navegador web: %1.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: this computer has no keyring.</source>
+        <translation>Sesión iniciada como %1 hasta que termine el programa: este equipo no tiene llavero.</translation>
+    </message>
+    <message>
+        <source>Not signed in: this computer has no keyring.</source>
+        <translation>Sin iniciar sesión: este equipo no tiene llavero.</translation>
+    </message>
+    <message>
+        <source>No keyring can be reached from here: nothing was removed.</source>
+        <translation>No se puede acceder a ningún llavero desde aquí: no se ha eliminado nada.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring was not unlocked.</source>
+        <translation>Sesión iniciada como %1 hasta que termine el programa: el llavero no se ha desbloqueado.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in cannot be read.</source>
+        <translation>El llavero no se ha desbloqueado: no se puede leer la sesión guardada.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in may still be there.</source>
+        <translation>El llavero no se ha desbloqueado: puede que la sesión guardada siga ahí.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring does not answer.</source>
+        <translation>Sesión iniciada como %1 hasta que termine el programa: el llavero no responde.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in cannot be read.</source>
+        <translation>El llavero no responde: no se puede leer la sesión guardada.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in may still be there.</source>
+        <translation>El llavero no responde: puede que la sesión guardada siga ahí.</translation>
+    </message>
+    <message>
+        <source>The service does not say who is signed in; it may not be %1.</source>
+        <translation>El servicio no dice quién ha iniciado sesión; puede que no sea %1.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, not as %2.</source>
+        <translation>Sesión iniciada como %1, no como %2.</translation>
+    </message>
+    <message>
+        <source>A sign-in is stored, but the service could not be asked: %1.</source>
+        <translation>Hay una sesión guardada, pero no se ha podido preguntar al servicio: %1.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service sent an answer that cannot be used.</source>
+        <translation>Sin iniciar sesión: el servicio ha enviado una respuesta que no se puede usar.</translation>
+    </message>
+    <message>
+        <source>Not signed in.</source>
+        <translation>Sin iniciar sesión.</translation>
+    </message>
+    <message>
+        <source>This is not a link back: it begins with “%1:”.</source>
+        <translation>Esto no es un enlace de vuelta: empieza por «%1:».</translation>
+    </message>
+    <message>
+        <source>This link back belongs to another sign-in. Open the address again.</source>
+        <translation>Este enlace de vuelta es de otro inicio de sesión. Abra la dirección otra vez.</translation>
+    </message>
+    <message>
+        <source>Nobody was signed in.</source>
+        <translation>Nadie había iniciado sesión.</translation>
+    </message>
+    <message>
+        <source>cannot sign out</source>
+        <translation>no puede cerrar la sesión</translation>
+    </message>
+    <message>
+        <source>Unlock it, then run the same command again.</source>
+        <translation>Desbloquéelo y vuelva a ejecutar la misma orden.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-out signs out.</source>
+        <translation>xbrhost sign-out cierra la sesión.</translation>
+    </message>
+    <message>
+        <source>it answered %1</source>
+        <translation>respondió %1</translation>
+    </message>
+    <message>
+        <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
+        <translation>%1 no está configurado: %2 no está cifrado, y solo se puede acceder así a este equipo.</translation>
     </message>
 </context>
 </TS>

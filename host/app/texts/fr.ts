@@ -27,10 +27,6 @@
 <context>
     <name>xbr::host::CommandLine</name>
     <message>
-        <source>The module cannot sign out.</source>
-        <translation>Le module ne peut pas se déconnecter.</translation>
-    </message>
-    <message>
         <source>The link is too long, or not one line.</source>
         <translation>Le lien est trop long, ou n&apos;est pas d&apos;une seule ligne.</translation>
     </message>
@@ -144,6 +140,13 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>Montrer</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -188,6 +191,66 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>Il contient des modifications de %n morceau qui n&apos;ont pas été envoyées.</numerusform>
+            <numerusform>Il contient des modifications de %n morceaux qui n&apos;ont pas été envoyées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>Il contient les résultats du dernier envoi.</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>Remplacer les morceaux du panneau ?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Garder</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Les autres morceaux peuvent être transmis sans eux.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Laisser des morceaux de côté ?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Laisser de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n morceau transmis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les détails, puis envoyez.</numerusform>
+            <numerusform>%n morceaux transmis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les détails, puis envoyez.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Montrer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>Il manque à %1 morceau sur %n des détails dont le service a besoin. « %2 » : %3.</numerusform>
+            <numerusform>Il manque à %1 morceaux sur %n des détails dont le service a besoin. « %2 » : %3.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::Header</name>
     <message>
         <source>Songs</source>
@@ -206,6 +269,17 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>Trousseau</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::MainWindow</name>
     <message>
         <source>Songs – xbrhost</source>
@@ -220,10 +294,6 @@
         <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
-        <source>Publish the selected songs, or all</source>
-        <translation>Publier les morceaux choisis, ou tous</translation>
-    </message>
-    <message>
         <source>Some songs are still being read; try again in a moment.</source>
         <translation>Certains morceaux sont encore en cours de lecture ; réessayez dans un instant.</translation>
     </message>
@@ -236,24 +306,43 @@
         <translation>Attendez la fin de l’envoi en cours.</translation>
     </message>
     <message>
-        <source>Stop the Upload?</source>
-        <translation>Arrêter l’envoi ?</translation>
-    </message>
-    <message>
-        <source>An upload is running.</source>
-        <translation>Un envoi est en cours.</translation>
-    </message>
-    <message>
-        <source>When you quit now, it is stopped; songs that have not arrived are not published.</source>
-        <translation>Si vous quittez maintenant, il est arrêté ; les morceaux non arrivés ne sont pas publiés.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Quit</source>
         <translation>&amp;Arrêter et quitter</translation>
     </message>
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>&amp;Continuer l’envoi</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>Transmet les morceaux sélectionnés, ou tous, au panneau ; rien n&apos;est encore envoyé</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>%n morceau du panneau a des modifications non envoyées ; elles seraient perdues. La liste revient au prochain démarrage.</numerusform>
+            <numerusform>%n morceaux du panneau ont des modifications non envoyées ; elles seraient perdues. La liste revient au prochain démarrage.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>Arrêter l&apos;envoi ?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>Quitter sans publier ?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>&amp;Continuer à modifier</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
     </message>
 </context>
 <context>
@@ -360,6 +449,123 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>Numéro de piste</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n morceau retiré du panneau.</numerusform>
+            <numerusform>%n morceaux retirés du panneau.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%1 modifié dans %n morceau.</numerusform>
+            <numerusform>%1 modifié dans %n morceaux.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%1 morceau sur %n est publié ; le reste ne le serait pas.</numerusform>
+            <numerusform>%1 morceaux sur %n sont publiés ; le reste ne le serait pas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>« %1 » est en cours d&apos;envoi.</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>Publié le %1</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>Publié le %1 en tant que %2</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>Envoyer sans ces détails ?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>« %1 » : %2. Le service le refusera probablement. Rien n&apos;est encore envoyé.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Montrer</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>Envoyer &amp;quand même</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>Publier à nouveau ?</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>« %1 » a été publié depuis cet ordinateur le %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>Publier à &amp;nouveau</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>&amp;Les laisser de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%1 morceau sur %n a déjà été publié depuis cet ordinateur.</numerusform>
+            <numerusform>%1 morceaux sur %n ont déjà été publiés depuis cet ordinateur.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>Page du &amp;compte</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Laisser de côté</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>&amp;Se connecter</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>Mettre fin à l&apos;envoi ; ce qui est arrivé reste publié</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::ProgressSheet</name>
     <message>
         <source>&amp;Cancel</source>
@@ -372,6 +578,61 @@
     <message>
         <source>Stopping…</source>
         <translation>Arrêt en cours…</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>« %1 » est en route et ne peut pas être modifié maintenant.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n morceau sélectionné : une modification les change tous.</numerusform>
+            <numerusform>%n morceaux sélectionnés : une modification les change tous.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n valeur</numerusform>
+            <numerusform>≠ %n valeurs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>identique</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n valeur différente : %1</numerusform>
+            <numerusform>%n valeurs différentes : %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>Copier l&apos;adresse</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>Lien de retour</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>Rien ne s&apos;est passé ?</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
     </message>
 </context>
 <context>
@@ -391,6 +652,66 @@
     <message>
         <source>Audio files</source>
         <translation>Fichiers audio</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n morceau ajouté.</numerusform>
+            <numerusform>%n morceaux ajoutés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n morceau ajouté ; %1 déjà dans la liste.</numerusform>
+            <numerusform>%n morceaux ajoutés ; %1 déjà dans la liste.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n morceau retiré de la liste ; le fichier reste.</numerusform>
+            <numerusform>%n morceaux retirés de la liste ; les fichiers restent.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Montrer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%1 morceau sur %n demande un coup d&apos;œil avant d&apos;être publié. %2</numerusform>
+            <numerusform>%1 morceaux sur %n demandent un coup d&apos;œil avant d&apos;être publiés. %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>%n morceau de la dernière fois.</numerusform>
+            <numerusform>%n morceaux de la dernière fois.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>%n morceau de la dernière fois ; %1 introuvable.</numerusform>
+            <numerusform>%n morceaux de la dernière fois ; %1 introuvable.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>Commencer à &amp;vide</translation>
     </message>
 </context>
 <context>
@@ -435,6 +756,10 @@
         <source>Track number</source>
         <translation>Numéro de piste</translation>
     </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marque</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::SongView</name>
@@ -460,6 +785,10 @@
     <message>
         <source>Ready.</source>
         <translation>Prêt.</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>Montrer chaque morceau</translation>
     </message>
 </context>
 <context>
@@ -560,6 +889,30 @@
         <source>Da&amp;rk</source>
         <translation>&amp;Sombre</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>Problème &amp;suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>Problème &amp;précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::WindowFront</name>
@@ -574,30 +927,6 @@
 </context>
 <context>
     <name>xbr::host::Words</name>
-    <message>
-        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>Un morceau remis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les informations, puis envoyez.</translation>
-    </message>
-    <message>
-        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>%1 morceaux remis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les informations, puis envoyez.</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>Laisser des morceaux de côté ?</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>Les autres morceaux peuvent être remis sans eux.</translation>
-    </message>
-    <message>
-        <source>Leave out</source>
-        <translation>Laisser de côté</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>Le navigateur est revenu sans autorisation. Autorisez l’accès là-bas ou annulez ici.</translation>
@@ -1113,6 +1442,110 @@
     <message>
         <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
         <translation>Le service demande d&apos;attendre %2 avant le prochain envoi. L&apos;album « %1 » n&apos;a pas été pris.</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to be unlocked.</source>
+        <translation>En attente du déverrouillage du trousseau.</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to answer.</source>
+        <translation>En attente d&apos;une réponse du trousseau.</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1. Copy the address and open it in a browser.</source>
+        <translation>Le navigateur web n&apos;a pas pu être démarré : %1. Copiez l&apos;adresse et ouvrez-la dans un navigateur.</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1.</source>
+        <translation>Le navigateur web n&apos;a pas pu être démarré : %1.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: this computer has no keyring.</source>
+        <translation>Connecté en tant que %1, jusqu&apos;à la fin du programme : cet ordinateur n&apos;a pas de trousseau.</translation>
+    </message>
+    <message>
+        <source>Not signed in: this computer has no keyring.</source>
+        <translation>Non connecté : cet ordinateur n&apos;a pas de trousseau.</translation>
+    </message>
+    <message>
+        <source>No keyring can be reached from here: nothing was removed.</source>
+        <translation>Aucun trousseau n&apos;est accessible d&apos;ici : rien n&apos;a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring was not unlocked.</source>
+        <translation>Connecté en tant que %1, jusqu&apos;à la fin du programme : le trousseau n&apos;a pas été déverrouillé.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in cannot be read.</source>
+        <translation>Le trousseau n&apos;a pas été déverrouillé : la connexion enregistrée ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in may still be there.</source>
+        <translation>Le trousseau n&apos;a pas été déverrouillé : la connexion enregistrée est peut-être encore là.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring does not answer.</source>
+        <translation>Connecté en tant que %1, jusqu&apos;à la fin du programme : le trousseau ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in cannot be read.</source>
+        <translation>Le trousseau ne répond pas : la connexion enregistrée ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in may still be there.</source>
+        <translation>Le trousseau ne répond pas : la connexion enregistrée est peut-être encore là.</translation>
+    </message>
+    <message>
+        <source>The service does not say who is signed in; it may not be %1.</source>
+        <translation>Le service ne dit pas qui est connecté ; ce n&apos;est peut-être pas %1.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, not as %2.</source>
+        <translation>Connecté en tant que %1, et non %2.</translation>
+    </message>
+    <message>
+        <source>A sign-in is stored, but the service could not be asked: %1.</source>
+        <translation>Une connexion est enregistrée, mais le service n&apos;a pas pu être interrogé : %1.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service sent an answer that cannot be used.</source>
+        <translation>Non connecté : le service a envoyé une réponse inutilisable.</translation>
+    </message>
+    <message>
+        <source>Not signed in.</source>
+        <translation>Non connecté.</translation>
+    </message>
+    <message>
+        <source>This is not a link back: it begins with “%1:”.</source>
+        <translation>Ce n&apos;est pas un lien de retour : il commence par « %1: ».</translation>
+    </message>
+    <message>
+        <source>This link back belongs to another sign-in. Open the address again.</source>
+        <translation>Ce lien de retour appartient à une autre connexion. Ouvrez l&apos;adresse à nouveau.</translation>
+    </message>
+    <message>
+        <source>Nobody was signed in.</source>
+        <translation>Personne n&apos;était connecté.</translation>
+    </message>
+    <message>
+        <source>cannot sign out</source>
+        <translation>ne peut pas se déconnecter</translation>
+    </message>
+    <message>
+        <source>Unlock it, then run the same command again.</source>
+        <translation>Déverrouillez-le, puis relancez la même commande.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-out signs out.</source>
+        <translation>xbrhost sign-out déconnecte.</translation>
+    </message>
+    <message>
+        <source>it answered %1</source>
+        <translation>il a répondu %1</translation>
+    </message>
+    <message>
+        <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
+        <translation>%1 n&apos;est pas configuré : %2 n&apos;est pas chiffré, et seul cet ordinateur peut être joint ainsi.</translation>
     </message>
 </context>
 </TS>

@@ -27,10 +27,6 @@
 <context>
     <name>xbr::host::CommandLine</name>
     <message>
-        <source>The module cannot sign out.</source>
-        <translation>モジュールはサインアウトできません。</translation>
-    </message>
-    <message>
         <source>The link is too long, or not one line.</source>
         <translation>リンクが長すぎるか、1 行ではありません。</translation>
     </message>
@@ -144,6 +140,13 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -188,6 +191,63 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>%n 曲の未送信の変更があります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>前回の送信結果があります。</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>パネルの曲を置き換えますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>そのままにする(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>置き換える(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>ほかの曲はそれらなしで渡せます。</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>曲を除きますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>除く(&amp;L)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n 曲をパネルに渡しました。まだ何も送信されていません。情報を確認してからアップロードしてください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>%n 曲中 %1 曲に、サービスに必要な情報が足りません。「%2」: %3。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::Header</name>
     <message>
         <source>Songs</source>
@@ -205,6 +265,17 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>キーリング</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::MainWindow</name>
     <message>
         <source>Songs – xbrhost</source>
@@ -219,10 +290,6 @@
         <translation>すべてのファイル (*)</translation>
     </message>
     <message>
-        <source>Publish the selected songs, or all</source>
-        <translation>選択した曲、またはすべての曲を公開</translation>
-    </message>
-    <message>
         <source>Some songs are still being read; try again in a moment.</source>
         <translation>まだ読み込み中の曲があります。少し待ってからもう一度お試しください。</translation>
     </message>
@@ -235,24 +302,42 @@
         <translation>実行中のアップロードが終わるまでお待ちください。</translation>
     </message>
     <message>
-        <source>Stop the Upload?</source>
-        <translation>アップロードを中止しますか？</translation>
-    </message>
-    <message>
-        <source>An upload is running.</source>
-        <translation>アップロードを実行中です。</translation>
-    </message>
-    <message>
-        <source>When you quit now, it is stopped; songs that have not arrived are not published.</source>
-        <translation>今終了すると中止されます。届いていない曲は公開されません。</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Quit</source>
         <translation>中止して終了(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>アップロードを続ける(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>選択した曲、またはすべての曲をパネルに渡します。まだ何も送信されません</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>パネルの %n 曲に未送信の変更があり、失われます。一覧は次回の起動時に戻ります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>送信を停止しますか?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>公開せずに終了しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>編集を続ける(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
     </message>
 </context>
 <context>
@@ -359,6 +444,119 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>トラック番号</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n 曲をパネルから取り除きました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%n 曲の「%1」を変更しました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%n 曲中 %1 曲が公開済みです。残りは公開されません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>「%1」を送信中です。</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>%1 に公開</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>%1 に %2 として公開</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>この情報なしで送信しますか?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>「%1」: %2。サービスに拒否される可能性があります。まだ何も送信されていません。</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>それでも送信(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>もう一度公開しますか?</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>「%1」は %2 にこのコンピューターから公開されました。</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>もう一度公開(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>除く(&amp;L)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%n 曲中 %1 曲は、このコンピューターからすでに公開されています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>再試行(&amp;T)</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>アカウントページ(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>除く(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>サインイン(&amp;I)</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>停止(&amp;S)</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>送信を終了します。届いたものは公開されたままです</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::ProgressSheet</name>
     <message>
         <source>&amp;Cancel</source>
@@ -371,6 +569,58 @@
     <message>
         <source>Stopping…</source>
         <translation>中止しています…</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>「%1」は送信中のため、今は変更できません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n 曲を選択中: 変更はすべてに適用されます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n 個の値</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>同じ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n 種類の値: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>アドレスをコピー</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>戻りリンク</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>何も起きませんか？</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>コピーしました</translation>
     </message>
 </context>
 <context>
@@ -390,6 +640,59 @@
     <message>
         <source>Audio files</source>
         <translation>音声ファイル</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n 曲を追加しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n 曲を追加しました。%1 曲はすでに一覧にあります。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n 曲を一覧から取り除きました。ファイルは残ります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%n 曲中 %1 曲は公開前に確認が必要です。%2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>前回の %n 曲です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>前回の %n 曲です。%1は見つかりません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n 個のファイル</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>空で始める(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -434,6 +737,10 @@
         <source>Track number</source>
         <translation>トラック番号</translation>
     </message>
+    <message>
+        <source>Mark</source>
+        <translation>印</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::SongView</name>
@@ -459,6 +766,10 @@
     <message>
         <source>Ready.</source>
         <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>曲ごとに表示</translation>
     </message>
 </context>
 <context>
@@ -559,6 +870,30 @@
         <source>Da&amp;rk</source>
         <translation>ダーク(&amp;R)</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>やり直す(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>次の問題(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>前の問題(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>停止(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>再試行(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::WindowFront</name>
@@ -573,30 +908,6 @@
 </context>
 <context>
     <name>xbr::host::Words</name>
-    <message>
-        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>1 曲をパネルに渡しました。まだ何も送信されていません。パネルで情報を確かめてからアップロードしてください。</translation>
-    </message>
-    <message>
-        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>%1 曲をパネルに渡しました。まだ何も送信されていません。パネルで情報を確かめてからアップロードしてください。</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>曲を除きますか？</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>ほかの曲だけを渡せます。</translation>
-    </message>
-    <message>
-        <source>Leave out</source>
-        <translation>除く</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>ブラウザーから許可なしで戻りました。ブラウザーでアクセスを許可するか、ここでキャンセルしてください。</translation>
@@ -1112,6 +1423,110 @@
     <message>
         <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
         <translation>サービスは次のアップロードまで %2 待つよう求めています。アルバム「%1」は受け付けられませんでした。</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to be unlocked.</source>
+        <translation>キーリングのロック解除を待っています。</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to answer.</source>
+        <translation>キーリングの応答を待っています。</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1. Copy the address and open it in a browser.</source>
+        <translation>ウェブブラウザーを起動できませんでした: %1。アドレスをコピーしてブラウザーで開いてください。</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1.</source>
+        <translation>ウェブブラウザーを起動できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: this computer has no keyring.</source>
+        <translation>%1 としてサインインしました。プログラムが終わるまで有効です: このコンピューターにはキーリングがありません。</translation>
+    </message>
+    <message>
+        <source>Not signed in: this computer has no keyring.</source>
+        <translation>サインインしていません: このコンピューターにはキーリングがありません。</translation>
+    </message>
+    <message>
+        <source>No keyring can be reached from here: nothing was removed.</source>
+        <translation>ここからアクセスできるキーリングがありません: 何も削除されていません。</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring was not unlocked.</source>
+        <translation>%1 としてサインインしました。プログラムが終わるまで有効です: キーリングのロックが解除されませんでした。</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in cannot be read.</source>
+        <translation>キーリングのロックが解除されませんでした: 保存されたサインインを読み取れません。</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in may still be there.</source>
+        <translation>キーリングのロックが解除されませんでした: 保存されたサインインがまだ残っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring does not answer.</source>
+        <translation>%1 としてサインインしました。プログラムが終わるまで有効です: キーリングが応答しません。</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in cannot be read.</source>
+        <translation>キーリングが応答しません: 保存されたサインインを読み取れません。</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in may still be there.</source>
+        <translation>キーリングが応答しません: 保存されたサインインがまだ残っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The service does not say who is signed in; it may not be %1.</source>
+        <translation>サービスは誰がサインインしているかを示しません。%1 ではない可能性があります。</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, not as %2.</source>
+        <translation>%2 ではなく %1 としてサインインしています。</translation>
+    </message>
+    <message>
+        <source>A sign-in is stored, but the service could not be asked: %1.</source>
+        <translation>サインインは保存されていますが、サービスに確認できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service sent an answer that cannot be used.</source>
+        <translation>サインインしていません: サービスから使用できない応答が届きました。</translation>
+    </message>
+    <message>
+        <source>Not signed in.</source>
+        <translation>サインインしていません。</translation>
+    </message>
+    <message>
+        <source>This is not a link back: it begins with “%1:”.</source>
+        <translation>これは戻りリンクではありません: 「%1:」で始まっています。</translation>
+    </message>
+    <message>
+        <source>This link back belongs to another sign-in. Open the address again.</source>
+        <translation>この戻りリンクは別のサインインのものです。アドレスをもう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>Nobody was signed in.</source>
+        <translation>誰もサインインしていませんでした。</translation>
+    </message>
+    <message>
+        <source>cannot sign out</source>
+        <translation>サインアウトできません</translation>
+    </message>
+    <message>
+        <source>Unlock it, then run the same command again.</source>
+        <translation>ロックを解除してから、同じコマンドをもう一度実行してください。</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-out signs out.</source>
+        <translation>xbrhost sign-out でサインアウトします。</translation>
+    </message>
+    <message>
+        <source>it answered %1</source>
+        <translation>応答は %1 でした</translation>
+    </message>
+    <message>
+        <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
+        <translation>%1 は設定されていません: %2 は暗号化されておらず、そのようにアクセスできるのはこのコンピューターだけです。</translation>
     </message>
 </context>
 </TS>

@@ -27,10 +27,6 @@
 <context>
     <name>xbr::host::CommandLine</name>
     <message>
-        <source>The module cannot sign out.</source>
-        <translation>O módulo não pode encerrar a sessão.</translation>
-    </message>
-    <message>
         <source>The link is too long, or not one line.</source>
         <translation>O link é longo demais ou não é uma só linha.</translation>
     </message>
@@ -144,6 +140,13 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::DockTitle</name>
     <message>
         <source>Float or dock</source>
@@ -188,6 +191,66 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>Ele contém alterações de %n música que não foram enviadas.</numerusform>
+            <numerusform>Ele contém alterações de %n músicas que não foram enviadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>Ele contém os resultados do último envio.</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>Substituir as músicas do painel?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Manter</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Substituir</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>As outras músicas podem ser passadas sem elas.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Deixar músicas de fora?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Deixar de fora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n música passada ao painel; nada foi enviado ainda. Confira os detalhes lá e depois envie.</numerusform>
+            <numerusform>%n músicas passadas ao painel; nada foi enviado ainda. Confira os detalhes lá e depois envie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>Faltam a %1 de %n música detalhes de que o serviço precisa. “%2”: %3.</numerusform>
+            <numerusform>Faltam a %1 de %n músicas detalhes de que o serviço precisa. “%2”: %3.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::Header</name>
     <message>
         <source>Songs</source>
@@ -206,6 +269,17 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>Chaveiro</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::MainWindow</name>
     <message>
         <source>Songs – xbrhost</source>
@@ -220,10 +294,6 @@
         <translation>Todos os arquivos (*)</translation>
     </message>
     <message>
-        <source>Publish the selected songs, or all</source>
-        <translation>Publicar as músicas selecionadas, ou todas</translation>
-    </message>
-    <message>
         <source>Some songs are still being read; try again in a moment.</source>
         <translation>Algumas músicas ainda estão sendo lidas; tente de novo em instantes.</translation>
     </message>
@@ -236,24 +306,43 @@
         <translation>Aguarde o fim do envio em andamento.</translation>
     </message>
     <message>
-        <source>Stop the Upload?</source>
-        <translation>Interromper o envio?</translation>
-    </message>
-    <message>
-        <source>An upload is running.</source>
-        <translation>Há um envio em andamento.</translation>
-    </message>
-    <message>
-        <source>When you quit now, it is stopped; songs that have not arrived are not published.</source>
-        <translation>Se sair agora, ele é interrompido; as músicas que não chegaram não são publicadas.</translation>
-    </message>
-    <message>
         <source>&amp;Stop and Quit</source>
         <translation>&amp;Interromper e sair</translation>
     </message>
     <message>
         <source>&amp;Keep Uploading</source>
         <translation>&amp;Continuar o envio</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>Passa as músicas selecionadas, ou todas, ao painel; nada é enviado ainda</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>%n música no painel tem alterações não enviadas; elas se perderiam. A lista volta na próxima abertura.</numerusform>
+            <numerusform>%n músicas no painel têm alterações não enviadas; elas se perderiam. A lista volta na próxima abertura.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>Parar o envio?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>Sair sem publicar?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>&amp;Continuar editando</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
     </message>
 </context>
 <context>
@@ -360,6 +449,123 @@
     </message>
 </context>
 <context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>Número da faixa</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n música removida do painel.</numerusform>
+            <numerusform>%n músicas removidas do painel.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%1 mudou em %n música.</numerusform>
+            <numerusform>%1 mudou em %n músicas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%1 de %n música está publicada; o resto não estaria.</numerusform>
+            <numerusform>%1 de %n músicas estão publicadas; o resto não estaria.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>“%1” está sendo enviada.</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>Publicada em %1</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>Publicada em %1 como %2</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>Enviar sem esses detalhes?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>“%1”: %2. O serviço provavelmente vai recusá-la. Nada foi enviado ainda.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>Enviar &amp;mesmo assim</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>Publicar de novo?</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>“%1” foi publicada a partir deste computador em %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>Publicar de &amp;novo</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>&amp;Deixá-las de fora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%1 de %n música já foi publicada a partir deste computador.</numerusform>
+            <numerusform>%1 de %n músicas já foram publicadas a partir deste computador.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Tentar de novo</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>Página da &amp;conta</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Deixar de fora</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>&amp;Entrar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Parar</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>Encerrar o envio; o que chegou continua publicado</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
     <name>xbr::host::ProgressSheet</name>
     <message>
         <source>&amp;Cancel</source>
@@ -372,6 +578,61 @@
     <message>
         <source>Stopping…</source>
         <translation>Interrompendo…</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>“%1” está a caminho e não pode ser alterada agora.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n música selecionada: uma alteração muda todas.</numerusform>
+            <numerusform>%n músicas selecionadas: uma alteração muda todas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n valor</numerusform>
+            <numerusform>≠ %n valores</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>igual</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n valor diferente: %1</numerusform>
+            <numerusform>%n valores diferentes: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>Copiar o endereço</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>Link de retorno</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>Nada aconteceu?</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
     </message>
 </context>
 <context>
@@ -391,6 +652,66 @@
     <message>
         <source>Audio files</source>
         <translation>Arquivos de áudio</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n música adicionada.</numerusform>
+            <numerusform>%n músicas adicionadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n música adicionada; %1 já na lista.</numerusform>
+            <numerusform>%n músicas adicionadas; %1 já na lista.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n música removida da lista; o arquivo fica.</numerusform>
+            <numerusform>%n músicas removidas da lista; os arquivos ficam.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%1 de %n música precisa de atenção antes de ser publicada. %2</numerusform>
+            <numerusform>%1 de %n músicas precisam de atenção antes de serem publicadas. %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>%n música da última vez.</numerusform>
+            <numerusform>%n músicas da última vez.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>%n música da última vez; %1 não está mais lá.</numerusform>
+            <numerusform>%n músicas da última vez; %1 não está mais lá.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n arquivo</numerusform>
+            <numerusform>%n arquivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>Começar &amp;vazio</translation>
     </message>
 </context>
 <context>
@@ -435,6 +756,10 @@
         <source>Track number</source>
         <translation>Número da faixa</translation>
     </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marca</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::SongView</name>
@@ -460,6 +785,10 @@
     <message>
         <source>Ready.</source>
         <translation>Pronto.</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>Mostrar cada música</translation>
     </message>
 </context>
 <context>
@@ -560,6 +889,30 @@
         <source>Da&amp;rk</source>
         <translation>&amp;Escuro</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>&amp;Próximo problema</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>Problema &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Parar</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Tentar de novo</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::WindowFront</name>
@@ -574,30 +927,6 @@
 </context>
 <context>
     <name>xbr::host::Words</name>
-    <message>
-        <source>One song handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>Uma música entregue ao painel; nada foi enviado ainda. Confira os dados lá e depois envie.</translation>
-    </message>
-    <message>
-        <source>%1 songs handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>%1 músicas entregues ao painel; nada foi enviado ainda. Confira os dados lá e depois envie.</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>Deixar músicas de fora?</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>As outras músicas podem ser entregues sem elas.</translation>
-    </message>
-    <message>
-        <source>Leave out</source>
-        <translation>Deixar de fora</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>O navegador voltou sem permissão. Permita o acesso lá ou cancele aqui.</translation>
@@ -1113,6 +1442,110 @@
     <message>
         <source>The service asks to wait %2 before the next upload. The album “%1” was not taken.</source>
         <translation>O serviço pede para esperar %2 antes do próximo envio. O álbum “%1” não foi aceito.</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to be unlocked.</source>
+        <translation>Aguardando o desbloqueio do chaveiro.</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring to answer.</source>
+        <translation>Aguardando a resposta do chaveiro.</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1. Copy the address and open it in a browser.</source>
+        <translation>Não foi possível iniciar o navegador: %1. Copie o endereço e abra-o num navegador.</translation>
+    </message>
+    <message>
+        <source>The web browser could not be started: %1.</source>
+        <translation>Não foi possível iniciar o navegador: %1.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: this computer has no keyring.</source>
+        <translation>Sessão iniciada como %1, até o programa terminar: este computador não tem chaveiro.</translation>
+    </message>
+    <message>
+        <source>Not signed in: this computer has no keyring.</source>
+        <translation>Sem sessão: este computador não tem chaveiro.</translation>
+    </message>
+    <message>
+        <source>No keyring can be reached from here: nothing was removed.</source>
+        <translation>Nenhum chaveiro pode ser acessado daqui: nada foi removido.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring was not unlocked.</source>
+        <translation>Sessão iniciada como %1, até o programa terminar: o chaveiro não foi desbloqueado.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in cannot be read.</source>
+        <translation>O chaveiro não foi desbloqueado: a sessão guardada não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked: the stored sign-in may still be there.</source>
+        <translation>O chaveiro não foi desbloqueado: a sessão guardada talvez ainda esteja lá.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, until the program ends: the keyring does not answer.</source>
+        <translation>Sessão iniciada como %1, até o programa terminar: o chaveiro não responde.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in cannot be read.</source>
+        <translation>O chaveiro não responde: a sessão guardada não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>The keyring does not answer: the stored sign-in may still be there.</source>
+        <translation>O chaveiro não responde: a sessão guardada talvez ainda esteja lá.</translation>
+    </message>
+    <message>
+        <source>The service does not say who is signed in; it may not be %1.</source>
+        <translation>O serviço não diz quem iniciou a sessão; pode não ser %1.</translation>
+    </message>
+    <message>
+        <source>Signed in as %1, not as %2.</source>
+        <translation>Sessão iniciada como %1, não como %2.</translation>
+    </message>
+    <message>
+        <source>A sign-in is stored, but the service could not be asked: %1.</source>
+        <translation>Há uma sessão guardada, mas não foi possível perguntar ao serviço: %1.</translation>
+    </message>
+    <message>
+        <source>Not signed in: the service sent an answer that cannot be used.</source>
+        <translation>Sem sessão: o serviço enviou uma resposta que não pode ser usada.</translation>
+    </message>
+    <message>
+        <source>Not signed in.</source>
+        <translation>Sem sessão.</translation>
+    </message>
+    <message>
+        <source>This is not a link back: it begins with “%1:”.</source>
+        <translation>Isto não é um link de retorno: começa com “%1:”.</translation>
+    </message>
+    <message>
+        <source>This link back belongs to another sign-in. Open the address again.</source>
+        <translation>Este link de retorno é de outro acesso. Abra o endereço de novo.</translation>
+    </message>
+    <message>
+        <source>Nobody was signed in.</source>
+        <translation>Ninguém tinha sessão iniciada.</translation>
+    </message>
+    <message>
+        <source>cannot sign out</source>
+        <translation>não pode encerrar a sessão</translation>
+    </message>
+    <message>
+        <source>Unlock it, then run the same command again.</source>
+        <translation>Desbloqueie-o e execute o mesmo comando novamente.</translation>
+    </message>
+    <message>
+        <source>xbrhost sign-out signs out.</source>
+        <translation>xbrhost sign-out termina a sessão.</translation>
+    </message>
+    <message>
+        <source>it answered %1</source>
+        <translation>ele respondeu %1</translation>
+    </message>
+    <message>
+        <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
+        <translation>%1 não está configurado: %2 não é cifrado, e só este computador pode ser acessado assim.</translation>
     </message>
 </context>
 </TS>
