@@ -8,7 +8,8 @@ namespace xbr::host {
 
 /// Finds the translations that a module carries for the user's languages, and writes dates for the user.
 ///
-/// The languages are those that the user wants (host/base/languages.h). A module's source texts are English and their context is the module's name.
+/// The languages are those that the user wants (host/base/languages.h). A module's source texts are English
+/// and their context is the module's name.
 class LocaleManager final : public Object<ILocaleManager, IDateFormats> {
 public:
     Result getTable(Text module, ITranslationTable** out) noexcept override;

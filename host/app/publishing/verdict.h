@@ -92,8 +92,8 @@ struct SongVerdict {
     std::string label;
     std::string source;
     std::string sentence;
-    int status = 0;        ///< of the service's answer; 0 when none came
-    std::int64_t sent = 0; ///< bytes; in an album each song's are the album's
+    int status = 0;                ///< of the service's answer; 0 when none came
+    std::int64_t sent = 0;         ///< bytes; in an album each song's are the album's
     std::vector<Detail> missing{}; ///< what its editor shows empty
 };
 
