@@ -34,10 +34,11 @@ void openPanel(benchmark::State& state) {
     FakeFront front;
     HostSession session(front, {BRINDLEX_MODULE, false, false});
     session.start();
+    DialogPlace place{session};
     for (auto _ : state) {
         {
             GadgetDock dock(
-                findGadgets().front(), session, [](const QString&) {}, nullptr);
+                findGadgets().front(), place, [](const QString&) {}, nullptr);
             dock.resize(kPanelSize);
             dock.show();
             settle();
