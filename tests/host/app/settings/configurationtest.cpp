@@ -126,7 +126,7 @@ TEST_F(Configuration, wrongAddressesAreTold) {
         {"http://LocalHost", "brindlex:x", {}, {}, false},
         {"http://service.example", "brindlex:x", {}, {}, true},
         {"HTTP://localhost.example", "brindlex:x", {}, {}, true},
-        {"http://localhost@service.example", "brindlex:x", {}, {}, true},
+        {"http://localhost@service.example", "brindlex:x", {}, {"ServerURL"}, true},
         {"", "brindlex:x", {"ServerURL"}, {}, false},
         {"", "", {"ServerURL", "CallbackURL"}, {}, false},
         {"service.example", "brindlex:x", {}, {"ServerURL"}, false},
