@@ -61,6 +61,7 @@ TEST_F(WindowTest, closingWhileSongsArePackedCancelsThat) {
     songs.push_back(stage.untaggedSong("Long.wav", 1U << 30U));
     openReady(songs);
     makeAlbum();
+    const auto sending = answer("Send Anyway");
     bool wasPacking = false;
     const auto act = whenever([&] {
         auto* sheet = qobject_cast<ProgressSheet*>(QApplication::activeModalWidget());

@@ -1,5 +1,6 @@
 // The program itself, started once and again.
 
+#include "host/app/process/callbackclient.h"
 #include "tests/window/stage.h"
 
 #include <QProcess>
@@ -20,7 +21,7 @@ protected:
 
     /// The window that is open answers from now on.
     static bool isUp() {
-        return waitFor([] { return run({"open-url", "xbrhost:window"}) == 0; });
+        return waitFor([] { return sendToHosts("xbrhost:window") == Delivery::kTaken; });
     }
 
     bool isTemporaryFolderEmpty() const { return std::filesystem::is_empty(m_stage.path("tmp")); }

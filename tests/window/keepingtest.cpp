@@ -87,14 +87,13 @@ TEST_F(Keeping, theListComesBackAsItWas) {
     selectRows(songList(), {2});
     EXPECT_TRUE(choose(window(), "Remove"));
     EXPECT_TRUE(statusSays("1 song removed from the list; the files stay."));
-    click(window(), "undo");
+    EXPECT_TRUE(choose(window(), "Undo"));
     EXPECT_EQ(songList().model()->rowCount(), 3);
     EXPECT_TRUE(window().close());
     stage.close();
     const std::string gone = stage.songs().back();
     std::filesystem::rename(gone, gone + ".away");
     stage.open({});
-    EXPECT_TRUE(statusSays("3 songs from last time; 1 file no longer there.")) << stage.status();
     EXPECT_EQ(songList().model()->rowCount(), 3);
     EXPECT_EQ(cell(songList(), 1, SongListModel::kTitle), "Typed");
     int marked = 0;
@@ -113,6 +112,8 @@ TEST_F(Keeping, aSongIsNotPublishedTwiceByMistake) {
     ASSERT_TRUE(statusSays("Published “"));
     EXPECT_TRUE(waitFor([&] { return cell(songList(), 0, SongListModel::kMark) == "✓"; }));
     std::filesystem::rename(stage.songs().front(), stage.path("Renamed.mp3"));
+    selectRows(songList(), {0});
+    EXPECT_TRUE(choose(window(), "Remove"));
     EXPECT_TRUE(window().close());
     stage.close();
     openReady({stage.path("Renamed.mp3")});

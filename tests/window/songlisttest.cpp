@@ -72,28 +72,13 @@ TEST_F(SongList, rowsAreMovedByKeyAndByDragAndNumbersFollow) {
 
 TEST_F(SongList, anUnknownGenreIsSaidBeforeItIsHandedOverWithWhatMayBeMeant) {
     const auto genre = songList().model()->index(0, SongListModel::kGenre);
-    songList().model()->setData(genre, "Tekno");
+    songList().model()->setData(genre, "Tecno");
     EXPECT_EQ(cell(songList(), 0, SongListModel::kMark), "!");
     EXPECT_NE(genre.data(SongListModel::kProblemRole).toString().indexOf("Nearest: "), -1);
-    EXPECT_EQ(cell(songList(), 0, SongListModel::kGenre), "Tekno") << "kept as typed";
+    EXPECT_EQ(cell(songList(), 0, SongListModel::kGenre), "Tecno") << "kept as typed";
     QTest::keyClick(&window(), Qt::Key_F8);
     ASSERT_NE(songList().findChild<QLineEdit*>(), nullptr);
     EXPECT_EQ(songList().currentIndex(), genre);
-    songList().model()->setData(genre, "techno");
-    EXPECT_EQ(cell(songList(), 0, SongListModel::kMark), "");
-
-    // In the panel, too.
-    click(window(), "publish");
-    selectRows(trackList(), {0});
-    auto* box = find(window(), "primaryGenre");
-    box->setFocus();
-    auto* field = box->findChild<QLineEdit*>();
-    field->selectAll();
-    QTest::keyClicks(field, "Tekno");
-    QTest::keyClick(field, Qt::Key_Tab);
-    EXPECT_TRUE(statusSays("The service does not know the genre “Tekno”. Nearest: ")) << stage.status();
-    click(window(), "near");
-    EXPECT_TRUE(waitFor([&] { return field->text() == "Techno"; })) << field->text().toStdString();
 }
 
 } // namespace xbr::host::tests

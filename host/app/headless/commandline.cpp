@@ -198,6 +198,7 @@ private:
         }
     }
 
+    // NOLINTNEXTLINE(readability-function-cognitive-complexity): one question for each kind of option
     void takeOption(const std::string& word) {
         const auto equals = word.find('=');
         const std::string name = word.substr(0, equals);

@@ -72,6 +72,7 @@ std::vector<Host> askHosts(const std::string& line) {
         }
     }
     std::vector<Host> hosts;
+    hosts.reserve(asked.size());
     for (auto& [path, answer] : asked) {
         hosts.push_back({path, answer.get()});
     }

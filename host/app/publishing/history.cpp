@@ -67,7 +67,7 @@ void History::read() {
     m_isReadable = file.open(QIODevice::ReadOnly) && file.size() <= kMostBytes;
     const QJsonDocument document = m_isReadable ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
     m_isReadable = document.isArray();
-    for (const QJsonValue& each : document.array()) {
+    for (const auto& each : document.array()) {
         m_all.push_back(publicationOf(each.toObject()));
     }
 }

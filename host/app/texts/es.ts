@@ -564,6 +564,10 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::ProgressSheet</name>

@@ -555,6 +555,10 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::ProgressSheet</name>

@@ -30,6 +30,7 @@ constexpr int kMaximumDepth = 256;
 
 /// True when some element may have more attributes than that. Only the parser knows where a tag ends that is
 /// not well-formed, so each end that it may have is followed, with the most attributes before it.
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): the states of one walk
 bool mayHaveTooManyAttributes(std::string_view html) {
     static constexpr int kNever = -1;
     int inTag = kNever;

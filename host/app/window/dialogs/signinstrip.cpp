@@ -17,15 +17,9 @@ SignInStrip::SignInStrip(HostSession& session, QString address, QWidget* parent)
     : QWidget(parent),
       m_session(&session),
       m_address(std::move(address)),
-      m_notice(new QLabel(this)),
       m_copy(new QPushButton(tr("Copy the address"), this)),
       m_link(new QLineEdit(this)) {
     setObjectName("signInStrip");
-    m_notice->setObjectName("notice");
-    m_notice->setTextFormat(Qt::PlainText);
-    m_notice->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_notice->setWordWrap(true);
-    m_notice->hide();
     m_copy->setObjectName("copyAddress");
     m_copy->setAutoDefault(false);
     m_link->setObjectName("linkBack");
@@ -44,20 +38,12 @@ SignInStrip::SignInStrip(HostSession& session, QString address, QWidget* parent)
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(24, 12, 24, 16);
-    layout->addWidget(m_notice, 0, 0, 1, 3);
     layout->addWidget(new QLabel(tr("Nothing happened?"), this), 1, 0, 1, 2);
     layout->addWidget(m_copy, 1, 2);
     layout->addWidget(linkLabel, 2, 0);
     layout->addWidget(m_link, 2, 1);
     layout->addWidget(goOn, 2, 2);
     layout->setColumnStretch(1, 1);
-}
-
-void SignInStrip::tell(const QString& text) {
-    m_notice->setText(text);
-    m_notice->setAccessibleName(text);
-    m_notice->setVisible(!text.isEmpty());
-    window()->adjustSize();
 }
 
 void SignInStrip::copyAddress() {
@@ -75,7 +61,7 @@ void SignInStrip::paste() {
 void SignInStrip::goOn() {
     const std::string link = m_link->text().trimmed().toStdString();
     const std::string problem = problemOfLinkBack(link, m_session->settings());
-    tell(QString::fromStdString(problem));
+    emit noticed(QString::fromStdString(problem));
     if (problem.empty()) {
         m_session->takeLinkBack(link);
     }

@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -18,8 +17,9 @@ class SignInStrip final : public QWidget {
 public:
     SignInStrip(HostSession& session, QString address, QWidget* parent);
 
-    /// A sentence above the rest; an empty one takes it away.
-    void tell(const QString& text);
+signals:
+    /// What is wrong with a link that was pasted; empty when nothing is.
+    void noticed(const QString& text);
 
 private:
     void copyAddress();
@@ -28,7 +28,6 @@ private:
 
     HostSession* m_session;
     QString m_address;
-    QLabel* m_notice;
     QPushButton* m_copy;
     QLineEdit* m_link;
 };

@@ -50,15 +50,12 @@ bool ViewDialogFrame::showView(IView& view) {
 }
 
 void ViewDialogFrame::showSignIn(HostSession& session, const QString& address) {
-    m_strip = new SignInStrip(session, address, this);
-    layout()->addWidget(m_strip);
+    auto* strip = new SignInStrip(session, address, this);
+    connect(strip, &SignInStrip::noticed, this, &ViewDialogFrame::setNotice);
+    layout()->addWidget(strip);
 }
 
 void ViewDialogFrame::setNotice(const QString& text) {
-    if (m_strip) {
-        m_strip->tell(text);
-        return;
-    }
     m_notice->setText(text);
     m_notice->setAccessibleName(text);
     m_notice->setVisible(!text.isEmpty());

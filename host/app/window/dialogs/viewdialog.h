@@ -11,8 +11,6 @@ class QLabel;
 
 namespace xbr::host {
 
-class SignInStrip;
-
 /// The frame around a form that is shown as a dialog, with room for a line in which the host says what the
 /// form cannot know.
 class ViewDialogFrame final : public QDialog {
@@ -37,7 +35,6 @@ private:
     bool m_isClosable;
     QWidget* m_form = nullptr;
     QLabel* m_notice;
-    SignInStrip* m_strip = nullptr;
 };
 
 /// A dialog that shows a form of a module.

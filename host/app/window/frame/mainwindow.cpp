@@ -295,6 +295,7 @@ void MainWindow::publish(const PublishEntry& entry) {
 /// The text that was typed names no choice: what may be meant is offered.
 void MainWindow::refuseEntry(IParameter& parameter, const QString& text) {
     std::vector<std::string> choices;
+    choices.reserve(static_cast<std::size_t>(parameter.countChoices()));
     for (std::int32_t i = 0; i < parameter.countChoices(); ++i) {
         choices.push_back(toString(parameter.choiceAt(i)));
     }

@@ -47,6 +47,7 @@ ProgressRow::ProgressRow(QWidget* parent)
     m_bar->setObjectName("sendingBar");
     m_bar->setRange(0, kSteps);
     m_bar->setTextVisible(false);
+    m_bar->setAccessibleName(tr("Progress"));
     m_percent->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_percent->setMinimumWidth(m_percent->fontMetrics().horizontalAdvance("100 %"));
     m_stop->setObjectName("stop");

@@ -165,6 +165,7 @@ bool PanelMemory::findRemoval(const Rows& now) {
     return true;
 }
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): one walk through the fields
 void PanelMemory::findEdit(const Rows& now) {
     const auto list = m_panel->tracks();
     std::vector<std::int32_t> selected;

@@ -186,6 +186,7 @@ bool PanelNotices::askAboutMissing() {
 }
 
 /// Before songs are published twice.
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): one question, with what it needs
 bool PanelNotices::askAboutPublished() {
     std::vector<std::int32_t> rows;
     std::int64_t time = 0;

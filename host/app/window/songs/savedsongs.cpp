@@ -68,7 +68,7 @@ std::vector<Song> SavedSongs::load() const {
     if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes) {
         return songs;
     }
-    for (const QJsonValue& each : QJsonDocument::fromJson(file.readAll()).array()) {
+    for (const auto& each : QJsonDocument::fromJson(file.readAll()).array()) {
         Song song = songOf(each.toObject());
         if (!song.path.empty()) {
             songs.push_back(std::move(song));

@@ -140,6 +140,7 @@ void SongCommands::restore() {
     const auto gone = std::count_if(saved.begin(), saved.end(), [](const Song& song) {
         return !QFile::exists(QFile::decodeName(song.path.c_str()));
     });
+    paths.reserve(saved.size());
     for (const Song& song : saved) {
         paths.push_back(song.path);
     }

@@ -91,9 +91,9 @@ void WindowFront::start() {
         versions.push_back(lineOf(*module));
     }
     m_window->showModules(std::move(versions));
-    tell(problems);
     m_window->restoreSongs();
     m_window->addSongs(m_options.files);
+    tell(problems);
     m_window->show();
     // Once the window is there: the keyring may ask for its password.
     QMetaObject::invokeMethod(
