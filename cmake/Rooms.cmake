@@ -37,6 +37,12 @@ if(XBR_ASAN)
     target_compile_options(xbr_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
         -fno-omit-frame-pointer)
     target_link_options(xbr_options INTERFACE -fsanitize=address,undefined)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        # One runtime for the program and its libraries; g++ has no other kind.
+        execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-runtime-dir
+            OUTPUT_VARIABLE runtime OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+        target_link_options(xbr_options INTERFACE -shared-libasan -Wl,-rpath,${runtime})
+    endif()
 elseif(XBR_FUZZ)
     target_compile_options(xbr_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
         -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -76,13 +82,8 @@ function(xbr_room name)
     if(ROOM_SEES)
         target_link_libraries(${name} PUBLIC ${ROOM_SEES})
     endif()
-    # Where files are compiled together (CMAKE_UNITY_BUILD), it is those of one folder.
-    set_target_properties(${name} PROPERTIES UNITY_BUILD_MODE GROUP)
-    foreach(source IN LISTS ROOM_SOURCES)
-        cmake_path(GET source PARENT_PATH folder)
-        string(MAKE_C_IDENTIFIER "in_${folder}" folder)
-        set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${folder})
-    endforeach()
+    # Where files are compiled together (CMAKE_UNITY_BUILD), it is all of a room.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD_BATCH_SIZE 0)
 endfunction()
 
 # Links the host's five libraries to what holds rooms that call them. The rooms themselves do not link them, so that unit

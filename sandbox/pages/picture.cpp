@@ -73,8 +73,9 @@ std::string drawRows(int width, int height, int variant) {
         for (int column = 0; column < width; ++column) {
             const auto colour = colourAt(scene, double(column) / height, double(row) / height,
                                          double(width) / height, variant);
-            rows += {static_cast<char>(colour.red), static_cast<char>(colour.green),
-                     static_cast<char>(colour.blue)};
+            for (const double part : {colour.red, colour.green, colour.blue}) {
+                rows += static_cast<char>(static_cast<unsigned char>(part));
+            }
         }
     }
     return rows;

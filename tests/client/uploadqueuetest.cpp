@@ -223,7 +223,7 @@ TEST_F(UploadQueueTest, NothingDoneWhilePreparingDoesHarm) {
     for (const auto& [name, action, sent] : cases) {
         SCOPED_TRACE(name);
         startWith(UploadMode::kSingles, "a");
-        host().objects.onProgressUpdate = [&] {
+        host().objects.onProgressUpdate = [&, action = action] {
             const auto once = std::exchange(host().objects.onProgressUpdate, nullptr); // this very function
             action();
         };

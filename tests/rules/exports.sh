@@ -14,7 +14,7 @@ for name in $needed; do
     case $name in
     libxbrsystem.so | libxbrtext.so | libxbrgui.so | libxbrnet.so | libxbrsecurity.so) ;;
     libstdc++.so.* | libgcc_s.so.* | libc.so.* | libm.so.* | ld-linux*) ;;
-    libasan.so.* | libubsan.so.* | libtsan.so.*) ;; # sanitizer builds
+    libasan.so.* | libubsan.so.* | libtsan.so.* | libclang_rt.*) ;; # sanitizer builds
     *)
         echo "needs $name"
         exit 1

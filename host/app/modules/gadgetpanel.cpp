@@ -138,6 +138,11 @@ ClientState GadgetPanel::clientState() const {
     return static_cast<ClientState>(numberOfClient("clientState"));
 }
 
+bool GadgetPanel::isAlbum() const {
+    const IParameter* mode = findParameter(*m_controller, kAlbumMode);
+    return mode && integerOf(mode->value()) != 0;
+}
+
 std::string GadgetPanel::text(std::string_view path) const {
     const IParameter* parameter = findParameter(*m_controller, path);
     return parameter ? std::string(textOf(parameter->value())) : std::string();

@@ -60,6 +60,12 @@ public:
     /// The text of a parameter; empty when it is missing.
     std::string text(std::string_view path) const;
 
+    /// True when the songs of the list go to the service as one album.
+    bool isAlbum() const;
+
+    /// The toggle that says so.
+    static constexpr std::string_view kAlbumMode = "TrackList/albumUpload";
+
     /// Sets a parameter as a user does: performs a command with 1, switches a toggle. False when there is no
     /// such parameter, or it is disabled. Returns when the panel has dealt with it, which may run the event
     /// loop.

@@ -10,6 +10,17 @@ namespace xbr::host {
 
 namespace {
 
+/// The rows of the songs that were sent and not taken.
+std::vector<std::int32_t> notTakenOf(const std::vector<TrackReport>& tracks) {
+    std::vector<std::int32_t> rows;
+    for (const TrackReport& track : tracks) {
+        if (isNotTaken(track)) {
+            rows.push_back(track.index);
+        }
+    }
+    return rows;
+}
+
 /// Of songs that could not be handed over.
 Verdict judgeHandOver(const Problem& problem) {
     if (problem.fault == Fault::kCancelled) {
@@ -90,7 +101,7 @@ std::optional<Verdict> Publishing::handOver(const PublishEntry& entry, const Pla
         return judgeHandOver(handed.problem());
     }
     m_rendered = std::move(rendered); // the former ones are no longer in the module's list
-    m_follow.named(std::move(*handed));
+    m_follow.named(*handed);
     return std::nullopt;
 }
 
@@ -219,26 +230,17 @@ void Publishing::nameServer(Problem& problem) const {
     }
 }
 
-std::vector<std::int32_t> Publishing::notTaken() {
-    std::vector<std::int32_t> rows;
-    for (const TrackReport& track : m_follow.tracks()) {
-        if (isNotTaken(track)) {
-            rows.push_back(track.index);
-        }
-    }
-    return rows;
-}
-
 bool Publishing::canTryAgain() {
-    return !isBusy() && !notTaken().empty();
+    return !isBusy() && !notTakenOf(m_follow.tracks()).empty();
 }
 
 void Publishing::uploadComes() {
     const auto all = m_follow.tracks();
     const bool isWaiting = std::any_of(
         all.begin(), all.end(), [](const TrackReport& track) { return track.state == TrackState::kNone; });
-    if (!isWaiting && canTryAgain()) {
-        resetTracks(*m_panel->tracks(), notTaken());
+    const auto rows = notTakenOf(all);
+    if (!isWaiting && !isBusy() && !rows.empty()) {
+        resetTracks(*m_panel->tracks(), rows);
     }
 }
 
@@ -246,7 +248,7 @@ void Publishing::tryAgain() {
     if (isBusy()) {
         return;
     }
-    resetTracks(*m_panel->tracks(), notTaken());
+    resetTracks(*m_panel->tracks(), notTakenOf(m_follow.tracks()));
     ++m_calls;
     m_panel->set("upload", 1);
     --m_calls;

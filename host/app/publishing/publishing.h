@@ -116,7 +116,6 @@ private:
     template <class Call>
     bool doInPanel(const Call& call);
     void tellStopped();
-    std::vector<std::int32_t> notTaken();
     void nameServer(Problem& problem) const;
     void end(const Verdict& verdict);
 

@@ -8,13 +8,13 @@ namespace xbr::host {
 namespace {
 
 /// A failure of the connection in words; %s stands for the host.
-struct Row {
+struct Wording {
     CURLcode code;
     Fault fault;
     const char* text;
 };
 
-constexpr Row kRows[] = {
+constexpr Wording kWordings[] = {
     {CURLE_COULDNT_RESOLVE_HOST, Fault::kNoServer, "The server %s could not be found."},
     {CURLE_COULDNT_RESOLVE_PROXY, Fault::kNoServer, "The proxy server on the way to %s could not be found."},
     {CURLE_COULDNT_CONNECT, Fault::kNoServer, "No connection to %s could be made."},
@@ -38,10 +38,10 @@ constexpr Row kRows[] = {
     {CURLE_SSL_ISSUER_ERROR, Fault::kUntrusted, "No secure connection to %s could be made."},
 };
 
-const Row* rowOf(CURLcode code) {
-    const auto* found =
-        std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& row) { return row.code == code; });
-    return found == std::end(kRows) ? nullptr : found;
+const Wording* wordingOf(CURLcode code) {
+    const auto* found = std::find_if(std::begin(kWordings), std::end(kWordings),
+                                     [&](const Wording& wording) { return wording.code == code; });
+    return found == std::end(kWordings) ? nullptr : found;
 }
 
 const char* endedText(Ended ended) {
@@ -71,9 +71,9 @@ std::string failureText(Ended ended, CURLcode code, const std::string& host) {
         return fillIn(text, host);
     }
     // curl_easy_strerror has fixed texts: unlike the error buffer it never quotes the request.
-    const Row* row = rowOf(code);
-    return row ? fillIn(row->text, host)
-               : fillIn("The request to %s failed: ", host) + curl_easy_strerror(code) + ".";
+    const Wording* wording = wordingOf(code);
+    return wording ? fillIn(wording->text, host)
+                   : fillIn("The request to %s failed: ", host) + curl_easy_strerror(code) + ".";
 }
 
 Fault faultOf(Ended ended, CURLcode code) {
@@ -87,8 +87,8 @@ Fault faultOf(Ended ended, CURLcode code) {
     case Ended::kNot:
         break;
     }
-    const Row* row = rowOf(code);
-    return row ? row->fault : Fault::kConnectionLost;
+    const Wording* wording = wordingOf(code);
+    return wording ? wording->fault : Fault::kConnectionLost;
 }
 
 } // namespace

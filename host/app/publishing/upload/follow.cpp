@@ -18,13 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kAlbumMode = "TrackList/albumUpload";
-
-bool isAlbumOn(GadgetPanel& panel) {
-    const IParameter* mode = findParameter(panel.controller(), kAlbumMode);
-    return mode && integerOf(mode->value()) != 0;
-}
-
 /// The folder for copies, as the user knows it: the one that ours lies in.
 std::string folderForCopies() {
     Ref<IString> url;
@@ -100,8 +93,11 @@ Follow::Follow(GadgetPanel& panel, Activity& activity, Listener listener)
     m_clock.start();
 }
 
-void Follow::named(std::vector<HandedSong> songs) {
-    m_songs = std::move(songs);
+void Follow::named(const std::vector<HandedSong>& songs) {
+    m_sources.clear();
+    for (const HandedSong& song : songs) {
+        m_sources.emplace(song.file, song.source);
+    }
     m_carried.clear();
 }
 
@@ -145,7 +141,7 @@ void Follow::beginUpload() {
 /// In an album the service finds a song by its file's name. Tracks that were added in the panel, and those of
 /// singles that became an album, come by here for the first time.
 void Follow::checkNames() {
-    if (!isAlbumOn(*m_panel)) {
+    if (!m_panel->isAlbum()) {
         return;
     }
     std::vector<std::string> names;
@@ -168,7 +164,7 @@ void Follow::checkNames() {
 /// An album that cannot fit says so before it fills the disk. Singles are copied and removed one by one; that
 /// one does not fit is seen when it is copied.
 void Follow::checkRoom() {
-    if (!isAlbumOn(*m_panel)) {
+    if (!m_panel->isAlbum()) {
         return;
     }
     UploadFacts album;
@@ -258,7 +254,7 @@ UploadProgress Follow::progress() {
     const auto& reports = m_follower.reports();
     const auto travelling = std::find_if(reports.begin(), reports.end(),
                                          [](const TrackReport& track) { return track.isUploading; });
-    progress.isAlbum = isAlbumOn(*m_panel);
+    progress.isAlbum = m_panel->isAlbum();
     progress.songs = reports.size();
     progress.songsDone =
         static_cast<std::size_t>(std::count_if(reports.begin(), reports.end(), [](const TrackReport& track) {
@@ -293,7 +289,7 @@ void Follow::workProgressed(Activity::Kind kind, double fraction, const std::str
     }
     PreparationProgress progress;
     progress.file = what;
-    const bool isAlbum = isAlbumOn(*m_panel);
+    const bool isAlbum = m_panel->isAlbum();
     std::int64_t total = 0;
     for (const TrackReport& track : m_follower.reports()) {
         if (isAlbum || (track.state == TrackState::kNone && progress.songs == 0)) {
@@ -359,10 +355,9 @@ void Follow::finish() {
 }
 
 std::string Follow::sourceOf(const std::string& url) const {
-    const auto path = localPath(url);
-    const auto found = std::find_if(m_songs.begin(), m_songs.end(),
-                                    [&](const HandedSong& song) { return path && song.file == *path; });
-    return found == m_songs.end() ? path.value_or(url) : found->source;
+    const std::string path = localPath(url).value_or(url);
+    const auto found = m_sources.find(path);
+    return found == m_sources.end() ? path : found->second;
 }
 
 /// The user knows a song by the file that it came from, not by what was rendered from it.
@@ -405,7 +400,7 @@ UploadFacts Follow::facts() {
     for (const TrackReport& report : m_follower.reports()) {
         facts.tracks.push_back(factOf(report));
     }
-    facts.isAlbum = isAlbumOn(*m_panel);
+    facts.isAlbum = m_panel->isAlbum();
     if (facts.isAlbum && !m_follower.reports().empty()) {
         facts.albumTitle = m_follower.reports().front().details.text(Detail::kAlbumTitle);
     }

@@ -14,6 +14,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace xbr::host {
@@ -36,7 +37,7 @@ public:
     Follow& operator=(const Follow&) = delete;
 
     /// The panel was given songs: tracks are called by the user's files, and former uploads are forgotten.
-    void named(std::vector<HandedSong> songs);
+    void named(const std::vector<HandedSong>& songs);
 
     /// "upload" was performed, and has come back. When nothing was prepared in there, nothing will be.
     void asked();
@@ -97,7 +98,8 @@ private:
     bool m_wasPrepared = false; ///< since the last time that somebody asked
     bool m_isCancelled = false;
     bool m_hasNoRoom = false;
-    std::vector<HandedSong> m_songs;
+    std::unordered_map<std::string, std::string>
+        m_sources; ///< paths of the user's files, by what the module got
     std::vector<Problem> m_files;
     std::vector<Finding> m_findings;
     std::map<std::string, Carried> m_carried;    ///< by the URL of the track's file

@@ -13,7 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kAlbumModeName = "TrackList/albumUpload";
 constexpr std::string_view kGenre = "TrackList/TrackProperties/primaryGenre";
 
 Genres genresOf(GadgetPanel& panel) {
@@ -83,7 +82,7 @@ Outcome<void> give(const Plan& plan, PublishedItems& items, GadgetPanel& panel, 
     if (!plan.isForPanel) {
         // Before, so that the one song of an album is taken with its album's title; and after, as several
         // songs make the module think of an album.
-        panel.set(kAlbumModeName, mode);
+        panel.set(GadgetPanel::kAlbumMode, mode);
     }
     if (!publisher || publisher->publish(&items) != kOk) {
         return moduleProblem(
@@ -95,7 +94,7 @@ Outcome<void> give(const Plan& plan, PublishedItems& items, GadgetPanel& panel, 
             entry, say(QCoreApplication::translate("xbr::host::Words", "it does not take all songs")));
     }
     if (!plan.isForPanel) {
-        panel.set(kAlbumModeName, mode);
+        panel.set(GadgetPanel::kAlbumMode, mode);
     }
     if (!plan.isAlbum()) {
         dropForeignGenres(songs, panel);
@@ -111,8 +110,7 @@ Offer offerOf(GadgetPanel& panel, const PublishEntry& entry) {
     offer.wantedInstead = [publisher = createPublisher(entry)](const std::string& extension) {
         return publisher ? wantedInstead(*publisher, extension) : "";
     };
-    const IParameter* mode = findParameter(panel.controller(), kAlbumModeName);
-    offer.isAlbumOn = mode && integerOf(mode->value()) != 0;
+    offer.isAlbumOn = panel.isAlbum();
     return offer;
 }
 

@@ -9,13 +9,11 @@ namespace xbr::host {
 
 namespace {
 
-using Kind = Hindrance::Kind;
-
 Hindrance lackOf(const TrackReport& track) {
     std::vector<Detail> missing = missingDetails(track);
     std::string sentence = say(QCoreApplication::translate("xbr::host::Words", "“%1” lacks: %2."),
                                labelOf(track), wordsOf(missing));
-    return {Kind::kIncomplete, std::move(sentence), track.index, std::move(missing)};
+    return {Hindrance::Kind::kIncomplete, std::move(sentence), track.index, std::move(missing)};
 }
 
 std::vector<std::int32_t> selectedRows(const IListViewModel& tracks) {
@@ -36,26 +34,26 @@ void select(IListViewModel& tracks, const std::vector<std::int32_t>& rows) {
 
 Hindrance hindranceOf(const std::vector<TrackReport>& tracks, bool isSignedIn, bool isUploading) {
     if (isUploading) {
-        return {Kind::kUploading,
+        return {Hindrance::Kind::kUploading,
                 say(QCoreApplication::translate("xbr::host::Words", "An upload is running.")),
                 -1,
                 {}};
     }
     if (tracks.empty()) {
-        return {Kind::kNoSongs,
+        return {Hindrance::Kind::kNoSongs,
                 say(QCoreApplication::translate("xbr::host::Words", "Hand over songs first.")),
                 -1,
                 {}};
     }
     if (!isSignedIn) {
-        return {Kind::kNotSignedIn,
+        return {Hindrance::Kind::kNotSignedIn,
                 say(QCoreApplication::translate("xbr::host::Words", "Sign in first.")),
                 -1,
                 {}};
     }
     if (std::all_of(tracks.begin(), tracks.end(),
                     [](const TrackReport& track) { return track.state == TrackState::kDone; })) {
-        return {Kind::kAllPublished,
+        return {Hindrance::Kind::kAllPublished,
                 say(QCoreApplication::translate("xbr::host::Words", "All songs are published.")),
                 -1,
                 {}};

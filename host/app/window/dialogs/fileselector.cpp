@@ -26,7 +26,7 @@ QFileDialog::FileMode modeOf(const FileQuestion& question) {
     return question.isForSeveral ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile;
 }
 
-struct Texts {
+struct Captions {
     Q_DECLARE_TR_FUNCTIONS(xbr::host::FileSelector)
 };
 
@@ -74,7 +74,7 @@ QStringList FileSelector::nameFilters() const {
         filters.append(QString("%1 (%2)").arg(name, pattern));
     }
     if (filters.size() > 1) {
-        filters.prepend(QString("%1 (%2)").arg(Texts::tr("All usable files"), patterns.join(' ')));
+        filters.prepend(QString("%1 (%2)").arg(Captions::tr("All usable files"), patterns.join(' ')));
     }
     return filters;
 }
@@ -86,7 +86,7 @@ Result FileSelector::run(Mode mode, Text title) noexcept {
     }
     const auto self = Ref<FileSelector>::share(this);
     FileQuestion question;
-    question.title = title.length > 0 ? toQString(title) : Texts::tr("Choose Files");
+    question.title = title.length > 0 ? toQString(title) : Captions::tr("Choose Files");
     question.filters = nameFilters();
     question.isSaving = mode == Mode::kSaveFile;
     question.isForSeveral = mode == Mode::kOpenFiles;

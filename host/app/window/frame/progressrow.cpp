@@ -12,7 +12,7 @@ namespace xbr::host {
 
 namespace {
 
-constexpr int kSteps = 1000;
+constexpr int kBarSteps = 1000;
 constexpr int kWide = 560;   ///< points; below that some things have no room
 constexpr int kNarrow = 430; ///< and below that some more
 
@@ -45,7 +45,7 @@ ProgressRow::ProgressRow(QWidget* parent)
       m_all(makeLabel("sendingAll", this)) {
     m_headline->setWordWrap(true);
     m_bar->setObjectName("sendingBar");
-    m_bar->setRange(0, kSteps);
+    m_bar->setRange(0, kBarSteps);
     m_bar->setTextVisible(false);
     m_bar->setAccessibleName(tr("Progress"));
     m_percent->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -79,8 +79,9 @@ void ProgressRow::show(const UploadProgress& progress) {
         m_headline->setText(headline);
         m_bar->setAccessibleName(headline);
     }
-    m_bar->setValue(
-        progress.song.total > 0 ? static_cast<int>(progress.song.bytes * kSteps / progress.song.total) : 0);
+    m_bar->setValue(progress.song.total > 0
+                        ? static_cast<int>(progress.song.bytes * kBarSteps / progress.song.total)
+                        : 0);
     m_percent->setText(tr("%1 %").arg(progress.song.percent()));
     showDetails();
 }

@@ -98,11 +98,6 @@ PanelMemory::PanelMemory(GadgetPanel& panel, Publishing& publishing, QObject* pa
     m_rows = read();
 }
 
-bool PanelMemory::isAlbum() const {
-    const IParameter* mode = findParameter(m_panel->controller(), "TrackList/albumUpload");
-    return mode && integerOf(mode->value()) != 0;
-}
-
 std::string PanelMemory::valueOf(const TrackReport& report, const QString& parameter) const {
     for (const Detail detail : kDetails) {
         if (parameter == parameterOf(detail)) {
@@ -131,6 +126,14 @@ void PanelMemory::look() {
     m_rows = std::move(now);
 }
 
+std::unordered_set<const IObject*> PanelMemory::itemsOf(const Rows& rows) {
+    std::unordered_set<const IObject*> items;
+    for (const Row& row : rows) {
+        items.insert(row.item.get());
+    }
+    return items;
+}
+
 /// What the host itself did is not told.
 void PanelMemory::catchUp() {
     m_rows = read();
@@ -147,11 +150,10 @@ void PanelMemory::handedOver() {
 }
 
 bool PanelMemory::findRemoval(const Rows& now) {
+    const auto there = itemsOf(now);
     std::vector<Item> gone;
     for (const Row& row : m_rows) {
-        const bool isThere = std::any_of(
-            now.begin(), now.end(), [&row](const Row& each) { return each.item.get() == row.item.get(); });
-        if (!isThere) {
+        if (!there.contains(row.item.get())) {
             gone.push_back(row.item);
         }
     }
@@ -177,7 +179,7 @@ void PanelMemory::findEdit(const Rows& now) {
     if (now.size() != m_rows.size() || selected.size() < 2) {
         return;
     }
-    for (const QString& field : fieldsOf(isAlbum())) {
+    for (const QString& field : fieldsOf(m_panel->isAlbum())) {
         Edit edit{field, {}};
         Edit after{field, {}};
         bool isChanged = false;
@@ -211,11 +213,9 @@ void PanelMemory::restore(const Rows& rows) {
     const auto list = m_panel->tracks();
     std::vector<Item> items;
     m_panel->set("TrackList/removeAll", 1);
+    const auto there = list->countRows() > 0 ? itemsOf(m_rows) : std::unordered_set<const IObject*>();
     for (const Row& row : rows) {
-        const bool isThere = std::any_of(m_rows.begin(), m_rows.end(), [&](const Row& each) {
-            return list->countRows() > 0 && each.item.get() == row.item.get();
-        });
-        if (!isThere) {
+        if (!there.contains(row.item.get())) {
             items.push_back(row.item);
         }
     }
@@ -263,7 +263,7 @@ void PanelMemory::write(const Edit& edit) {
 }
 
 std::size_t PanelMemory::countEdited() {
-    const auto fields = fieldsOf(isAlbum());
+    const auto fields = fieldsOf(m_panel->isAlbum());
     std::size_t count = 0;
     for (const TrackReport& report : m_publishing->tracks()) {
         const auto handed = m_handed.find(report.file);

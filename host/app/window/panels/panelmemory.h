@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace xbr::host {
@@ -53,13 +54,13 @@ private:
     };
 
     Rows read();
+    static std::unordered_set<const IObject*> itemsOf(const Rows& rows);
     void catchUp();
     bool findRemoval(const Rows& now);
     void findEdit(const Rows& now);
     void restore(const Rows& rows);
     void removeItems(const std::vector<Item>& items);
     void write(const Edit& edit);
-    bool isAlbum() const;
     std::string valueOf(const TrackReport& report, const QString& parameter) const;
 
     GadgetPanel* m_panel;

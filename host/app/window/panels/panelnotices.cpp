@@ -166,8 +166,7 @@ bool PanelNotices::uploadComes() {
 
 /// Before bytes go that the service will not take.
 bool PanelNotices::askAboutMissing() {
-    const IParameter* mode = findParameter(m_panel->controller(), "TrackList/albumUpload");
-    const auto incomplete = incompleteOf(m_publishing.tracks(), mode && integerOf(mode->value()) != 0);
+    const auto incomplete = incompleteOf(m_publishing.tracks(), m_panel->isAlbum());
     if (incomplete.empty()) {
         return true;
     }

@@ -34,13 +34,13 @@ void setSize(const std::string& path, const std::string& chunk, std::uint32_t si
     }
 }
 
-struct Kind {
+struct Encoding {
     const char* name;
     int format;
 };
 
 TEST(Wholeness, isAskedOfEveryFormat) {
-    constexpr Kind kKinds[] = {
+    constexpr Encoding kEncodings[] = {
         {"a.wav", SF_FORMAT_WAV | SF_FORMAT_PCM_16},   {"f.wav", SF_FORMAT_WAV | SF_FORMAT_FLOAT},
         {"x.wav", SF_FORMAT_WAVEX | SF_FORMAT_PCM_24}, {"64.wav", SF_FORMAT_RF64 | SF_FORMAT_PCM_16},
         {"a.w64", SF_FORMAT_W64 | SF_FORMAT_PCM_16},   {"a.aiff", SF_FORMAT_AIFF | SF_FORMAT_PCM_24},
@@ -49,7 +49,7 @@ TEST(Wholeness, isAskedOfEveryFormat) {
         {"a.ogg", SF_FORMAT_OGG | SF_FORMAT_VORBIS},   {"i.wav", SF_FORMAT_WAV | SF_FORMAT_IMA_ADPCM},
     };
     const TestFolder folder;
-    for (const auto& [name, format] : kKinds) {
+    for (const auto& [name, format] : kEncodings) {
         SCOPED_TRACE(name);
         const std::string path = folder.path(name);
         writeSound(path, format, 48000, 96000);
