@@ -122,7 +122,9 @@ def sign_in_page(process):
     def told():
         line = process.stderr.readline().strip()
         return line if "/oauth/authorize" in line else None
-    return wait_for(told, "the address of the sign-in page")
+    page = wait_for(told, "the address of the sign-in page")
+    process.stderr.readline()  # how to hand the link over by hand
+    return page
 
 
 def interrupt(process):
