@@ -48,7 +48,7 @@ windows)
     path=$PATH
     build "$work/windows" -S "$root" -DXBR_HOST=OFF --toolchain "$root/cmake/windows.cmake"
     exports=$(x86_64-w64-mingw32-objdump -p "$work/windows/bin/libbrindlex.dll" |
-        sed -n '/Ordinal\/Name Pointer/,/^$/s/.*] //p' | sort | tr '\n' ' ')
+        sed -n '/Ordinal\/Name Pointer/,/^$/s/.*\[ *[0-9]*\] //p' | sort | tr '\n' ' ')
     [ "$exports" = "XBRGetClassFactory XBRModuleMain " ] || {
         echo "exported: $exports"
         exit 1

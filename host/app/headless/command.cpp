@@ -45,7 +45,8 @@ void printVersions() {
     for (const auto& path :
          findModules(QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString())) {
         if (const auto module = LoadedModule::inspect(path)) {
-            std::cout << plainText((*module)->name() + " " + (*module)->version()) << '\n';
+            const std::string version = (*module)->version();
+            std::cout << plainText((*module)->name() + (version.empty() ? "" : " " + version)) << '\n';
         }
     }
 }
