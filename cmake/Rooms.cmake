@@ -8,7 +8,9 @@ option(XBR_WERROR "Treat warnings as errors; off for compilers that warn of more
 add_library(xbr_options INTERFACE)
 target_compile_options(xbr_options INTERFACE
     -Wall -Wextra $<$<BOOL:${XBR_WERROR}>:-Werror> -Wpedantic -Wshadow -Woverloaded-virtual -Wreturn-type
-    -Wcast-align -Wunused -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough)
+    -Wcast-align -Wunused -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough
+    -Wconversion -Wsign-conversion -Wold-style-cast
+    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond> $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>)
 
 # A room's archive holds more than each of its users needs; what is not called goes, and with it the accessors that
 # only it would have called.
@@ -52,18 +54,12 @@ elseif(XBR_TSAN)
     target_link_options(xbr_options INTERFACE -fsanitize=thread)
 endif()
 
-# What finds a number that is cut off, a cast that hides something and a condition that is asked twice.
-set(strict_warnings)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    set(strict_warnings -Wconversion -Wsign-conversion -Wold-style-cast -Wduplicated-cond -Wlogical-op)
-endif()
-
-# xbr_room(NAME [SHARED|EXECUTABLE] [STRICT] SOURCES ... [SEES room ...] [USES library ...])
+# xbr_room(NAME [SHARED|EXECUTABLE] SOURCES ... [SEES room ...] [USES library ...])
 #
-# A room of the project. STRICT ones are built with further warnings. SEES are rooms whose headers this one may include (visible to its users, too);
-# USES are foreign libraries, never visible outside. Includes name the path from the project's root.
+# A room of the project. SEES are rooms whose headers this one may include (visible to its users, too); USES are foreign
+# libraries, never visible outside. Includes name the path from the project's root.
 function(xbr_room name)
-    cmake_parse_arguments(ROOM "SHARED;EXECUTABLE;STRICT" "" "SOURCES;SEES;USES" ${ARGN})
+    cmake_parse_arguments(ROOM "SHARED;EXECUTABLE" "" "SOURCES;SEES;USES" ${ARGN})
     if(ROOM_EXECUTABLE)
         add_executable(${name} ${ROOM_SOURCES})
     elseif(ROOM_SHARED AND NOT XBR_FUZZ) # a fuzz target sees what the libraries keep to themselves
@@ -76,9 +72,6 @@ function(xbr_room name)
     endif()
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE xbr_options ${ROOM_USES})
-    if(ROOM_STRICT)
-        target_compile_options(${name} PRIVATE ${strict_warnings})
-    endif()
     if(ROOM_SEES)
         target_link_libraries(${name} PUBLIC ${ROOM_SEES})
     endif()

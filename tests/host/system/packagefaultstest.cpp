@@ -135,7 +135,7 @@ TEST_F(PackageTest, AFullDiskLeavesNoPartialArchive) {
     writeFile(payload / "1.mp3", noise(2'000'000));
     writeFile(payload / "2.mp3", noise(500'000));
     // The last one hits the directory at the end.
-    for (const std::uint64_t limit : {0, 50, 100'000, 1'500'000, 2'000'100, 2'500'400}) {
+    for (const std::uint64_t limit : {0U, 50U, 100'000U, 1'500'000U, 2'000'100U, 2'500'400U}) {
         start();
         EXPECT_EQ(add(), kOk);
         const FileSizeLimit full(limit);
