@@ -54,7 +54,7 @@ _xbrhost() {
     none | window) options="--help --version --module" ;;
     publish)
         options+=" --album --album-title --album-artist --genre --title --artist --track-number --release"
-        options+=" --recursive --dry-run --skip-unreadable --skip-incomplete --as"
+        options+=" --recursive --dry-run --skip-unreadable --skip-incomplete --again --as"
         ;;
     esac
     if [[ $cur == -* ]]; then

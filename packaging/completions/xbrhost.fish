@@ -39,4 +39,5 @@ complete -c xbrhost -n "$publish" -s r -l recursive -d "Folders with the folders
 complete -c xbrhost -n "$publish" -s n -l dry-run -d "Show what would be sent and what is missing"
 complete -c xbrhost -n "$publish" -l skip-unreadable -d "Leave out files that cannot be published"
 complete -c xbrhost -n "$publish" -l skip-incomplete -d "Leave out singles with missing details"
+complete -c xbrhost -n "$publish" -l again -d "Send what was published before, too"
 complete -c xbrhost -n "$publish" -l as -x -d "Send only as this account"

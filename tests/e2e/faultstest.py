@@ -58,7 +58,7 @@ class FaultsTest(unittest.TestCase):
     def publish(self, *arguments):
         """The states of the tracks at the end, the sizes of the bodies, and the exit code."""
         self.stage.control("DELETE", "log")
-        result = self.stage.run("publish", "--json", *arguments, *self.songs)
+        result = self.stage.run("publish", "--json", "--again", *arguments, *self.songs)
         events = [json.loads(line) for line in result.stdout_text.splitlines()]
         states = {event["index"]: event["state"] for event in events if event["event"] == "track"}
         self.assertEqual(self.stage.leftovers(), [], "temporary files")

@@ -67,6 +67,16 @@ class PublishTest(unittest.TestCase):
         moving = [event for event in events if event["event"] == "track" and event.get("totalBytes")]
         self.assertTrue(all(0 <= event["bytes"] <= event["totalBytes"] for event in moving), moving)
 
+    def test_what_was_published_goes_again_only_when_asked_for(self):
+        first = self.songs[0]
+        self.assertEqual(self.publish(first).returncode, 0)
+        for arguments, code, arrived in (((first,), 11, 1), (("--album", *self.songs), 11, 1), (self.songs, 0, 3),
+                                         (("--again", first), 0, 4)):
+            with self.subTest(arguments=arguments):
+                self.assertEqual(self.publish("-n", *arguments).returncode, code)
+                self.assertEqual(self.publish(*arguments).returncode, code)
+                self.assertEqual(len(self.stage.releases()), arrived)
+
     def test_folders_stand_for_their_songs(self):
         folder = self.songs[0].parent
         (folder / "notes.txt").touch()
@@ -75,7 +85,7 @@ class PublishTest(unittest.TestCase):
         shutil.move(self.songs[2], inner / "Opening.WAV")
         result = self.publish("--album", "--album-title=Night", folder, "--artist=Various")
         self.assertEqual(result.returncode, 0, result.stderr_text)
-        result = self.publish("-rn", "--json", folder)
+        result = self.publish("-rn", "--json", "--again", folder)
         drafts = [event["songs"][0]["fileName"] for event in map(json.loads, result.stdout_text.splitlines())
                   if event["event"] == "draft"]
         self.assertEqual(drafts, ["Café del Último.mp3", "Night Drive.flac", "Opening.WAV"])
@@ -141,7 +151,7 @@ class PublishTest(unittest.TestCase):
         self.assertEqual(result.returncode, 0, result.stderr_text)
         self.assertIn("“New” lacks: genre.", result.stderr_text)
         self.assertEqual(len(self.stage.releases()), 3, "nothing goes out with another song's genre")
-        result = self.publish(self.songs[0], song, "--genre", "world", "--title", "New", "--artist", "Ann")
+        result = self.publish("--again", self.songs[0], song, "--genre", "world", "--title", "New", "--artist", "Ann")
         self.assertEqual(result.returncode, 0, result.stderr_text)
         documents = [document for document, _ in self.stage.releases()]
         self.assertEqual([(each["title"], each["primary_genre"]) for each in documents[-2:]],

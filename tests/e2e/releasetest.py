@@ -65,7 +65,7 @@ class ReleaseTest(unittest.TestCase):
         copy.parent.mkdir()
         shutil.copy(self.wav, copy)
         self.assertIn("the same file name", self.publish("--album", self.wav, copy, code=3).stderr_text)
-        self.publish(self.wav, copy)  # as singles they do not meet
+        self.publish("--again", self.wav, copy)  # as singles they do not meet
 
     def test_dry_run_shows_what_the_module_would_send(self):
         [first, second], _ = self.drafts(self.aiff, self.mp3, "--title", "Über", "--genre", "house")

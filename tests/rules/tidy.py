@@ -30,7 +30,7 @@ def sources(root, build):
 def look(build, path):
     # That a file includes sources is how it puts them together; and some warnings are g++'s alone. Other tests wait for
     # clocks, and go first.
-    command = ["nice", "clang-tidy", "--quiet", "-p", build, "--checks=-bugprone-suspicious-include",
+    command = ["nice", "-n", "3", "clang-tidy", "--quiet", "-p", build, "--checks=-bugprone-suspicious-include",
                "--extra-arg=-Wno-unknown-warning-option", path]
     ran = subprocess.run(command, capture_output=True, text=True, check=False)
     return ran.stdout + (ran.stderr if ran.returncode != 0 and not ran.stdout else "") if ran.returncode != 0 else ran.stdout

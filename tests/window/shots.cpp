@@ -189,10 +189,10 @@ private:
             sheet->cancel();
             return true;
         });
+        const auto sending = answer("Send Anyway"); // a song lacks its details
         click(window(), "upload");
     }
 
-    /// The first song is published, the second one on its way.
     /// Until the service has stopped reading the longest song for some seconds.
     void sendAndStall() {
         m_stage->service().addFault(

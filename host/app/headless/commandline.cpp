@@ -46,6 +46,7 @@ constexpr Switch kSwitches[] = {
     {"--album", 0, kPublish, [](CommandLine& line) -> bool& { return line.isAlbum; }},
     {"--recursive", 'r', kPublish, [](CommandLine& line) -> bool& { return line.isRecursive; }},
     {"--dry-run", 'n', kPublish, [](CommandLine& line) -> bool& { return line.isDryRun; }},
+    {"--again", 0, kPublish, [](CommandLine& line) -> bool& { return line.wish.sendsAgain; }},
     {"--skip-unreadable", 0, kPublish, [](CommandLine& line) -> bool& { return line.wish.skipsUnreadable; }},
     {"--skip-incomplete", 0, kPublish, [](CommandLine& line) -> bool& { return line.wish.skipsIncomplete; }},
 };

@@ -43,7 +43,7 @@ Exit codes:
    1  some song was not published      8  no running xbrhost takes the link
    2  wrong usage                      9  the settings are missing or wrong
    3  a file cannot be published      10  the sign-in has expired
-   4  the module cannot be used
+   4  the module cannot be used       11  published before, nothing was sent
    5  not signed in                   12  the keyring is locked or silent
    6  the service cannot be reached  130  stopped by Ctrl-C or a signal
 )";
@@ -68,6 +68,7 @@ tags "01 Night Drive.wav" is number 1, title "Night Drive".
   -n, --dry-run            show what would be sent and what is missing
       --skip-unreadable    leave out files that cannot be published
       --skip-incomplete    leave out singles with missing details
+      --again              send what was published before, too
       --as NAME            send only as this account
 
 Examples:

@@ -56,14 +56,6 @@ private:
     RunEnd m_end;
 };
 
-std::vector<SongFile> readSongs(const ReleaseWish& wish) {
-    std::vector<SongFile> songs;
-    for (const SongWish& song : wish.songs) {
-        songs.push_back(readSongFile(song.path));
-    }
-    return songs;
-}
-
 bool isIncomplete(const PlannedRelease& release) {
     return !release.missing.empty() || std::any_of(release.songs.begin(), release.songs.end(),
                                                    [](const auto& song) { return !song.missing.empty(); });
@@ -94,21 +86,39 @@ bool isUnreadable(const Finding& finding) {
     return finding.kind == Finding::Kind::kUnreadable && finding.weight == Finding::Weight::kFatal;
 }
 
-/// True when the user wants the others to go without the songs that cannot be published.
-bool isLeavingOutWanted(const Plan& plan) {
-    if (plan.releases.empty() || std::none_of(plan.findings.begin(), plan.findings.end(), isUnreadable)) {
-        return false;
-    }
+bool isPublished(const Finding& finding) {
+    return finding.kind == Finding::Kind::kPublished;
+}
+
+/// Shows the findings that a question is about, and asks it. False when there are none.
+bool isWanted(const Plan& plan, bool (*isMeant)(const Finding&), const std::string& question) {
+    bool isAsked = false;
     for (const Finding& finding : plan.findings) {
-        if (isUnreadable(finding)) {
+        if (isMeant(finding)) {
             printError(wordsOf(finding));
+            isAsked = true;
         }
     }
-    std::cerr << say(QCoreApplication::translate("xbr::host::Output", "Publish the other songs?"))
-              << " [y/N] " << std::flush;
+    if (!isAsked) {
+        return false;
+    }
+    std::cerr << question << " [y/N] " << std::flush;
     std::string answer;
     std::getline(std::cin, answer);
     return answer == "y" || answer == "Y";
+}
+
+/// Asks what is to become of the songs that cannot be published, and of those that were. True when the wish
+/// is another one now.
+bool askAbout(const Plan& plan, ReleaseWish& wish) {
+    const bool isBroken = std::any_of(plan.findings.begin(), plan.findings.end(), isUnreadable);
+    bool& answer = isBroken ? wish.skipsUnreadable : wish.sendsAgain;
+    const auto question =
+        isBroken ? say(QCoreApplication::translate("xbr::host::Output", "Publish the other songs?"))
+                 : say(QCoreApplication::translate("xbr::host::Output", "Publish them again?"));
+    const bool isHopeless = isBroken && plan.releases.empty();
+    answer = !isHopeless && isWanted(plan, isBroken ? isUnreadable : isPublished, question);
+    return answer;
 }
 
 /// Tells what a plan found, but for what the verdict is about.
@@ -152,6 +162,7 @@ public:
     PublishRun(ConsoleSession& console, const PublishEntry& entry, const std::string& account)
         : m_console(&console),
           m_entry(entry),
+          m_account(account),
           m_view(console.output(), m_loop),
           m_publishing(console.session().activity(), console.session().settings(), console.panel(), m_view) {
         m_publishing.setAccount(account);
@@ -162,9 +173,10 @@ public:
         Plan plan = m_publishing.plan(m_entry, wish, songs);
         if (isDryRun) {
             showDrafts(plan, m_console->output());
-        } else if (mayAsk && isLeavingOutWanted(plan)) {
-            wish.skipsUnreadable = true;
-            plan = m_publishing.plan(m_entry, wish, songs);
+        } else {
+            while (mayAsk && askAbout(plan, wish)) {
+                plan = m_publishing.plan(m_entry, wish, songs);
+            }
         }
         tellFindings(plan, m_console->output());
         RunEnd end;
@@ -181,6 +193,17 @@ public:
     }
 
 private:
+    /// An account that is not known before the sign-in stands for every one.
+    std::vector<SongFile> readSongs(const ReleaseWish& wish) const {
+        std::vector<SongFile> songs;
+        for (const SongWish& song : wish.songs) {
+            songs.push_back(readSongFile(song.path));
+            const auto known = m_publishing.history().find(song.path, m_account);
+            songs.back().published = known ? known->time : 0;
+        }
+        return songs;
+    }
+
     RunEnd publish(const Plan& plan) {
         const auto interrupted =
             m_console->session().interruption().subscribe([this] { m_publishing.stop(); });
@@ -196,6 +219,7 @@ private:
 
     ConsoleSession* m_console;
     PublishEntry m_entry;
+    std::string m_account;
     QEventLoop m_loop;
     PublishView m_view;
     Publishing m_publishing;
@@ -210,6 +234,7 @@ Outcome<ReleaseWish> wishOf(const CommandLine& commandLine) {
     }
     wish.skipsUnreadable = commandLine.wish.skipsUnreadable;
     wish.skipsIncomplete = commandLine.wish.skipsIncomplete;
+    wish.sendsAgain = commandLine.wish.sendsAgain;
     if (auto expanded = expandFolders(wish, commandLine.isRecursive); !expanded) {
         return expanded.problem();
     }

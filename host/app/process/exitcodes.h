@@ -17,6 +17,7 @@ enum class ExitCode : std::uint8_t {
     kNoHost = 8,             ///< no running host takes the URL
     kNotConfigured = 9,      ///< the settings of the service are missing or incomplete
     kSignInExpired = 10,     ///< the service does not accept the stored sign-in any more
+    kPublishedBefore = 11,   ///< nothing was sent: the songs were published from this computer before
     kKeyring = 12,           ///< the keyring is locked or does not answer
     kInterrupted = 130,      ///< ended by the user (Ctrl-C) or by a signal
 };

@@ -84,6 +84,7 @@ public:
             findMissing(release);
         }
         findTwoNumbers();
+        findPublished();
         leaveOutIncomplete();
         std::stable_sort(
             m_plan.findings.begin(), m_plan.findings.end(),
@@ -113,9 +114,15 @@ private:
     void planSongs() {
         std::vector<std::pair<std::size_t, Problem>> bad;
         for (std::size_t i = 0; i < m_files->size(); ++i) {
+            const bool isPublished = (*m_files)[i].published != 0 && !m_wish->sendsAgain;
             if (Problem problem = problemOf((*m_files)[i], *m_offer)) {
                 bad.emplace_back(i, std::move(problem));
+            } else if (isPublished && !m_plan.isAlbum()) {
+                m_published.push_back(i);
             } else {
+                if (isPublished) {
+                    m_published.push_back(i);
+                }
                 m_songs.push_back(planSong(i));
             }
         }
@@ -124,6 +131,17 @@ private:
             const std::string& path = (*m_files)[index].path;
             find(Kind::kUnreadable, isSkipped ? Weight::kToBeKnown : Weight::kFatal, path, fileNameOf(path))
                 .problem = std::move(problem);
+        }
+    }
+
+    /// Of an album nothing goes without the others, and of singles there may be nothing else.
+    void findPublished() {
+        const bool isAll = m_plan.isAlbum() || m_plan.releases.empty();
+        for (const std::size_t index : m_published) {
+            const SongFile& file = (*m_files)[index];
+            find(Kind::kPublished, isAll ? Weight::kFatal : Weight::kToBeKnown, file.path,
+                 firstOf(m_wish->songs[index].title, namesOf(file).title))
+                .time = file.published;
         }
     }
 
@@ -312,6 +330,7 @@ private:
     const std::vector<SongFile>* m_files;
     const Offer* m_offer;
     std::vector<PlannedSong> m_songs;
+    std::vector<std::size_t> m_published; ///< of the songs of the wish, before and not to be sent again
     std::map<std::string, std::string> m_unknown; ///< genres of tags by the song's path
     std::set<std::string> m_unknownWishes;
     Plan m_plan;

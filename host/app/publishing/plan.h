@@ -64,6 +64,7 @@ struct Finding {
         kSameName,       ///< `text` is the path of the other song
         kMissingDetails, ///< `missing`
         kTwoNumbers,     ///< `text` is the title of the other song, `number`
+        kPublished,      ///< before, from this computer; `time`
     };
     enum class Weight : std::uint8_t {
         kFatal,     ///< nothing can be handed over
@@ -79,7 +80,8 @@ struct Finding {
     std::vector<std::string> near;
     std::vector<Detail> missing;
     int number = 0;
-    bool isWish = false; ///< the user asked for it on the command line or in a release file
+    std::int64_t time = 0; ///< seconds since 1970
+    bool isWish = false;   ///< the user asked for it on the command line or in a release file
     Problem problem;
 };
 

@@ -99,8 +99,8 @@ public:
     /// Why "upload" can do nothing.
     Hindrance hindrance();
 
-    /// The tracks of the panel, by the user's files.
-    std::vector<TrackReport> tracks() { return m_follow.tracks(); }
+    /// The tracks of the panel, by the user's files. Until the event loop runs again.
+    const std::vector<TrackReport>& tracks() { return m_follow.tracks(); }
 
     /// What was published from this computer.
     const History& history() const { return m_history; }

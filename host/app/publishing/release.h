@@ -31,6 +31,7 @@ struct ReleaseWish {
     std::vector<SongWish> songs;
     bool skipsUnreadable = false; ///< leave out files that cannot be published
     bool skipsIncomplete = false; ///< leave out singles that lack details
+    bool sendsAgain = false;      ///< send what was published before, too
 };
 
 /// Where a track of a panel stands.

@@ -19,6 +19,8 @@ struct SongFile {
     std::string
         kind; ///< what the bytes are, whatever the name says: "WAV", "FLAC", "MP3", "AIFF"; may be empty
     Problem problem; ///< why it cannot be published
+    std::int64_t published =
+        0; ///< when it was published from this computer, in seconds since 1970; 0 for never
 };
 
 /// Reads what there is to know of a song before it is handed over; nothing else looks at its file until then.

@@ -48,6 +48,8 @@ constexpr CauseRow kCauses[] = {
     {"not-prepared", ExitCode::kNotAllDone, NoticeKind::kError, nullptr},
     {"two-numbers", ExitCode::kDone, NoticeKind::kWarning,
      QT_TRANSLATE_NOOP("xbr::host::Words", "--track-number sets it.")},
+    {"published-before", ExitCode::kPublishedBefore, NoticeKind::kWarning,
+     QT_TRANSLATE_NOOP("xbr::host::Words", "--again sends them again.")},
     {"nothing-waits", ExitCode::kNotAllDone, NoticeKind::kInfo, nullptr},
     {"stopped-before", ExitCode::kInterrupted, NoticeKind::kInfo, nullptr},
     {"stopped", ExitCode::kInterrupted, NoticeKind::kInfo, kTheRest},
@@ -497,16 +499,39 @@ Cause causeOf(const Finding& finding) {
         return Cause::kSameName;
     case Finding::Kind::kTwoNumbers:
         return Cause::kTwoNumbers;
+    case Finding::Kind::kPublished:
+        return Cause::kPublishedBefore;
     default:
         return Cause::kMissingDetails;
     }
 }
 
+namespace {
+
+std::size_t countPublished(const Plan& plan) {
+    return static_cast<std::size_t>(
+        std::count_if(plan.findings.begin(), plan.findings.end(),
+                      [](const Finding& each) { return each.kind == Finding::Kind::kPublished; }));
+}
+
+std::string wordsOfSeveral(std::size_t published, std::size_t songs) {
+    return say(QCoreApplication::translate("xbr::host::Words",
+                                           "%1 of %2 songs were published from this computer before."),
+               std::to_string(published), std::to_string(songs));
+}
+
+} // namespace
+
 Verdict judge(const Plan& plan) {
     Verdict verdict;
     if (!plan.canBeSent()) {
         const Finding& gravest = plan.findings.front();
-        verdict = verdictOf(causeOf(gravest), nothingSent(wordsOf(gravest)));
+        const std::size_t published = countPublished(plan);
+        verdict =
+            verdictOf(causeOf(gravest),
+                      nothingSent(gravest.kind == Finding::Kind::kPublished && published > 1
+                                      ? wordsOfSeveral(published, std::max(published, plan.songs().size()))
+                                      : wordsOf(gravest)));
         if (gravest.kind == Finding::Kind::kMissingDetails) {
             verdict.next = wordsOfOptions(gravest.missing);
         }

@@ -27,6 +27,7 @@ enum class Cause : std::uint8_t {
     kNoFolder,
     kNotPrepared,
     kTwoNumbers,
+    kPublishedBefore,
     kNothingWaits,
     kStoppedBefore,
     kStopped,

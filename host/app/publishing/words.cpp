@@ -3,6 +3,7 @@
 #include "host/app/publishing/reachability.h"
 #include "host/base/textscan.h"
 
+#include <QDateTime>
 #include <QLocale>
 #include <QStringList>
 
@@ -182,6 +183,12 @@ std::string wordsOf(const ConfigurationReport& report) {
                      report.title, joined(report.missingKeys), report.path, report.id);
 }
 
+std::string wordsOfPublished(const std::string& song, std::int64_t time) {
+    return say(
+        QCoreApplication::translate("xbr::host::Words", "“%1” was published from this computer on %2."), song,
+        wordsOfDate(time));
+}
+
 std::string wordsOf(const Finding& finding) {
     switch (finding.kind) {
     case Finding::Kind::kUnknownGenre:
@@ -197,6 +204,8 @@ std::string wordsOf(const Finding& finding) {
                    finding.text, finding.path);
     case Finding::Kind::kMissingDetails:
         return wordsOfMissing(finding);
+    case Finding::Kind::kPublished:
+        return wordsOfPublished(finding.song, finding.time);
     case Finding::Kind::kTwoNumbers:
         break;
     }
@@ -211,6 +220,12 @@ std::string wordsOfSize(std::int64_t bytes) {
 std::pair<std::string, std::string> wordsOfSizes(std::int64_t part, std::int64_t whole) {
     const Unit& unit = unitFor(whole);
     return {digits(part, unit).toStdString(), (digits(whole, unit) + " " + unit.name).toStdString()};
+}
+
+std::string wordsOfDate(std::int64_t seconds) {
+    return QLocale()
+        .toString(QDateTime::fromSecsSinceEpoch(seconds).date(), QLocale::ShortFormat)
+        .toStdString();
 }
 
 std::string wordsOfLength(std::int64_t milliseconds) {

@@ -49,6 +49,12 @@ std::pair<std::string, std::string> wordsOfSizes(std::int64_t part, std::int64_t
 /// "3:07"; empty when it is unknown.
 std::string wordsOfLength(std::int64_t milliseconds);
 
+/// A day, as people here write it, of seconds since 1970.
+std::string wordsOfDate(std::int64_t seconds);
+
+/// Of a song that was published before.
+std::string wordsOfPublished(const std::string& song, std::int64_t time);
+
 /// The service's own words as they may be shown: plain, one line, 200 characters at most.
 std::string quoted(const std::string& said);
 

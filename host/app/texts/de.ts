@@ -447,6 +447,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>%1 in %2 gesendet, %3/s.</translation>
     </message>
+    <message>
+        <source>Publish them again?</source>
+        <translation>Noch einmal veröffentlichen?</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>
@@ -509,10 +513,6 @@
     <message>
         <source>Publish again?</source>
         <translation>Noch einmal veröffentlichen?</translation>
-    </message>
-    <message>
-        <source>“%1” was published from this computer on %2.</source>
-        <translation>„%1“ wurde am %2 von diesem Computer aus veröffentlicht.</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -1550,6 +1550,18 @@
     <message>
         <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
         <translation>%1 ist nicht eingerichtet: %2 ist nicht verschlüsselt, und nur dieser Computer darf so erreicht werden.</translation>
+    </message>
+    <message>
+        <source>--again sends them again.</source>
+        <translation>--again sendet sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs were published from this computer before.</source>
+        <translation>%1 von %2 Songs wurden schon von diesem Computer aus veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>„%1“ wurde am %2 von diesem Computer aus veröffentlicht.</translation>
     </message>
 </context>
 </TS>

@@ -447,6 +447,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>%1 envoyés en %2, %3/s.</translation>
     </message>
+    <message>
+        <source>Publish them again?</source>
+        <translation>Les publier à nouveau ?</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>
@@ -509,10 +513,6 @@
     <message>
         <source>Publish again?</source>
         <translation>Publier à nouveau ?</translation>
-    </message>
-    <message>
-        <source>“%1” was published from this computer on %2.</source>
-        <translation>« %1 » a été publié depuis cet ordinateur le %2.</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -1550,6 +1550,18 @@
     <message>
         <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
         <translation>%1 n&apos;est pas configuré : %2 n&apos;est pas chiffré, et seul cet ordinateur peut être joint ainsi.</translation>
+    </message>
+    <message>
+        <source>--again sends them again.</source>
+        <translation>--again les envoie à nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs were published from this computer before.</source>
+        <translation>%1 chansons sur %2 ont déjà été publiées depuis cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>« %1 » a été publié depuis cet ordinateur le %2.</translation>
     </message>
 </context>
 </TS>

@@ -442,6 +442,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>%1 を %2 で送信しました (%3/s)。</translation>
     </message>
+    <message>
+        <source>Publish them again?</source>
+        <translation>もう一度公開しますか?</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>
@@ -501,10 +505,6 @@
     <message>
         <source>Publish again?</source>
         <translation>もう一度公開しますか?</translation>
-    </message>
-    <message>
-        <source>“%1” was published from this computer on %2.</source>
-        <translation>「%1」は %2 にこのコンピューターから公開されました。</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -1531,6 +1531,18 @@
     <message>
         <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
         <translation>%1 は設定されていません: %2 は暗号化されておらず、そのようにアクセスできるのはこのコンピューターだけです。</translation>
+    </message>
+    <message>
+        <source>--again sends them again.</source>
+        <translation>--again でもう一度送信できます。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs were published from this computer before.</source>
+        <translation>%2 曲のうち %1 曲は、以前にこのコンピューターから公開されています。</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>「%1」は %2 にこのコンピューターから公開されました。</translation>
     </message>
 </context>
 </TS>

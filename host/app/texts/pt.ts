@@ -447,6 +447,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>Enviados %1 em %2, %3/s.</translation>
     </message>
+    <message>
+        <source>Publish them again?</source>
+        <translation>Publicar de novo?</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>
@@ -509,10 +513,6 @@
     <message>
         <source>Publish again?</source>
         <translation>Publicar de novo?</translation>
-    </message>
-    <message>
-        <source>“%1” was published from this computer on %2.</source>
-        <translation>“%1” foi publicada a partir deste computador em %2.</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -1550,6 +1550,18 @@
     <message>
         <source>%1 is not set up: %2 is not encrypted, and only this computer may be reached that way.</source>
         <translation>%1 não está configurado: %2 não é cifrado, e só este computador pode ser acessado assim.</translation>
+    </message>
+    <message>
+        <source>--again sends them again.</source>
+        <translation>--again envia-as de novo.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 songs were published from this computer before.</source>
+        <translation>%1 de %2 músicas já foram publicadas a partir deste computador.</translation>
+    </message>
+    <message>
+        <source>“%1” was published from this computer on %2.</source>
+        <translation>“%1” foi publicada a partir deste computador em %2.</translation>
     </message>
 </context>
 </TS>

@@ -78,6 +78,9 @@ Follow::Follow(GadgetPanel& panel, Activity& activity, Listener listener)
       m_follower(
           panel.tracks(), [this] { m_hears.touched(); },
           [this](const TrackReport& track) {
+              if (const auto row = static_cast<std::size_t>(track.index); row < m_named.size()) {
+                  m_named[row] = named(track);
+              }
               noteTravelling();
               if (isBusy()) {
                   m_hears.changed(named(track));
@@ -98,6 +101,7 @@ void Follow::named(const std::vector<HandedSong>& songs) {
     for (const HandedSong& song : songs) {
         m_sources.emplace(song.file, song.source);
     }
+    m_named.clear();
     m_carried.clear();
 }
 
@@ -366,12 +370,13 @@ TrackReport Follow::named(TrackReport report) const {
     return report;
 }
 
-std::vector<TrackReport> Follow::tracks() {
-    std::vector<TrackReport> all;
-    for (const TrackReport& report : m_follower.reports()) {
-        all.push_back(named(report));
+const std::vector<TrackReport>& Follow::tracks() {
+    const auto& reports = m_follower.reports(); // reads what has changed
+    for (std::size_t row = m_named.size(); row < reports.size(); ++row) {
+        m_named.push_back(named(reports[row]));
     }
-    return all;
+    m_named.resize(reports.size());
+    return m_named;
 }
 
 TrackFact Follow::factOf(const TrackReport& report) const {

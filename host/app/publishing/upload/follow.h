@@ -53,7 +53,7 @@ public:
     bool isBusy() const { return m_phase != Phase::kIdle; }
 
     /// The tracks as they are now, by the user's files.
-    std::vector<TrackReport> tracks();
+    const std::vector<TrackReport>& tracks();
 
 private:
     enum class Phase : std::uint8_t { kIdle, kPreparing, kSending };
@@ -98,8 +98,9 @@ private:
     bool m_wasPrepared = false; ///< since the last time that somebody asked
     bool m_isCancelled = false;
     bool m_hasNoRoom = false;
-    std::unordered_map<std::string, std::string>
-        m_sources; ///< paths of the user's files, by what the module got
+    /// The paths of the user's files, by those that the module got.
+    std::unordered_map<std::string, std::string> m_sources;
+    std::vector<TrackReport> m_named; ///< the tracks, by the user's files
     std::vector<Problem> m_files;
     std::vector<Finding> m_findings;
     std::map<std::string, Carried> m_carried;    ///< by the URL of the track's file

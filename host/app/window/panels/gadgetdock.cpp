@@ -9,13 +9,37 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace xbr::host {
 
 namespace {
 
 constexpr int kMargin = 24;
+
+/// Scrolls the form down, and across only where it would take more than half of the screen.
+class PanelArea final : public QScrollArea {
+public:
+    using QScrollArea::QScrollArea;
+
+    QSize minimumSizeHint() const override {
+        const int across = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+        return {std::min(across, screen()->availableSize().width() / 2),
+                QScrollArea::minimumSizeHint().height()};
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest) {
+            updateGeometry();
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
 
 /// A theme of the window's own, with the skin that the gadget's description names.
 Ref<IView> makeView(const GadgetClass& gadget, IController& controller) {
@@ -64,7 +88,7 @@ void GadgetDock::showForm(const GadgetClass& gadget) {
         return;
     }
     setShowAction(*m_form, [this] { bringToFront(); });
-    auto* area = new QScrollArea(this);
+    auto* area = new PanelArea(this);
     area->setObjectName("panelArea");
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);

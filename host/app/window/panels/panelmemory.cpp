@@ -110,10 +110,10 @@ std::string PanelMemory::valueOf(const TrackReport& report, const QString& param
 PanelMemory::Rows PanelMemory::read() {
     Rows rows;
     const auto list = m_panel->tracks();
-    for (TrackReport& report : m_publishing->tracks()) {
+    for (const TrackReport& report : m_publishing->tracks()) {
         Item item;
         list->getItem(report.index, item.out());
-        rows.push_back({std::move(item), std::move(report)});
+        rows.push_back({std::move(item), report});
     }
     return rows;
 }

@@ -11,21 +11,12 @@
 #include "host/base/fileurl.h"
 
 #include <QDateTime>
-#include <QLocale>
 #include <QPointer>
 
 #include <algorithm>
 #include <utility>
 
 namespace xbr::host {
-
-namespace {
-
-QString dateText(std::int64_t time) {
-    return QLocale().toString(QDateTime::fromSecsSinceEpoch(time).date(), QLocale::ShortFormat);
-}
-
-} // namespace
 
 PanelNotices::PanelNotices(GadgetPanel& panel, DialogPlace& place,
                            std::function<void(const QString&)> tellInDialog, QObject* parent)
@@ -148,9 +139,10 @@ QString PanelNotices::wordsOfPublication(const std::string& fingerprint) const {
     if (!known) {
         return {};
     }
-    return known->account.empty()
-               ? tr("Published %1").arg(dateText(known->time))
-               : tr("Published %1 as %2").arg(dateText(known->time), QString::fromStdString(known->account));
+    return known->account.empty() ? tr("Published %1").arg(QString::fromStdString(wordsOfDate(known->time)))
+                                  : tr("Published %1 as %2")
+                                        .arg(QString::fromStdString(wordsOfDate(known->time)),
+                                             QString::fromStdString(known->account));
 }
 
 void PanelNotices::tryAgain() {
@@ -205,10 +197,9 @@ bool PanelNotices::askAboutPublished() {
     if (rows.empty()) {
         return true;
     }
-    Question question{
-        tr("Publish again?"),
-        tr("“%1” was published from this computer on %2.").arg(QString::fromStdString(label), dateText(time)),
-        {tr("&Cancel"), tr("Publish &Again")}};
+    Question question{tr("Publish again?"),
+                      QString::fromStdString(wordsOfPublished(label, time)),
+                      {tr("&Cancel"), tr("Publish &Again")}};
     const bool isForSeveral = tracks.size() > 1;
     if (isForSeveral) {
         question.answers = {tr("&Leave them out"), tr("Publish &Again"), tr("&Cancel")};

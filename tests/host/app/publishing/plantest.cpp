@@ -55,6 +55,11 @@ SongFile withKind(SongFile song, const std::string& kind) {
     return song;
 }
 
+SongFile published(SongFile song) {
+    song.published = 1;
+    return song;
+}
+
 SongFile withIdentity(SongFile song, const std::string& identity) {
     song.identity = identity;
     return song;
@@ -104,6 +109,11 @@ ReleaseWish withGenre(ReleaseWish wish, const std::string& genre) {
 
 ReleaseWish skippingUnreadable(ReleaseWish wish) {
     wish.skipsUnreadable = true;
+    return wish;
+}
+
+ReleaseWish sendingAgain(ReleaseWish wish) {
+    wish.sendsAgain = true;
     return wish;
 }
 
@@ -226,6 +236,34 @@ TEST(Plan, FollowsFromSongsAndWishes) {
          "",
          Cause::kUnreadable,
          3,
+         nullptr},
+        {"published before, the others go",
+         singles(),
+         {published(full("/m/a.wav")), full("/m/b.flac")},
+         "Harbour by The Lamps (Rock): 1 Harbour by The Lamps in b.flac;",
+         Cause::kPublished,
+         0,
+         nullptr},
+        {"published before, and nothing else",
+         singles(),
+         {published(full("/m/a.wav")), published(full("/m/b.flac"))},
+         "",
+         Cause::kPublishedBefore,
+         11,
+         "2 of 2 songs were published from this computer before. Nothing was sent."},
+        {"an album of which a song was published",
+         album(),
+         {published(full("/m/a.wav")), full("/m/b.flac", 2)},
+         nullptr,
+         Cause::kPublishedBefore,
+         11,
+         nullptr},
+        {"published before, and wanted again",
+         sendingAgain(album()),
+         {published(full("/m/a.wav")), full("/m/b.flac", 2)},
+         nullptr,
+         Cause::kPublished,
+         0,
          nullptr},
         {"missing",
          singles(),
