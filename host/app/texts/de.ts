@@ -447,6 +447,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>%1 in %2 gesendet, %3/s.</translation>
     </message>
+    <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>Link zurück (hier einfügen, wenn der Browser nicht von selbst zurückkehrt):</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>

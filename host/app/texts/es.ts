@@ -447,6 +447,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>Enviados %1 en %2, %3/s.</translation>
     </message>
+    <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>Enlace de vuelta (péguelo aquí si el navegador no vuelve por sí solo):</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>

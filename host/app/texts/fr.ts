@@ -447,6 +447,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>%1 envoyés en %2, %3/s.</translation>
     </message>
+    <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>Lien de retour (collez-le ici si le navigateur ne revient pas de lui-même) :</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>

@@ -442,6 +442,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>%1 を %2 で送信しました (%3/s)。</translation>
     </message>
+    <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>戻りのリンク（ブラウザーが自動で戻らない場合はここに貼り付けてください）:</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>

@@ -447,6 +447,10 @@
         <source>Sent %1 in %2, %3/s.</source>
         <translation>Enviados %1 em %2, %3/s.</translation>
     </message>
+    <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>Link de volta (cole-o aqui se o navegador não voltar por si só):</translation>
+    </message>
 </context>
 <context>
     <name>xbr::host::PanelMemory</name>
