@@ -3,6 +3,7 @@
 #include <libsecret/secret.h>
 
 #include <memory>
+#include <utility>
 
 namespace xbr::host {
 
