@@ -96,17 +96,19 @@ TEST(StoppedKeyring, isGivenUpInTimeAndLosesNothing) {
     EXPECT_EQ(find("Target"), "U|q") << "what was given up is not done later";
 }
 
-TEST(LockedKeyring, isRefusedWhereNobodyCanBeAsked) {
-    // There is no display: that is the answer of a user who refuses.
+TEST(LockedKeyring, isRefusedByAUserAndWhereNobodyCanBeAsked) {
     ASSERT_EQ(add("Target", "U", "secret"), kOk);
     lockKeyring();
     expectAll(StoreResult::kLocked);
+    const Prompter prompter(Prompter::Answer::kRefused);
+    expectAll(StoreResult::kLocked);
+    EXPECT_EQ(Prompter::refusals(), 3);
 }
 
 TEST(AskingKeyring, waitsAsLongAsTheUserNeeds) {
     ASSERT_EQ(add("Target", "U", "secret"), kOk);
     lockKeyring();
-    const SilentPrompter prompter;
+    const Prompter prompter(Prompter::Answer::kNone);
     const Hearing heard(kPatience + kAtOnce);
     EXPECT_EQ(find("Target"), "failed");
     EXPECT_THAT(heard.results, ElementsAre(StoreResult::kLocked));

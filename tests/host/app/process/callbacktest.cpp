@@ -8,6 +8,7 @@
 
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QTimer>
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -189,8 +190,9 @@ TEST_F(Callbacks, aFloodOfConnectionsIsTurnedAway) {
     EXPECT_EQ(Client(socketPath()).answer(1000), "");
     clients.front()->send("test:a\n");
     EXPECT_EQ(clients.front()->answer(), "ok\n");
-    clients.clear();
-    EXPECT_TRUE(runUntil([&] { return sendElsewhere("test:b") == Delivery::kTaken; }));
+    clients.push_back(std::make_unique<Client>(socketPath()));
+    QTimer::singleShot(200, [&] { clients.clear(); });
+    EXPECT_EQ(sendElsewhere("test:b"), Delivery::kTaken) << "it is tried again";
 }
 
 TEST_F(Callbacks, whatComesWaitsWhileModulesMayNotBeCalled) {
