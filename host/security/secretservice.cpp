@@ -117,11 +117,21 @@ GType serviceType() {
     return kType;
 }
 
+/// Null when there is none.
+Connection sessionBus(GCancellable* cancellable) {
+    Connection bus(hasSessionBus() ? g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, nullptr) : nullptr);
+    if (bus) { // the default would end this program when the bus ends
+        g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+    }
+    return bus;
+}
+
 /// Opens the service for one operation. Nothing is kept between operations, so that a service that was
 /// restarted or came late is found, and nothing is left to clean up at the end.
 StoreResult openService(StoreCall& call, Service& service) {
-    if (const StoreResult bus = connectToBus(call); bus != StoreResult::kDone) {
-        return bus;
+    const Connection bus = sessionBus(call.cancellable()); // which libsecret shares, as long as it is held
+    if (!bus) {
+        return StoreResult::kNoStore;
     }
     GError* raw = nullptr;
     service.reset(secret_service_open_sync(serviceType(), nullptr, SECRET_SERVICE_OPEN_SESSION,
@@ -177,20 +187,7 @@ bool isAttributeText(std::string_view text) {
 }
 
 StoreResult connectToBus(StoreCall& call) {
-    if (!hasSessionBus()) {
-        return StoreResult::kNoStore;
-    }
-    GError* raw = nullptr;
-    const Connection bus(g_bus_get_sync(G_BUS_TYPE_SESSION, call.cancellable(), &raw));
-    const Error error(raw);
-    if (!bus) {
-        const bool isSilent = g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) ||
-                              g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED);
-        return isSilent ? StoreResult::kSilent : StoreResult::kNoStore;
-    }
-    // The default would end this program when the bus ends.
-    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
-    return StoreResult::kDone;
+    return sessionBus(call.cancellable()) ? StoreResult::kDone : StoreResult::kNoStore;
 }
 
 StoreResult storeSecret(StoreCall& call, std::string_view target, std::string_view userName,

@@ -18,7 +18,7 @@ struct FoundSecret {
 /// True when the service takes `text` as an attribute: UTF-8 without zero bytes.
 bool isAttributeText(std::string_view text);
 
-/// Connects to the session bus, once for all.
+/// Connects to the session bus.
 StoreResult connectToBus(StoreCall& call);
 
 /// Stores a secret; one of the same target and user name is replaced. May ask the user to unlock.

@@ -59,7 +59,7 @@ bool StoreCall::waitFor(StoreListener* listener, std::chrono::seconds patience) 
 }
 
 StoreResult StoreCall::run(Operation operation, StoreListener* listener, std::chrono::seconds patience) {
-    static constexpr std::chrono::milliseconds kFarewell{250}; // it may just be done, or close a question
+    static constexpr std::chrono::milliseconds kFarewell{250}; // a question is closed
     const auto call = std::make_shared<StoreCall>();
     std::thread([call, work = std::move(operation)] {
         t_current = call.get();
@@ -70,10 +70,7 @@ StoreResult StoreCall::run(Operation operation, StoreListener* listener, std::ch
     }
     const bool wasAsking = call->isAsking();
     g_cancellable_cancel(call->m_cancellable);
-    const bool isOver = call->isOverWithin(kFarewell);
-    if (isOver && (call->m_result == StoreResult::kDone || call->m_result == StoreResult::kNothing)) {
-        return call->m_result;
-    }
+    call->isOverWithin(kFarewell);
     return wasAsking ? StoreResult::kLocked : StoreResult::kSilent;
 }
 

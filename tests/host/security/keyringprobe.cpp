@@ -147,13 +147,18 @@ void endSessionBus() {
     g_object_unref(bus);
 }
 
+void runEventLoop() {
+    while (g_main_context_iteration(nullptr, FALSE)) {
+    }
+}
+
 std::string environment(const char* name) {
     const char* value = g_getenv(name);
     return value ? value : "";
 }
 
 void setEnvironment(const char* name, const char* value) {
-    g_setenv(name, value, TRUE);
+    value ? static_cast<void>(g_setenv(name, value, TRUE)) : g_unsetenv(name);
 }
 
 } // namespace xbr::host::test

@@ -41,8 +41,11 @@ private:
 /// Ends the session bus, and returns when it is gone.
 void endSessionBus();
 
+/// Runs what GLib has for the event loop.
+void runEventLoop();
+
 /// The value of an environment variable; empty when there is none.
 std::string environment(const char* name);
-void setEnvironment(const char* name, const char* value);
+void setEnvironment(const char* name, const char* value); ///< null removes it
 
 } // namespace xbr::host::test
