@@ -45,7 +45,7 @@ public:
 
     bool storeWaits(bool isForUser) override {
         const auto now = Clock::now();
-        longGaps += now - m_last > Milliseconds(100) ? 1 : 0;
+        unpainted += now - m_last > Milliseconds(100) ? now - m_last : Clock::duration();
         m_last = now;
         wasUserAsked = wasUserAsked || isForUser;
         return now - m_start < m_patience;
@@ -58,7 +58,7 @@ public:
 
     std::vector<std::pair<StoreOperation, StoreResult>> results;
     bool wasUserAsked = false;
-    int longGaps = 0; ///< in which no window could have been painted
+    Clock::duration unpainted{}; ///< in which a window could not have been painted ten times a second
 
 private:
     Milliseconds m_patience;
