@@ -167,7 +167,6 @@ void OAuth2Client::becomeAuthorized(xbr::Ref<xbr::IWebCredentials> credentials) 
 
 void OAuth2Client::resetAuthorization(Silence silence) {
     const auto self = xbr::Ref<OAuth2Client>::share(this);
-    ++m_attempt;
     abort();
     setState(ClientState::kIdle);
     setCredentials(nullptr);

@@ -12,11 +12,16 @@ namespace xbr::host {
 
 namespace {
 
+constexpr std::chrono::seconds kLessPatience{1};
+
 StoreListener* g_listener = nullptr;
 
 /// Runs an operation beside the main thread, and tells how it ended.
 StoreResult ask(StoreOperation kind, StoreCall::Operation operation) {
-    const StoreResult result = StoreCall::run(std::move(operation), g_listener);
+    static bool wasSilent = false; // then it gets less time: a sign-in asks more than once
+    const StoreResult result =
+        StoreCall::run(std::move(operation), g_listener, wasSilent ? kLessPatience : StoreCall::kPatience);
+    wasSilent = result == StoreResult::kSilent;
     if (g_listener) {
         g_listener->storeAnswered(kind, result);
     }
@@ -93,6 +98,11 @@ public:
 
 void setStoreListener(StoreListener* listener) {
     g_listener = listener;
+}
+
+bool isSessionBusSilent() {
+    return StoreCall::run([](StoreCall& call) { return connectToBus(call); }, nullptr, kLessPatience) ==
+           StoreResult::kSilent;
 }
 
 } // namespace xbr::host

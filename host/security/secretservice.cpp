@@ -3,6 +3,7 @@
 #include <libsecret/secret.h>
 
 #include <memory>
+#include <utility>
 
 namespace xbr::host {
 
@@ -116,32 +117,25 @@ GType serviceType() {
     return kType;
 }
 
-/// Connects to the bus; the default would end this program when the bus ends.
-StoreResult connectToBus(GCancellable* cancellable) {
-    if (!hasSessionBus()) {
-        return StoreResult::kNoStore;
+/// Null when there is none.
+Connection sessionBus(GCancellable* cancellable) {
+    Connection bus(hasSessionBus() ? g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, nullptr) : nullptr);
+    if (bus) { // the default would end this program when the bus ends
+        g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     }
-    GError* raw = nullptr;
-    const Connection bus(g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, &raw));
-    const Error error(raw);
-    if (!bus) {
-        const bool isSilent = g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) ||
-                              g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED);
-        return isSilent ? StoreResult::kSilent : StoreResult::kNoStore;
-    }
-    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
-    return StoreResult::kDone;
+    return bus;
 }
 
 /// Opens the service for one operation. Nothing is kept between operations, so that a service that was
 /// restarted or came late is found, and nothing is left to clean up at the end.
-StoreResult openService(GCancellable* cancellable, Service& service) {
-    if (const StoreResult bus = connectToBus(cancellable); bus != StoreResult::kDone) {
-        return bus;
+StoreResult openService(StoreCall& call, Service& service) {
+    const Connection bus = sessionBus(call.cancellable()); // which libsecret shares, as long as it is held
+    if (!bus) {
+        return StoreResult::kNoStore;
     }
     GError* raw = nullptr;
-    service.reset(
-        secret_service_open_sync(serviceType(), nullptr, SECRET_SERVICE_OPEN_SESSION, cancellable, &raw));
+    service.reset(secret_service_open_sync(serviceType(), nullptr, SECRET_SERVICE_OPEN_SESSION,
+                                           call.cancellable(), &raw));
     const Error error(raw);
     return service ? StoreResult::kDone : failureOf(error);
 }
@@ -192,10 +186,14 @@ bool isAttributeText(std::string_view text) {
     return g_utf8_validate_len(text.data(), text.size(), nullptr) != 0;
 }
 
+StoreResult connectToBus(StoreCall& call) {
+    return sessionBus(call.cancellable()) ? StoreResult::kDone : StoreResult::kNoStore;
+}
+
 StoreResult storeSecret(StoreCall& call, std::string_view target, std::string_view userName,
                         std::string_view password, std::string_view note) {
     Service service;
-    if (const StoreResult opened = openService(call.cancellable(), service); opened != StoreResult::kDone) {
+    if (const StoreResult opened = openService(call, service); opened != StoreResult::kDone) {
         return opened;
     }
     const Attributes attributes = attributesOf(target);
@@ -212,7 +210,7 @@ StoreResult storeSecret(StoreCall& call, std::string_view target, std::string_vi
 
 StoreResult findSecret(StoreCall& call, std::string_view target, FoundSecret& found) {
     Service service;
-    if (const StoreResult opened = openService(call.cancellable(), service); opened != StoreResult::kDone) {
+    if (const StoreResult opened = openService(call, service); opened != StoreResult::kDone) {
         return opened;
     }
     Items items;
@@ -234,7 +232,7 @@ StoreResult findSecret(StoreCall& call, std::string_view target, FoundSecret& fo
 
 StoreResult removeSecrets(StoreCall& call, std::string_view target) {
     Service service;
-    if (const StoreResult opened = openService(call.cancellable(), service); opened != StoreResult::kDone) {
+    if (const StoreResult opened = openService(call, service); opened != StoreResult::kDone) {
         return opened;
     }
     Items items;

@@ -18,6 +18,9 @@ struct FoundSecret {
 /// True when the service takes `text` as an attribute: UTF-8 without zero bytes.
 bool isAttributeText(std::string_view text);
 
+/// Connects to the session bus.
+StoreResult connectToBus(StoreCall& call);
+
 /// Stores a secret; one of the same target and user name is replaced. May ask the user to unlock.
 StoreResult storeSecret(StoreCall& call, std::string_view target, std::string_view userName,
                         std::string_view password, std::string_view note);

@@ -1,6 +1,5 @@
 #include "host/security/storecall.h"
 
-#include <atomic>
 #include <memory>
 #include <thread>
 #include <utility>
@@ -10,10 +9,6 @@ namespace xbr::host {
 namespace {
 
 thread_local StoreCall* t_current = nullptr;
-
-/// A store that did not answer gets less time, until it answers again: a sign-in asks it more than once.
-std::atomic<bool> g_wasSilent = false;
-constexpr std::chrono::seconds kLessPatience{1};
 
 } // namespace
 
@@ -46,10 +41,10 @@ bool StoreCall::isOverWithin(std::chrono::milliseconds time) {
 }
 
 /// False when time is up, or the user has given it up.
-bool StoreCall::waitFor(StoreListener* listener) {
+bool StoreCall::waitFor(StoreListener* listener, std::chrono::seconds patience) {
     static constexpr std::chrono::milliseconds kGlance{20};
     using Clock = std::chrono::steady_clock;
-    Clock::time_point end = Clock::now() + (g_wasSilent ? kLessPatience : kPatience);
+    Clock::time_point end = Clock::now() + patience;
     while (!isOverWithin(kGlance)) {
         const bool isForUser = isAsking();
         if (isForUser) {
@@ -63,24 +58,19 @@ bool StoreCall::waitFor(StoreListener* listener) {
     return true;
 }
 
-StoreResult StoreCall::run(Operation operation, StoreListener* listener) {
-    static constexpr std::chrono::milliseconds kFarewell{250}; // it may just be done, or close a question
+StoreResult StoreCall::run(Operation operation, StoreListener* listener, std::chrono::seconds patience) {
+    static constexpr std::chrono::milliseconds kFarewell{250}; // a question is closed
     const auto call = std::make_shared<StoreCall>();
     std::thread([call, work = std::move(operation)] {
         t_current = call.get();
         call->end(work(*call));
     }).detach();
-    if (call->waitFor(listener)) {
-        g_wasSilent = call->m_result == StoreResult::kSilent;
+    if (call->waitFor(listener, patience)) {
         return call->m_result;
     }
     const bool wasAsking = call->isAsking();
     g_cancellable_cancel(call->m_cancellable);
-    const bool isOver = call->isOverWithin(kFarewell);
-    if (isOver && (call->m_result == StoreResult::kDone || call->m_result == StoreResult::kNothing)) {
-        return call->m_result;
-    }
-    g_wasSilent = !wasAsking;
+    call->isOverWithin(kFarewell);
     return wasAsking ? StoreResult::kLocked : StoreResult::kSilent;
 }
 

@@ -24,9 +24,10 @@ public:
     StoreCall& operator=(const StoreCall&) = delete;
     ~StoreCall() { g_object_unref(m_cancellable); }
 
-    /// Runs `operation`, which may outlive this call when it hangs, and waits for it: `kPatience` at most,
+    /// Runs `operation`, which may outlive this call when it hangs, and waits for it: `patience` at most,
     /// and as long as the user is asked. `listener` may be null.
-    static StoreResult run(Operation operation, StoreListener* listener);
+    static StoreResult run(Operation operation, StoreListener* listener,
+                           std::chrono::seconds patience = kPatience);
 
     /// The one that runs on the calling thread.
     static StoreCall& current();
@@ -41,7 +42,7 @@ private:
     void end(StoreResult result);
     bool isOverWithin(std::chrono::milliseconds time);
     bool isAsking();
-    bool waitFor(StoreListener* listener);
+    bool waitFor(StoreListener* listener, std::chrono::seconds patience);
 
     GCancellable* m_cancellable;
     std::mutex m_mutex;

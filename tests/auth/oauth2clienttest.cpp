@@ -12,7 +12,9 @@ using brindlex::ClientState;
 using brindlex::OAuth2Client;
 using brindlex::Silence;
 using fakehost::host;
+using testing::Contains;
 using testing::ElementsAre;
+using testing::Not;
 using xbr::Url;
 
 constexpr const char* kReply = R"({"access_token":"A","refresh_token":"R","expires_in":60})";
@@ -31,6 +33,25 @@ public:
 
 private:
     OAuth2Client& m_client;
+};
+
+/// Does something as soon as the client comes to a state.
+class Acting final : public xbr::Object<xbr::IObserver> {
+public:
+    Acting(OAuth2Client& client, ClientState state, std::function<void()> act)
+        : m_client(client),
+          m_state(state),
+          m_act(std::move(act)) {}
+    void notify(xbr::ISubject*, xbr::IMessage*) noexcept override {
+        if (m_client.state() == m_state) {
+            m_act();
+        }
+    }
+
+private:
+    OAuth2Client& m_client;
+    ClientState m_state;
+    std::function<void()> m_act;
 };
 
 class OAuth2ClientTest : public testing::Test {
@@ -202,6 +223,54 @@ TEST_F(OAuth2ClientTest, RetryDuringTheExchangeStartsAfreshAndStays) {
     EXPECT_THAT(host().web.sent.back().body, testing::HasSubstr("code=second"));
 }
 
+TEST_F(OAuth2ClientTest, RetryBeforeAFailureIsHandledIsNotEndedByIt) {
+    const auto retrying = xbr::make<Acting>(*client, ClientState::kFailed, [this] {
+        host().signals.enqueue([this] { client->retryAuthorization(); });
+    });
+    host().signals.addObserver(client.get(), retrying.get());
+    reachTokenRequest();
+    host().web.answer(400, "");
+    EXPECT_THAT(told(), ElementsAre("1", "2", "4", "0", "1"));
+}
+
+TEST_F(OAuth2ClientTest, AnObserverMayResetAtEachChange) {
+    for (const ClientState state :
+         {ClientState::kAwaitingCode, ClientState::kRequestingToken, ClientState::kAuthorized}) {
+        fakehost::resetHost();
+        const auto resetter =
+            xbr::make<Acting>(*client, state, [this] { client->resetAuthorization(Silence::kSilent); });
+        host().signals.addObserver(client.get(), resetter.get());
+        EXPECT_EQ(client->getAuthorizationCode(), state != ClientState::kAwaitingCode);
+        EXPECT_EQ(client->handleRedirect(Url("brindlex://authorize?code=abc")),
+                  state == ClientState::kAuthorized);
+        if (state == ClientState::kAuthorized) {
+            host().web.answer(200, kReply);
+        }
+        host().signals.pump();
+        EXPECT_EQ(client->state(), ClientState::kIdle);
+        EXPECT_EQ(host().shell.opened.empty(), state == ClientState::kAwaitingCode);
+        EXPECT_EQ(host().web.sent.empty(), state != ClientState::kAuthorized);
+        EXPECT_FALSE(host().credentials.stored) << "what was reset is not stored";
+        EXPECT_THAT(host().signals.postedSignals, Not(Contains("authorizationCompleted")));
+        host().signals.removeObserver(client.get(), resetter.get());
+    }
+}
+
+TEST_F(OAuth2ClientTest, DoesNothingWhileItsRequestIsBusy) {
+    const auto send = [this] {
+        return client->send([](const auto&, auto&) {}, "GET", Url("https://service.example"), nullptr, "");
+    };
+    host().credentials.stored = {"Name", "OAuth2Tokens", "A&R", ""};
+    ASSERT_TRUE(send());
+    EXPECT_FALSE(client->getAuthorizationCode());
+    EXPECT_FALSE(client->restoreAuthorization());
+    host().web.answer(200, "");
+    ASSERT_TRUE(client->getAuthorizationCode());
+    ASSERT_TRUE(send());
+    EXPECT_FALSE(client->handleRedirect(Url("brindlex://authorize?code=abc")));
+    EXPECT_EQ(client->state(), ClientState::kAwaitingCode);
+}
+
 TEST_F(OAuth2ClientTest, RestoresFromTheStoreWithoutAskingAnyone) {
     for (const char* unusable : {"", "&", "sto\nred&R"}) {
         host().credentials.stored = {"Name", "OAuth2Tokens", unusable, ""};
@@ -254,7 +323,10 @@ TEST_F(OAuth2ClientTest, ParametersActAndPropertiesTell) {
          {"getAuthorizationCode", "resetAuthorization", "retryAuthorization", "isAuthorized"}) {
         EXPECT_EQ(client->findParameter(xbr::toText(name))->tag(), tag++) << name;
     }
+    const auto shown = xbr::make<Listener>(*client);
+    host().signals.addObserver(client->parameter(103), shown.get());
     set("isAuthorized");
+    shown->heard.clear();
     EXPECT_EQ(xbr::integerOf(client->findParameter(xbr::toText("isAuthorized"))->value()), 0) << "only shows";
     set("getAuthorizationCode");
     EXPECT_EQ(property("clientState"), 1);
@@ -267,6 +339,7 @@ TEST_F(OAuth2ClientTest, ParametersActAndPropertiesTell) {
     EXPECT_EQ(property("isAuthorized"), 1);
     EXPECT_EQ(xbr::integerOf(client->findParameter(xbr::toText("isAuthorized"))->value()), 1);
     set("resetAuthorization");
+    EXPECT_THAT(shown->heard, ElementsAre()) << "\"propertyChanged\" tells it";
     EXPECT_EQ(property("clientState"), 0);
     EXPECT_EQ(property("unknown"), -1);
 }

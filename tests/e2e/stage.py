@@ -44,6 +44,7 @@ class Stage:
             [BIN / "brindlex-sandbox", "--inbox", self.inbox, "--port-file", port, "--client-secret", CLIENT_SECRET,
              "--write-settings", self.settings], stdout=subprocess.DEVNULL)
         self.server = "http://127.0.0.1:" + wait_for(lambda: port.exists() and port.read_text().strip(), "the service")
+        self.configured = self.server
         kept = ["DBUS_SESSION_BUS_ADDRESS"] if keyring else []
         self.environment = {key: value for key, value in os.environ.items() if key in kept or key not in SESSION}
         self.environment.update({
@@ -64,7 +65,8 @@ class Stage:
 
     def configure(self, server):
         """Another address of the service."""
-        self.settings.write_text(self.settings.read_text().replace(self.server, server))
+        self.settings.write_text(self.settings.read_text().replace(self.configured, server))
+        self.configured = server
 
     def make_songs(self):
         """Three tagged songs: MP3, FLAC and WAV, in the order of their names."""

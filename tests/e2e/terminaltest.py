@@ -139,6 +139,22 @@ class TerminalTest(unittest.TestCase):
         self.assertEqual(len(self.stage.releases()), 1)
         self.assertEqual(self.stage.run("publish", song, missing).returncode, 3, "nobody there to ask")
 
+    def test_the_browsers_link_can_be_pasted(self):
+        for command in (["sign-in"], ["publish", self.stage.make_songs()[0]]):
+            host = self.run_on_terminal(*command, BROWSER="/bin/true")
+            page = host.wait_for_line("/oauth/authorize").strip()
+            host.wait_for_line("Link back (paste it here if the browser does not return by itself):")
+            told = subprocess.run([BIN / "brindlex-browser", page], timeout=20, check=True, capture_output=True, text=True,
+                                  env={**self.stage.environment, "BRINDLEX_CALLBACK_PROGRAM": "/bin/echo"})
+            for pasted, answer in (("https://service.example/", "This is not a link back: it begins with “https:”."),
+                                   ("brindlex://elsewhere?code=1", "This link back belongs to another sign-in."),
+                                   ("brindlex://authorize?error=x", "The browser came back without a permission."),
+                                   (told.stdout.split()[-1], "Signed in as Mara Lindqvist")):
+                host.type(pasted + "\n")
+                host.wait_for_line(answer)
+            code, lines = host.end()
+            self.assertEqual(code, 0, lines)
+
     def test_one_language_for_all_that_is_told(self):
         song = self.stage.make_songs()[0]
         for variables, sentence in (

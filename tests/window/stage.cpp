@@ -2,6 +2,7 @@
 
 #include "host/app/window/frame/statusline.h"
 
+#include <QDBusConnection>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QStandardPaths>
@@ -113,6 +114,16 @@ void Stage::configure(const std::string& server) const {
     }
 }
 
+void Stage::silenceSessionBus() {
+    QDBusConnection::sessionBus(); // asks for the address once, and finds none
+    EXPECT_TRUE(m_bus.listen(QString::fromStdString(path("bus"))));
+    setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + path("bus"));
+    // The desktop's own way to open the browser would ask that bus.
+    std::ofstream(path("xdg-open")) << "#!/bin/sh\nexec \"$BROWSER\" \"$1\"\n";
+    fs::permissions(path("xdg-open"), fs::perms::owner_all);
+    setVariable("PATH", path("") + ":" + qEnvironmentVariable("PATH").toStdString());
+}
+
 WindowFront& Stage::open(const std::vector<std::string>& files, const std::string& module) {
     m_host.reset();
     m_host = std::make_unique<WindowFront>(WindowOptions{module.empty() ? TEST_MODULE : module, files});
@@ -122,8 +133,10 @@ WindowFront& Stage::open(const std::vector<std::string>& files, const std::strin
 }
 
 void Stage::activate() {
-    window().activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+    EXPECT_TRUE(waitFor([this] {
+        window().activateWindow();
+        return window().isActiveWindow();
+    }));
 }
 
 void Stage::forget() const {

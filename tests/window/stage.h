@@ -3,6 +3,7 @@
 #include "host/app/window/start/windowfront.h"
 #include "tests/sandbox/runningservice.h"
 
+#include <QLocalServer>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -48,6 +49,9 @@ public:
     /// Settings of the service; an empty address leaves them out.
     void configure(const std::string& server) const;
 
+    /// From now on there is a session bus that accepts and never says a word. This process's Qt goes without.
+    void silenceSessionBus();
+
     /// Starts the window. `module` is the built extension unless something else is named.
     WindowFront& open(const std::vector<std::string>& files = {}, const std::string& module = {});
     WindowFront& host() { return *m_host; }
@@ -74,6 +78,7 @@ private:
 
     std::vector<std::pair<const char*, QByteArray>> m_variables; ///< of the environment, as they were
     QTemporaryDir m_folder;
+    QLocalServer m_bus; ///< the silent one
     std::unique_ptr<RunningService> m_service;
     std::vector<std::string> m_songs;
     std::unique_ptr<WindowFront> m_host;

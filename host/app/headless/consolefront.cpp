@@ -5,6 +5,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
+#include "host/app/headless/pastedlink.h"
 #include "host/app/publishing/reachability.h"
 #include "host/app/publishing/words.h"
 
@@ -146,6 +147,10 @@ Result ConsoleDialog::runModal(IView* view, std::int32_t) noexcept {
             close();
         }
     });
+    std::optional<PastedLink> pasted;
+    if (m_front->isAnswered()) {
+        pasted.emplace(*m_session, m_front->output());
+    }
     loop.exec();
     m_loop = nullptr;
     m_front->setDialog(nullptr);
@@ -161,9 +166,10 @@ Result ConsoleDialog::close() noexcept {
     return kOk;
 }
 
-ConsoleFront::ConsoleFront(std::unique_ptr<Output> output, Dialogs dialogs)
+ConsoleFront::ConsoleFront(std::unique_ptr<Output> output, Dialogs dialogs, bool isAnswered)
     : m_output(std::move(output)),
-      m_dialogs(dialogs) {}
+      m_dialogs(dialogs),
+      m_isAnswered(isAnswered) {}
 
 Ref<IObject> ConsoleFront::makeDialog(HostSession& session) {
     if (m_dialogs == Dialogs::kNone) {
@@ -205,7 +211,7 @@ void ConsoleFront::callbackCame() {
 }
 
 ConsoleSession::ConsoleSession(const CommandLine& commandLine, Dialogs dialogs)
-    : m_front(makeOutput(commandLine), dialogs),
+    : m_front(makeOutput(commandLine), dialogs, isAnswered(commandLine)),
       m_session(m_front, {commandLine.module, false, dialogs != Dialogs::kNone}) {}
 
 /// The first panel that the module offers.

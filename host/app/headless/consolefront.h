@@ -21,7 +21,8 @@ class ConsoleDialog;
 /// browser.
 class ConsoleFront final : public FrontEnd {
 public:
-    ConsoleFront(std::unique_ptr<Output> output, Dialogs dialogs);
+    /// `isAnswered`: there is somebody at a terminal, who may paste a link there.
+    ConsoleFront(std::unique_ptr<Output> output, Dialogs dialogs, bool isAnswered);
     ConsoleFront(const ConsoleFront&) = delete;
     ConsoleFront& operator=(const ConsoleFront&) = delete;
     ~ConsoleFront() = default;
@@ -37,6 +38,7 @@ public:
     void callbackCame() override;
 
     Dialogs dialogs() const { return m_dialogs; }
+    bool isAnswered() const { return m_isAnswered; }
 
     /// The dialog that runs; null for none.
     void setDialog(ConsoleDialog* dialog) { m_dialog = dialog; }
@@ -44,6 +46,7 @@ public:
 private:
     std::unique_ptr<Output> m_output;
     Dialogs m_dialogs;
+    bool m_isAnswered;
     ConsoleDialog* m_dialog = nullptr;
     bool m_isKeyringTold = false;
 };

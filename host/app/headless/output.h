@@ -83,9 +83,12 @@ public:
     virtual void ended(ExitCode code, std::string_view text) = 0;
 };
 
+/// True when there is somebody at a terminal who can be asked, and may be.
+bool isAnswered(const CommandLine& commandLine);
+
 /// As the command line wants it.
 std::unique_ptr<Output> makeOutput(const CommandLine& commandLine);
-std::unique_ptr<Output> makeTextOutput(bool isQuiet, bool isVerbose);
+std::unique_ptr<Output> makeTextOutput(bool isQuiet, bool isVerbose, bool isAnswered);
 std::unique_ptr<Output> makeJsonOutput();
 
 /// Writes "xbrhost: <text>" to standard error.

@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <iostream>
-#include <unistd.h>
 
 namespace xbr::host {
 
@@ -241,11 +240,6 @@ Outcome<ReleaseWish> wishOf(const CommandLine& commandLine) {
     return wish;
 }
 
-bool isConversation(const CommandLine& commandLine) {
-    return !commandLine.isJson && !commandLine.isQuiet && isatty(STDIN_FILENO) == 1 &&
-           isatty(STDERR_FILENO) == 1;
-}
-
 } // namespace
 
 ExitCode runPublish(const CommandLine& commandLine) {
@@ -273,7 +267,7 @@ ExitCode runPublish(const CommandLine& commandLine) {
                          {}});
     } else {
         end = PublishRun(console, entries.front(), commandLine.account)
-                  .run(std::move(*wish), commandLine.isDryRun, isConversation(commandLine));
+                  .run(std::move(*wish), commandLine.isDryRun, isAnswered(commandLine));
     }
     console.output().finished(end);
     return end.verdict.code;

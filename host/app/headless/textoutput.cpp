@@ -96,9 +96,10 @@ std::string wordsOfResult(const SongResult& song) {
 /// Lines for people: results on the standard output, problems and what moves on the standard error.
 class TextOutput final : public Output {
 public:
-    TextOutput(bool isQuiet, bool isVerbose)
+    TextOutput(bool isQuiet, bool isVerbose, bool isAnswered)
         : m_isQuiet(isQuiet),
           m_isVerbose(isVerbose && !isQuiet),
+          m_isAnswered(isAnswered),
           m_moving(!isQuiet) {}
 
     void message(std::string_view text) override { note(text); }
@@ -108,8 +109,12 @@ public:
                                               "Waiting for your permission in the browser. If no page "
                                               "opened, open this address:")));
         aside(url);
-        aside(say(QCoreApplication::translate("xbr::host::Output", "Hand the link back over with: %1"),
-                  "xbrhost open-url 'LINK'"));
+        aside(m_isAnswered
+                  ? say(QCoreApplication::translate(
+                        "xbr::host::Output",
+                        "Link back (paste it here if the browser does not return by itself):"))
+                  : say(QCoreApplication::translate("xbr::host::Output", "Hand the link back over with: %1"),
+                        "xbrhost open-url 'LINK'"));
     }
 
     void account(bool, std::string_view) override {} // a sentence tells it
@@ -241,6 +246,7 @@ private:
 
     bool m_isQuiet;
     bool m_isVerbose;
+    bool m_isAnswered;
     MovingLine m_moving;
     std::string m_step;
     std::int32_t m_sending = -1; ///< index of the song on its way
@@ -250,8 +256,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<Output> makeTextOutput(bool isQuiet, bool isVerbose) {
-    return std::make_unique<TextOutput>(isQuiet, isVerbose);
+std::unique_ptr<Output> makeTextOutput(bool isQuiet, bool isVerbose, bool isAnswered) {
+    return std::make_unique<TextOutput>(isQuiet, isVerbose, isAnswered);
 }
 
 } // namespace xbr::host

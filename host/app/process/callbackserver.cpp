@@ -61,8 +61,6 @@ Connection::Connection(QLocalSocket& socket, QObject& parent, CallbackServer& se
     m_limit.setSingleShot(true);
     connect(&m_limit, &QTimer::timeout, this, [this] { drop(); });
     m_limit.start(CallbackServer::kTimeLimit);
-    QMetaObject::invokeMethod(
-        this, [this] { read(); }, Qt::QueuedConnection); // what came before we listened
 }
 
 void Connection::read() {
@@ -130,7 +128,6 @@ Outcome<void> CallbackServer::listen() {
         return made;
     }
     const QString name = QFile::decodeName((m_folder + "/" + std::to_string(getpid()) + ".sock").c_str());
-    QLocalServer::removeServer(name); // of a process that had our number and crashed
     if (!m_server.listen(name)) {
         const std::string reason = m_server.errorString().toStdString();
         return Problem{Fault::kNotWritable,

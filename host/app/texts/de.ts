@@ -448,6 +448,10 @@
         <translation>%1 in %2 gesendet, %3/s.</translation>
     </message>
     <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>Link zurück (hier einfügen, wenn der Browser nicht von selbst zurückkehrt):</translation>
+    </message>
+    <message>
         <source>Publish them again?</source>
         <translation>Noch einmal veröffentlichen?</translation>
     </message>

@@ -448,6 +448,10 @@
         <translation>Enviados %1 en %2, %3/s.</translation>
     </message>
     <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>Enlace de vuelta (péguelo aquí si el navegador no vuelve por sí solo):</translation>
+    </message>
+    <message>
         <source>Publish them again?</source>
         <translation>¿Publicarlas otra vez?</translation>
     </message>

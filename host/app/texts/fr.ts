@@ -448,6 +448,10 @@
         <translation>%1 envoyés en %2, %3/s.</translation>
     </message>
     <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>Lien de retour (collez-le ici si le navigateur ne revient pas de lui-même) :</translation>
+    </message>
+    <message>
         <source>Publish them again?</source>
         <translation>Les publier à nouveau ?</translation>
     </message>

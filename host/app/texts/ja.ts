@@ -443,6 +443,10 @@
         <translation>%1 を %2 で送信しました (%3/s)。</translation>
     </message>
     <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>戻りのリンク（ブラウザーが自動で戻らない場合はここに貼り付けてください）:</translation>
+    </message>
+    <message>
         <source>Publish them again?</source>
         <translation>もう一度公開しますか?</translation>
     </message>

@@ -448,6 +448,10 @@
         <translation>Enviados %1 em %2, %3/s.</translation>
     </message>
     <message>
+        <source>Link back (paste it here if the browser does not return by itself):</source>
+        <translation>Link de volta (cole-o aqui se o navegador não voltar por si só):</translation>
+    </message>
+    <message>
         <source>Publish them again?</source>
         <translation>Publicar de novo?</translation>
     </message>

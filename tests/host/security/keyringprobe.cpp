@@ -2,11 +2,14 @@
 
 #include <libsecret/secret.h>
 
+#include <atomic>
 #include <csignal>
 
 namespace xbr::host::test {
 
 namespace {
+
+std::atomic<int> g_refusals = 0;
 
 SeenItem look(SecretItem* item) {
     SeenItem seen;
@@ -47,6 +50,40 @@ pid_t processOf(GDBusConnection* bus, const char* name) {
     return static_cast<pid_t>(process);
 }
 
+GDBusMessage* dropCall(GDBusConnection*, GDBusMessage* message, gboolean incoming, gpointer) {
+    if (!incoming || g_dbus_message_get_message_type(message) != G_DBUS_MESSAGE_TYPE_METHOD_CALL) {
+        return message;
+    }
+    g_object_unref(message);
+    return nullptr;
+}
+
+void sendAndForget(GDBusConnection* bus, GDBusMessage* message) {
+    g_dbus_connection_send_message(bus, message, G_DBUS_SEND_MESSAGE_FLAGS_NONE, nullptr, nullptr);
+    g_object_unref(message);
+}
+
+/// A person who presses "Cancel": a question that begins is asked for, and answered by "no".
+GDBusMessage* refusePrompt(GDBusConnection* bus, GDBusMessage* message, gboolean incoming, gpointer data) {
+    if (incoming && g_dbus_message_get_message_type(message) == G_DBUS_MESSAGE_TYPE_METHOD_CALL) {
+        sendAndForget(bus, g_dbus_message_new_method_reply(message));
+        const std::string method = g_dbus_message_get_member(message);
+        GVariant* question = g_variant_get_child_value(g_dbus_message_get_body(message), 0);
+        const bool isOver = method == "StopPrompting";
+        g_refusals += method == "PerformPrompt" ? 1 : 0;
+        GDBusMessage* answer = g_dbus_message_new_method_call(
+            g_dbus_message_get_sender(message), g_variant_get_string(question, nullptr),
+            "org.gnome.keyring.internal.Prompter.Callback", isOver ? "PromptDone" : "PromptReady");
+        g_variant_unref(question);
+        if (!isOver) {
+            g_dbus_message_set_body(
+                answer, g_variant_new("(sa{sv}s)", method == "PerformPrompt" ? "no" : "", nullptr, ""));
+        }
+        sendAndForget(bus, answer);
+    }
+    return dropCall(bus, message, incoming, data);
+}
+
 } // namespace
 
 std::vector<SeenItem> itemsOf(const std::string& target) {
@@ -84,24 +121,20 @@ void stopKeyring(bool isStopped) {
     g_object_unref(bus);
 }
 
-SilentPrompter::SilentPrompter() : m_bus(ownConnection()) {
+Prompter::Prompter(Answer answer) : m_bus(ownConnection()) {
     auto* bus = static_cast<GDBusConnection*>(m_bus);
-    // Calls are dropped, which GDBus would answer.
-    g_dbus_connection_add_filter(
-        bus,
-        [](GDBusConnection*, GDBusMessage* message, gboolean incoming, gpointer) -> GDBusMessage* {
-            if (incoming && g_dbus_message_get_message_type(message) == G_DBUS_MESSAGE_TYPE_METHOD_CALL) {
-                g_object_unref(message);
-                return nullptr;
-            }
-            return message;
-        },
-        nullptr, nullptr);
+    // Calls are taken here, before GDBus would answer them.
+    g_dbus_connection_add_filter(bus, answer == Answer::kRefused ? &refusePrompt : &dropCall, nullptr,
+                                 nullptr);
     g_variant_unref(
         callBus(bus, "RequestName", g_variant_new("(su)", "org.gnome.keyring.SystemPrompter", 4U)));
 }
 
-SilentPrompter::~SilentPrompter() {
+int Prompter::refusals() {
+    return g_refusals;
+}
+
+Prompter::~Prompter() {
     g_object_unref(m_bus);
 }
 
@@ -114,13 +147,18 @@ void endSessionBus() {
     g_object_unref(bus);
 }
 
+void runEventLoop() {
+    while (g_main_context_iteration(nullptr, FALSE)) {
+    }
+}
+
 std::string environment(const char* name) {
     const char* value = g_getenv(name);
     return value ? value : "";
 }
 
 void setEnvironment(const char* name, const char* value) {
-    g_setenv(name, value, TRUE);
+    value ? static_cast<void>(g_setenv(name, value, TRUE)) : g_unsetenv(name);
 }
 
 } // namespace xbr::host::test

@@ -21,13 +21,18 @@ void lockKeyring();
 /// Stops the process of the keyring, or lets it go on.
 void stopKeyring(bool isStopped);
 
-/// While it lives, the keyring's question for a password is shown to nobody, and gets no answer.
-class SilentPrompter {
+/// While it lives, the keyring's question for a password gets no answer, or is refused at once.
+class Prompter {
 public:
-    SilentPrompter();
-    SilentPrompter(const SilentPrompter&) = delete;
-    SilentPrompter& operator=(const SilentPrompter&) = delete;
-    ~SilentPrompter();
+    enum class Answer { kNone, kRefused };
+
+    explicit Prompter(Answer answer);
+    Prompter(const Prompter&) = delete;
+    Prompter& operator=(const Prompter&) = delete;
+    ~Prompter();
+
+    /// How many questions were refused so far.
+    static int refusals();
 
 private:
     void* m_bus;
@@ -36,8 +41,11 @@ private:
 /// Ends the session bus, and returns when it is gone.
 void endSessionBus();
 
+/// Runs what GLib has for the event loop.
+void runEventLoop();
+
 /// The value of an environment variable; empty when there is none.
 std::string environment(const char* name);
-void setEnvironment(const char* name, const char* value);
+void setEnvironment(const char* name, const char* value); ///< null removes it
 
 } // namespace xbr::host::test

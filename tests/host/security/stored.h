@@ -4,7 +4,6 @@
 #include "framework/support/objects/text.h"
 #include "host/security/hostsecurity.h"
 
-#include <algorithm>
 #include <chrono>
 #include <string>
 #include <string_view>
@@ -46,18 +45,20 @@ public:
 
     bool storeWaits(bool isForUser) override {
         const auto now = Clock::now();
-        longestGap = std::max(longestGap, now - m_last);
+        unpainted += now - m_last > Milliseconds(100) ? now - m_last : Clock::duration();
         m_last = now;
         wasUserAsked = wasUserAsked || isForUser;
         return now - m_start < m_patience;
     }
-    void storeAnswered(StoreOperation, StoreResult result) override { results.push_back(result); }
+    void storeAnswered(StoreOperation operation, StoreResult result) override {
+        results.emplace_back(operation, result);
+    }
 
     Clock::duration time() const { return Clock::now() - m_start; }
 
-    std::vector<StoreResult> results;
+    std::vector<std::pair<StoreOperation, StoreResult>> results;
     bool wasUserAsked = false;
-    Clock::duration longestGap{}; ///< in which no window could have been painted
+    Clock::duration unpainted{}; ///< in which a window could not have been painted ten times a second
 
 private:
     Milliseconds m_patience;

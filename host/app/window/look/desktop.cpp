@@ -24,7 +24,8 @@ DesktopScheme::DesktopScheme(QObject* parent) : QObject(parent) {
     if (!bus.isConnected()) {
         return;
     }
-    bus.connect(kService, kPath, kInterface, "SettingChanged", this,
+    // Whoever it comes from: Qt would ask the bus who has a name, and wait for the answer.
+    bus.connect(QString(), kPath, kInterface, "SettingChanged", this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
     auto call = QDBusMessage::createMethodCall(kService, kPath, kInterface, "Read");
     call.setArguments({kGroup, kKey});

@@ -32,7 +32,8 @@ void DesktopNotification::show(const QString& title) {
     if (!bus.isConnected()) {
         return;
     }
-    bus.connect(kNotifications, kNotificationsPath, kNotifications, "ActionInvoked", this,
+    // Whoever it comes from: Qt would ask the bus who has a name, and wait for the answer.
+    bus.connect(QString(), kNotificationsPath, kNotifications, "ActionInvoked", this,
                 SLOT(actionInvoked(uint, QString)));
     QDBusMessage message = call("Notify");
     static constexpr int kUsualTime = -1;

@@ -3,13 +3,16 @@
 #include "host/app/process/singleinstance.h"
 #include "host/app/texts/programtexts.h"
 #include "host/app/window/start/windowfront.h"
+#include "host/security/hostsecurity.h"
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QDBusConnection>
 #include <QStyleFactory>
 
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 
 namespace xbr::host {
 
@@ -37,6 +40,31 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
             fail("the display cannot be reached (xbrhost --help lists what works without)")));
     }
 }
+
+/// Hides a session bus that does not answer from Qt, which would wait for it without end while it starts, and
+/// goes without then. Qt reads the address once, and everything else has it as before.
+class SilentBusHidden {
+public:
+    SilentBusHidden() : m_isSilent(isSessionBusSilent()), m_address(qgetenv(kVariable)) {
+        if (m_isSilent) {
+            qputenv(kVariable, "disabled:");
+        }
+    }
+    SilentBusHidden(const SilentBusHidden&) = delete;
+    SilentBusHidden& operator=(const SilentBusHidden&) = delete;
+    ~SilentBusHidden() {
+        if (m_isSilent) {
+            QDBusConnection::sessionBus(); // in case that it was not read yet
+            m_address.isNull() ? qunsetenv(kVariable) : qputenv(kVariable, m_address);
+        }
+    }
+
+private:
+    static constexpr char kVariable[] = "DBUS_SESSION_BUS_ADDRESS";
+
+    bool m_isSilent;
+    QByteArray m_address;
+};
 
 ExitCode open(const WindowOptions& options) {
     WindowFront front(options);
@@ -66,7 +94,9 @@ ExitCode runWindow(int& argc, char** argv, const WindowOptions& options) {
         break;
     }
     const QtMessageHandler usual = qInstallMessageHandler(&endWithoutDisplay);
+    std::optional<SilentBusHidden> hidden(std::in_place);
     QApplication application(argc, argv);
+    hidden.reset();
     qInstallMessageHandler(usual);
     QApplication::setApplicationName("xbrhost");
     QApplication::setApplicationVersion(XBR_HOST_VERSION);
