@@ -1,5 +1,6 @@
 #include "framework/abi/module.h"
 #include "framework/support/objects/message.h"
+#include "framework/support/objects/text.h"
 #include "module/classtable.h"
 #include "module/modulekernel.h"
 #include "tests/fakehost/fakehost.h"
