@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
+
 namespace {
 
 using brindlex::ClientState;
@@ -25,9 +27,14 @@ public:
         const std::string name = xbr::toString(message->name());
         heard.push_back(name == "propertyChanged" ? std::to_string(static_cast<int>(m_client.state()))
                                                   : name);
+        if (m_client.state() == resetAt) {
+            resetAt.reset();
+            m_client.resetAuthorization(Silence::kSilent);
+        }
     }
 
     std::vector<std::string> heard;
+    std::optional<ClientState> resetAt; ///< where the user gives up
 
 private:
     OAuth2Client& m_client;
@@ -172,6 +179,11 @@ TEST_F(OAuth2ClientTest, RequestThatTheHostAbortsOrRefusesFailsTheExchange) {
     host().web.refusesRequests = true;
     EXPECT_FALSE(client->handleRedirect(Url("brindlex://authorize?code=abc")));
     EXPECT_THAT(told(), ElementsAre("1", "2", "4", "0", "authorizationCanceled")) << "nobody waits for ever";
+    client->getAuthorizationCode();
+    client->handleRedirect(Url("brindlex://authorize?code=abc"));
+    client->retryAuthorization(); // before the loss of the last one is told
+    host().signals.pump();
+    EXPECT_EQ(client->state(), ClientState::kAwaitingCode);
 }
 
 TEST_F(OAuth2ClientTest, ReplyWithoutAccessTokenSignsInAndStoresNothing) {
@@ -202,6 +214,24 @@ TEST_F(OAuth2ClientTest, RetryDuringTheExchangeStartsAfreshAndStays) {
     EXPECT_THAT(host().web.sent.back().body, testing::HasSubstr("code=second"));
 }
 
+TEST_F(OAuth2ClientTest, WhatIsResetByAnObserverGoesNoFurther) {
+    listener->resetAt = ClientState::kAwaitingCode;
+    EXPECT_FALSE(client->getAuthorizationCode());
+    EXPECT_TRUE(host().shell.opened.empty());
+    client->getAuthorizationCode();
+    listener->resetAt = ClientState::kRequestingToken;
+    EXPECT_FALSE(client->handleRedirect(Url("brindlex://authorize?code=abc")));
+    EXPECT_TRUE(host().web.sent.empty());
+    reachTokenRequest();
+    listener->resetAt = ClientState::kAuthorized;
+    host().web.answer(200, kReply);
+    EXPECT_FALSE(host().credentials.stored);
+    host().credentials.stored = {"Name", "OAuth2Tokens", "stored&R", ""};
+    listener->resetAt = ClientState::kAuthorized;
+    EXPECT_FALSE(client->restoreAuthorization());
+    EXPECT_EQ(client->state(), ClientState::kIdle);
+}
+
 TEST_F(OAuth2ClientTest, RestoresFromTheStoreWithoutAskingAnyone) {
     for (const char* unusable : {"", "&", "sto\nred&R"}) {
         host().credentials.stored = {"Name", "OAuth2Tokens", unusable, ""};
@@ -229,6 +259,7 @@ TEST_F(OAuth2ClientTest, SendsServiceRequestsOnlyWhenAuthorizedAndFree) {
     ASSERT_TRUE(client->sendAuthorizedRequest(handler, request));
     EXPECT_FALSE(client->sendAuthorizedRequest(handler, request)) << "busy";
     const auto& sent = host().web.sent.back();
+    EXPECT_EQ(sent.method, "POST");
     EXPECT_EQ(sent.url, "https://service.example/base/api/upload");
     EXPECT_EQ(sent.headers.at("Authorization"), "Bearer A");
     EXPECT_EQ(sent.headers.at("Content-Type"), "text/x");

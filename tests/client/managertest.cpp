@@ -76,15 +76,22 @@ TEST_F(ManagerTest, LoadsTheConfigurationOncePerClient) {
 
 TEST_F(ManagerTest, ConfigurationTakesWhatIsThere) {
     const auto attributes = xbr::make<xbr::Attributes>();
-    attributes->set("ConsumerKey", "k\xC3\xA9y");
-    attributes->set("ConsumerSecret", xbr::integerValue(5));
-    attributes->set("JoinToken", "j\xC3\xB6in");
+    for (const char* key :
+         {"ServerURL", "UserURL", "ConsumerKey", "ConsumerSecret", "CallbackURL", "JoinToken"}) {
+        attributes->set(key, std::string(key) + "\xC3\xA9");
+    }
     applyConfiguration(manager->client(), *attributes);
     const ServiceConfiguration& configuration = manager->client().configuration();
-    EXPECT_EQ(configuration.consumerKey, "k?y");
-    EXPECT_EQ(configuration.consumerSecret, "");
-    EXPECT_EQ(configuration.joinToken, "j\xC3\xB6in");
-    EXPECT_TRUE(configuration.serverUrl.isEmpty());
+    EXPECT_EQ(configuration.serverUrl.toString(), "ServerURL\xC3\xA9");
+    EXPECT_EQ(configuration.userUrl.toString(), "UserURL\xC3\xA9");
+    EXPECT_EQ(configuration.consumerKey, "ConsumerKey?");
+    EXPECT_EQ(configuration.consumerSecret, "ConsumerSecret?");
+    EXPECT_EQ(configuration.callbackUrl.toString(), "CallbackURL\xC3\xA9");
+    EXPECT_EQ(configuration.joinToken, "JoinToken\xC3\xA9");
+    const auto other = xbr::make<xbr::Attributes>();
+    other->set("ConsumerSecret", xbr::integerValue(5));
+    applyConfiguration(manager->client(), *other);
+    EXPECT_EQ(configuration.consumerKey + configuration.consumerSecret, "");
 }
 
 TEST_F(ManagerTest, AccountReplyDecidesWhoIsShown) {

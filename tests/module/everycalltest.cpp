@@ -21,7 +21,7 @@ public:
         fakehost::resetHost();
         host().failingCall = failingCall;
         host().files.files["resource://brindlex/gadget.xml"] = R"(<Gadget formName="BrindlexManager"/>)";
-        host().files.files["resource://brindlex/brindlex_genres.csv"] = "a\nb\nc\n";
+        addGenres();
         host().objects.configuration = {{"ServerURL", "https://service"},
                                         {"UserURL", "https://web/me"},
                                         {"ConsumerKey", "key"},
