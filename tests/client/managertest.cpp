@@ -27,34 +27,6 @@ TEST_F(ManagerTest, ConnectsWithStoredTokensWithoutADialog) {
     EXPECT_TRUE(host().objects.log.empty()) << "connected already";
 }
 
-TEST_F(ManagerTest, ConnectsThroughTheDialogAndTheBrowser) {
-    host().objects.onModalRun = [&] {
-        EXPECT_EQ(manager->client().state(), ClientState::kAwaitingCode);
-        EXPECT_EQ(host().shell.opened.size(), 1U);
-        manager->client().handleRedirect(xbr::Url("brindlex://authorize?code=c"));
-        host().web.answer(200, R"({"access_token":"A"})");
-        EXPECT_EQ(host().objects.log.back(), "close");
-    };
-    perform("connect");
-    EXPECT_THAT(host().objects.log, Contains("run BrindlexConnectDialog 66"));
-    EXPECT_TRUE(manager->client().isAuthorized());
-}
-
-TEST_F(ManagerTest, CancellingClearsTheUserAndClosesTheDialog) {
-    signIn();
-    manager->client().resetAuthorization(Silence::kTold);
-    host().signals.pump();
-    EXPECT_EQ(text("userName"), "");
-    EXPECT_EQ(text("userURL"), "");
-    host().objects.onModalRun = [&] {
-        manager->client().findParameter(xbr::toText("resetAuthorization"))->setValue(xbr::integerValue(1));
-        host().signals.pump();
-    };
-    perform("connect");
-    EXPECT_EQ(host().objects.log.back(), "close");
-    EXPECT_EQ(manager->client().state(), ClientState::kIdle);
-}
-
 TEST_F(ManagerTest, NoDialogMeansNoAuthorization) {
     host().objects.hasDialog = false;
     perform("connect");

@@ -359,8 +359,10 @@ TEST_F(UploadQueueTest, ASecondPanelWaitsForItsTurn) {
             }
             EXPECT_THAT(sentAudio(), ElementsAre("a"));
             EXPECT_EQ(host().web.sent.size(), 1U);
+            host().signals.posts.clear();
             end(first);
             host().signals.pump();
+            EXPECT_EQ(host().signals.posts, std::vector<std::string>{"uploadNext -1"}) << "told once";
             EXPECT_EQ(host().web.sent.size(), 2U);
             EXPECT_THAT(sentAudio(), ElementsAre("b"));
             host().web.answer(200);
