@@ -204,6 +204,20 @@ TEST_F(ImageElementTest, LetsGoOfWhatNobodyShows) {
     EXPECT_FALSE(image->mayHaveImage());
 }
 
+TEST_F(ImageElementTest, IsNotDecodedForNobody) {
+    const auto observer = xbr::make<FeedObserver>(*image);
+    image->beginShowing();
+    host().signals.pump();
+    observer->hook = [&] {
+        if (image->downloadState() == xbr::DownloadState::kComplete) {
+            observer->hook = nullptr;
+            image->endShowing();
+        }
+    };
+    host().downloads.complete(kPicture, "8x6");
+    EXPECT_FALSE(property(*image, "hasImage").boolean);
+}
+
 TEST_F(ImageElementTest, TellsNoRoomAndDamageApart) {
     fetch("8x6");
     startAgain();
@@ -235,7 +249,10 @@ TEST_F(ImageElementTest, FetchesAgainWhenTheCopyIsDamaged) {
 }
 
 TEST_F(ImageElementTest, StoresNothingThatMustNotBeKeptOrHasNoPlace) {
-    fetch("8x6", {.mayBeKept = false});
+    fetch("8x6");
+    EXPECT_FALSE(storedFile().empty());
+    post(*image, "restartDownload");
+    host().downloads.complete(kPicture, "8x6", {.mayBeKept = false});
     EXPECT_TRUE(host().files.files.empty());
     host().files.hasCacheFolder = false;
     startAgain();
@@ -246,6 +263,7 @@ TEST_F(ImageElementTest, StoresNothingThatMustNotBeKeptOrHasNoPlace) {
 
 TEST_F(ImageElementTest, TellsLocationsOfOneNameApart) {
     fetch("8x6");
+    EXPECT_EQ(pictureFileName("a"), "af63dc4c8601ec8c.picture") << "earlier runs named their files so";
     auto stored = *cache->load(kPicture);
     stored.location = "https://p.example/other.png";
     host().files.files[storedFile()] = writePicture(stored);

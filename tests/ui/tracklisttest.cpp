@@ -20,6 +20,16 @@ protected:
     }
 };
 
+TEST_F(TrackListTest, EditorTellsWhetherATrackHasTheFocus) {
+    add({"file:///m/a.wav"});
+    for (const std::int32_t focus : {0, -1}) {
+        list->model().setFocus(focus);
+        xbr::Value hasItem{};
+        ASSERT_EQ(list->editor().getProperty(xbr::toText("hasFocusItem"), &hasItem), xbr::kOk);
+        EXPECT_EQ(hasItem.boolean, focus == 0);
+    }
+}
+
 TEST_F(TrackListTest, TakesAudioFilesAndTheirTags) {
     host().objects.tags["file:///m/b.flac"] = {{"Media:Title", "Tagged"}, {"Media:Genre", "Jazz"}};
     EXPECT_EQ(list->model().dragOver(files({"file:///m/x.txt", "file:///m/a.wav"}).get()),
