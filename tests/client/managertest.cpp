@@ -90,22 +90,6 @@ TEST_F(ManagerTest, AccountReplyDecidesWhoIsShown) {
     }
 }
 
-TEST_F(ManagerTest, UploadIsEnabledOnlyWhenItCanRun) {
-    EXPECT_FALSE(isEnabled("upload"));
-    signIn();
-    EXPECT_FALSE(isEnabled("upload")) << "no tracks";
-    addTrack("a", false);
-    EXPECT_FALSE(isEnabled("upload")) << "nothing complete";
-    addTrack("b");
-    EXPECT_TRUE(isEnabled("upload"));
-    manager->client().sendAuthorizedQuery([](const auto&, auto&) {}, "x");
-    EXPECT_FALSE(isEnabled("upload")) << "busy";
-    host().web.answer(200);
-    EXPECT_TRUE(isEnabled("upload"));
-    manager->client().resetAuthorization(Silence::kSilent);
-    EXPECT_FALSE(isEnabled("upload"));
-}
-
 TEST_F(ManagerTest, FirstInstanceIsTheCurrentOne) {
     EXPECT_EQ(Manager::current(), manager.get());
     auto second = xbr::make<Manager>();

@@ -185,6 +185,12 @@ TEST_F(ToldTest, News) {
         {"show its picture", [&] { image()->beginShowing(); }, "to image0: show, image0: propertyChanged"},
         {"picture", [] { host().downloads.complete("https://p/1.png", "4x4"); },
          "list: stateChanged, post list: decoded, image0: propertyChanged, image0: propertyChanged"},
+        {"show it twice, and hide it once",
+         [&] {
+             image()->beginShowing();
+             image()->endShowing();
+         },
+         ""},
         {"reload all", [&] { news->perform(0); }, "to image0: restartDownload, image0: propertyChanged"},
         {"no picture any more", [] { host().downloads.fail("https://p/1.png"); },
          "list: stateChanged, image0: propertyChanged"},

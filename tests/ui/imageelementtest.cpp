@@ -204,18 +204,26 @@ TEST_F(ImageElementTest, LetsGoOfWhatNobodyShows) {
     EXPECT_FALSE(image->mayHaveImage());
 }
 
-TEST_F(ImageElementTest, IsNotDecodedForNobody) {
-    const auto observer = xbr::make<FeedObserver>(*image);
-    image->beginShowing();
-    host().signals.pump();
-    observer->hook = [&] {
-        if (image->downloadState() == xbr::DownloadState::kComplete) {
-            observer->hook = nullptr;
-            image->endShowing();
-        }
+TEST_F(ImageElementTest, ShowsNothingThatWasDecodedInVain) {
+    const std::pair<const char*, std::function<void()>> cases[] = {
+        {"9x7", [] { host().downloads.complete(kPicture, "9x7"); }},
+        {"(none)", [] { host().downloads.complete(kPicture, ""); }},
+        {"(none)", [this] { image->setLocation("https://p.example/b.png"); }},
+        {"(none)", [this] { image->endShowing(); }},
+        {"8x6", [] { host().downloads.unchanged(kPicture); }},
     };
-    host().downloads.complete(kPicture, "8x6");
-    EXPECT_FALSE(property(*image, "hasImage").boolean);
+    for (const auto& [shown, meanwhile] : cases) {
+        startAgain();
+        cache->store(kPicture, {{}, {}, true}, "8x6");
+        host().graphics.holdsDecoding = true;
+        image->beginShowing();
+        host().signals.pump();
+        EXPECT_EQ(host().graphics.held.size(), 1U) << "the copy is decoded";
+        EXPECT_TRUE(image->mayHaveImage());
+        meanwhile();
+        host().graphics.endDecoding();
+        EXPECT_EQ(sizeOf(*image), shown);
+    }
 }
 
 TEST_F(ImageElementTest, TellsNoRoomAndDamageApart) {
