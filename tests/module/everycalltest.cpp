@@ -151,6 +151,7 @@ TEST(EveryCall, FailsOnceAndTheNextRunSucceeds) {
     ASSERT_TRUE(scenario.run(0));
     const int calls = scenario.calls();
     EXPECT_GT(calls, 50);
+    RecordProperty("calls", calls);
     for (int call = 1; call <= calls && !testing::Test::HasFailure(); ++call) {
         SCOPED_TRACE("the host fails call " + std::to_string(call));
         scenario.run(call);

@@ -40,7 +40,7 @@ TEST(Url, ReadsParametersAsTheyWereSent) {
 }
 
 TEST(Url, BeginsWithAScheme) {
-    for (const auto& [url, protocol] : {std::pair{"aZ09+-.:x", "az09+-."},
+    for (const auto& [url, protocol] : {std::pair{"azAZ09+-.:x", "azaz09+-."},
                                         {" https://h ", "https"},
                                         {"1a:x", ""},
                                         {"a_b:x", ""},
@@ -72,6 +72,9 @@ TEST(Url, AppendsPathsWithOneSlash) {
         url.appendPath("oauth/token");
         EXPECT_EQ(url.toString(), expected);
     }
+    Url url("https://h/a/");
+    url.appendPath("/b");
+    EXPECT_EQ(url.toString(), "https://h/a/b");
 }
 
 TEST(Url, JoinsFileNamesAsPeopleWriteThem) {
