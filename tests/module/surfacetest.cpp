@@ -33,7 +33,7 @@ TrackList
 TrackProperties
 100 albumTitle text 0..1 "" disabled
 101 albumArtist text 0..1 "" disabled
-102 primaryGenre list 0..2 0 disabled
+102 primaryGenre list 0..2 0 disabled: " ", "Rock", "Jazz"
 103 trackNumber integer 1..10000 1 disabled
 104 songTitle text 0..1 "" disabled
 105 songArtist text 0..1 "" disabled
@@ -88,7 +88,11 @@ protected:
             text += std::to_string(parameter.tag()) + " " + xbr::toString(parameter.name()) + " " +
                     kKinds[static_cast<std::size_t>(parameter.kind())] + " " +
                     std::to_string(parameter.minimum()) + ".." + std::to_string(parameter.maximum()) + " " +
-                    fakehost::written(parameter.value()) + (parameter.isEnabled() ? "\n" : " disabled\n");
+                    fakehost::written(parameter.value()) + (parameter.isEnabled() ? "" : " disabled");
+            for (std::int32_t choice = 0; choice < parameter.countChoices(); ++choice) {
+                text += (choice == 0 ? ": \"" : ", \"") + xbr::toString(parameter.choiceAt(choice)) + '"';
+            }
+            text += '\n';
         }
         return text;
     }

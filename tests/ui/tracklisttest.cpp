@@ -58,6 +58,9 @@ TEST_F(TrackListTest, AlbumModeGivesAllTracksTheFirstOnesRelease) {
     switchTo(UploadMode::kSingles);
     EXPECT_EQ(track(1).metadata->albumTitle, "B") << "each song's own again";
     EXPECT_EQ(track(1).metadata->primaryGenre, "Jazz");
+    list->prepareMode(UploadMode::kAlbum);
+    add({"file:///m/a.wav"});
+    EXPECT_EQ(track(1).metadata->albumTitle, "A") << "the new one takes the others with it";
 }
 
 TEST_F(TrackListTest, ColumnsAreTheirTitlesAndWidths) {
