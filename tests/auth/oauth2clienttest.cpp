@@ -280,11 +280,6 @@ TEST_F(OAuth2ClientTest, ParametersActAndPropertiesTell) {
         client->getProperty(xbr::toText(name), &value);
         return xbr::integerOf(value, -1);
     };
-    std::int32_t tag = 100; // forms and scripts know them by number, too
-    for (const char* name :
-         {"getAuthorizationCode", "resetAuthorization", "retryAuthorization", "isAuthorized"}) {
-        EXPECT_EQ(client->findParameter(xbr::toText(name))->tag(), tag++) << name;
-    }
     set("isAuthorized");
     EXPECT_EQ(xbr::integerOf(client->findParameter(xbr::toText("isAuthorized"))->value()), 0) << "only shows";
     set("getAuthorizationCode");

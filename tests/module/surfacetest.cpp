@@ -1,3 +1,4 @@
+#include "framework/abi/listmodel.h"
 #include "framework/abi/parameter.h"
 #include "module/classtable.h"
 #include "tests/module/modulefixture.h"
@@ -137,6 +138,7 @@ TEST_F(SurfaceTest, IsWhatFormsAreMadeFor) {
             properties(component, {"itemCount", "maximumEntryCount", "downloadState", "url", "hasImage"});
     }
     EXPECT_EQ(surface, kSurface);
+    EXPECT_TRUE(xbr::query<xbr::IListViewModel>(list->findObject(xbr::toText("tracks"))));
 }
 
 TEST_F(SurfaceTest, ATrackTellsWhatItIs) {

@@ -78,8 +78,7 @@ xbr::Ref<xbr::ObjectList> chooseTrackFiles() {
         return {};
     }
     addFilters(*selector);
-    const bool confirmed = selector->run(xbr::IFileSelector::Mode::kOpenFiles, xbr::toText("")) == xbr::kOk;
-    if (!confirmed || selector->countUrls() == 0) {
+    if (selector->run(xbr::IFileSelector::Mode::kOpenFiles, xbr::toText("")) != xbr::kOk) {
         return {};
     }
     auto chosen = xbr::make<xbr::ObjectList>();

@@ -14,7 +14,7 @@ xbr::Url audioLocationOf(xbr::IObject& object);
 /// genre. A file whose tags cannot be read becomes a track all the same.
 xbr::Ref<TrackItem> makeTrackFromFile(const xbr::Url& file);
 
-/// Lets the user choose audio files and answers them in the dialog's order; empty when nothing was chosen.
+/// Lets the user choose audio files and answers them in the dialog's order; null when the user cancelled.
 xbr::Ref<xbr::ObjectList> chooseTrackFiles();
 
 } // namespace brindlex
