@@ -8,8 +8,6 @@
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
 
-#include <cassert>
-
 namespace brindlex {
 
 namespace {
@@ -33,22 +31,6 @@ xbr::Ref<xbr::IWebCredentials> makeCredentials(const std::string& token) {
         XBRGetWebService()->createCredentials(credentials.out()) == xbr::kOk &&
         credentials->set(xbr::toText(""), xbr::toText(token), xbr::toText("Bearer")) == xbr::kOk;
     return isMade ? credentials : xbr::Ref<xbr::IWebCredentials>();
-}
-
-[[maybe_unused]] bool isLegal(ClientState from, ClientState to) {
-    switch (to) {
-    case ClientState::kIdle:
-        return true;
-    case ClientState::kAwaitingCode:
-        return from == ClientState::kIdle;
-    case ClientState::kRequestingToken:
-        return from == ClientState::kAwaitingCode;
-    case ClientState::kAuthorized:
-        return from != ClientState::kAuthorized;
-    case ClientState::kFailed:
-        return from == ClientState::kRequestingToken;
-    }
-    return false;
 }
 
 } // namespace
@@ -209,7 +191,6 @@ bool OAuth2Client::sendAuthorizedQuery(Handler handler, std::string_view path) {
 }
 
 void OAuth2Client::setState(ClientState state) {
-    assert(isLegal(m_state, state));
     m_state = state;
     parameter(kIsAuthorized)->set(xbr::boolValue(isAuthorized()), xbr::Notify::kNobody);
     xbr::signal(*this, "propertyChanged");

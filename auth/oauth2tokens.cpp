@@ -12,20 +12,13 @@ namespace {
 
 std::int64_t addSaturated(std::int64_t left, std::int64_t right) {
     std::int64_t sum = 0;
-    if (!__builtin_add_overflow(left, right, &sum)) {
-        return sum;
-    }
-    using Limits = std::numeric_limits<std::int64_t>;
-    return right < 0 ? Limits::min() : Limits::max();
+    return __builtin_add_overflow(left, right, &sum) ? std::numeric_limits<std::int64_t>::max() : sum;
 }
 
 } // namespace
 
 bool parseTokenReply(OAuth2Tokens& tokens, xbr::IStream& body, std::int64_t now) {
-    if (!xbr::rewind(body)) {
-        return false;
-    }
-    const auto reply = xbr::readJson(body);
+    const auto reply = xbr::rewind(body) ? xbr::readJson(body) : nullptr;
     if (!reply) {
         return false;
     }

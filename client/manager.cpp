@@ -49,7 +49,6 @@ Manager::Manager()
 }
 
 Manager::~Manager() {
-    XBRGetSignalHandler()->forgetObserver(this);
     // A view may hold the client longer than we live; its handlers are ours.
     m_client->cancel();
     if (g_current == this) {

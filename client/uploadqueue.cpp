@@ -141,9 +141,7 @@ xbr::Ref<IngestionRequest> UploadQueue::build(const Transfer& transfer, xbr::IPr
         records.push_back(xbr::make<TrackMetadata>(track->metadata->fields()));
         files.push_back(track->file);
     }
-    return transfer.mode == UploadMode::kAlbum
-               ? buildAlbumPayload(records, files, clientId, progress)
-               : buildTrackPayload(*records.front(), files.front(), clientId, progress);
+    return buildPayload(records, files, clientId, progress);
 }
 
 void UploadQueue::send(const Transfer& transfer) {

@@ -3,8 +3,6 @@
 #include "framework/abi/filesystem.h"
 #include "framework/support/objects/text.h"
 
-#include <utility>
-
 namespace brindlex {
 
 namespace {
@@ -23,7 +21,7 @@ bool registerResources() {
 }
 
 void unregisterResources() {
-    if (std::exchange(g_isRegistered, false)) {
+    if (g_isRegistered) {
         XBRGetFileSystem()->unregisterResources(xbr::toText(kName));
     }
 }

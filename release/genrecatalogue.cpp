@@ -81,11 +81,9 @@ void getGenreIndex(xbr::Parameter& parameter, std::string_view text) {
 }
 
 std::string getGenreText(const xbr::Parameter& parameter) {
-    const auto index = parameter.integer();
+    const auto index = static_cast<std::size_t>(parameter.integer());
     const auto& names = catalogue().names;
-    return index >= 0 && static_cast<std::size_t>(index) < names.size()
-               ? names[static_cast<std::size_t>(index)]
-               : std::string();
+    return index < names.size() ? names[index] : std::string();
 }
 
 } // namespace brindlex

@@ -15,20 +15,20 @@ namespace {
 
 constexpr std::string_view kEndpoint = "api/frontstage/release_ingestion";
 
-bool packFolder(const xbr::Url& folder, const xbr::Url& archive, xbr::IProgress& progress) {
+/// Without success there is no archive.
+void packFolder(const xbr::Url& folder, const xbr::Url& archive, xbr::IProgress& progress) {
     xbr::Ref<xbr::IPackage> package;
     if (XBRGetPackageHandler()->createPackage(xbr::kZipPackage, xbr::toText(archive.toString()),
                                               package.out()) != xbr::kOk) {
-        return false;
+        return;
     }
     package->setOption(xbr::toText("compressed"), 1);
     if (package->create() != xbr::kOk) {
-        return false;
+        return;
     }
     package->addFolder(xbr::toText(folder.toString()), xbr::kRecursiveRelative, &progress);
     package->flush(&progress);
     package->close();
-    return true;
 }
 
 /// Where the packed payload is written.
@@ -44,7 +44,7 @@ xbr::Ref<xbr::MemoryStream> makeBody(const xbr::Url& archive, std::string_view b
     }
     const auto size = xbr::measure(*stream);
     auto body = xbr::make<xbr::MemoryStream>();
-    const bool isWhole = size >= 0 && body->write(partHead(boundary, archive.fileName())) &&
+    const bool isWhole = body->write(partHead(boundary, archive.fileName())) &&
                          body->writeFrom(*stream, static_cast<std::uint64_t>(size)) &&
                          body->write(partTail(boundary)) && xbr::rewind(*body);
     return isWhole ? body : nullptr;
@@ -64,9 +64,10 @@ xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress) {
     const std::string boundary = makeBoundary(std::rand());
     const xbr::Url folder = getPayloadFolder();
     const xbr::Url archive = archiveOf(folder);
-    if (folder.isEmpty() || !packFolder(folder, archive, progress)) {
+    if (folder.isEmpty()) {
         return {};
     }
+    packFolder(folder, archive, progress);
     auto body = makeBody(archive, boundary);
     if (!body) {
         return {};

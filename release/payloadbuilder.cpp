@@ -39,9 +39,9 @@ void writeDocument(xbr::Attributes& release, xbr::IAttributeQueue& songs, const 
 
 } // namespace
 
-xbr::Ref<IngestionRequest> buildAlbumPayload(const std::vector<xbr::Ref<TrackMetadata>>& records,
-                                             const std::vector<xbr::Url>& files, std::string_view clientId,
-                                             xbr::IProgress& progress) {
+xbr::Ref<IngestionRequest> buildPayload(const std::vector<xbr::Ref<TrackMetadata>>& records,
+                                        const std::vector<xbr::Url>& files, std::string_view clientId,
+                                        xbr::IProgress& progress) {
     const xbr::Url folder = getPayloadFolder();
     if (folder.isEmpty()) {
         return {};
@@ -60,22 +60,6 @@ xbr::Ref<IngestionRequest> buildAlbumPayload(const std::vector<xbr::Ref<TrackMet
         copyAudio(files[i], folder);
     }
     writeDocument(*release, *songs, folder);
-    return createIngestionRequest(progress);
-}
-
-xbr::Ref<IngestionRequest> buildTrackPayload(const TrackMetadata& record, const xbr::Url& file,
-                                             std::string_view clientId, xbr::IProgress& progress) {
-    const xbr::Url folder = getPayloadFolder();
-    const auto audio = openAudio(file);
-    if (folder.isEmpty() || !audio) {
-        return {};
-    }
-    const auto release = xbr::make<xbr::Attributes>();
-    const auto songs = xbr::make<xbr::AttributeQueue>();
-    writeReleaseAttributes(*release, record, clientId);
-    appendSong(*songs, record, file);
-    writeDocument(*release, *songs, folder);
-    copyAudio(file, folder);
     return createIngestionRequest(progress);
 }
 

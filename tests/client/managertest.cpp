@@ -27,34 +27,6 @@ TEST_F(ManagerTest, ConnectsWithStoredTokensWithoutADialog) {
     EXPECT_TRUE(host().objects.log.empty()) << "connected already";
 }
 
-TEST_F(ManagerTest, ConnectsThroughTheDialogAndTheBrowser) {
-    host().objects.onModalRun = [&] {
-        EXPECT_EQ(manager->client().state(), ClientState::kAwaitingCode);
-        EXPECT_EQ(host().shell.opened.size(), 1U);
-        manager->client().handleRedirect(xbr::Url("brindlex://authorize?code=c"));
-        host().web.answer(200, R"({"access_token":"A"})");
-        EXPECT_EQ(host().objects.log.back(), "close");
-    };
-    perform("connect");
-    EXPECT_THAT(host().objects.log, Contains("run BrindlexConnectDialog 66"));
-    EXPECT_TRUE(manager->client().isAuthorized());
-}
-
-TEST_F(ManagerTest, CancellingClearsTheUserAndClosesTheDialog) {
-    signIn();
-    manager->client().resetAuthorization(Silence::kTold);
-    host().signals.pump();
-    EXPECT_EQ(text("userName"), "");
-    EXPECT_EQ(text("userURL"), "");
-    host().objects.onModalRun = [&] {
-        manager->client().findParameter(xbr::toText("resetAuthorization"))->setValue(xbr::integerValue(1));
-        host().signals.pump();
-    };
-    perform("connect");
-    EXPECT_EQ(host().objects.log.back(), "close");
-    EXPECT_EQ(manager->client().state(), ClientState::kIdle);
-}
-
 TEST_F(ManagerTest, NoDialogMeansNoAuthorization) {
     host().objects.hasDialog = false;
     perform("connect");
@@ -76,15 +48,22 @@ TEST_F(ManagerTest, LoadsTheConfigurationOncePerClient) {
 
 TEST_F(ManagerTest, ConfigurationTakesWhatIsThere) {
     const auto attributes = xbr::make<xbr::Attributes>();
-    attributes->set("ConsumerKey", "k\xC3\xA9y");
-    attributes->set("ConsumerSecret", xbr::integerValue(5));
-    attributes->set("JoinToken", "j\xC3\xB6in");
+    for (const char* key :
+         {"ServerURL", "UserURL", "ConsumerKey", "ConsumerSecret", "CallbackURL", "JoinToken"}) {
+        attributes->set(key, std::string(key) + "\xC3\xA9");
+    }
     applyConfiguration(manager->client(), *attributes);
     const ServiceConfiguration& configuration = manager->client().configuration();
-    EXPECT_EQ(configuration.consumerKey, "k?y");
-    EXPECT_EQ(configuration.consumerSecret, "");
-    EXPECT_EQ(configuration.joinToken, "j\xC3\xB6in");
-    EXPECT_TRUE(configuration.serverUrl.isEmpty());
+    EXPECT_EQ(configuration.serverUrl.toString(), "ServerURL\xC3\xA9");
+    EXPECT_EQ(configuration.userUrl.toString(), "UserURL\xC3\xA9");
+    EXPECT_EQ(configuration.consumerKey, "ConsumerKey?");
+    EXPECT_EQ(configuration.consumerSecret, "ConsumerSecret?");
+    EXPECT_EQ(configuration.callbackUrl.toString(), "CallbackURL\xC3\xA9");
+    EXPECT_EQ(configuration.joinToken, "JoinToken\xC3\xA9");
+    const auto other = xbr::make<xbr::Attributes>();
+    other->set("ConsumerSecret", xbr::integerValue(5));
+    applyConfiguration(manager->client(), *other);
+    EXPECT_EQ(configuration.consumerKey + configuration.consumerSecret, "");
 }
 
 TEST_F(ManagerTest, AccountReplyDecidesWhoIsShown) {
@@ -109,22 +88,6 @@ TEST_F(ManagerTest, AccountReplyDecidesWhoIsShown) {
         manager->client().resetAuthorization(Silence::kTold);
         host().signals.pump();
     }
-}
-
-TEST_F(ManagerTest, UploadIsEnabledOnlyWhenItCanRun) {
-    EXPECT_FALSE(isEnabled("upload"));
-    signIn();
-    EXPECT_FALSE(isEnabled("upload")) << "no tracks";
-    addTrack("a", false);
-    EXPECT_FALSE(isEnabled("upload")) << "nothing complete";
-    addTrack("b");
-    EXPECT_TRUE(isEnabled("upload"));
-    manager->client().sendAuthorizedQuery([](const auto&, auto&) {}, "x");
-    EXPECT_FALSE(isEnabled("upload")) << "busy";
-    host().web.answer(200);
-    EXPECT_TRUE(isEnabled("upload"));
-    manager->client().resetAuthorization(Silence::kSilent);
-    EXPECT_FALSE(isEnabled("upload"));
 }
 
 TEST_F(ManagerTest, FirstInstanceIsTheCurrentOne) {

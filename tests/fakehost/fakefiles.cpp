@@ -97,15 +97,21 @@ public:
         if (fails() || host().packages.failsToFlush || m_isRefused) {
             return xbr::kUnexpected;
         }
-        host().files.files[m_url] = m_listing;
+        m_isFlushed = true;
         return xbr::kOk;
     }
-    xbr::Result close() noexcept override { return xbr::kOk; }
+    xbr::Result close() noexcept override {
+        if (m_isFlushed) {
+            host().files.files[m_url] = m_listing;
+        }
+        return xbr::kOk;
+    }
 
 private:
     std::string m_url;
     std::string m_listing;
     bool m_isRefused = false;
+    bool m_isFlushed = false;
 };
 
 } // namespace

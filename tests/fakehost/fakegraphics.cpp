@@ -64,9 +64,20 @@ xbr::Result FakeGraphicsHelper::decodeLater(xbr::IStream* stream, xbr::IFileType
                                             xbr::IDecodingTask** out) noexcept {
     auto task = xbr::make<DecodingTask>();
     task->result = hasRoom ? decodeImage(stream, type, task->image.out()) : xbr::kUnexpected;
-    XBRGetSignalHandler()->postSignal(task.get(), xbr::make<xbr::Message>("decoded").get());
+    held.push_back(xbr::query<xbr::ISubject>(task.get()));
+    if (!holdsDecoding) {
+        xbr::postSignal(*std::exchange(held, {}).front(), "decoded");
+    }
     *out = task.detach();
     return xbr::kOk;
+}
+
+void FakeGraphicsHelper::endDecoding() {
+    holdsDecoding = false;
+    for (const auto& task : std::exchange(held, {})) {
+        xbr::signal(*task, "decoded");
+    }
+    host().signals.pump();
 }
 
 xbr::Result FakeGraphicsHelper::loadImage(xbr::Text url, xbr::IImage** out) noexcept {

@@ -19,8 +19,13 @@ public:
     xbr::Result decodeLater(xbr::IStream* stream, xbr::IFileType* type, std::int64_t maximumPixels,
                             xbr::IDecodingTask** out) noexcept override;
 
+    /// Ends the decoding that was held, and runs what follows from it.
+    void endDecoding();
+
     double scale = 1.0;
+    bool holdsDecoding = false; ///< until `endDecoding`
     bool hasRoom = true;
+    std::vector<xbr::Ref<xbr::ISubject>> held;
     std::vector<std::string> decoded; ///< the extensions of the types as which streams were decoded
 };
 

@@ -47,10 +47,17 @@ public:
 /// Runs until it is closed: `onModalRun` is the event loop.
 class FakeDialog final : public xbr::Object<xbr::IDialog> {
 public:
-    xbr::Result setTheme(xbr::ITheme*) noexcept override { return xbr::kOk; }
-    xbr::Result setTranslationTable(xbr::ITranslationTable*) noexcept override { return xbr::kOk; }
+    xbr::Result setTheme(xbr::ITheme* theme) noexcept override {
+        m_hasTheme = theme != nullptr;
+        return xbr::kOk;
+    }
+    xbr::Result setTranslationTable(xbr::ITranslationTable* table) noexcept override {
+        m_hasTable = table != nullptr;
+        return xbr::kOk;
+    }
     xbr::Result runModal(xbr::IView* view, std::int32_t styleFlags) noexcept override {
-        objects().log.push_back("run " + xbr::toString(view->formName()) + " " + std::to_string(styleFlags));
+        objects().log.push_back("run " + xbr::toString(view->formName()) + " " + std::to_string(styleFlags) +
+                                (m_hasTheme && m_hasTable ? "" : " without skin or translation"));
         if (objects().onModalRun) {
             objects().onModalRun();
         }
@@ -60,6 +67,10 @@ public:
         objects().log.emplace_back("close");
         return xbr::kOk;
     }
+
+private:
+    bool m_hasTheme = false;
+    bool m_hasTable = false;
 };
 
 class FakeFileSelector final : public xbr::Object<xbr::IFileSelector> {

@@ -11,7 +11,10 @@
 
 namespace fakehost {
 
-/// Delivers signals at once and posted messages when `pump` is called.
+/// A text in quotes, and anything else as an integer.
+std::string written(const xbr::Value& value);
+
+/// Delivers signals at once and posted messages when `pump` is called, and writes down all of them.
 class FakeSignalHandler final : public xbr::Object<xbr::ISignalHandler> {
 public:
     xbr::Result addObserver(xbr::ISubject* subject, xbr::IObserver* observer) noexcept override;
@@ -27,6 +30,10 @@ public:
 
     /// Delivers everything posted, also what is posted meanwhile.
     void pump();
+
+    /// What was told since the last call, one line each, in order: "Client: propertyChanged" for a signal,
+    /// "post Client: authorizationCompleted" for a posted one, "upload = 0 (disabled)" for a parameter.
+    std::string takeTold();
 
     /// What was posted to observers, as "name delay".
     std::vector<std::string> posts;
@@ -49,6 +56,10 @@ private:
         std::function<void()> task;
     };
 
+    void write(const std::string& how, xbr::IObject* who, const xbr::IMessage& message);
+    void deliver(xbr::ISubject* subject, xbr::IMessage* message);
+
+    std::string m_told;
     std::vector<Pair> m_pairs;
     std::deque<Posted> m_posted;
 };

@@ -37,6 +37,15 @@ private:
     Lender m_texts;
 };
 
+class TranslationTable final : public xbr::Object<xbr::ITranslationTable> {
+public:
+    xbr::Result translate(xbr::Text source, xbr::IString** out) noexcept override {
+        const auto found = host().locale.translations.find(xbr::toString(source));
+        *out = nullptr;
+        return found == host().locale.translations.end() ? xbr::kFalse : xbr::giveText(found->second, out);
+    }
+};
+
 } // namespace
 
 xbr::Result FakeSystem::getTemporaryFolder(xbr::IString** out) noexcept {
@@ -104,6 +113,11 @@ xbr::Result FakeFileTypeRegistry::getTypeByMimeType(xbr::Text mimeType, xbr::IFi
     const auto known = std::find_if(mimeTypes.begin(), mimeTypes.end(),
                                     [&](const auto& type) { return type.second == xbr::view(mimeType); });
     *out = known == mimeTypes.end() ? nullptr : xbr::make<FileType>(known->first, known->second).detach();
+    return *out ? xbr::kOk : xbr::kFalse;
+}
+
+xbr::Result FakeLocaleManager::getTable(xbr::Text module, xbr::ITranslationTable** out) noexcept {
+    *out = xbr::view(module) == "brindlex" ? xbr::make<TranslationTable>().detach() : nullptr;
     return *out ? xbr::kOk : xbr::kFalse;
 }
 

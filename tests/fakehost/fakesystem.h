@@ -65,15 +65,15 @@ public:
     std::map<std::string, std::string> mimeTypes; ///< of the known types, by extension
 };
 
-/// Writes dates as "year-month-day/format"; the user lives at Greenwich.
+/// Writes dates as "year-month-day/format"; the user lives at Greenwich and reads what is written, but for
+/// the texts that are translated here.
 class FakeLocaleManager final : public xbr::Object<xbr::ILocaleManager, xbr::IDateFormats> {
 public:
-    xbr::Result getTable(xbr::Text, xbr::ITranslationTable** out) noexcept override {
-        *out = nullptr;
-        return xbr::kFalse;
-    }
+    xbr::Result getTable(xbr::Text module, xbr::ITranslationTable** out) noexcept override;
     xbr::Result getLocalDate(std::int64_t time, xbr::Date* out) noexcept override;
     xbr::Result formatDate(const xbr::Date& date, std::int32_t format, xbr::IString** out) noexcept override;
+
+    std::map<std::string, std::string> translations;
 };
 
 } // namespace fakehost

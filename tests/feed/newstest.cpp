@@ -127,19 +127,6 @@ TEST_F(NewsTest, ShowEntriesWithTheirPicturesForTheDisplay) {
         << "and nothing else";
 }
 
-TEST_F(NewsTest, AskWhetherTheirPicturesHaveChanged) {
-    ASSERT_TRUE(fetch());
-    const auto before = pictures();
-    open();
-    ASSERT_TRUE(fetch());
-    EXPECT_EQ(pictures(), before);
-    int unchanged = 0;
-    for (const auto& line : requests()) {
-        unchanged += line.ends_with(".png 304") ? 1 : 0;
-    }
-    EXPECT_EQ(unchanged, 4);
-}
-
 TEST_F(NewsTest, ShowWhatTheyCanWhenTheServiceFails) {
     struct {
         const char* fault;

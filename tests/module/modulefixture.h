@@ -42,11 +42,17 @@ private:
     std::string m_title;
 };
 
+/// The genres of every host in this program, as the catalogue is filled once.
+inline void addGenres() {
+    fakehost::host().files.files["resource://brindlex/brindlex_genres.csv"] = "Rock\nJazz\n";
+}
+
 /// The module as a host has it after loading: started, with its service.
 class ModuleFixture : public testing::Test {
 protected:
     ModuleFixture() {
         fakehost::resetHost();
+        addGenres();
         EXPECT_EQ(XBRModuleMain(this, 1), 1);
         auto* factory = XBRGetClassFactory();
         service = create<xbr::IProgramService>(*factory, factory->classAt(0)->uid);

@@ -52,10 +52,12 @@ TEST_F(PublisherTest, AnswersTheQuestionAboutTheFileType) {
           Case{"aiff", xbr::kInvalidArgument, "wav"}, Case{"", xbr::kInvalidArgument, "wav"}}) {
         xbr::Ref<xbr::IFileType> type;
         host().fileTypes.createType(xbr::toText(offered), type.out());
-        xbr::IFileType* slot = type.detach();
+        xbr::IFileType* slot = xbr::Ref<xbr::IFileType>(type).detach();
         EXPECT_EQ(publisher->acceptFileType(&slot), result) << offered;
         EXPECT_EQ(xbr::toString(slot->extension()), answer) << offered;
         slot->release();
+        EXPECT_EQ(type->retain(), 2U) << offered << ": ours and this one";
+        type->release();
     }
 }
 

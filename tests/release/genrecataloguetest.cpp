@@ -36,6 +36,7 @@ protected:
     }
 
     void triesOnce() {
+        EXPECT_EQ(brindlex::getGenreText(*parameter), "");
         brindlex::loadGenres(); // there is no resource yet
         EXPECT_EQ(brindlex::genreNames(), std::vector<std::string>{""});
         load("Rock");

@@ -7,14 +7,15 @@
 #include "release/payloadbuilder.h"
 #include "tests/fakehost/fakehost.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace {
 
 using fakehost::host;
-using testing::HasSubstr;
 
+constexpr const char* kSong = "file:///music/My%20Song.wav";
 constexpr const char* kArchive = "file:///tmp/host/Brindlex/payload.zip";
 
 class PayloadTest : public testing::Test {
@@ -23,8 +24,19 @@ protected:
         fakehost::resetHost();
         indicator = xbr::createHostObject<xbr::IProgressIndicator>();
         progress = xbr::query<xbr::IProgress>(indicator.get());
-        host().files.files["file:///music/My%20Song.wav"] = "RIFF";
+        host().files.files[kSong] = "RIFF";
         host().files.files["file:///music/b.mp3"] = "ID3";
+    }
+
+    xbr::Ref<brindlex::IngestionRequest>
+    build(const std::vector<std::pair<const char*, const char*>>& songs) {
+        std::vector<xbr::Ref<brindlex::TrackMetadata>> records;
+        std::vector<xbr::Url> files;
+        for (const auto& [title, file] : songs) {
+            records.push_back(record(title));
+            files.emplace_back(file);
+        }
+        return brindlex::buildPayload(records, files, "key", *progress);
     }
 
     static xbr::Ref<brindlex::TrackMetadata> record(const char* title) {
@@ -32,15 +44,6 @@ protected:
         metadata->songTitle = title;
         metadata->albumTitle = std::string("Album of ") + title;
         return metadata;
-    }
-
-    /// Temporary files that are there.
-    static int leftovers() {
-        int count = 0;
-        for (const auto& [url, bytes] : host().files.files) {
-            count += url.starts_with("file:///tmp/") ? 1 : 0;
-        }
-        return count;
     }
 
     xbr::Ref<xbr::IProgressIndicator> indicator;
@@ -59,59 +62,45 @@ TEST_F(PayloadTest, BoundaryHasFifteenBitsInFourDigits) {
 }
 
 TEST_F(PayloadTest, BodyIsExactToTheByte) {
-    const xbr::Url file("file:///music/My%20Song.wav");
-    const auto request = brindlex::buildTrackPayload(*record("S"), file, "key", *progress);
+    const auto request = build({{"A", kSong}, {"B", "file:///music/b.mp3"}});
     ASSERT_TRUE(request);
     EXPECT_EQ(request->path, "api/frontstage/release_ingestion");
     const std::string prefix = "multipart/form-data; boundary=";
     ASSERT_TRUE(request->contentType.starts_with(prefix));
     const std::string boundary = request->contentType.substr(prefix.size());
     EXPECT_EQ(boundary.size(), 42U);
-    const std::string archive = host().files.files.at(kArchive);
-    EXPECT_EQ(xbr::readAll(*request->body),
-              "--" + boundary +
-                  "\r\nContent-Disposition: form-data; name=\"payload\"; filename=\"payload.zip\"\r\n"
-                  "Content-Transfer-Encoding: binary\r\nContent-Type: application/octet-stream\r\n\r\n" +
-                  archive + "\r\n--" + boundary + "--\r\n");
-    EXPECT_THAT(archive, HasSubstr("compressed:1;"));
-    EXPECT_THAT(archive, HasSubstr("assets/My%20Song.wav=RIFF;"));
-    EXPECT_THAT(archive, HasSubstr(R"("songs":[{"title":"S","audio_filename":"My Song.wav")"));
+    EXPECT_EQ(
+        xbr::readAll(*request->body),
+        "--" + boundary +
+            "\r\nContent-Disposition: form-data; name=\"payload\"; filename=\"payload.zip\"\r\n"
+            "Content-Transfer-Encoding: binary\r\nContent-Type: application/octet-stream\r\n\r\n"
+            "compressed:1;assets/My%20Song.wav=RIFF;assets/b.mp3=ID3;metadata.json="
+            R"({"external_release_id":"","client_id":"key","title":"Album of A","main_artists":[{}],"songs":[)"
+            R"({"title":"A","audio_filename":"My Song.wav","artists":[{"roles":["Main Artist"]}],"track_number":1},)"
+            R"({"title":"B","audio_filename":"b.mp3","artists":[{"roles":["Main Artist"]}],"track_number":1}]};)"
+            "\r\n--" +
+            boundary + "--\r\n");
 }
 
-TEST_F(PayloadTest, AlbumTakesTheReleaseFromItsFirstTrack) {
-    const std::vector records{record("A"), record("B")};
-    const std::vector files{xbr::Url("file:///music/My%20Song.wav"), xbr::Url("file:///music/b.mp3")};
-    ASSERT_TRUE(brindlex::buildAlbumPayload(records, files, "key", *progress));
-    const std::string archive = host().files.files.at(kArchive);
-    EXPECT_THAT(archive, HasSubstr(R"("title":"Album of A","main_artists")"));
-    EXPECT_THAT(archive, testing::Not(HasSubstr("Album of B")));
-    EXPECT_THAT(archive, HasSubstr(R"({"title":"B","audio_filename":"b.mp3")"));
-    EXPECT_THAT(archive, HasSubstr("assets/b.mp3=ID3;"));
-}
-
-TEST_F(PayloadTest, FileThatCannotBeOpenedFailsTheBuild) {
-    host().files.unreadable.insert("file:///music/b.mp3");
-    const std::vector records{record("A"), record("B")};
-    const std::vector files{xbr::Url("file:///music/My%20Song.wav"), xbr::Url("file:///music/b.mp3")};
-    EXPECT_FALSE(brindlex::buildAlbumPayload(records, files, "key", *progress));
-    EXPECT_FALSE(brindlex::buildTrackPayload(*records[1], files[1], "key", *progress));
-    EXPECT_FALSE(host().files.files.contains(kArchive));
-}
-
-TEST_F(PayloadTest, ArchiveThatCannotBeMadeGivesNoRequest) {
-    const xbr::Url file("file:///music/b.mp3");
-    host().packages.failsToCreate = true;
-    EXPECT_FALSE(brindlex::buildTrackPayload(*record("S"), file, "key", *progress));
-    host().packages.failsToCreate = false;
-    host().packages.failsToFlush = true;
-    EXPECT_FALSE(brindlex::buildTrackPayload(*record("S"), file, "key", *progress));
-    host().packages.failsToFlush = false;
-    host().files.unreadable.insert(kArchive);
-    EXPECT_FALSE(brindlex::buildTrackPayload(*record("S"), file, "key", *progress));
-    EXPECT_GT(leftovers(), 0) << "the files stay until they are cleaned up";
-    brindlex::cleanupPayload();
-    EXPECT_EQ(leftovers(), 0);
-    brindlex::cleanupPayload();
+TEST_F(PayloadTest, WithoutAWholeArchiveThereIsNoRequest) {
+    const std::pair<const char*, std::function<void()>> faults[] = {
+        {"no file", [] { host().files.unreadable.insert(kSong); }},
+        {"not created", [] { host().packages.failsToCreate = true; }},
+        {"not written", [] { host().packages.failsToFlush = true; }},
+        {"not read", [] { host().files.unreadable.insert(kArchive); }},
+    };
+    for (const auto& [name, fault] : faults) {
+        host().files.unreadable.clear();
+        host().packages.failsToCreate = host().packages.failsToFlush = false;
+        fault();
+        EXPECT_FALSE(build({{"B", "file:///music/b.mp3"}, {"A", kSong}})) << name;
+        EXPECT_TRUE(brindlex::isPayloadOnDisk()) << name << ": the files stay until they are cleaned up";
+        brindlex::cleanupPayload();
+        EXPECT_FALSE(brindlex::isPayloadOnDisk()) << name;
+        brindlex::cleanupPayload();
+    }
+    host().failingCall = host().calls + 1;
+    EXPECT_TRUE(brindlex::isPayloadOnDisk()) << "nobody knows where to look";
 }
 
 TEST_F(PayloadTest, OnlyAudioFilesOfTheServiceAreTaken) {

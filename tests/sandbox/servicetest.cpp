@@ -14,14 +14,10 @@ namespace {
 using nlohmann::json;
 using Clock = std::chrono::steady_clock;
 
-constexpr const char* kAccount = "/api/frontstage/account";
 constexpr const char* kForm = "application/x-www-form-urlencoded";
 
 class ServiceTest : public testing::Test {
 protected:
-    httplib::Result account(const std::string& token) {
-        return m_running.client().Get(kAccount, {{"Authorization", "Bearer " + token}});
-    }
     std::string freshCode() {
         sandbox::Visitor visitor("mara@example.org", "night-drive", true);
         return queryValue(visitor.authorize(m_running.authorizeUrl()), "code");
@@ -65,21 +61,6 @@ TEST_F(ServiceTest, ConsentNeedsASignIn) {
     }
 }
 
-TEST_F(ServiceTest, ExchangesACodeOnce) {
-    const auto code = freshCode();
-    const auto reply = m_running.exchange(code);
-    EXPECT_EQ(reply->status, 200);
-    EXPECT_EQ(reply->get_header_value("Cache-Control"), "no-store");
-    const auto tokens = json::parse(reply->body);
-    EXPECT_EQ(tokens["token_type"], "Bearer");
-    EXPECT_EQ(tokens["expires_in"], 3600);
-    EXPECT_EQ(json::parse(m_running.exchange(code)->body)["error"], "invalid_grant");
-
-    const auto reached = account(tokens["access_token"]);
-    EXPECT_EQ(json::parse(reached->body)["user"]["account_id"], 4711);
-    EXPECT_EQ(account(tokens["refresh_token"])->status, 401);
-}
-
 TEST_F(ServiceTest, TellsWhatIsWrongWithATokenRequest) {
     const std::string good = "client_id=brindlex-demo&client_secret=brindlex-demo-secret&redirect_uri="
                              "brindlex%3A%2F%2Fauthorize&grant_type=authorization_code&code=";
@@ -106,94 +87,6 @@ TEST_F(ServiceTest, TellsWhatIsWrongWithATokenRequest) {
     EXPECT_EQ(unescaped->status, 400) << "a bare '+' is a blank";
     const auto asJson = m_running.client().Post("/oauth/token", "{}", "application/json");
     EXPECT_EQ(json::parse(asJson->body)["error"], "invalid_request");
-}
-
-TEST_F(ServiceTest, FaultsHappenAsOftenAsAsked) {
-    const auto token = m_running.signIn();
-    m_running.addFault(R"({"path":"/api/frontstage/account","times":2,"status":503,"body":"<busy>"})");
-    EXPECT_EQ(account(token)->status, 503);
-    EXPECT_EQ(account(token)->body, "<busy>");
-    EXPECT_EQ(account(token)->status, 200);
-    m_running.addFault(R"({"path":"/api/frontstage/account","redirect":"/elsewhere","status":307})");
-    const auto moved = account(token);
-    EXPECT_EQ(moved->status, 307);
-    EXPECT_EQ(moved->get_header_value("Location"), "/elsewhere");
-    m_running.addFault(R"({"path":"/api/frontstage/account","status":500})");
-    m_running.client().Delete("/control/fault");
-    EXPECT_EQ(account(token)->status, 200);
-}
-
-TEST_F(ServiceTest, FaultsBreakTheConnection) {
-    const auto token = m_running.signIn();
-    m_running.addFault(R"({"path":"/api/frontstage/account","reset_after":0})");
-    EXPECT_FALSE(account(token));
-    m_running.addFault(R"({"path":"/api/frontstage/account","truncate":true})");
-    EXPECT_FALSE(account(token));
-    m_running.addFault(R"({"path":"/api/frontstage/release_ingestion","reset_after":100000})");
-    EXPECT_FALSE(m_running.upload(token, std::string(8'000'000, 'x')));
-    EXPECT_EQ(account(token)->status, 200) << "the next connection is fine";
-}
-
-TEST_F(ServiceTest, FaultsTakeTheirTime) {
-    const auto token = m_running.signIn();
-    for (const char* what : {"delay_ms", "stall_ms", "reply_stall_ms"}) {
-        m_running.addFault(std::string(R"({"path":"/api/frontstage/account",")") + what + "\":300}");
-        const auto start = Clock::now();
-        EXPECT_EQ(account(token)->status, 200) << what;
-        EXPECT_GE(Clock::now() - start, std::chrono::milliseconds(300)) << what;
-    }
-}
-
-TEST_F(ServiceTest, AnEarlyReplyDoesNotWaitForTheBody) {
-    m_running.addFault(
-        R"({"path":"/api/frontstage/release_ingestion","early":true,"status":413,"body":"no"})");
-    httplib::Client client("127.0.0.1", m_running.port());
-    // Stops in the middle, until the reply could have come.
-    const auto reply = client.Post(
-        "/api/frontstage/release_ingestion", 1000,
-        [](std::size_t offset, std::size_t /*length*/, httplib::DataSink& sink) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(offset == 0 ? 0 : 200));
-            return sink.write(std::string(500, 'x').data(), 500);
-        },
-        "multipart/form-data; boundary=B");
-    ASSERT_TRUE(reply);
-    EXPECT_EQ(reply->status, 413);
-    const auto log = json::parse(m_running.client().Get("/control/log")->body);
-    EXPECT_EQ(log.back()["body_bytes"], 0);
-}
-
-TEST_F(ServiceTest, TheLogTellsNamesButNoSecrets) {
-    const auto code = freshCode();
-    const std::string token = json::parse(m_running.exchange(code)->body)["access_token"];
-    account(token);
-    m_running.client().Post("/oauth/token", "oops-" + token, kForm);
-    const auto text = m_running.client().Get("/control/log")->body;
-    for (const auto& secret : {code, sandbox::percentEncode(code), token, std::string("night-drive"),
-                               std::string("demo-secret"), std::string("brindlex%3A")}) {
-        EXPECT_EQ(text.find(secret), std::string::npos) << secret;
-    }
-    const auto log = json::parse(text);
-    const auto& exchange = log[log.size() - 3];
-    EXPECT_EQ(exchange["form_fields"],
-              json({"client_id", "client_secret", "redirect_uri", "grant_type", "code"}));
-    EXPECT_EQ(exchange["authorization"]["present"], false);
-    EXPECT_EQ(log[log.size() - 2]["authorization"]["scheme"], "Bearer");
-}
-
-TEST_F(ServiceTest, NewsAreReadAgainOnlyWhenTheyChanged) {
-    for (const char* path : {"/feed.atom", "/news/image1.png", "/news/image1@2x.png"}) {
-        const auto first = m_running.client().Get(path);
-        EXPECT_EQ(first->status, 200);
-        const auto tag = first->get_header_value("ETag");
-        const auto date = first->get_header_value("Last-Modified");
-        const auto status = [&](const httplib::Headers& headers) {
-            return m_running.client().Get(path, headers)->status;
-        };
-        EXPECT_EQ(status({{"If-None-Match", tag}}), 304);
-        EXPECT_EQ(status({{"If-None-Match", "\"other\", W/" + tag}}), 304);
-        EXPECT_EQ(status({{"If-None-Match", "\"other\""}, {"If-Modified-Since", date}}), 200);
-        EXPECT_EQ(status({{"If-Modified-Since", date}}), 304);
-    }
 }
 
 TEST_F(ServiceTest, StopsInTheMiddleOfARequest) {

@@ -27,6 +27,7 @@ TEST(Url, ReadsParametersAsTheyWereSent) {
         {"brindlex://authorize?code=abc#xyz", "abc"},
         {"BRINDLEX://authorize?x=1&code=a%2Bb%2Fc%3D%26%25", "a+b/c=&%"},
         {"brindlex:?code=a+b", "a b"},
+        {"brindlex:?x&&code=%0a%9F%zz%4%", "\n\x9F%zz%4%"},
         {"brindlex://authorize?code=%C3%A9&code=second", "\xC3\xA9"},
         {"brindlex://authorize?code=%zz%4", "%zz%4"},
         {"brindlex://authorize?encode=1", ""},
@@ -38,6 +39,24 @@ TEST(Url, ReadsParametersAsTheyWereSent) {
     }
 }
 
+TEST(Url, BeginsWithAScheme) {
+    for (const auto& [url, protocol] : {std::pair{"azAZ09+-.:x", "azaz09+-."},
+                                        {" https://h ", "https"},
+                                        {"1a:x", ""},
+                                        {"a_b:x", ""},
+                                        {"a/b:x", ""},
+                                        {"[a:x", ""},
+                                        {"{a:x", ""},
+                                        {"@a:x", ""},
+                                        {"`a:x", ""},
+                                        {"a;:x", ""},
+                                        {":x", ""},
+                                        {"", ""}}) {
+        EXPECT_EQ(Url(url).protocol(), protocol) << url;
+        EXPECT_EQ(Url(url).isEmpty(), Url(url).toString().empty()) << url;
+    }
+}
+
 TEST(Url, AppendsPathsWithOneSlash) {
     struct Case {
         const char* base;
@@ -46,12 +65,16 @@ TEST(Url, AppendsPathsWithOneSlash) {
     const Case cases[] = {{"https://h", "https://h/oauth/token"},
                           {"https://h/", "https://h/oauth/token"},
                           {"https://h/base", "https://h/base/oauth/token"},
+                          {"", "/oauth/token"},
                           {"https://h/base/?q=1#f", "https://h/base/oauth/token"}};
     for (const auto& [base, expected] : cases) {
         Url url(base);
         url.appendPath("oauth/token");
         EXPECT_EQ(url.toString(), expected);
     }
+    Url url("https://h/a/");
+    url.appendPath("/b");
+    EXPECT_EQ(url.toString(), "https://h/a/b");
 }
 
 TEST(Url, JoinsFileNamesAsPeopleWriteThem) {
@@ -80,6 +103,7 @@ TEST(Url, TellsFilesFromFolders) {
     EXPECT_EQ(Url("file:///a/Song.FLAC").extension(), "flac");
     EXPECT_FALSE(Url("file:///a/folder.wav/").isLocalFile());
     EXPECT_FALSE(Url("https://h/Song.wav").isLocalFile());
+    EXPECT_FALSE(Url("file://song.wav").isLocalFile()) << "that is a computer";
     EXPECT_EQ(Url("file:///a/README").extension(), "");
 }
 

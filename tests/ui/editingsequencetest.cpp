@@ -106,7 +106,7 @@ protected:
     void editNumber() {
         const int value = upTo(9) + 1;
         edit("trackNumber", xbr::integerValue(value));
-        if (m_model.focused() && m_model.shown.number != value) {
+        if (m_model.focused() && std::max(m_model.shown.number, 1) != value) {
             m_model.number(value);
         }
     }
@@ -122,8 +122,25 @@ protected:
         m_model.validate(m_model.tracks[row], set);
     }
 
+    /// A track goes on its way, or the one that is has arrived.
+    void transferOne() {
+        if (std::exchange(m_sent, m_sent ? nullptr : anyTrack())) {
+            list->setCurrentUploadItem(nullptr);
+            return;
+        }
+        const auto row = std::find(m_model.tracks.begin(), m_model.tracks.end(), m_sent);
+        list->setCurrentUploadItem(&track(static_cast<std::size_t>(row - m_model.tracks.begin())));
+    }
+
+    void switchModes() {
+        if (!m_sent) { // else the switch is off
+            m_model.toggle(!m_model.album);
+        }
+        switchTo(list->mode() == UploadMode::kAlbum ? UploadMode::kSingles : UploadMode::kAlbum);
+    }
+
     void removeOne() {
-        const bool removes = m_model.focused() != nullptr;
+        const bool removes = m_model.focused() && m_model.focused() != m_sent;
         EXPECT_EQ(list->model().removeFocused(), removes ? xbr::kOk : xbr::kFalse);
         if (removes) {
             m_model.removeFocused();
@@ -156,11 +173,13 @@ protected:
             return editNumber(), "numbered";
         }
         if (dice < 86) {
-            m_model.toggle(!m_model.album);
-            return switchTo(m_model.album ? UploadMode::kAlbum : UploadMode::kSingles), "mode switched";
+            return switchModes(), "mode switched";
+        }
+        if (dice < 90 && !m_sent) {
+            return validateSome(), "validated";
         }
         if (dice < 94) {
-            return validateSome(), "validated";
+            return transferOne(), "sent or arrived";
         }
         if (dice < 99) {
             return removeOne(), "removed";
@@ -219,6 +238,7 @@ protected:
     }
 
     editingmodel::Editing m_model;
+    TrackPtr m_sent; ///< on its way
 
 private:
     std::mt19937 m_random{GetParam()};

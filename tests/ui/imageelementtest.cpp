@@ -204,6 +204,28 @@ TEST_F(ImageElementTest, LetsGoOfWhatNobodyShows) {
     EXPECT_FALSE(image->mayHaveImage());
 }
 
+TEST_F(ImageElementTest, ShowsNothingThatWasDecodedInVain) {
+    const std::pair<const char*, std::function<void()>> cases[] = {
+        {"9x7", [] { host().downloads.complete(kPicture, "9x7"); }},
+        {"(none)", [] { host().downloads.complete(kPicture, ""); }},
+        {"(none)", [this] { image->setLocation("https://p.example/b.png"); }},
+        {"(none)", [this] { image->endShowing(); }},
+        {"8x6", [] { host().downloads.unchanged(kPicture); }},
+    };
+    for (const auto& [shown, meanwhile] : cases) {
+        startAgain();
+        cache->store(kPicture, {{}, {}, true}, "8x6");
+        host().graphics.holdsDecoding = true;
+        image->beginShowing();
+        host().signals.pump();
+        EXPECT_EQ(host().graphics.held.size(), 1U) << "the copy is decoded";
+        EXPECT_TRUE(image->mayHaveImage());
+        meanwhile();
+        host().graphics.endDecoding();
+        EXPECT_EQ(sizeOf(*image), shown);
+    }
+}
+
 TEST_F(ImageElementTest, TellsNoRoomAndDamageApart) {
     fetch("8x6");
     startAgain();
@@ -235,7 +257,10 @@ TEST_F(ImageElementTest, FetchesAgainWhenTheCopyIsDamaged) {
 }
 
 TEST_F(ImageElementTest, StoresNothingThatMustNotBeKeptOrHasNoPlace) {
-    fetch("8x6", {.mayBeKept = false});
+    fetch("8x6");
+    EXPECT_FALSE(storedFile().empty());
+    post(*image, "restartDownload");
+    host().downloads.complete(kPicture, "8x6", {.mayBeKept = false});
     EXPECT_TRUE(host().files.files.empty());
     host().files.hasCacheFolder = false;
     startAgain();
@@ -246,6 +271,7 @@ TEST_F(ImageElementTest, StoresNothingThatMustNotBeKeptOrHasNoPlace) {
 
 TEST_F(ImageElementTest, TellsLocationsOfOneNameApart) {
     fetch("8x6");
+    EXPECT_EQ(pictureFileName("a"), "af63dc4c8601ec8c.picture") << "earlier runs named their files so";
     auto stored = *cache->load(kPicture);
     stored.location = "https://p.example/other.png";
     host().files.files[storedFile()] = writePicture(stored);

@@ -8,8 +8,6 @@ using fakehost::host;
 
 class TrackListTest : public TrackListFixture {
 protected:
-    bool isRemoveAllEnabled() { return list->findParameter(xbr::toText("removeAll"))->isEnabled(); }
-
     std::string cell(std::int32_t row, std::int32_t column,
                      xbr::CellStyle expected = xbr::CellStyle::kNormal) {
         xbr::Ref<xbr::IString> text;
@@ -19,6 +17,16 @@ protected:
         return xbr::take(text);
     }
 };
+
+TEST_F(TrackListTest, EditorTellsWhetherATrackHasTheFocus) {
+    add({"file:///m/a.wav"});
+    for (const std::int32_t focus : {0, -1}) {
+        list->model().setFocus(focus);
+        xbr::Value hasItem{};
+        ASSERT_EQ(list->editor().getProperty(xbr::toText("hasFocusItem"), &hasItem), xbr::kOk);
+        EXPECT_EQ(hasItem.boolean, focus == 0);
+    }
+}
 
 TEST_F(TrackListTest, TakesAudioFilesAndTheirTags) {
     host().objects.tags["file:///m/b.flac"] = {{"Media:Title", "Tagged"}, {"Media:Genre", "Jazz"}};
@@ -48,6 +56,9 @@ TEST_F(TrackListTest, AlbumModeGivesAllTracksTheFirstOnesRelease) {
     switchTo(UploadMode::kSingles);
     EXPECT_EQ(track(1).metadata->albumTitle, "B") << "each song's own again";
     EXPECT_EQ(track(1).metadata->primaryGenre, "Jazz");
+    list->prepareMode(UploadMode::kAlbum);
+    add({"file:///m/a.wav"});
+    EXPECT_EQ(track(1).metadata->albumTitle, "A") << "the new one takes the others with it";
 }
 
 TEST_F(TrackListTest, ColumnsAreTheirTitlesAndWidths) {
@@ -88,27 +99,6 @@ TEST_F(TrackListTest, StateCellTellsProgressAndOutcome) {
     }
 }
 
-TEST_F(TrackListTest, TracksInTransferCannotBeRemoved) {
-    EXPECT_FALSE(isRemoveAllEnabled()) << "nothing to remove";
-    add({"file:///m/a.wav", "file:///m/b.wav"});
-    EXPECT_TRUE(isRemoveAllEnabled());
-    list->setCurrentUploadItem(&track(0));
-    EXPECT_FALSE(isRemoveAllEnabled());
-    EXPECT_FALSE(list->findParameter(xbr::toText("albumUpload"))->isEnabled());
-    EXPECT_FALSE(list->model().isEditable(0));
-    list->model().setFocus(0);
-    EXPECT_EQ(list->model().removeFocused(), xbr::kFalse);
-    list->setCurrentUploadItem(&track(1));
-    EXPECT_FALSE(track(0).uploading) << "singles: one at a time";
-    list->setCurrentUploadItem(nullptr);
-    EXPECT_TRUE(list->findParameter(xbr::toText("albumUpload"))->isEnabled());
-    EXPECT_EQ(list->model().removeFocused(), xbr::kOk);
-    EXPECT_EQ(cell(0, 0), "b");
-    list->findParameter(xbr::toText("removeAll"))->setValue(xbr::integerValue(1));
-    EXPECT_EQ(list->model().countRows(), 0);
-    EXPECT_FALSE(isRemoveAllEnabled());
-}
-
 TEST_F(TrackListTest, FileDialogOffersTheServicesFormats) {
     host().fileTypes.mimeTypes["flac"] = "audio/flac"; // the one that this host knows
     list->findParameter(xbr::toText("addTracks"))->setValue(xbr::integerValue(1));
@@ -146,8 +136,13 @@ TEST_F(TrackListTest, ResetSendsSelectedTracksAgain) {
 }
 
 TEST_F(TrackListTest, AlbumTracksStayMarkedUntilTheEnd) {
-    list->prepareMode(UploadMode::kAlbum);
     add({"file:///m/a.wav", "file:///m/b.wav"});
+    list->setCurrentUploadItem(&track(0));
+    EXPECT_FALSE(list->model().isEditable(0));
+    list->setCurrentUploadItem(&track(1));
+    EXPECT_TRUE(list->model().isEditable(0)) << "singles: one at a time";
+    list->setCurrentUploadItem(nullptr);
+    list->prepareMode(UploadMode::kAlbum);
     list->setCurrentUploadItem(&track(0));
     list->setCurrentUploadItem(&track(1));
     EXPECT_TRUE(track(0).uploading);

@@ -31,7 +31,7 @@ constexpr std::int32_t kFirstTag = 100;
 std::optional<std::int64_t> leadingNumber(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
     if (text.starts_with('+')) {
-        text.remove_prefix(text.size() > 1 && text[1] == '-' ? text.size() : 1);
+        text.remove_prefix(text.starts_with("+-") ? text.size() : 1);
     }
     std::int64_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);

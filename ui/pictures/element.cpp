@@ -8,10 +8,6 @@
 
 namespace brindlex {
 
-Element::~Element() {
-    dropTask();
-}
-
 void Element::setLocation(std::string_view location) {
     if (location != m_location) {
         const auto self = xbr::Ref<Element>::share(this);
@@ -41,12 +37,8 @@ void Element::fetch(Freshness) {
 }
 
 void Element::dropTask() {
-    if (m_task) {
-        XBRGetSignalHandler()->removeObserver(m_taskSubject.get(), this);
-        m_task->cancel();
-        m_taskSubject.reset();
-        m_task.reset();
-    }
+    m_taskSubject.reset();
+    m_task.reset(); // which ends it
 }
 
 void Element::download(std::string_view entityTag, std::string_view lastModified) {

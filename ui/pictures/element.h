@@ -16,7 +16,6 @@ namespace brindlex {
 class Element : public xbr::Component {
 public:
     explicit Element(std::string_view name) : Component(name) {}
-    ~Element() override;
 
     /// The location as it was given. Kept as text: taken apart and put together again, a signed address might
     /// not be the same.

@@ -85,7 +85,6 @@ void ImageElement::downloadCompleted(xbr::IDownloadTask& task) {
 }
 
 void ImageElement::takeDocument(xbr::IStream& document, const xbr::CopyTerms& terms) {
-    dropDecoding();
     if (xbr::measure(document) > 0) {
         xbr::rewind(document);
         if (m_cache) {
@@ -94,6 +93,7 @@ void ImageElement::takeDocument(xbr::IStream& document, const xbr::CopyTerms& te
         decode(document, Origin::kServer);
         return;
     }
+    dropDecoding();
     if (m_cache) {
         m_cache->remove(location());
     }
@@ -113,7 +113,6 @@ void ImageElement::decodeCopy(const StoredPicture& copy) {
 }
 
 void ImageElement::decode(xbr::IStream& stream, Origin origin) {
-    dropDecoding();
     xbr::rewind(stream);
     m_origin = origin;
     const auto decoder = xbr::query<xbr::IImageDecoder>(XBRGetGraphicsHelper());
@@ -124,11 +123,8 @@ void ImageElement::decode(xbr::IStream& stream, Origin origin) {
 }
 
 void ImageElement::dropDecoding() {
-    if (m_decoding) {
-        XBRGetSignalHandler()->removeObserver(m_decodingSubject.get(), this);
-        m_decodingSubject.reset();
-        m_decoding.reset();
-    }
+    m_decodingSubject.reset();
+    m_decoding.reset(); // which ends it
 }
 
 void ImageElement::takeDecoded() {

@@ -14,6 +14,15 @@ namespace {
 
 enum TrackListTag : std::int32_t { kAddTracks = 100, kRemoveAll = 101, kAlbumUpload = 102 };
 
+/// A track as it is, or one made of a file; null for anything else.
+xbr::Ref<TrackItem> makeItem(xbr::IObject& object) {
+    if (TrackItem* item = TrackItem::from(object)) {
+        return xbr::Ref<TrackItem>::share(item);
+    }
+    const xbr::Url file = audioLocationOf(object);
+    return file.isEmpty() ? nullptr : makeTrackFromFile(file);
+}
+
 } // namespace
 
 TrackListComponent::TrackListComponent() : Component("TrackList") {
@@ -50,14 +59,6 @@ void TrackListComponent::add(xbr::IObjectIterator& objects) {
             insert(item);
         }
     }
-}
-
-xbr::Ref<TrackItem> TrackListComponent::makeItem(xbr::IObject& object) const {
-    if (TrackItem* item = TrackItem::from(object)) {
-        return xbr::Ref<TrackItem>::share(item);
-    }
-    const xbr::Url file = audioLocationOf(object);
-    return file.isEmpty() ? nullptr : makeTrackFromFile(file, mode());
 }
 
 void TrackListComponent::insert(const xbr::Ref<TrackItem>& item) {

@@ -66,7 +66,6 @@ private:
     xbr::Result removeFocused() override;
     xbr::Ref<xbr::ICommandList> contextCommands() override;
 
-    xbr::Ref<TrackItem> makeItem(xbr::IObject& object) const;
     void insert(const xbr::Ref<TrackItem>& item);
     void setUploadMode(UploadMode mode);
     void reloadEditor();

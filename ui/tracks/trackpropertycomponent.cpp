@@ -103,7 +103,6 @@ void TrackPropertyComponent::setMode(UploadMode mode) {
 }
 
 void TrackPropertyComponent::clearReady() {
-    m_isInLine = false;
     setReady(false);
 }
 

@@ -59,22 +59,16 @@ xbr::Url audioLocationOf(xbr::IObject& object) {
     return isSupportedAudioFile(location) ? location : xbr::Url();
 }
 
-xbr::Ref<TrackItem> makeTrackFromFile(const xbr::Url& file, UploadMode mode) {
+xbr::Ref<TrackItem> makeTrackFromFile(const xbr::Url& file) {
     const auto tags = readTags(file);
     std::string title = tags->getString("Media:Title");
     if (title.empty()) {
         title = stemOf(file.fileName());
     }
-    const std::string genre = tags->getString("Media:Genre");
     auto record = xbr::make<TrackMetadata>();
     record->songTitle = title;
     record->albumTitle = title;
-    record->primaryGenre = genre;
-    record->singlesGenre = genre;
-    record->albumGenre = genre;
-    if (mode == UploadMode::kAlbum) {
-        record->albumModeTitle = title;
-    }
+    record->primaryGenre = tags->getString("Media:Genre");
     return xbr::make<TrackItem>(title, file, std::move(record));
 }
 
@@ -84,8 +78,7 @@ xbr::Ref<xbr::ObjectList> chooseTrackFiles() {
         return {};
     }
     addFilters(*selector);
-    const bool confirmed = selector->run(xbr::IFileSelector::Mode::kOpenFiles, xbr::toText("")) == xbr::kOk;
-    if (!confirmed || selector->countUrls() == 0) {
+    if (selector->run(xbr::IFileSelector::Mode::kOpenFiles, xbr::toText("")) != xbr::kOk) {
         return {};
     }
     auto chosen = xbr::make<xbr::ObjectList>();

@@ -12,9 +12,9 @@ xbr::Url audioLocationOf(xbr::IObject& object);
 
 /// A track made from an audio file: titled by its tag or else its file name without extension, with the tag's
 /// genre. A file whose tags cannot be read becomes a track all the same.
-xbr::Ref<TrackItem> makeTrackFromFile(const xbr::Url& file, UploadMode mode);
+xbr::Ref<TrackItem> makeTrackFromFile(const xbr::Url& file);
 
-/// Lets the user choose audio files and answers them in the dialog's order; empty when nothing was chosen.
+/// Lets the user choose audio files and answers them in the dialog's order; null when the user cancelled.
 xbr::Ref<xbr::ObjectList> chooseTrackFiles();
 
 } // namespace brindlex

@@ -57,7 +57,7 @@ xbr::Ref<brindlex::IngestionRequest> prepare(const std::vector<std::string>& fil
         records.push_back(std::move(record));
         urls.emplace_back(xbr::host::fileUrl(file));
     }
-    return brindlex::buildAlbumPayload(records, urls, "key", watcher);
+    return brindlex::buildPayload(records, urls, "key", watcher);
 }
 
 int measurePreparation(const std::vector<std::string>& files) {
