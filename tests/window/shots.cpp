@@ -220,7 +220,7 @@ private:
 
     void partly() {
         m_stage->service().addFault(
-            R"({"path":"/api/frontstage/release_ingestion","status":422,"body":{"errors":"This title already exists"},"times":1})");
+            R"({"path":"/api/frontstage/release_ingestion","status":422,"body":{"errors":"This title already exists"},"times":2})");
         openReady(false);
         click(window(), "upload");
         waitFor([this] { return window().findChild<StatusLine*>()->notice().kind == NoticeKind::kWarning; });
@@ -285,6 +285,7 @@ private:
         click(window(), "album");
         select({0});
         type(window(), "albumTitle", "Night Drive");
+        const auto sending = answer("Send Anyway");
         click(window(), "upload");
         auto* tracks = findAs<QAbstractItemView>(window(), "tracks");
         waitFor([tracks] { return !cell(*tracks, 3, 2).empty() && cell(*tracks, 3, 2).back() != '%'; });

@@ -111,6 +111,9 @@ void PanelNotices::ended(const Verdict& verdict) {
                 notice.lines.append(QString::fromStdString(song.sentence));
             }
         }
+        if (verdict.cause == Cause::kPartly && notice.lines.size() == 1) {
+            notice.lines.clear(); // the notice says it
+        }
     }
     emit noticed(notice);
     if (wasUploading) {
