@@ -3,7 +3,7 @@
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
 #include "host/base/fileurl.h"
-#include "tests/bench/publish/preparation.h"
+#include "bench/publish/preparation.h"
 
 #include <QCoreApplication>
 

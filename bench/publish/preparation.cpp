@@ -1,4 +1,4 @@
-#include "tests/bench/publish/preparation.h"
+#include "bench/publish/preparation.h"
 
 #include "framework/support/data/memorystream.h"
 #include "framework/support/data/url.h"

@@ -1,6 +1,6 @@
 #include "host/app/texts/programtexts.h"
 #include "host/app/window/songs/songlistmodel.h"
-#include "tests/bench/responsiveness/person.h"
+#include "bench/responsiveness/person.h"
 
 #include <QApplication>
 #include <QDir>

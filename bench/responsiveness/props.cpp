@@ -1,4 +1,4 @@
-#include "tests/bench/responsiveness/person.h"
+#include "bench/responsiveness/person.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

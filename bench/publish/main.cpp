@@ -1,6 +1,6 @@
 // Does one step of publishing and prints, as JSON, what it took. The peers and the table are table.py's.
 
-#include "tests/bench/publish/preparation.h"
+#include "bench/publish/preparation.h"
 
 #include <QCoreApplication>
 
