@@ -1,9 +1,9 @@
+#include "bench/publish/preparation.h"
 #include "framework/abi/filesystem.h"
 #include "framework/abi/webservice.h"
 #include "framework/support/data/memorystream.h"
 #include "framework/support/objects/text.h"
 #include "host/base/fileurl.h"
-#include "bench/publish/preparation.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
+#include "bench/responsiveness/person.h"
 #include "host/app/texts/programtexts.h"
 #include "host/app/window/songs/songlistmodel.h"
-#include "bench/responsiveness/person.h"
 
 #include <QApplication>
 #include <QDir>
