@@ -28,6 +28,26 @@ TEST_F(WindowTest, aFailedSongGoesAgainByTheButtonOfTheNoticeAndOfThePanel) {
     }
 }
 
+TEST_F(WindowTest, stopKeepsWhatArrivedAndTheRestGoesAgain) {
+    openReady(stage.songs());
+    click(window(), "singles");
+    stage.service().addFault(R"({"path":"/api/frontstage/release_ingestion","delay_ms":1,"times":1})");
+    stage.service().addFault(
+        R"({"path":"/api/frontstage/release_ingestion","stall_after":1000,"stall_ms":60000,"times":1})");
+    click(window(), "upload");
+    ASSERT_TRUE(waitFor([&] {
+        return stage.arrived() == 1 && states().ends_with("%|") &&
+               window().findChild<QWidget*>("stop")->isVisible();
+    })) << states();
+    click(window(), "stop");
+    EXPECT_TRUE(statusSays("Stopped. 1 of 3 songs are published.")) << stage.status();
+    EXPECT_EQ(states(), "Done|Failed|");
+    EXPECT_EQ(stage.arrived(), 1U);
+    click(window(), "tryAgain");
+    EXPECT_TRUE(waitFor([&] { return states() == "Done|Done|Done"; })) << states();
+    EXPECT_EQ(stage.arrived(), 3U) << "each of them once";
+}
+
 TEST_F(WindowTest, anUploadThatCanDoNothingSaysWhyAndLeadsThere) {
     const auto reason = [this](const char* sentence) {
         return waitFor([&] {
