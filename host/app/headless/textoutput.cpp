@@ -113,7 +113,7 @@ public:
                   ? say(QCoreApplication::translate(
                         "xbr::host::Output",
                         "Link back (paste it here if the browser does not return by itself):"))
-                  : say(QCoreApplication::translate("xbr::host::Output", "Hand the link back over with: %1"),
+                  : say(QCoreApplication::translate("xbr::host::Output", "Hand it over with: %1"),
                         "xbrhost open-url 'LINK'"));
     }
 

@@ -432,7 +432,7 @@
         <translation>Warten auf die Erlaubnis im Browser. Falls sich keine Seite öffnete, diese Adresse öffnen:</translation>
     </message>
     <message>
-        <source>Hand the link back over with: %1</source>
+        <source>Hand it over with: %1</source>
         <translation>Den Link zurück übergeben mit: %1</translation>
     </message>
     <message>

@@ -432,7 +432,7 @@
         <translation>Esperando su permiso en el navegador. Si no se abrió ninguna página, abra esta dirección:</translation>
     </message>
     <message>
-        <source>Hand the link back over with: %1</source>
+        <source>Hand it over with: %1</source>
         <translation>Entregue el enlace de vuelta con: %1</translation>
     </message>
     <message>

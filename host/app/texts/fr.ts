@@ -432,7 +432,7 @@
         <translation>En attente de votre permission dans le navigateur. Si aucune page ne s&apos;est ouverte, ouvrez cette adresse :</translation>
     </message>
     <message>
-        <source>Hand the link back over with: %1</source>
+        <source>Hand it over with: %1</source>
         <translation>Remettez le lien de retour avec : %1</translation>
     </message>
     <message>

@@ -427,7 +427,7 @@
         <translation>ブラウザーでの許可を待っています。ページが開かない場合は、このアドレスを開いてください:</translation>
     </message>
     <message>
-        <source>Hand the link back over with: %1</source>
+        <source>Hand it over with: %1</source>
         <translation>戻りのリンクの渡し方: %1</translation>
     </message>
     <message>

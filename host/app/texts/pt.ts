@@ -432,7 +432,7 @@
         <translation>Esperando a sua permissão no navegador. Se nenhuma página abriu, abra este endereço:</translation>
     </message>
     <message>
-        <source>Hand the link back over with: %1</source>
+        <source>Hand it over with: %1</source>
         <translation>Entregue o link de volta com: %1</translation>
     </message>
     <message>
