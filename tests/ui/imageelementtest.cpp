@@ -336,6 +336,8 @@ TEST_F(ImageElementTest, TakesACacheFromAForm) {
     post(*image, "restartDownload");
     EXPECT_EQ(host().downloads.started.back().entityTag, "");
     host().downloads.fail(kPicture);
+    EXPECT_EQ(cache->retain(), 3U) << "two of this test's and this one";
+    cache->release();
 }
 
 } // namespace
