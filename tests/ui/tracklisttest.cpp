@@ -42,6 +42,9 @@ TEST_F(TrackListTest, TakesAudioFilesAndTheirTags) {
     EXPECT_EQ(cell(0, 1), "My Take.1.wav");
     EXPECT_EQ(cell(1, 0), "Tagged");
     EXPECT_EQ(track(1).metadata->primaryGenre, "Jazz");
+    add({"file:///m/.wav"});
+    EXPECT_EQ(cell(2, 0), ".wav") << "nothing stands before the dot";
+    EXPECT_TRUE(track(0).enabled);
     EXPECT_EQ(track(0).metadata->trackNumber, 1);
     EXPECT_EQ(track(1).metadata->trackNumber, 1) << "adding does not number";
 }

@@ -27,7 +27,7 @@ constexpr std::string_view kCategoryTerm = "categoryTerm";
 constexpr std::int32_t kFirstTag = 100;
 
 /// The number at the start of a text, read as scanf reads a decimal: blanks and a sign may come before it,
-/// anything after it; one that is too large is the largest.
+/// anything after it; one that is too large, on either side, is the largest.
 std::optional<std::int64_t> leadingNumber(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
     if (text.starts_with('+')) {
@@ -36,8 +36,7 @@ std::optional<std::int64_t> leadingNumber(std::string_view text) {
     std::int64_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error == std::errc::result_out_of_range) {
-        using Limits = std::numeric_limits<std::int64_t>;
-        return text.front() == '-' ? Limits::min() : Limits::max();
+        return std::numeric_limits<std::int64_t>::max();
     }
     return error == std::errc() ? std::optional(number) : std::nullopt;
 }

@@ -86,7 +86,6 @@ void ImageElement::downloadCompleted(xbr::IDownloadTask& task) {
 
 void ImageElement::takeDocument(xbr::IStream& document, const xbr::CopyTerms& terms) {
     if (xbr::measure(document) > 0) {
-        xbr::rewind(document);
         if (m_cache) {
             m_cache->store(location(), terms, xbr::readAll(document));
         }

@@ -87,7 +87,7 @@ void TrackEditRules::set(std::int32_t tag, const std::string& value) {
 }
 
 void TrackEditRules::show(std::int32_t tag, bool missing) {
-    m_editor.parameter(tag)->set(xbr::integerValue(missing ? 1 : 0));
+    m_editor.parameter(tag)->set(xbr::boolValue(missing));
 }
 
 void TrackEditRules::clearMark(TrackFields& record, std::int32_t tag) {

@@ -48,7 +48,7 @@ TrackListComponent::~TrackListComponent() {
 
 void TrackListComponent::prepareMode(UploadMode mode) {
     m_editor->setMode(mode);
-    parameter(kAlbumUpload)->set(xbr::integerValue(mode == UploadMode::kAlbum ? 1 : 0), xbr::Notify::kNobody);
+    parameter(kAlbumUpload)->set(xbr::boolValue(mode == UploadMode::kAlbum), xbr::Notify::kNobody);
 }
 
 void TrackListComponent::add(xbr::IObjectIterator& objects) {

@@ -80,7 +80,7 @@ void TrackPropertyComponent::loadParameters(const TrackFields& record) {
         } else {
             parameter(field.valueTag)->set(xbr::textValue(record.*field.value));
         }
-        parameter(field.markTag)->set(xbr::integerValue(record.*field.missing ? 1 : 0));
+        parameter(field.markTag)->set(xbr::boolValue(record.*field.missing));
     }
     parameter(kTrackNumber)->set(xbr::integerValue(record.trackNumber));
 }
