@@ -109,12 +109,11 @@ public:
                                               "Waiting for your permission in the browser. If no page "
                                               "opened, open this address:")));
         aside(url);
-        aside(m_isAnswered
-                  ? say(QCoreApplication::translate(
-                        "xbr::host::Output",
-                        "Link back (paste it here if the browser does not return by itself):"))
-                  : say(QCoreApplication::translate("xbr::host::Output", "Hand it over with: %1"),
-                        "xbrhost open-url 'LINK'"));
+        aside(m_isAnswered ? say(QCoreApplication::translate(
+                                 "xbr::host::Output",
+                                 "Link back (paste it here if the browser does not return by itself):"))
+                           : say(QCoreApplication::translate("xbr::host::Output", "Hand it over with: %1"),
+                                 "xbrhost open-url 'LINK'"));
     }
 
     void account(bool, std::string_view) override {} // a sentence tells it
