@@ -250,8 +250,8 @@ private:
     void genre() {
         open(songs());
         auto* list = window().findChild<SongView*>();
-        list->model()->setData(list->model()->index(1, SongListModel::kGenre), "Tekno");
-        click(window(), "publish");
+        list->model()->setData(list->model()->index(0, SongListModel::kGenre), "Tekno");
+        publish();
         save();
     }
 
