@@ -130,7 +130,7 @@ class SignInTest(unittest.TestCase):
     def test_expired_sign_in_is_told_and_renewed(self):
         self.assertEqual(self.stage.run("sign-in").returncode, 0)
         expired = {"path": "/api/frontstage/account", "status": 401, "body": ""}
-        for command in (["status"], ["publish", self.stage.make_songs()[0]]):
+        for command in (["status"], ["publish", "--again", self.stage.make_songs()[0]]):
             self.stage.control("POST", "fault", expired)
             result = self.stage.run(*command)
             self.assertEqual(result.returncode, 10, result.stderr_text)

@@ -96,10 +96,10 @@ protected:
 
     Told onCommandLine(const Case& each) {
         const std::string options = each.isAlbum ? "--album" : "";
+        stage.forget();
         const Ran dry = run(options + " --dry-run", each.songs);
         setFault(each.fault);
         setMeanwhile(each.meanwhile);
-        stage.forget();
         const std::size_t before = stage.arrived();
         const Ran ran = run(options, each.songs);
         if (dry.last["exitCode"].toInt() != 0) {
