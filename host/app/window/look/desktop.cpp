@@ -66,7 +66,12 @@ void raise(QWidget& window) {
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
-    window.activateWindow();
+    // A window that is activated while a dialog blocks it passes the keyboard on to the dialog; when that
+    // closes in the same moment, nobody has it.
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget& front = modal ? *modal : window;
+    front.raise();
+    front.activateWindow();
     QApplication::alert(&window);
 }
 

@@ -145,9 +145,6 @@ void WindowFront::browserFailed(const std::string& reason) {
 
 void WindowFront::callbackCame() {
     raise(*m_window);
-    if (QWidget* modal = QApplication::activeModalWidget()) {
-        raise(*modal);
-    }
     for (const GadgetDock* dock : m_window->docks()) {
         if (dock->notices()) {
             dock->notices()->callbackArrived();
