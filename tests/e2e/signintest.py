@@ -122,7 +122,7 @@ class SignInTest(unittest.TestCase):
     def test_publishing_stores_the_sign_in_and_uses_it_again(self):
         songs = self.stage.make_songs()
         for _ in range(2):
-            result = self.stage.run("publish", songs[0])
+            result = self.stage.run("publish", "--again", songs[0])
             self.assertEqual(result.returncode, 0, result.stderr_text)
             self.assertNotIn("remembered", result.stdout_text + result.stderr_text)
         self.assertEqual(len(self.stage.log("/oauth/token")), 1)
