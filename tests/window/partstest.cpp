@@ -150,6 +150,7 @@ TEST_F(WindowTest, aProgressIndicatorBlocksTheWindowAndCanBeCancelled) {
 
 TEST(Status, goodNewsDoNotHideAWarningAndWhatRunsOnlyCoversIt) {
     StatusLine line(nullptr);
+    EXPECT_TRUE(line.findChild<QWidget*>("stop")->parentWidget()->isHidden()) << "nothing is being sent";
     const struct {
         Notice notice;
         const char* shown;

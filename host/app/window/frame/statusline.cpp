@@ -108,6 +108,7 @@ StatusLine::StatusLine(QWidget* parent)
     layout->addLayout(texts, 1);
     layout->addWidget(m_unfold);
     layout->addWidget(m_dismiss);
+    m_progress->hide();
     refresh();
 }
 
