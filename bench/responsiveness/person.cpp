@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -109,6 +110,18 @@ void Person::pageDown(QAbstractScrollArea& area, int times, int milliseconds) {
 }
 
 void Person::leave() {
+    // What was typed is not sent, and asked about.
+    QTimer answering;
+    answering.callOnTimeout([] {
+        const QWidget* question = QApplication::activeModalWidget();
+        for (auto* button :
+             question ? question->findChildren<QAbstractButton*>() : QList<QAbstractButton*>()) {
+            if (button->text().endsWith("Quit")) {
+                button->click();
+            }
+        }
+    });
+    answering.start(20);
     m_host->window().close();
     m_host.reset();
 }
