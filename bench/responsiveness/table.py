@@ -105,6 +105,8 @@ class Stage:
             "CallbackURL=brindlex://authorize\nFeedURL=%s\n" % (server, server, feed))
 
     def play(self, scene, *arguments, before=()):
+        for kept in ("config/xbrhost/songs.json", ".local/share/xbrhost/published.json"):
+            (self.folder / "home" / kept).unlink(missing_ok=True)  # each scene begins with an empty list
         lines = self.program("responsiveness_bench", scene, *arguments, before=before)
         return [json.loads(line) for line in lines.splitlines()]
 
