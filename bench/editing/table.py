@@ -3,36 +3,17 @@
 usage: table.py FOLDER_OF_PROGRAMS [--quick]
 """
 
-import json
-import statistics
-import subprocess
+import pathlib
 import sys
 
-
-def measure(program, quick):
-    options = ["--benchmark_format=json", "--benchmark_enable_random_interleaving=true",
-               "--benchmark_repetitions=%d" % (1 if quick else 5)]
-    if quick:
-        options.append("--benchmark_min_time=0.05")
-    output = subprocess.run([program, *options], check=True, stdout=subprocess.PIPE).stdout
-    runs = [run for run in json.loads(output)["benchmarks"] if run["run_type"] == "iteration"]
-    return sorted(runs, key=lambda run: run["family_index"])
-
-
-def medians(runs):
-    """{what: {number of tracks: nanoseconds a track}}"""
-    costs = {}
-    for run in runs:
-        what, size = run["run_name"].split("/min_time")[0].rsplit("/", 1)
-        costs.setdefault(what, {}).setdefault(int(size), []).append(1e9 / run["items_per_second"])
-    return {what: {size: statistics.median(values) for size, values in sizes.items()}
-            for what, sizes in costs.items()}
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
+from runs import measure, medians
 
 
 def main(program, quick):
     print("| nanoseconds a track, in a list of | 100 | 1,000 | 10,000 | 10,000 : 100 |")
     print("|---|---:|---:|---:|---:|")
-    for what, sizes in medians(measure(program, quick)).items():
+    for what, sizes in medians(measure(program, quick), lambda run: 1e9 / run["items_per_second"]).items():
         columns = " | ".join("%.0f" % sizes[size] for size in (100, 1000, 10000))
         print("| %s | %s | %.2f |" % (what, columns, sizes[10000] / sizes[100]))
 
