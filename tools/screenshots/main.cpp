@@ -31,6 +31,11 @@ namespace {
 
 constexpr QSize kSize(1340, 760);
 
+/// The words on a button of a question about the panel.
+QString inLanguage(const char* words) {
+    return QCoreApplication::translate("xbr::host::PanelNotices", words).remove('&');
+}
+
 class Shots {
 public:
     Shots(QString folder, QString suffix) : m_folder(std::move(folder)), m_suffix(std::move(suffix)) {}
@@ -72,9 +77,9 @@ private:
         }
         window().resize(kSize);
         auto* songs = window().findChild<SongView*>();
-        waitFor([&] {
-            return files.empty() ||
-                   cell(*songs, static_cast<int>(files.size()) - 1, SongListModel::kFormat).size() > 10;
+        waitFor([&] { // what stands there while a song is read is as long as a format in some languages
+            const int last = static_cast<int>(files.size()) - 1;
+            return files.empty() || cell(*songs, last, SongListModel::kFormat).find("·") != std::string::npos;
         });
     }
 
@@ -170,15 +175,20 @@ private:
         save();
     }
 
-    void preparing() {
+    /// An album of the songs and of one more, which lacks its details.
+    void openAlbumWith(const std::string& song) {
         auto files = songs();
-        files.push_back(m_stage->untaggedSong("Live at the Lighthouse.wav", 1U << 30U));
+        files.push_back(song);
         open(files);
         publish();
         connectPanel();
         click(window(), "album");
         select({0});
         type(window(), "albumTitle", "Night Drive");
+    }
+
+    void preparing() {
+        openAlbumWith(m_stage->untaggedSong("Live at the Lighthouse.wav", 1U << 30U));
         const auto act = whenever([this] {
             auto* sheet = qobject_cast<ProgressSheet*>(QApplication::activeModalWidget());
             const auto* bar = sheet ? sheet->findChild<QProgressBar*>() : nullptr;
@@ -189,7 +199,7 @@ private:
             sheet->cancel();
             return true;
         });
-        const auto sending = answer("Send Anyway"); // a song lacks its details
+        const auto sending = answer(inLanguage("Send &Anyway"));
         click(window(), "upload");
     }
 
@@ -276,16 +286,8 @@ private:
     void missing() {
         m_stage->service().addFault(
             R"({"path":"/api/frontstage/release_ingestion","status":422,"body":{"errors":"The object did not contain a required property of 'primary_genre'"}})");
-        const std::string demo = m_stage->untaggedSong("Demo take 4.wav");
-        auto files = songs();
-        files.push_back(demo);
-        open(files);
-        publish();
-        connectPanel();
-        click(window(), "album");
-        select({0});
-        type(window(), "albumTitle", "Night Drive");
-        const auto sending = answer("Send Anyway");
+        openAlbumWith(m_stage->untaggedSong("Demo take 4.wav"));
+        const auto sending = answer(inLanguage("Send &Anyway"));
         click(window(), "upload");
         auto* tracks = findAs<QAbstractItemView>(window(), "tracks");
         waitFor([tracks] { return !cell(*tracks, 3, 2).empty() && cell(*tracks, 3, 2).back() != '%'; });
