@@ -1,18 +1,37 @@
 #include "host/app/modules/publishentry.h"
 
+#include "framework/abi/locale.h"
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
+#include "host/app/modules/gadgetpanel.h"
 
 #include <filesystem>
 
 namespace xbr::host {
+
+namespace {
+
+/// The name of a class in the user's language, where the skin of one of the panels has it.
+std::string translated(Text name) {
+    for (const GadgetClass& gadget : findGadgets()) {
+        Ref<ITranslationTable> table;
+        Ref<IString> found;
+        if (XBRGetLocaleManager()->getTable(toText(gadget.themeName), table.out()) == kOk &&
+            table->translate(name, found.out()) == kOk && toString(found->text()) != toString(name)) {
+            return toString(found->text());
+        }
+    }
+    return toString(name);
+}
+
+} // namespace
 
 std::vector<PublishEntry> findPublishEntries() {
     static constexpr std::string_view kCategory = "Publisher";
     std::vector<PublishEntry> entries;
     for (std::int32_t i = 0; i < XBRGetPlugInManager()->countClasses(toText(kCategory)); ++i) {
         const ClassDescription* found = XBRGetPlugInManager()->classAt(toText(kCategory), i, nullptr);
-        entries.push_back({found->uid, toString(found->name)});
+        entries.push_back({found->uid, translated(found->name)});
     }
     return entries;
 }

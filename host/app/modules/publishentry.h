@@ -13,7 +13,7 @@ namespace xbr::host {
 /// An entry of the publish menu: a class of a module that takes songs.
 struct PublishEntry {
     Uid uid{};
-    std::string name; ///< for people
+    std::string name; ///< for people, in the user's language
 };
 
 /// The publish entries of all modules that are loaded.
