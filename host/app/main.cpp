@@ -1,6 +1,6 @@
 #include "host/app/audio/audiofolder.h"
 #include "host/app/headless/command.h"
-#include "host/app/headless/commandline.h"
+#include "host/app/headless/commandline/commandline.h"
 #include "host/app/window/start/window.h"
 
 #include <filesystem>

@@ -2,7 +2,7 @@
 
 #include "host/app/headless/consolefront.h"
 #include "host/app/publishing/publishing.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <QEventLoop>
 

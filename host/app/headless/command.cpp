@@ -2,11 +2,11 @@
 
 #include "host/app/headless/accountcommands.h"
 #include "host/app/headless/genrescommand.h"
-#include "host/app/headless/output.h"
+#include "host/app/headless/output/output.h"
 #include "host/app/headless/publishcommand.h"
 #include "host/app/modules/loadedmodule.h"
 #include "host/app/process/callbackclient.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/app/texts/programtexts.h"
 #include "host/base/textscan.h"
 
@@ -27,13 +27,11 @@ ExitCode openUrl(const CommandLine& commandLine) {
         break;
     case Delivery::kTooLong:
         code = ExitCode::kUsage;
-        wrong = say(
-            QCoreApplication::translate("xbr::host::CommandLine", "The link is too long, or not one line."));
+        wrong = say(CommandLine::tr("The link is too long, or not one line."));
         break;
     case Delivery::kNoHost:
         code = ExitCode::kNoHost;
-        wrong = say(QCoreApplication::translate(
-            "xbr::host::CommandLine", "No running xbrhost waits for this link. Start the sign-in again."));
+        wrong = say(CommandLine::tr("No running xbrhost waits for this link. Start the sign-in again."));
     }
     makeOutput(commandLine)->ended(code, wrong);
     return code;
@@ -83,8 +81,7 @@ ExitCode runCommand(int& argc, char** argv, const std::vector<std::string>& argu
     const ProgramTexts texts;
     const auto commandLine = parseCommandLine(arguments);
     if (!commandLine) {
-        printError(commandLine.problem().words + " " +
-                   say(QCoreApplication::translate("xbr::host::CommandLine", "xbrhost help tells more.")));
+        printError(commandLine.problem().words + " " + say(CommandLine::tr("xbrhost help tells more.")));
         return ExitCode::kUsage;
     }
     return run(*commandLine);

@@ -6,8 +6,8 @@
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
 #include "host/app/headless/pastedlink.h"
-#include "host/app/publishing/reachability.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/signin/reachability.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -121,9 +121,9 @@ bool ConsoleDialog::isHopeless() const {
 void ConsoleDialog::callbackCame() {
     if (isAwaitingCode(*m_controller)) {
         // Who denied by mistake may go back in the browser and allow; and any page can open such a link.
-        m_front->output().message(say(QCoreApplication::translate(
-            "xbr::host::Output", "The browser came back without a permission. Allow the access "
-                                 "there, or end with Ctrl-C.")));
+        m_front->output().message(
+            say(Output::tr("The browser came back without a permission. Allow the access "
+                           "there, or end with Ctrl-C.")));
     }
 }
 
@@ -191,17 +191,14 @@ bool ConsoleFront::announceBrowser(std::string_view url) {
 
 bool ConsoleFront::keyringWaits(bool isForUser) {
     if (isForUser && !std::exchange(m_isKeyringTold, true)) {
-        m_output->message(
-            say(QCoreApplication::translate("xbr::host::Words", "Waiting for the keyring to be unlocked.")));
+        m_output->message(say(Words::tr("Waiting for the keyring to be unlocked.")));
     }
     QCoreApplication::processEvents(); // signals
     return true;
 }
 
 void ConsoleFront::browserFailed(const std::string& reason) {
-    m_output->message(
-        say(QCoreApplication::translate("xbr::host::Words", "The web browser could not be started: %1."),
-            reason));
+    m_output->message(say(Words::tr("The web browser could not be started: %1."), reason));
 }
 
 void ConsoleFront::callbackCame() {
@@ -224,7 +221,7 @@ Outcome<GadgetPanel*> ConsoleSession::openPanel(const std::vector<Problem>& prob
         return Problem{Fault::kModule,
                        m_session.modules().front()->path(),
                        0,
-                       say(QCoreApplication::translate("xbr::host::CommandLine", "has no panel")),
+                       say(CommandLine::tr("has no panel")),
                        {},
                        {}};
     }
@@ -241,9 +238,7 @@ ExitCode ConsoleSession::start() {
     }
     for (const Problem& problem : problems) { // the module is loaded: it is the browser that nobody hears
         printError(
-            say(QCoreApplication::translate("xbr::host::CommandLine",
-                                            "The browser's answer to a sign-in cannot be received: %1."),
-                problem.words));
+            say(CommandLine::tr("The browser's answer to a sign-in cannot be received: %1."), problem.words));
     }
     m_panel = *panel;
     return ExitCode::kDone;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/app/headless/commandline.h"
-#include "host/app/headless/output.h"
+#include "host/app/headless/commandline/commandline.h"
+#include "host/app/headless/output/output.h"
 #include "host/app/process/exitcodes.h"
 #include "host/app/session/hostsession.h"
 

@@ -2,7 +2,7 @@
 
 #include "host/app/headless/consolefront.h"
 #include "host/app/publishing/upload/handover.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <QStringList>
 
@@ -15,11 +15,9 @@ std::string wordsOfNone(const Genres& genres, const std::string& word) {
     for (const std::string& name : genres.near(word)) {
         near.append(QString::fromStdString(name));
     }
-    return near.empty()
-               ? say(QCoreApplication::translate("xbr::host::CommandLine", "No genre holds “%1”."), word)
-               : say(QCoreApplication::translate("xbr::host::CommandLine",
-                                                 "No genre holds “%1”. Nearest: %2."),
-                     word, near.join(", ").toStdString());
+    return near.empty() ? say(CommandLine::tr("No genre holds “%1”."), word)
+                        : say(CommandLine::tr("No genre holds “%1”. Nearest: %2."), word,
+                              near.join(", ").toStdString());
 }
 
 } // namespace

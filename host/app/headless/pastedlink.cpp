@@ -1,7 +1,7 @@
 #include "host/app/headless/pastedlink.h"
 
-#include "host/app/headless/output.h"
-#include "host/app/publishing/account.h"
+#include "host/app/headless/output/output.h"
+#include "host/app/publishing/signin/account.h"
 
 #include <QTimer>
 

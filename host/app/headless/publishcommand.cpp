@@ -1,10 +1,10 @@
 #include "host/app/headless/publishcommand.h"
 
+#include "host/app/headless/commandline/folders.h"
+#include "host/app/headless/commandline/releasefile.h"
 #include "host/app/headless/consolefront.h"
-#include "host/app/headless/folders.h"
-#include "host/app/headless/releasefile.h"
 #include "host/app/publishing/publishing.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -111,13 +111,14 @@ bool isWanted(const Plan& plan, bool (*isMeant)(const Finding&), const std::stri
 /// is another one now.
 bool askAbout(const Plan& plan, ReleaseWish& wish) {
     const bool isBroken = std::any_of(plan.findings.begin(), plan.findings.end(), isUnreadable);
-    bool& answer = isBroken ? wish.skipsUnreadable : wish.sendsAgain;
     const auto question =
-        isBroken ? say(QCoreApplication::translate("xbr::host::Output", "Publish the other songs?"))
-                 : say(QCoreApplication::translate("xbr::host::Output", "Publish them again?"));
+        say(isBroken ? Output::tr("Publish the other songs?") : Output::tr("Publish them again?"));
     const bool isHopeless = isBroken && plan.releases.empty();
-    answer = !isHopeless && isWanted(plan, isBroken ? isUnreadable : isPublished, question);
-    return answer;
+    if (isHopeless || !isWanted(plan, isBroken ? isUnreadable : isPublished, question)) {
+        return false;
+    }
+    (isBroken ? wish.skipsUnreadable : wish.sendsAgain) = true;
+    return true;
 }
 
 /// Tells what a plan found, but for what the verdict is about.
@@ -161,7 +162,6 @@ public:
     PublishRun(ConsoleSession& console, const PublishEntry& entry, const std::string& account)
         : m_console(&console),
           m_entry(entry),
-          m_account(account),
           m_view(console.output(), m_loop),
           m_publishing(console.session().activity(), console.session().settings(), console.panel(), m_view) {
         m_publishing.setAccount(account);
@@ -192,12 +192,11 @@ public:
     }
 
 private:
-    /// An account that is not known before the sign-in stands for every one.
     std::vector<SongFile> readSongs(const ReleaseWish& wish) const {
         std::vector<SongFile> songs;
         for (const SongWish& song : wish.songs) {
             songs.push_back(readSongFile(song.path));
-            const auto known = m_publishing.history().find(song.path, m_account);
+            const auto known = wish.sendsAgain ? std::nullopt : m_publishing.findPublished(song.path);
             songs.back().published = known ? known->time : 0;
         }
         return songs;
@@ -218,7 +217,6 @@ private:
 
     ConsoleSession* m_console;
     PublishEntry m_entry;
-    std::string m_account;
     QEventLoop m_loop;
     PublishView m_view;
     Publishing m_publishing;
@@ -258,13 +256,8 @@ ExitCode runPublish(const CommandLine& commandLine) {
     RunEnd end;
     const auto entries = findPublishEntries();
     if (entries.empty() || !console.panel().tracks()) {
-        end.verdict =
-            judgeModule({Fault::kModule,
-                         commandLine.module,
-                         0,
-                         say(QCoreApplication::translate("xbr::host::CommandLine", "takes no songs")),
-                         {},
-                         {}});
+        end.verdict = judgeModule(
+            {Fault::kModule, commandLine.module, 0, say(CommandLine::tr("takes no songs")), {}, {}});
     } else {
         end = PublishRun(console, entries.front(), commandLine.account)
                   .run(std::move(*wish), commandLine.isDryRun, isAnswered(commandLine));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/headless/commandline.h"
+#include "host/app/headless/commandline/commandline.h"
 #include "host/app/process/exitcodes.h"
 
 namespace xbr::host {

@@ -1,16 +1,12 @@
 #include "host/app/publishing/history.h"
 
 #include "host/app/publishing/song.h"
+#include "host/app/settings/keptlist.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -60,14 +56,9 @@ std::string History::fingerprintOf(const std::string& path) {
 }
 
 void History::read() {
-    QFile file(QFile::decodeName(m_path.c_str()));
-    if (!file.exists()) {
-        return;
-    }
-    m_isReadable = file.open(QIODevice::ReadOnly) && file.size() <= kMostBytes;
-    const QJsonDocument document = m_isReadable ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
-    m_isReadable = document.isArray();
-    for (const auto& each : document.array()) {
+    const auto kept = readKeptList(QFile::decodeName(m_path.c_str()), kMostBytes);
+    m_isReadable = kept.has_value();
+    for (const auto& each : kept.value_or(QJsonArray())) {
         m_all.push_back(publicationOf(each.toObject()));
     }
 }
@@ -101,13 +92,7 @@ void History::write() const {
     for (const Publication& each : m_all) {
         all.append(objectOf(each));
     }
-    const QString path = QFile::decodeName(m_path.c_str());
-    QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(QJsonDocument(all).toJson());
-        file.commit();
-    }
+    writeKeptList(QFile::decodeName(m_path.c_str()), all);
 }
 
 } // namespace xbr::host

@@ -1,7 +1,7 @@
 #include "host/app/publishing/publishing.h"
 
-#include "host/app/publishing/reachability.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/signin/reachability.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <algorithm>
 #include <utility>
@@ -67,6 +67,18 @@ void Publishing::judgeUpload(UploadFacts facts) {
     const Verdict verdict = judge(facts);
     remember(verdict, facts);
     end(verdict);
+}
+
+std::string Publishing::account() const {
+    return m_wantedAccount.empty() ? m_panel->text("userName") : m_wantedAccount;
+}
+
+std::optional<Publication> Publishing::findPublished(const std::string& path) const {
+    return m_history.find(path, account());
+}
+
+std::optional<Publication> Publishing::findPublishedFingerprint(const std::string& fingerprint) const {
+    return m_history.findFingerprint(fingerprint, account());
 }
 
 /// What the service took in this upload goes into the history.
@@ -137,13 +149,9 @@ void Publishing::restore() {
 void Publishing::signOut() {
     const auto removed = m_signIn.forget();
     m_listener->ended(
-        removed ? judgeSignOut(*removed, m_signIn.mayBeKept())
-                : judgeModule({Fault::kModule,
-                               m_panel->name(),
-                               0,
-                               say(QCoreApplication::translate("xbr::host::Words", "cannot sign out")),
-                               {},
-                               {}}));
+        removed
+            ? judgeSignOut(*removed, m_signIn.mayBeKept())
+            : judgeModule({Fault::kModule, m_panel->name(), 0, say(Words::tr("cannot sign out")), {}, {}}));
 }
 
 void Publishing::signOutBegan() {
@@ -196,13 +204,12 @@ void Publishing::begin() {
 
 void Publishing::upload() {
     if (!m_panel->isEnabled("upload")) {
-        end(judgeModule(
-            {Fault::kModule,
-             m_entry.name,
-             0,
-             say(QCoreApplication::translate("xbr::host::Words", "it does not offer to upload the songs")),
-             {},
-             {}}));
+        end(judgeModule({Fault::kModule,
+                         m_entry.name,
+                         0,
+                         say(Words::tr("it does not offer to upload the songs")),
+                         {},
+                         {}}));
         return;
     }
     doInPanel([this] { m_panel->set("upload", 1); });

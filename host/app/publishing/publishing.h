@@ -1,10 +1,10 @@
 #pragma once
 
 #include "host/app/publishing/history.h"
-#include "host/app/publishing/notice.h"
-#include "host/app/publishing/signin.h"
+#include "host/app/publishing/signin/signin.h"
 #include "host/app/publishing/upload/follow.h"
 #include "host/app/publishing/upload/readiness.h"
+#include "host/app/publishing/verdict/notice.h"
 
 #include <QTimer>
 
@@ -102,13 +102,16 @@ public:
     /// The tracks of the panel, by the user's files. Until the event loop runs again.
     const std::vector<TrackReport>& tracks() { return m_follow.tracks(); }
 
-    /// What was published from this computer.
-    const History& history() const { return m_history; }
+    /// When a file was published from this computer by the account that songs go to, or by any while that is
+    /// not known.
+    std::optional<Publication> findPublished(const std::string& path) const;
+    std::optional<Publication> findPublishedFingerprint(const std::string& fingerprint) const;
 
     /// True while songs are handed over, prepared or on their way.
     bool isBusy();
 
 private:
+    std::string account() const;
     void begin();
     void judgeUpload(UploadFacts facts);
     void remember(const Verdict& verdict, const UploadFacts& facts);

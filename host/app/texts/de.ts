@@ -2,30 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>xbr::host::AboutDialog</name>
-    <message>
-        <source>About xbrhost</source>
-        <translation>Über xbrhost</translation>
-    </message>
-    <message>
-        <source>Publishes finished songs through the modules of a workstation.</source>
-        <translation>Veröffentlicht fertige Songs über die Module einer Workstation.</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
-    </message>
-    <message>
-        <source>Co&amp;py</source>
-        <translation>Ko&amp;pieren</translation>
-    </message>
-    <message>
-        <source>Copy the versions</source>
-        <translation>Versionen kopieren</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::CommandLine</name>
+    <name>CommandLine</name>
     <message>
         <source>The link is too long, or not one line.</source>
         <translation>Der Link ist zu lang oder nicht eine Zeile.</translation>
@@ -140,213 +117,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::DesktopNotification</name>
-    <message>
-        <source>Show</source>
-        <translation>Zeigen</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::DockTitle</name>
-    <message>
-        <source>Float or dock</source>
-        <translation>Lösen oder andocken</translation>
-    </message>
-    <message>
-        <source>Hide</source>
-        <translation>Ausblenden</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::EmptyState</name>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>Songs &amp;hinzufügen …</translation>
-    </message>
-    <message>
-        <source>Drop your finished songs here</source>
-        <translation>Fertige Songs hierher ziehen</translation>
-    </message>
-    <message>
-        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
-        <translation>WAV, AIFF, FLAC, MP3 oder Ogg, einzeln oder als ganzer Ordner</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::FileSelector</name>
-    <message>
-        <source>All usable files</source>
-        <translation>Alle verwendbaren Dateien</translation>
-    </message>
-    <message>
-        <source>Choose Files</source>
-        <translation>Dateien wählen</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::GadgetDock</name>
-    <message>
-        <source>The form of this panel cannot be shown.</source>
-        <translation>Das Formular dieser Ansicht kann nicht angezeigt werden.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::HandOver</name>
-    <message numerus="yes">
-        <source>It holds edits of %n song(s) that have not been sent.</source>
-        <translation>
-            <numerusform>Es enthält Änderungen an %n Song, die nicht gesendet wurden.</numerusform>
-            <numerusform>Es enthält Änderungen an %n Songs, die nicht gesendet wurden.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>It holds the results of the last upload.</source>
-        <translation>Es enthält die Ergebnisse des letzten Sendens.</translation>
-    </message>
-    <message>
-        <source>Replace the songs in the panel?</source>
-        <translation>Die Songs im Panel ersetzen?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>&amp;Behalten</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Ersetzen</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>Die anderen Songs können ohne sie übergeben werden.</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>Songs weglassen?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>&amp;Weglassen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>
-            <numerusform>%n Song wurde an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</numerusform>
-            <numerusform>%n Songs wurden an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Zeigen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
-        <translation>
-            <numerusform>%1 von %n Song fehlen Angaben, die der Dienst braucht. „%2“: %3.</numerusform>
-            <numerusform>%1 von %n Songs fehlen Angaben, die der Dienst braucht. „%2“: %3.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Header</name>
-    <message>
-        <source>Songs</source>
-        <translation>Songs</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>Noch keine</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s)</source>
-        <translation>
-            <numerusform>%n Song</numerusform>
-            <numerusform>%n Songs</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::KeyringSheet</name>
-    <message>
-        <source>Keyring</source>
-        <translation>Schlüsselbund</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::MainWindow</name>
-    <message>
-        <source>Songs – xbrhost</source>
-        <translation>Songs – xbrhost</translation>
-    </message>
-    <message>
-        <source>Add Songs</source>
-        <translation>Songs hinzufügen</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Some songs are still being read; try again in a moment.</source>
-        <translation>Einige Songs werden noch gelesen; gleich noch einmal versuchen.</translation>
-    </message>
-    <message>
-        <source>Add songs first.</source>
-        <translation>Zuerst Songs hinzufügen.</translation>
-    </message>
-    <message>
-        <source>Wait until the upload that runs has ended.</source>
-        <translation>Bitte warten, bis das laufende Hochladen beendet ist.</translation>
-    </message>
-    <message>
-        <source>&amp;Stop and Quit</source>
-        <translation>Abbrechen und &amp;beenden</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Uploading</source>
-        <translation>&amp;Weiter hochladen</translation>
-    </message>
-    <message>
-        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
-        <translation>Übergibt die ausgewählten Songs oder alle an das Panel; noch wird nichts gesendet</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
-        <translation>
-            <numerusform>%n Song im Panel hat Änderungen, die nicht gesendet wurden; sie gingen verloren. Die Liste kommt beim nächsten Start wieder.</numerusform>
-            <numerusform>%n Songs im Panel haben Änderungen, die nicht gesendet wurden; sie gingen verloren. Die Liste kommt beim nächsten Start wieder.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Stop the upload?</source>
-        <translation>Das Senden anhalten?</translation>
-    </message>
-    <message>
-        <source>Quit without publishing?</source>
-        <translation>Beenden, ohne zu veröffentlichen?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Editing</source>
-        <translation>Weiter &amp;bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Output</name>
+    <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
         <translation>Der Browser kam ohne Erlaubnis zurück. Den Zugriff dort erlauben oder mit Strg-C beenden.</translation>
@@ -457,484 +228,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::PanelMemory</name>
-    <message>
-        <source>Track number</source>
-        <translation>Titelnummer</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the panel.</source>
-        <translation>
-            <numerusform>%n Song aus dem Panel entfernt.</numerusform>
-            <numerusform>%n Songs aus dem Panel entfernt.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 changed in %n song(s).</source>
-        <translation>
-            <numerusform>%1 in %n Song geändert.</numerusform>
-            <numerusform>%1 in %n Songs geändert.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::PanelNotices</name>
-    <message numerus="yes">
-        <source>%1 of %n song(s) are published; the rest would not be.</source>
-        <translation>
-            <numerusform>%1 von %n Song ist veröffentlicht; der Rest würde es nicht.</numerusform>
-            <numerusform>%1 von %n Songs sind veröffentlicht; der Rest würde es nicht.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>“%1” is being sent.</source>
-        <translation>„%1“ wird gerade gesendet.</translation>
-    </message>
-    <message>
-        <source>Published %1</source>
-        <translation>Veröffentlicht %1</translation>
-    </message>
-    <message>
-        <source>Published %1 as %2</source>
-        <translation>Veröffentlicht %1 als %2</translation>
-    </message>
-    <message>
-        <source>Send without these details?</source>
-        <translation>Ohne diese Angaben senden?</translation>
-    </message>
-    <message>
-        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
-        <translation>„%1“: %2. Der Dienst wird das wahrscheinlich ablehnen. Noch ist nichts gesendet.</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Zeigen</translation>
-    </message>
-    <message>
-        <source>Send &amp;Anyway</source>
-        <translation>&amp;Trotzdem senden</translation>
-    </message>
-    <message>
-        <source>Publish again?</source>
-        <translation>Noch einmal veröffentlichen?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>Publish &amp;Again</source>
-        <translation>Noch einmal &amp;veröffentlichen</translation>
-    </message>
-    <message>
-        <source>&amp;Leave them out</source>
-        <translation>&amp;Weglassen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) were published from this computer before.</source>
-        <translation>
-            <numerusform>%1 von %n Song wurde schon von diesem Computer aus veröffentlicht.</numerusform>
-            <numerusform>%1 von %n Songs wurden schon von diesem Computer aus veröffentlicht.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>&amp;Erneut versuchen</translation>
-    </message>
-    <message>
-        <source>A&amp;ccount page</source>
-        <translation>&amp;Kontoseite</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>&amp;Weglassen</translation>
-    </message>
-    <message>
-        <source>Sign &amp;in</source>
-        <translation>&amp;Anmelden</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressRow</name>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Anhalten</translation>
-    </message>
-    <message>
-        <source>End the upload; what has arrived stays published</source>
-        <translation>Das Senden beenden; was angekommen ist, bleibt veröffentlicht</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressSheet</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>Working on</source>
-        <translation>In Arbeit</translation>
-    </message>
-    <message>
-        <source>Stopping…</source>
-        <translation>Wird abgebrochen …</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Selection</name>
-    <message>
-        <source>“%1” is on its way and cannot be changed now.</source>
-        <translation>„%1“ ist unterwegs und kann jetzt nicht geändert werden.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) selected: an edit changes all of them.</source>
-        <translation>
-            <numerusform>%n Song ausgewählt: eine Änderung gilt für alle.</numerusform>
-            <numerusform>%n Songs ausgewählt: eine Änderung gilt für alle.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>≠ %n value(s)</source>
-        <translation>
-            <numerusform>≠ %n Wert</numerusform>
-            <numerusform>≠ %n Werte</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>same</source>
-        <translation>gleich</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different value(s): %1</source>
-        <translation>
-            <numerusform>%n verschiedener Wert: %1</numerusform>
-            <numerusform>%n verschiedene Werte: %1</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SignInStrip</name>
-    <message>
-        <source>Copy the address</source>
-        <translation>Adresse kopieren</translation>
-    </message>
-    <message>
-        <source>Link back</source>
-        <translation>Rücklink</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>Weiter</translation>
-    </message>
-    <message>
-        <source>Nothing happened?</source>
-        <translation>Nichts passiert?</translation>
-    </message>
-    <message>
-        <source>Copied</source>
-        <translation>Kopiert</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Song</name>
-    <message>
-        <source>%1 bit</source>
-        <translation>%1 Bit</translation>
-    </message>
-    <message>
-        <source>%1 kbit/s</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>%1 kHz</source>
-        <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>Audio files</source>
-        <translation>Audiodateien</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongCommands</name>
-    <message numerus="yes">
-        <source>%n song(s) added.</source>
-        <translation>
-            <numerusform>%n Song hinzugefügt.</numerusform>
-            <numerusform>%n Songs hinzugefügt.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) added; %1 were in the list already.</source>
-        <translation>
-            <numerusform>%n Song hinzugefügt; %1 schon in der Liste.</numerusform>
-            <numerusform>%n Songs hinzugefügt; %1 schon in der Liste.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the list; the files stay.</source>
-        <translation>
-            <numerusform>%n Song aus der Liste entfernt; die Datei bleibt.</numerusform>
-            <numerusform>%n Songs aus der Liste entfernt; die Dateien bleiben.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Zeigen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) need a look before they can be published. %2</source>
-        <translation>
-            <numerusform>%1 von %n Song braucht einen Blick, bevor er veröffentlicht werden kann. %2</numerusform>
-            <numerusform>%1 von %n Songs brauchen einen Blick, bevor sie veröffentlicht werden können. %2</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time.</source>
-        <translation>
-            <numerusform>%n Song vom letzten Mal.</numerusform>
-            <numerusform>%n Songs vom letzten Mal.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time; %1 no longer there.</source>
-        <translation>
-            <numerusform>%n Song vom letzten Mal; %1 nicht mehr da.</numerusform>
-            <numerusform>%n Songs vom letzten Mal; %1 nicht mehr da.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n file(s)</source>
-        <translation>
-            <numerusform>%n Datei</numerusform>
-            <numerusform>%n Dateien</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Start &amp;Empty</source>
-        <translation>&amp;Leer beginnen</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongListModel</name>
-    <message>
-        <source>Reading…</source>
-        <translation>Wird gelesen …</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>Nr.</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Titel</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Interpret</translation>
-    </message>
-    <message>
-        <source>Album</source>
-        <translation>Album</translation>
-    </message>
-    <message>
-        <source>Album artist</source>
-        <translation>Albuminterpret</translation>
-    </message>
-    <message>
-        <source>Genre</source>
-        <translation>Genre</translation>
-    </message>
-    <message>
-        <source>Length</source>
-        <translation>Länge</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>Format</translation>
-    </message>
-    <message>
-        <source>Track number</source>
-        <translation>Titelnummer</translation>
-    </message>
-    <message>
-        <source>Mark</source>
-        <translation>Zeichen</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongView</name>
-    <message>
-        <source>Songs</source>
-        <translation>Songs</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>Spalten</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::StatusLine</name>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Ausblenden</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Bereit.</translation>
-    </message>
-    <message>
-        <source>Show each song</source>
-        <translation>Jeden Song zeigen</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowActions</name>
-    <message>
-        <source>Menus</source>
-        <translation>Menüs</translation>
-    </message>
-    <message>
-        <source>&amp;Publish</source>
-        <translation>&amp;Veröffentlichen</translation>
-    </message>
-    <message>
-        <source>&amp;About xbrhost</source>
-        <translation>Ü&amp;ber xbrhost</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>Songs &amp;hinzufügen …</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Hinzufügen</translation>
-    </message>
-    <message>
-        <source>Add songs (%1)</source>
-        <translation>Songs hinzufügen (%1)</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Edit Cell</source>
-        <translation>Feld &amp;bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Entfernen</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-    <message>
-        <source>Remove the selected songs from the list; the files stay</source>
-        <translation>Die ausgewählten Songs aus der Liste entfernen; die Dateien bleiben</translation>
-    </message>
-    <message>
-        <source>Move &amp;Up</source>
-        <translation>Nach &amp;oben</translation>
-    </message>
-    <message>
-        <source>Move &amp;Down</source>
-        <translation>Nach &amp;unten</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>&amp;Alles auswählen</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Next Area</source>
-        <translation>&amp;Nächster Bereich</translation>
-    </message>
-    <message>
-        <source>&amp;Appearance</source>
-        <translation>&amp;Erscheinungsbild</translation>
-    </message>
-    <message>
-        <source>&amp;Reset Layout</source>
-        <translation>Anordnung &amp;zurücksetzen</translation>
-    </message>
-    <message>
-        <source>As the &amp;Desktop</source>
-        <translation>Wie der &amp;Desktop</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Hell</translation>
-    </message>
-    <message>
-        <source>Da&amp;rk</source>
-        <translation>D&amp;unkel</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>Red&amp;o</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
-        <source>&amp;Next Problem</source>
-        <translation>&amp;Nächstes Problem</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Problem</source>
-        <translation>&amp;Voriges Problem</translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Anhalten</translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>&amp;Erneut versuchen</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowFront</name>
-    <message>
-        <source>%1, border %2.%3</source>
-        <translation>%1, Schnittstelle %2.%3</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
-        <translation>Die Antwort des Browsers auf eine Anmeldung kann nicht empfangen werden: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Words</name>
+    <name>Words</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>Der Browser kam ohne Erlaubnis zurück. Den Zugriff dort erlauben oder hier abbrechen.</translation>
@@ -1566,6 +860,712 @@
     <message>
         <source>“%1” was published from this computer on %2.</source>
         <translation>„%1“ wurde am %2 von diesem Computer aus veröffentlicht.</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::AboutDialog</name>
+    <message>
+        <source>About xbrhost</source>
+        <translation>Über xbrhost</translation>
+    </message>
+    <message>
+        <source>Publishes finished songs through the modules of a workstation.</source>
+        <translation>Veröffentlicht fertige Songs über die Module einer Workstation.</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>Ko&amp;pieren</translation>
+    </message>
+    <message>
+        <source>Copy the versions</source>
+        <translation>Versionen kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DockTitle</name>
+    <message>
+        <source>Float or dock</source>
+        <translation>Lösen oder andocken</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::EmptyState</name>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>Songs &amp;hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Drop your finished songs here</source>
+        <translation>Fertige Songs hierher ziehen</translation>
+    </message>
+    <message>
+        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
+        <translation>WAV, AIFF, FLAC, MP3 oder Ogg, einzeln oder als ganzer Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::FileSelector</name>
+    <message>
+        <source>All usable files</source>
+        <translation>Alle verwendbaren Dateien</translation>
+    </message>
+    <message>
+        <source>Choose Files</source>
+        <translation>Dateien wählen</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::GadgetDock</name>
+    <message>
+        <source>The form of this panel cannot be shown.</source>
+        <translation>Das Formular dieser Ansicht kann nicht angezeigt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>Es enthält Änderungen an %n Song, die nicht gesendet wurden.</numerusform>
+            <numerusform>Es enthält Änderungen an %n Songs, die nicht gesendet wurden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>Es enthält die Ergebnisse des letzten Sendens.</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>Die Songs im Panel ersetzen?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Die anderen Songs können ohne sie übergeben werden.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Songs weglassen?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n Song wurde an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</numerusform>
+            <numerusform>%n Songs wurden an das Panel übergeben; noch ist nichts gesendet. Dort die Angaben prüfen, dann hochladen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>%1 von %n Song fehlen Angaben, die der Dienst braucht. „%2“: %3.</numerusform>
+            <numerusform>%1 von %n Songs fehlen Angaben, die der Dienst braucht. „%2“: %3.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Header</name>
+    <message>
+        <source>Songs</source>
+        <translation>Songs</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Noch keine</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s)</source>
+        <translation>
+            <numerusform>%n Song</numerusform>
+            <numerusform>%n Songs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::MainWindow</name>
+    <message>
+        <source>Songs – xbrhost</source>
+        <translation>Songs – xbrhost</translation>
+    </message>
+    <message>
+        <source>Add Songs</source>
+        <translation>Songs hinzufügen</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Some songs are still being read; try again in a moment.</source>
+        <translation>Einige Songs werden noch gelesen; gleich noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Add songs first.</source>
+        <translation>Zuerst Songs hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Wait until the upload that runs has ended.</source>
+        <translation>Bitte warten, bis das laufende Hochladen beendet ist.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Quit</source>
+        <translation>Abbrechen und &amp;beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Uploading</source>
+        <translation>&amp;Weiter hochladen</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>Übergibt die ausgewählten Songs oder alle an das Panel; noch wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>%n Song im Panel hat Änderungen, die nicht gesendet wurden; sie gingen verloren. Die Liste kommt beim nächsten Start wieder.</numerusform>
+            <numerusform>%n Songs im Panel haben Änderungen, die nicht gesendet wurden; sie gingen verloren. Die Liste kommt beim nächsten Start wieder.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>Das Senden anhalten?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>Beenden, ohne zu veröffentlichen?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>Weiter &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>Titelnummer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n Song aus dem Panel entfernt.</numerusform>
+            <numerusform>%n Songs aus dem Panel entfernt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%1 in %n Song geändert.</numerusform>
+            <numerusform>%1 in %n Songs geändert.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%1 von %n Song ist veröffentlicht; der Rest würde es nicht.</numerusform>
+            <numerusform>%1 von %n Songs sind veröffentlicht; der Rest würde es nicht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>„%1“ wird gerade gesendet.</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>Veröffentlicht %1</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>Veröffentlicht %1 als %2</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>Ohne diese Angaben senden?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>„%1“: %2. Der Dienst wird das wahrscheinlich ablehnen. Noch ist nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>&amp;Trotzdem senden</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>Noch einmal veröffentlichen?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>Noch einmal &amp;veröffentlichen</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%1 von %n Song wurde schon von diesem Computer aus veröffentlicht.</numerusform>
+            <numerusform>%1 von %n Songs wurden schon von diesem Computer aus veröffentlicht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>&amp;Kontoseite</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>&amp;Anmelden</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>Das Senden beenden; was angekommen ist, bleibt veröffentlicht</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressSheet</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Working on</source>
+        <translation>In Arbeit</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Wird abgebrochen …</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>„%1“ ist unterwegs und kann jetzt nicht geändert werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n Song ausgewählt: eine Änderung gilt für alle.</numerusform>
+            <numerusform>%n Songs ausgewählt: eine Änderung gilt für alle.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n Wert</numerusform>
+            <numerusform>≠ %n Werte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>gleich</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n verschiedener Wert: %1</numerusform>
+            <numerusform>%n verschiedene Werte: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>Adresse kopieren</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>Rücklink</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>Nichts passiert?</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Song</name>
+    <message>
+        <source>%1 bit</source>
+        <translation>%1 Bit</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>Audiodateien</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n Song hinzugefügt.</numerusform>
+            <numerusform>%n Songs hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n Song hinzugefügt; %1 schon in der Liste.</numerusform>
+            <numerusform>%n Songs hinzugefügt; %1 schon in der Liste.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n Song aus der Liste entfernt; die Datei bleibt.</numerusform>
+            <numerusform>%n Songs aus der Liste entfernt; die Dateien bleiben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%1 von %n Song braucht einen Blick, bevor er veröffentlicht werden kann. %2</numerusform>
+            <numerusform>%1 von %n Songs brauchen einen Blick, bevor sie veröffentlicht werden können. %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>%n Song vom letzten Mal.</numerusform>
+            <numerusform>%n Songs vom letzten Mal.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>%n Song vom letzten Mal; %1 nicht mehr da.</numerusform>
+            <numerusform>%n Songs vom letzten Mal; %1 nicht mehr da.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>&amp;Leer beginnen</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongListModel</name>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Interpret</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Albuminterpret</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Titelnummer</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Zeichen</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongView</name>
+    <message>
+        <source>Songs</source>
+        <translation>Songs</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::StatusLine</name>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Bereit.</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>Jeden Song zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowActions</name>
+    <message>
+        <source>Menus</source>
+        <translation>Menüs</translation>
+    </message>
+    <message>
+        <source>&amp;Publish</source>
+        <translation>&amp;Veröffentlichen</translation>
+    </message>
+    <message>
+        <source>&amp;About xbrhost</source>
+        <translation>Ü&amp;ber xbrhost</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>Songs &amp;hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add songs (%1)</source>
+        <translation>Songs hinzufügen (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>Feld &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the selected songs from the list; the files stay</source>
+        <translation>Die ausgewählten Songs aus der Liste entfernen; die Dateien bleiben</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Next Area</source>
+        <translation>&amp;Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>&amp;Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>Anordnung &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Wie der &amp;Desktop</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>D&amp;unkel</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>&amp;Nächstes Problem</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>&amp;Voriges Problem</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowFront</name>
+    <message>
+        <source>%1, border %2.%3</source>
+        <translation>%1, Schnittstelle %2.%3</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>Die Antwort des Browsers auf eine Anmeldung kann nicht empfangen werden: %1.</translation>
     </message>
 </context>
 </TS>

@@ -2,30 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>xbr::host::AboutDialog</name>
-    <message>
-        <source>About xbrhost</source>
-        <translation>Acerca de xbrhost</translation>
-    </message>
-    <message>
-        <source>Publishes finished songs through the modules of a workstation.</source>
-        <translation>Publica canciones terminadas mediante los módulos de una estación de audio.</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Cerrar</translation>
-    </message>
-    <message>
-        <source>Co&amp;py</source>
-        <translation>Co&amp;piar</translation>
-    </message>
-    <message>
-        <source>Copy the versions</source>
-        <translation>Copiar las versiones</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::CommandLine</name>
+    <name>CommandLine</name>
     <message>
         <source>The link is too long, or not one line.</source>
         <translation>El enlace es demasiado largo o no es una sola línea.</translation>
@@ -140,213 +117,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::DesktopNotification</name>
-    <message>
-        <source>Show</source>
-        <translation>Mostrar</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::DockTitle</name>
-    <message>
-        <source>Float or dock</source>
-        <translation>Separar o acoplar</translation>
-    </message>
-    <message>
-        <source>Hide</source>
-        <translation>Ocultar</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::EmptyState</name>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>&amp;Añadir canciones…</translation>
-    </message>
-    <message>
-        <source>Drop your finished songs here</source>
-        <translation>Suelte aquí sus canciones terminadas</translation>
-    </message>
-    <message>
-        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
-        <translation>WAV, AIFF, FLAC, MP3 u Ogg, una a una o una carpeta entera</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::FileSelector</name>
-    <message>
-        <source>All usable files</source>
-        <translation>Todos los archivos utilizables</translation>
-    </message>
-    <message>
-        <source>Choose Files</source>
-        <translation>Elegir archivos</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::GadgetDock</name>
-    <message>
-        <source>The form of this panel cannot be shown.</source>
-        <translation>No se puede mostrar el formulario de este panel.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::HandOver</name>
-    <message numerus="yes">
-        <source>It holds edits of %n song(s) that have not been sent.</source>
-        <translation>
-            <numerusform>Contiene cambios de %n canción que no se han enviado.</numerusform>
-            <numerusform>Contiene cambios de %n canciones que no se han enviado.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>It holds the results of the last upload.</source>
-        <translation>Contiene los resultados del último envío.</translation>
-    </message>
-    <message>
-        <source>Replace the songs in the panel?</source>
-        <translation>¿Reemplazar las canciones del panel?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>&amp;Conservar</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Reemplazar</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>Las demás canciones se pueden pasar sin ellas.</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>¿Omitir canciones?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>&amp;Omitir</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>
-            <numerusform>%n canción pasada al panel; aún no se ha enviado nada. Revisa allí los datos y súbela.</numerusform>
-            <numerusform>%n canciones pasadas al panel; aún no se ha enviado nada. Revisa allí los datos y súbelas.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostrar</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
-        <translation>
-            <numerusform>A %1 de %n canción le faltan datos que el servicio necesita. «%2»: %3.</numerusform>
-            <numerusform>A %1 de %n canciones les faltan datos que el servicio necesita. «%2»: %3.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Header</name>
-    <message>
-        <source>Songs</source>
-        <translation>Canciones</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>Ninguna todavía</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s)</source>
-        <translation>
-            <numerusform>%n canción</numerusform>
-            <numerusform>%n canciones</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::KeyringSheet</name>
-    <message>
-        <source>Keyring</source>
-        <translation>Llavero</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::MainWindow</name>
-    <message>
-        <source>Songs – xbrhost</source>
-        <translation>Canciones – xbrhost</translation>
-    </message>
-    <message>
-        <source>Add Songs</source>
-        <translation>Añadir canciones</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Todos los archivos (*)</translation>
-    </message>
-    <message>
-        <source>Some songs are still being read; try again in a moment.</source>
-        <translation>Algunas canciones aún se están leyendo; inténtelo de nuevo en un momento.</translation>
-    </message>
-    <message>
-        <source>Add songs first.</source>
-        <translation>Añada primero canciones.</translation>
-    </message>
-    <message>
-        <source>Wait until the upload that runs has ended.</source>
-        <translation>Espere a que termine la subida en curso.</translation>
-    </message>
-    <message>
-        <source>&amp;Stop and Quit</source>
-        <translation>&amp;Detener y salir</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Uploading</source>
-        <translation>&amp;Seguir subiendo</translation>
-    </message>
-    <message>
-        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
-        <translation>Pasa las canciones seleccionadas, o todas, al panel; aún no se envía nada</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
-        <translation>
-            <numerusform>%n canción del panel tiene cambios sin enviar; se perderían. La lista vuelve en el próximo inicio.</numerusform>
-            <numerusform>%n canciones del panel tienen cambios sin enviar; se perderían. La lista vuelve en el próximo inicio.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Stop the upload?</source>
-        <translation>¿Detener el envío?</translation>
-    </message>
-    <message>
-        <source>Quit without publishing?</source>
-        <translation>¿Salir sin publicar?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Editing</source>
-        <translation>&amp;Seguir editando</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Output</name>
+    <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
         <translation>El navegador ha vuelto sin permiso. Permita allí el acceso o termine con Ctrl-C.</translation>
@@ -457,484 +228,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::PanelMemory</name>
-    <message>
-        <source>Track number</source>
-        <translation>Número de pista</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the panel.</source>
-        <translation>
-            <numerusform>%n canción quitada del panel.</numerusform>
-            <numerusform>%n canciones quitadas del panel.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 changed in %n song(s).</source>
-        <translation>
-            <numerusform>%1 ha cambiado en %n canción.</numerusform>
-            <numerusform>%1 ha cambiado en %n canciones.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::PanelNotices</name>
-    <message numerus="yes">
-        <source>%1 of %n song(s) are published; the rest would not be.</source>
-        <translation>
-            <numerusform>%1 de %n canción está publicada; el resto no lo estaría.</numerusform>
-            <numerusform>%1 de %n canciones están publicadas; el resto no lo estaría.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>“%1” is being sent.</source>
-        <translation>«%1» se está enviando.</translation>
-    </message>
-    <message>
-        <source>Published %1</source>
-        <translation>Publicada el %1</translation>
-    </message>
-    <message>
-        <source>Published %1 as %2</source>
-        <translation>Publicada el %1 como %2</translation>
-    </message>
-    <message>
-        <source>Send without these details?</source>
-        <translation>¿Enviar sin estos datos?</translation>
-    </message>
-    <message>
-        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
-        <translation>«%1»: %2. Es probable que el servicio la rechace. Aún no se ha enviado nada.</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostrar</translation>
-    </message>
-    <message>
-        <source>Send &amp;Anyway</source>
-        <translation>Enviar de &amp;todos modos</translation>
-    </message>
-    <message>
-        <source>Publish again?</source>
-        <translation>¿Publicar de nuevo?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
-    </message>
-    <message>
-        <source>Publish &amp;Again</source>
-        <translation>Publicar de &amp;nuevo</translation>
-    </message>
-    <message>
-        <source>&amp;Leave them out</source>
-        <translation>&amp;Omitirlas</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) were published from this computer before.</source>
-        <translation>
-            <numerusform>%1 de %n canción ya se publicó desde este equipo.</numerusform>
-            <numerusform>%1 de %n canciones ya se publicaron desde este equipo.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>&amp;Reintentar</translation>
-    </message>
-    <message>
-        <source>A&amp;ccount page</source>
-        <translation>Página de la &amp;cuenta</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>&amp;Omitir</translation>
-    </message>
-    <message>
-        <source>Sign &amp;in</source>
-        <translation>&amp;Iniciar sesión</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressRow</name>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Detener</translation>
-    </message>
-    <message>
-        <source>End the upload; what has arrived stays published</source>
-        <translation>Terminar el envío; lo que ha llegado sigue publicado</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressSheet</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
-    </message>
-    <message>
-        <source>Working on</source>
-        <translation>Trabajando en</translation>
-    </message>
-    <message>
-        <source>Stopping…</source>
-        <translation>Deteniendo…</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Selection</name>
-    <message>
-        <source>“%1” is on its way and cannot be changed now.</source>
-        <translation>«%1» está en camino y no se puede cambiar ahora.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) selected: an edit changes all of them.</source>
-        <translation>
-            <numerusform>%n canción seleccionada: un cambio las afecta a todas.</numerusform>
-            <numerusform>%n canciones seleccionadas: un cambio las afecta a todas.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>≠ %n value(s)</source>
-        <translation>
-            <numerusform>≠ %n valor</numerusform>
-            <numerusform>≠ %n valores</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>same</source>
-        <translation>igual</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different value(s): %1</source>
-        <translation>
-            <numerusform>%n valor distinto: %1</numerusform>
-            <numerusform>%n valores distintos: %1</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SignInStrip</name>
-    <message>
-        <source>Copy the address</source>
-        <translation>Copiar la dirección</translation>
-    </message>
-    <message>
-        <source>Link back</source>
-        <translation>Enlace de vuelta</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>Continuar</translation>
-    </message>
-    <message>
-        <source>Nothing happened?</source>
-        <translation>¿No ha pasado nada?</translation>
-    </message>
-    <message>
-        <source>Copied</source>
-        <translation>Copiado</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Song</name>
-    <message>
-        <source>%1 bit</source>
-        <translation>%1 bits</translation>
-    </message>
-    <message>
-        <source>%1 kbit/s</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>%1 kHz</source>
-        <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>Audio files</source>
-        <translation>Archivos de audio</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongCommands</name>
-    <message numerus="yes">
-        <source>%n song(s) added.</source>
-        <translation>
-            <numerusform>%n canción añadida.</numerusform>
-            <numerusform>%n canciones añadidas.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) added; %1 were in the list already.</source>
-        <translation>
-            <numerusform>%n canción añadida; %1 ya en la lista.</numerusform>
-            <numerusform>%n canciones añadidas; %1 ya en la lista.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the list; the files stay.</source>
-        <translation>
-            <numerusform>%n canción quitada de la lista; el archivo se queda.</numerusform>
-            <numerusform>%n canciones quitadas de la lista; los archivos se quedan.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostrar</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) need a look before they can be published. %2</source>
-        <translation>
-            <numerusform>%1 de %n canción necesita una revisión antes de publicarse. %2</numerusform>
-            <numerusform>%1 de %n canciones necesitan una revisión antes de publicarse. %2</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time.</source>
-        <translation>
-            <numerusform>%n canción de la última vez.</numerusform>
-            <numerusform>%n canciones de la última vez.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time; %1 no longer there.</source>
-        <translation>
-            <numerusform>%n canción de la última vez; %1 ya no está.</numerusform>
-            <numerusform>%n canciones de la última vez; %1 ya no está.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n file(s)</source>
-        <translation>
-            <numerusform>%n archivo</numerusform>
-            <numerusform>%n archivos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Start &amp;Empty</source>
-        <translation>Empezar &amp;vacío</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongListModel</name>
-    <message>
-        <source>Reading…</source>
-        <translation>Leyendo…</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>N.º</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Título</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Artista</translation>
-    </message>
-    <message>
-        <source>Album</source>
-        <translation>Álbum</translation>
-    </message>
-    <message>
-        <source>Album artist</source>
-        <translation>Artista del álbum</translation>
-    </message>
-    <message>
-        <source>Genre</source>
-        <translation>Género</translation>
-    </message>
-    <message>
-        <source>Length</source>
-        <translation>Duración</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>Formato</translation>
-    </message>
-    <message>
-        <source>Track number</source>
-        <translation>Número de pista</translation>
-    </message>
-    <message>
-        <source>Mark</source>
-        <translation>Marca</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongView</name>
-    <message>
-        <source>Songs</source>
-        <translation>Canciones</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>Columnas</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::StatusLine</name>
-    <message>
-        <source>Status</source>
-        <translation>Estado</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Descartar</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Listo.</translation>
-    </message>
-    <message>
-        <source>Show each song</source>
-        <translation>Mostrar cada canción</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowActions</name>
-    <message>
-        <source>Menus</source>
-        <translation>Menús</translation>
-    </message>
-    <message>
-        <source>&amp;Publish</source>
-        <translation>&amp;Publicar</translation>
-    </message>
-    <message>
-        <source>&amp;About xbrhost</source>
-        <translation>&amp;Acerca de xbrhost</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;yuda</translation>
-    </message>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>&amp;Añadir canciones…</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Añadir</translation>
-    </message>
-    <message>
-        <source>Add songs (%1)</source>
-        <translation>Añadir canciones (%1)</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Archivo</translation>
-    </message>
-    <message>
-        <source>&amp;Edit Cell</source>
-        <translation>&amp;Editar celda</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Quitar</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Quitar</translation>
-    </message>
-    <message>
-        <source>Remove the selected songs from the list; the files stay</source>
-        <translation>Quitar de la lista las canciones seleccionadas; los archivos se conservan</translation>
-    </message>
-    <message>
-        <source>Move &amp;Up</source>
-        <translation>S&amp;ubir</translation>
-    </message>
-    <message>
-        <source>Move &amp;Down</source>
-        <translation>&amp;Bajar</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>Seleccionar &amp;todo</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Editar</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ver</translation>
-    </message>
-    <message>
-        <source>&amp;Next Area</source>
-        <translation>Área &amp;siguiente</translation>
-    </message>
-    <message>
-        <source>&amp;Appearance</source>
-        <translation>&amp;Apariencia</translation>
-    </message>
-    <message>
-        <source>&amp;Reset Layout</source>
-        <translation>&amp;Restablecer disposición</translation>
-    </message>
-    <message>
-        <source>As the &amp;Desktop</source>
-        <translation>Como el &amp;escritorio</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Claro</translation>
-    </message>
-    <message>
-        <source>Da&amp;rk</source>
-        <translation>&amp;Oscuro</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
-    </message>
-    <message>
-        <source>Red&amp;o</source>
-        <translation>&amp;Rehacer</translation>
-    </message>
-    <message>
-        <source>&amp;Next Problem</source>
-        <translation>Problema &amp;siguiente</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Problem</source>
-        <translation>Problema &amp;anterior</translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Detener</translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>&amp;Reintentar</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowFront</name>
-    <message>
-        <source>%1, border %2.%3</source>
-        <translation>%1, interfaz %2.%3</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
-        <translation>No se puede recibir la respuesta del navegador al iniciar sesión: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Words</name>
+    <name>Words</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>El navegador volvió sin permiso. Permita allí el acceso o cancele aquí.</translation>
@@ -1566,6 +860,712 @@
     <message>
         <source>“%1” was published from this computer on %2.</source>
         <translation>«%1» se publicó desde este equipo el %2.</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::AboutDialog</name>
+    <message>
+        <source>About xbrhost</source>
+        <translation>Acerca de xbrhost</translation>
+    </message>
+    <message>
+        <source>Publishes finished songs through the modules of a workstation.</source>
+        <translation>Publica canciones terminadas mediante los módulos de una estación de audio.</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>Co&amp;piar</translation>
+    </message>
+    <message>
+        <source>Copy the versions</source>
+        <translation>Copiar las versiones</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DockTitle</name>
+    <message>
+        <source>Float or dock</source>
+        <translation>Separar o acoplar</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ocultar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::EmptyState</name>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>&amp;Añadir canciones…</translation>
+    </message>
+    <message>
+        <source>Drop your finished songs here</source>
+        <translation>Suelte aquí sus canciones terminadas</translation>
+    </message>
+    <message>
+        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
+        <translation>WAV, AIFF, FLAC, MP3 u Ogg, una a una o una carpeta entera</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::FileSelector</name>
+    <message>
+        <source>All usable files</source>
+        <translation>Todos los archivos utilizables</translation>
+    </message>
+    <message>
+        <source>Choose Files</source>
+        <translation>Elegir archivos</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::GadgetDock</name>
+    <message>
+        <source>The form of this panel cannot be shown.</source>
+        <translation>No se puede mostrar el formulario de este panel.</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>Contiene cambios de %n canción que no se han enviado.</numerusform>
+            <numerusform>Contiene cambios de %n canciones que no se han enviado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>Contiene los resultados del último envío.</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>¿Reemplazar las canciones del panel?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Conservar</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Las demás canciones se pueden pasar sin ellas.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>¿Omitir canciones?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Omitir</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n canción pasada al panel; aún no se ha enviado nada. Revisa allí los datos y súbela.</numerusform>
+            <numerusform>%n canciones pasadas al panel; aún no se ha enviado nada. Revisa allí los datos y súbelas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>A %1 de %n canción le faltan datos que el servicio necesita. «%2»: %3.</numerusform>
+            <numerusform>A %1 de %n canciones les faltan datos que el servicio necesita. «%2»: %3.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Header</name>
+    <message>
+        <source>Songs</source>
+        <translation>Canciones</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Ninguna todavía</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s)</source>
+        <translation>
+            <numerusform>%n canción</numerusform>
+            <numerusform>%n canciones</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>Llavero</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::MainWindow</name>
+    <message>
+        <source>Songs – xbrhost</source>
+        <translation>Canciones – xbrhost</translation>
+    </message>
+    <message>
+        <source>Add Songs</source>
+        <translation>Añadir canciones</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Some songs are still being read; try again in a moment.</source>
+        <translation>Algunas canciones aún se están leyendo; inténtelo de nuevo en un momento.</translation>
+    </message>
+    <message>
+        <source>Add songs first.</source>
+        <translation>Añada primero canciones.</translation>
+    </message>
+    <message>
+        <source>Wait until the upload that runs has ended.</source>
+        <translation>Espere a que termine la subida en curso.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Quit</source>
+        <translation>&amp;Detener y salir</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Uploading</source>
+        <translation>&amp;Seguir subiendo</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>Pasa las canciones seleccionadas, o todas, al panel; aún no se envía nada</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>%n canción del panel tiene cambios sin enviar; se perderían. La lista vuelve en el próximo inicio.</numerusform>
+            <numerusform>%n canciones del panel tienen cambios sin enviar; se perderían. La lista vuelve en el próximo inicio.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>¿Detener el envío?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>¿Salir sin publicar?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>&amp;Seguir editando</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>Número de pista</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n canción quitada del panel.</numerusform>
+            <numerusform>%n canciones quitadas del panel.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%1 ha cambiado en %n canción.</numerusform>
+            <numerusform>%1 ha cambiado en %n canciones.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%1 de %n canción está publicada; el resto no lo estaría.</numerusform>
+            <numerusform>%1 de %n canciones están publicadas; el resto no lo estaría.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>«%1» se está enviando.</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>Publicada el %1</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>Publicada el %1 como %2</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>¿Enviar sin estos datos?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>«%1»: %2. Es probable que el servicio la rechace. Aún no se ha enviado nada.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>Enviar de &amp;todos modos</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>¿Publicar de nuevo?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>Publicar de &amp;nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>&amp;Omitirlas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%1 de %n canción ya se publicó desde este equipo.</numerusform>
+            <numerusform>%1 de %n canciones ya se publicaron desde este equipo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>Página de la &amp;cuenta</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Omitir</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>&amp;Iniciar sesión</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>Terminar el envío; lo que ha llegado sigue publicado</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressSheet</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Working on</source>
+        <translation>Trabajando en</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Deteniendo…</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>«%1» está en camino y no se puede cambiar ahora.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n canción seleccionada: un cambio las afecta a todas.</numerusform>
+            <numerusform>%n canciones seleccionadas: un cambio las afecta a todas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n valor</numerusform>
+            <numerusform>≠ %n valores</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>igual</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n valor distinto: %1</numerusform>
+            <numerusform>%n valores distintos: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>Copiar la dirección</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>Enlace de vuelta</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>¿No ha pasado nada?</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Song</name>
+    <message>
+        <source>%1 bit</source>
+        <translation>%1 bits</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>Archivos de audio</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n canción añadida.</numerusform>
+            <numerusform>%n canciones añadidas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n canción añadida; %1 ya en la lista.</numerusform>
+            <numerusform>%n canciones añadidas; %1 ya en la lista.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n canción quitada de la lista; el archivo se queda.</numerusform>
+            <numerusform>%n canciones quitadas de la lista; los archivos se quedan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%1 de %n canción necesita una revisión antes de publicarse. %2</numerusform>
+            <numerusform>%1 de %n canciones necesitan una revisión antes de publicarse. %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>%n canción de la última vez.</numerusform>
+            <numerusform>%n canciones de la última vez.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>%n canción de la última vez; %1 ya no está.</numerusform>
+            <numerusform>%n canciones de la última vez; %1 ya no está.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n archivo</numerusform>
+            <numerusform>%n archivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>Empezar &amp;vacío</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongListModel</name>
+    <message>
+        <source>Reading…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Artista del álbum</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Género</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Número de pista</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marca</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongView</name>
+    <message>
+        <source>Songs</source>
+        <translation>Canciones</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::StatusLine</name>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Listo.</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>Mostrar cada canción</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowActions</name>
+    <message>
+        <source>Menus</source>
+        <translation>Menús</translation>
+    </message>
+    <message>
+        <source>&amp;Publish</source>
+        <translation>&amp;Publicar</translation>
+    </message>
+    <message>
+        <source>&amp;About xbrhost</source>
+        <translation>&amp;Acerca de xbrhost</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>&amp;Añadir canciones…</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Add songs (%1)</source>
+        <translation>Añadir canciones (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>&amp;Editar celda</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Remove the selected songs from the list; the files stay</source>
+        <translation>Quitar de la lista las canciones seleccionadas; los archivos se conservan</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>S&amp;ubir</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Seleccionar &amp;todo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Next Area</source>
+        <translation>Área &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>&amp;Apariencia</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>&amp;Restablecer disposición</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Como el &amp;escritorio</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Claro</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>&amp;Oscuro</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>Problema &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>Problema &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowFront</name>
+    <message>
+        <source>%1, border %2.%3</source>
+        <translation>%1, interfaz %2.%3</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>No se puede recibir la respuesta del navegador al iniciar sesión: %1.</translation>
     </message>
 </context>
 </TS>

@@ -2,30 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>xbr::host::AboutDialog</name>
-    <message>
-        <source>About xbrhost</source>
-        <translation>À propos de xbrhost</translation>
-    </message>
-    <message>
-        <source>Publishes finished songs through the modules of a workstation.</source>
-        <translation>Publie des morceaux finis grâce aux modules d’une station audio.</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
-    </message>
-    <message>
-        <source>Co&amp;py</source>
-        <translation>Co&amp;pier</translation>
-    </message>
-    <message>
-        <source>Copy the versions</source>
-        <translation>Copier les versions</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::CommandLine</name>
+    <name>CommandLine</name>
     <message>
         <source>The link is too long, or not one line.</source>
         <translation>Le lien est trop long, ou n&apos;est pas d&apos;une seule ligne.</translation>
@@ -140,213 +117,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::DesktopNotification</name>
-    <message>
-        <source>Show</source>
-        <translation>Montrer</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::DockTitle</name>
-    <message>
-        <source>Float or dock</source>
-        <translation>Détacher ou ancrer</translation>
-    </message>
-    <message>
-        <source>Hide</source>
-        <translation>Masquer</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::EmptyState</name>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>&amp;Ajouter des morceaux…</translation>
-    </message>
-    <message>
-        <source>Drop your finished songs here</source>
-        <translation>Déposez ici vos morceaux finis</translation>
-    </message>
-    <message>
-        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
-        <translation>WAV, AIFF, FLAC, MP3 ou Ogg, un par un ou tout un dossier</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::FileSelector</name>
-    <message>
-        <source>All usable files</source>
-        <translation>Tous les fichiers utilisables</translation>
-    </message>
-    <message>
-        <source>Choose Files</source>
-        <translation>Choisir des fichiers</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::GadgetDock</name>
-    <message>
-        <source>The form of this panel cannot be shown.</source>
-        <translation>Le formulaire de ce panneau ne peut pas être affiché.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::HandOver</name>
-    <message numerus="yes">
-        <source>It holds edits of %n song(s) that have not been sent.</source>
-        <translation>
-            <numerusform>Il contient des modifications de %n morceau qui n&apos;ont pas été envoyées.</numerusform>
-            <numerusform>Il contient des modifications de %n morceaux qui n&apos;ont pas été envoyées.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>It holds the results of the last upload.</source>
-        <translation>Il contient les résultats du dernier envoi.</translation>
-    </message>
-    <message>
-        <source>Replace the songs in the panel?</source>
-        <translation>Remplacer les morceaux du panneau ?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>&amp;Garder</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Remplacer</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>Les autres morceaux peuvent être transmis sans eux.</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>Laisser des morceaux de côté ?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>&amp;Laisser de côté</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>
-            <numerusform>%n morceau transmis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les détails, puis envoyez.</numerusform>
-            <numerusform>%n morceaux transmis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les détails, puis envoyez.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Montrer</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
-        <translation>
-            <numerusform>Il manque à %1 morceau sur %n des détails dont le service a besoin. « %2 » : %3.</numerusform>
-            <numerusform>Il manque à %1 morceaux sur %n des détails dont le service a besoin. « %2 » : %3.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Header</name>
-    <message>
-        <source>Songs</source>
-        <translation>Morceaux</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>Aucun pour l’instant</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s)</source>
-        <translation>
-            <numerusform>%n morceau</numerusform>
-            <numerusform>%n morceaux</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::KeyringSheet</name>
-    <message>
-        <source>Keyring</source>
-        <translation>Trousseau</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::MainWindow</name>
-    <message>
-        <source>Songs – xbrhost</source>
-        <translation>Morceaux – xbrhost</translation>
-    </message>
-    <message>
-        <source>Add Songs</source>
-        <translation>Ajouter des morceaux</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>Some songs are still being read; try again in a moment.</source>
-        <translation>Certains morceaux sont encore en cours de lecture ; réessayez dans un instant.</translation>
-    </message>
-    <message>
-        <source>Add songs first.</source>
-        <translation>Ajoutez d’abord des morceaux.</translation>
-    </message>
-    <message>
-        <source>Wait until the upload that runs has ended.</source>
-        <translation>Attendez la fin de l’envoi en cours.</translation>
-    </message>
-    <message>
-        <source>&amp;Stop and Quit</source>
-        <translation>&amp;Arrêter et quitter</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Uploading</source>
-        <translation>&amp;Continuer l’envoi</translation>
-    </message>
-    <message>
-        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
-        <translation>Transmet les morceaux sélectionnés, ou tous, au panneau ; rien n&apos;est encore envoyé</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
-        <translation>
-            <numerusform>%n morceau du panneau a des modifications non envoyées ; elles seraient perdues. La liste revient au prochain démarrage.</numerusform>
-            <numerusform>%n morceaux du panneau ont des modifications non envoyées ; elles seraient perdues. La liste revient au prochain démarrage.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Stop the upload?</source>
-        <translation>Arrêter l&apos;envoi ?</translation>
-    </message>
-    <message>
-        <source>Quit without publishing?</source>
-        <translation>Quitter sans publier ?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Editing</source>
-        <translation>&amp;Continuer à modifier</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Output</name>
+    <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
         <translation>Le navigateur est revenu sans permission. Autorisez l&apos;accès là-bas, ou terminez avec Ctrl-C.</translation>
@@ -457,484 +228,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::PanelMemory</name>
-    <message>
-        <source>Track number</source>
-        <translation>Numéro de piste</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the panel.</source>
-        <translation>
-            <numerusform>%n morceau retiré du panneau.</numerusform>
-            <numerusform>%n morceaux retirés du panneau.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 changed in %n song(s).</source>
-        <translation>
-            <numerusform>%1 modifié dans %n morceau.</numerusform>
-            <numerusform>%1 modifié dans %n morceaux.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::PanelNotices</name>
-    <message numerus="yes">
-        <source>%1 of %n song(s) are published; the rest would not be.</source>
-        <translation>
-            <numerusform>%1 morceau sur %n est publié ; le reste ne le serait pas.</numerusform>
-            <numerusform>%1 morceaux sur %n sont publiés ; le reste ne le serait pas.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>“%1” is being sent.</source>
-        <translation>« %1 » est en cours d&apos;envoi.</translation>
-    </message>
-    <message>
-        <source>Published %1</source>
-        <translation>Publié le %1</translation>
-    </message>
-    <message>
-        <source>Published %1 as %2</source>
-        <translation>Publié le %1 en tant que %2</translation>
-    </message>
-    <message>
-        <source>Send without these details?</source>
-        <translation>Envoyer sans ces détails ?</translation>
-    </message>
-    <message>
-        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
-        <translation>« %1 » : %2. Le service le refusera probablement. Rien n&apos;est encore envoyé.</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Montrer</translation>
-    </message>
-    <message>
-        <source>Send &amp;Anyway</source>
-        <translation>Envoyer &amp;quand même</translation>
-    </message>
-    <message>
-        <source>Publish again?</source>
-        <translation>Publier à nouveau ?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Publish &amp;Again</source>
-        <translation>Publier à &amp;nouveau</translation>
-    </message>
-    <message>
-        <source>&amp;Leave them out</source>
-        <translation>&amp;Les laisser de côté</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) were published from this computer before.</source>
-        <translation>
-            <numerusform>%1 morceau sur %n a déjà été publié depuis cet ordinateur.</numerusform>
-            <numerusform>%1 morceaux sur %n ont déjà été publiés depuis cet ordinateur.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>&amp;Réessayer</translation>
-    </message>
-    <message>
-        <source>A&amp;ccount page</source>
-        <translation>Page du &amp;compte</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>&amp;Laisser de côté</translation>
-    </message>
-    <message>
-        <source>Sign &amp;in</source>
-        <translation>&amp;Se connecter</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressRow</name>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Arrêter</translation>
-    </message>
-    <message>
-        <source>End the upload; what has arrived stays published</source>
-        <translation>Mettre fin à l&apos;envoi ; ce qui est arrivé reste publié</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progression</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressSheet</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Working on</source>
-        <translation>En cours</translation>
-    </message>
-    <message>
-        <source>Stopping…</source>
-        <translation>Arrêt en cours…</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Selection</name>
-    <message>
-        <source>“%1” is on its way and cannot be changed now.</source>
-        <translation>« %1 » est en route et ne peut pas être modifié maintenant.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) selected: an edit changes all of them.</source>
-        <translation>
-            <numerusform>%n morceau sélectionné : une modification les change tous.</numerusform>
-            <numerusform>%n morceaux sélectionnés : une modification les change tous.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>≠ %n value(s)</source>
-        <translation>
-            <numerusform>≠ %n valeur</numerusform>
-            <numerusform>≠ %n valeurs</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>same</source>
-        <translation>identique</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different value(s): %1</source>
-        <translation>
-            <numerusform>%n valeur différente : %1</numerusform>
-            <numerusform>%n valeurs différentes : %1</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SignInStrip</name>
-    <message>
-        <source>Copy the address</source>
-        <translation>Copier l&apos;adresse</translation>
-    </message>
-    <message>
-        <source>Link back</source>
-        <translation>Lien de retour</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>Continuer</translation>
-    </message>
-    <message>
-        <source>Nothing happened?</source>
-        <translation>Rien ne s&apos;est passé ?</translation>
-    </message>
-    <message>
-        <source>Copied</source>
-        <translation>Copié</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Song</name>
-    <message>
-        <source>%1 bit</source>
-        <translation>%1 bits</translation>
-    </message>
-    <message>
-        <source>%1 kbit/s</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>%1 kHz</source>
-        <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>Audio files</source>
-        <translation>Fichiers audio</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongCommands</name>
-    <message numerus="yes">
-        <source>%n song(s) added.</source>
-        <translation>
-            <numerusform>%n morceau ajouté.</numerusform>
-            <numerusform>%n morceaux ajoutés.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) added; %1 were in the list already.</source>
-        <translation>
-            <numerusform>%n morceau ajouté ; %1 déjà dans la liste.</numerusform>
-            <numerusform>%n morceaux ajoutés ; %1 déjà dans la liste.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the list; the files stay.</source>
-        <translation>
-            <numerusform>%n morceau retiré de la liste ; le fichier reste.</numerusform>
-            <numerusform>%n morceaux retirés de la liste ; les fichiers restent.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Montrer</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) need a look before they can be published. %2</source>
-        <translation>
-            <numerusform>%1 morceau sur %n demande un coup d&apos;œil avant d&apos;être publié. %2</numerusform>
-            <numerusform>%1 morceaux sur %n demandent un coup d&apos;œil avant d&apos;être publiés. %2</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time.</source>
-        <translation>
-            <numerusform>%n morceau de la dernière fois.</numerusform>
-            <numerusform>%n morceaux de la dernière fois.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time; %1 no longer there.</source>
-        <translation>
-            <numerusform>%n morceau de la dernière fois ; %1 introuvable.</numerusform>
-            <numerusform>%n morceaux de la dernière fois ; %1 introuvable.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n file(s)</source>
-        <translation>
-            <numerusform>%n fichier</numerusform>
-            <numerusform>%n fichiers</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Start &amp;Empty</source>
-        <translation>Commencer à &amp;vide</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongListModel</name>
-    <message>
-        <source>Reading…</source>
-        <translation>Lecture…</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>N°</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Titre</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Artiste</translation>
-    </message>
-    <message>
-        <source>Album</source>
-        <translation>Album</translation>
-    </message>
-    <message>
-        <source>Album artist</source>
-        <translation>Artiste de l’album</translation>
-    </message>
-    <message>
-        <source>Genre</source>
-        <translation>Genre</translation>
-    </message>
-    <message>
-        <source>Length</source>
-        <translation>Durée</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>Format</translation>
-    </message>
-    <message>
-        <source>Track number</source>
-        <translation>Numéro de piste</translation>
-    </message>
-    <message>
-        <source>Mark</source>
-        <translation>Marque</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongView</name>
-    <message>
-        <source>Songs</source>
-        <translation>Morceaux</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>Colonnes</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::StatusLine</name>
-    <message>
-        <source>Status</source>
-        <translation>État</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Fermer le message</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Prêt.</translation>
-    </message>
-    <message>
-        <source>Show each song</source>
-        <translation>Montrer chaque morceau</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowActions</name>
-    <message>
-        <source>Menus</source>
-        <translation>Menus</translation>
-    </message>
-    <message>
-        <source>&amp;Publish</source>
-        <translation>&amp;Publier</translation>
-    </message>
-    <message>
-        <source>&amp;About xbrhost</source>
-        <translation>À &amp;propos de xbrhost</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>Aid&amp;e</translation>
-    </message>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>&amp;Ajouter des morceaux…</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Ajouter</translation>
-    </message>
-    <message>
-        <source>Add songs (%1)</source>
-        <translation>Ajouter des morceaux (%1)</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
-    </message>
-    <message>
-        <source>&amp;Edit Cell</source>
-        <translation>&amp;Modifier la cellule</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Retirer</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Retirer</translation>
-    </message>
-    <message>
-        <source>Remove the selected songs from the list; the files stay</source>
-        <translation>Retirer les morceaux choisis de la liste ; les fichiers restent</translation>
-    </message>
-    <message>
-        <source>Move &amp;Up</source>
-        <translation>&amp;Monter</translation>
-    </message>
-    <message>
-        <source>Move &amp;Down</source>
-        <translation>&amp;Descendre</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>&amp;Tout sélectionner</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>É&amp;dition</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Affichage</translation>
-    </message>
-    <message>
-        <source>&amp;Next Area</source>
-        <translation>Zone &amp;suivante</translation>
-    </message>
-    <message>
-        <source>&amp;Appearance</source>
-        <translation>&amp;Apparence</translation>
-    </message>
-    <message>
-        <source>&amp;Reset Layout</source>
-        <translation>&amp;Réinitialiser la disposition</translation>
-    </message>
-    <message>
-        <source>As the &amp;Desktop</source>
-        <translation>Comme le &amp;bureau</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Clair</translation>
-    </message>
-    <message>
-        <source>Da&amp;rk</source>
-        <translation>&amp;Sombre</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Red&amp;o</source>
-        <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
-        <source>&amp;Next Problem</source>
-        <translation>Problème &amp;suivant</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Problem</source>
-        <translation>Problème &amp;précédent</translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Arrêter</translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>&amp;Réessayer</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowFront</name>
-    <message>
-        <source>%1, border %2.%3</source>
-        <translation>%1, interface %2.%3</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
-        <translation>La réponse du navigateur à une connexion ne peut pas être reçue : %1.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Words</name>
+    <name>Words</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>Le navigateur est revenu sans autorisation. Autorisez l’accès là-bas ou annulez ici.</translation>
@@ -1566,6 +860,712 @@
     <message>
         <source>“%1” was published from this computer on %2.</source>
         <translation>« %1 » a été publié depuis cet ordinateur le %2.</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::AboutDialog</name>
+    <message>
+        <source>About xbrhost</source>
+        <translation>À propos de xbrhost</translation>
+    </message>
+    <message>
+        <source>Publishes finished songs through the modules of a workstation.</source>
+        <translation>Publie des morceaux finis grâce aux modules d’une station audio.</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>Co&amp;pier</translation>
+    </message>
+    <message>
+        <source>Copy the versions</source>
+        <translation>Copier les versions</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>Montrer</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DockTitle</name>
+    <message>
+        <source>Float or dock</source>
+        <translation>Détacher ou ancrer</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Masquer</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::EmptyState</name>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>&amp;Ajouter des morceaux…</translation>
+    </message>
+    <message>
+        <source>Drop your finished songs here</source>
+        <translation>Déposez ici vos morceaux finis</translation>
+    </message>
+    <message>
+        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
+        <translation>WAV, AIFF, FLAC, MP3 ou Ogg, un par un ou tout un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::FileSelector</name>
+    <message>
+        <source>All usable files</source>
+        <translation>Tous les fichiers utilisables</translation>
+    </message>
+    <message>
+        <source>Choose Files</source>
+        <translation>Choisir des fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::GadgetDock</name>
+    <message>
+        <source>The form of this panel cannot be shown.</source>
+        <translation>Le formulaire de ce panneau ne peut pas être affiché.</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>Il contient des modifications de %n morceau qui n&apos;ont pas été envoyées.</numerusform>
+            <numerusform>Il contient des modifications de %n morceaux qui n&apos;ont pas été envoyées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>Il contient les résultats du dernier envoi.</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>Remplacer les morceaux du panneau ?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Garder</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>Les autres morceaux peuvent être transmis sans eux.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Laisser des morceaux de côté ?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Laisser de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n morceau transmis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les détails, puis envoyez.</numerusform>
+            <numerusform>%n morceaux transmis au panneau ; rien n&apos;est encore envoyé. Vérifiez-y les détails, puis envoyez.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Montrer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>Il manque à %1 morceau sur %n des détails dont le service a besoin. « %2 » : %3.</numerusform>
+            <numerusform>Il manque à %1 morceaux sur %n des détails dont le service a besoin. « %2 » : %3.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Header</name>
+    <message>
+        <source>Songs</source>
+        <translation>Morceaux</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Aucun pour l’instant</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s)</source>
+        <translation>
+            <numerusform>%n morceau</numerusform>
+            <numerusform>%n morceaux</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>Trousseau</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::MainWindow</name>
+    <message>
+        <source>Songs – xbrhost</source>
+        <translation>Morceaux – xbrhost</translation>
+    </message>
+    <message>
+        <source>Add Songs</source>
+        <translation>Ajouter des morceaux</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Some songs are still being read; try again in a moment.</source>
+        <translation>Certains morceaux sont encore en cours de lecture ; réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>Add songs first.</source>
+        <translation>Ajoutez d’abord des morceaux.</translation>
+    </message>
+    <message>
+        <source>Wait until the upload that runs has ended.</source>
+        <translation>Attendez la fin de l’envoi en cours.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Quit</source>
+        <translation>&amp;Arrêter et quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Uploading</source>
+        <translation>&amp;Continuer l’envoi</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>Transmet les morceaux sélectionnés, ou tous, au panneau ; rien n&apos;est encore envoyé</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>%n morceau du panneau a des modifications non envoyées ; elles seraient perdues. La liste revient au prochain démarrage.</numerusform>
+            <numerusform>%n morceaux du panneau ont des modifications non envoyées ; elles seraient perdues. La liste revient au prochain démarrage.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>Arrêter l&apos;envoi ?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>Quitter sans publier ?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>&amp;Continuer à modifier</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>Numéro de piste</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n morceau retiré du panneau.</numerusform>
+            <numerusform>%n morceaux retirés du panneau.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%1 modifié dans %n morceau.</numerusform>
+            <numerusform>%1 modifié dans %n morceaux.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%1 morceau sur %n est publié ; le reste ne le serait pas.</numerusform>
+            <numerusform>%1 morceaux sur %n sont publiés ; le reste ne le serait pas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>« %1 » est en cours d&apos;envoi.</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>Publié le %1</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>Publié le %1 en tant que %2</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>Envoyer sans ces détails ?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>« %1 » : %2. Le service le refusera probablement. Rien n&apos;est encore envoyé.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Montrer</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>Envoyer &amp;quand même</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>Publier à nouveau ?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>Publier à &amp;nouveau</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>&amp;Les laisser de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%1 morceau sur %n a déjà été publié depuis cet ordinateur.</numerusform>
+            <numerusform>%1 morceaux sur %n ont déjà été publiés depuis cet ordinateur.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>Page du &amp;compte</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Laisser de côté</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>&amp;Se connecter</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>Mettre fin à l&apos;envoi ; ce qui est arrivé reste publié</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressSheet</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Working on</source>
+        <translation>En cours</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Arrêt en cours…</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>« %1 » est en route et ne peut pas être modifié maintenant.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n morceau sélectionné : une modification les change tous.</numerusform>
+            <numerusform>%n morceaux sélectionnés : une modification les change tous.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n valeur</numerusform>
+            <numerusform>≠ %n valeurs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>identique</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n valeur différente : %1</numerusform>
+            <numerusform>%n valeurs différentes : %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>Copier l&apos;adresse</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>Lien de retour</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>Rien ne s&apos;est passé ?</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Song</name>
+    <message>
+        <source>%1 bit</source>
+        <translation>%1 bits</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>Fichiers audio</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n morceau ajouté.</numerusform>
+            <numerusform>%n morceaux ajoutés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n morceau ajouté ; %1 déjà dans la liste.</numerusform>
+            <numerusform>%n morceaux ajoutés ; %1 déjà dans la liste.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n morceau retiré de la liste ; le fichier reste.</numerusform>
+            <numerusform>%n morceaux retirés de la liste ; les fichiers restent.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Montrer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%1 morceau sur %n demande un coup d&apos;œil avant d&apos;être publié. %2</numerusform>
+            <numerusform>%1 morceaux sur %n demandent un coup d&apos;œil avant d&apos;être publiés. %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>%n morceau de la dernière fois.</numerusform>
+            <numerusform>%n morceaux de la dernière fois.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>%n morceau de la dernière fois ; %1 introuvable.</numerusform>
+            <numerusform>%n morceaux de la dernière fois ; %1 introuvable.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>Commencer à &amp;vide</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongListModel</name>
+    <message>
+        <source>Reading…</source>
+        <translation>Lecture…</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artiste</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Artiste de l’album</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Numéro de piste</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marque</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongView</name>
+    <message>
+        <source>Songs</source>
+        <translation>Morceaux</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::StatusLine</name>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer le message</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Prêt.</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>Montrer chaque morceau</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowActions</name>
+    <message>
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message>
+        <source>&amp;Publish</source>
+        <translation>&amp;Publier</translation>
+    </message>
+    <message>
+        <source>&amp;About xbrhost</source>
+        <translation>À &amp;propos de xbrhost</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>&amp;Ajouter des morceaux…</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Add songs (%1)</source>
+        <translation>Ajouter des morceaux (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>&amp;Modifier la cellule</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Remove the selected songs from the list; the files stay</source>
+        <translation>Retirer les morceaux choisis de la liste ; les fichiers restent</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Next Area</source>
+        <translation>Zone &amp;suivante</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>&amp;Apparence</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>&amp;Réinitialiser la disposition</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Comme le &amp;bureau</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>Problème &amp;suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>Problème &amp;précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowFront</name>
+    <message>
+        <source>%1, border %2.%3</source>
+        <translation>%1, interface %2.%3</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>La réponse du navigateur à une connexion ne peut pas être reçue : %1.</translation>
     </message>
 </context>
 </TS>

@@ -2,30 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name>xbr::host::AboutDialog</name>
-    <message>
-        <source>About xbrhost</source>
-        <translation>xbrhost について</translation>
-    </message>
-    <message>
-        <source>Publishes finished songs through the modules of a workstation.</source>
-        <translation>ワークステーションのモジュールを通じて、完成した曲を公開します。</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Co&amp;py</source>
-        <translation>コピー(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Copy the versions</source>
-        <translation>バージョン情報をコピー</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::CommandLine</name>
+    <name>CommandLine</name>
     <message>
         <source>The link is too long, or not one line.</source>
         <translation>リンクが長すぎるか、1 行ではありません。</translation>
@@ -140,208 +117,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::DesktopNotification</name>
-    <message>
-        <source>Show</source>
-        <translation>表示</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::DockTitle</name>
-    <message>
-        <source>Float or dock</source>
-        <translation>切り離し／ドッキング</translation>
-    </message>
-    <message>
-        <source>Hide</source>
-        <translation>隠す</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::EmptyState</name>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>曲を追加(&amp;A)…</translation>
-    </message>
-    <message>
-        <source>Drop your finished songs here</source>
-        <translation>完成した曲をここにドロップ</translation>
-    </message>
-    <message>
-        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
-        <translation>WAV、AIFF、FLAC、MP3、Ogg。1曲ずつでも、フォルダーごとでも</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::FileSelector</name>
-    <message>
-        <source>All usable files</source>
-        <translation>使用できるすべてのファイル</translation>
-    </message>
-    <message>
-        <source>Choose Files</source>
-        <translation>ファイルを選択</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::GadgetDock</name>
-    <message>
-        <source>The form of this panel cannot be shown.</source>
-        <translation>このパネルのフォームを表示できません。</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::HandOver</name>
-    <message numerus="yes">
-        <source>It holds edits of %n song(s) that have not been sent.</source>
-        <translation>
-            <numerusform>%n 曲の未送信の変更があります。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>It holds the results of the last upload.</source>
-        <translation>前回の送信結果があります。</translation>
-    </message>
-    <message>
-        <source>Replace the songs in the panel?</source>
-        <translation>パネルの曲を置き換えますか?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>そのままにする(&amp;K)</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>置き換える(&amp;R)</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>ほかの曲はそれらなしで渡せます。</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>曲を除きますか?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>キャンセル(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>除く(&amp;L)</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>
-            <numerusform>%n 曲をパネルに渡しました。まだ何も送信されていません。情報を確認してからアップロードしてください。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>表示(&amp;S)</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
-        <translation>
-            <numerusform>%n 曲中 %1 曲に、サービスに必要な情報が足りません。「%2」: %3。</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Header</name>
-    <message>
-        <source>Songs</source>
-        <translation>曲</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>まだありません</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s)</source>
-        <translation>
-            <numerusform>%n曲</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::KeyringSheet</name>
-    <message>
-        <source>Keyring</source>
-        <translation>キーリング</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>キャンセル(&amp;C)</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::MainWindow</name>
-    <message>
-        <source>Songs – xbrhost</source>
-        <translation>曲 – xbrhost</translation>
-    </message>
-    <message>
-        <source>Add Songs</source>
-        <translation>曲を追加</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>Some songs are still being read; try again in a moment.</source>
-        <translation>まだ読み込み中の曲があります。少し待ってからもう一度お試しください。</translation>
-    </message>
-    <message>
-        <source>Add songs first.</source>
-        <translation>先に曲を追加してください。</translation>
-    </message>
-    <message>
-        <source>Wait until the upload that runs has ended.</source>
-        <translation>実行中のアップロードが終わるまでお待ちください。</translation>
-    </message>
-    <message>
-        <source>&amp;Stop and Quit</source>
-        <translation>中止して終了(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Uploading</source>
-        <translation>アップロードを続ける(&amp;K)</translation>
-    </message>
-    <message>
-        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
-        <translation>選択した曲、またはすべての曲をパネルに渡します。まだ何も送信されません</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
-        <translation>
-            <numerusform>パネルの %n 曲に未送信の変更があり、失われます。一覧は次回の起動時に戻ります。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Stop the upload?</source>
-        <translation>送信を停止しますか?</translation>
-    </message>
-    <message>
-        <source>Quit without publishing?</source>
-        <translation>公開せずに終了しますか?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Editing</source>
-        <translation>編集を続ける(&amp;K)</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>終了(&amp;Q)</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Output</name>
+    <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
         <translation>ブラウザーは許可なしで戻りました。そこでアクセスを許可するか、Ctrl-C で終了してください。</translation>
@@ -452,470 +228,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::PanelMemory</name>
-    <message>
-        <source>Track number</source>
-        <translation>トラック番号</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the panel.</source>
-        <translation>
-            <numerusform>%n 曲をパネルから取り除きました。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 changed in %n song(s).</source>
-        <translation>
-            <numerusform>%n 曲の「%1」を変更しました。</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::PanelNotices</name>
-    <message numerus="yes">
-        <source>%1 of %n song(s) are published; the rest would not be.</source>
-        <translation>
-            <numerusform>%n 曲中 %1 曲が公開済みです。残りは公開されません。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>“%1” is being sent.</source>
-        <translation>「%1」を送信中です。</translation>
-    </message>
-    <message>
-        <source>Published %1</source>
-        <translation>%1 に公開</translation>
-    </message>
-    <message>
-        <source>Published %1 as %2</source>
-        <translation>%1 に %2 として公開</translation>
-    </message>
-    <message>
-        <source>Send without these details?</source>
-        <translation>この情報なしで送信しますか?</translation>
-    </message>
-    <message>
-        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
-        <translation>「%1」: %2。サービスに拒否される可能性があります。まだ何も送信されていません。</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>表示(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Send &amp;Anyway</source>
-        <translation>それでも送信(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Publish again?</source>
-        <translation>もう一度公開しますか?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>キャンセル(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Publish &amp;Again</source>
-        <translation>もう一度公開(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Leave them out</source>
-        <translation>除く(&amp;L)</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) were published from this computer before.</source>
-        <translation>
-            <numerusform>%n 曲中 %1 曲は、このコンピューターからすでに公開されています。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>再試行(&amp;T)</translation>
-    </message>
-    <message>
-        <source>A&amp;ccount page</source>
-        <translation>アカウントページ(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>除く(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Sign &amp;in</source>
-        <translation>サインイン(&amp;I)</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressRow</name>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>停止(&amp;S)</translation>
-    </message>
-    <message>
-        <source>End the upload; what has arrived stays published</source>
-        <translation>送信を終了します。届いたものは公開されたままです</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>進行状況</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressSheet</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>キャンセル(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Working on</source>
-        <translation>処理中</translation>
-    </message>
-    <message>
-        <source>Stopping…</source>
-        <translation>中止しています…</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Selection</name>
-    <message>
-        <source>“%1” is on its way and cannot be changed now.</source>
-        <translation>「%1」は送信中のため、今は変更できません。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) selected: an edit changes all of them.</source>
-        <translation>
-            <numerusform>%n 曲を選択中: 変更はすべてに適用されます。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>≠ %n value(s)</source>
-        <translation>
-            <numerusform>≠ %n 個の値</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>same</source>
-        <translation>同じ</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different value(s): %1</source>
-        <translation>
-            <numerusform>%n 種類の値: %1</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SignInStrip</name>
-    <message>
-        <source>Copy the address</source>
-        <translation>アドレスをコピー</translation>
-    </message>
-    <message>
-        <source>Link back</source>
-        <translation>戻りリンク</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>続行</translation>
-    </message>
-    <message>
-        <source>Nothing happened?</source>
-        <translation>何も起きませんか？</translation>
-    </message>
-    <message>
-        <source>Copied</source>
-        <translation>コピーしました</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Song</name>
-    <message>
-        <source>%1 bit</source>
-        <translation>%1 ビット</translation>
-    </message>
-    <message>
-        <source>%1 kbit/s</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>%1 kHz</source>
-        <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>Audio files</source>
-        <translation>音声ファイル</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongCommands</name>
-    <message numerus="yes">
-        <source>%n song(s) added.</source>
-        <translation>
-            <numerusform>%n 曲を追加しました。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) added; %1 were in the list already.</source>
-        <translation>
-            <numerusform>%n 曲を追加しました。%1 曲はすでに一覧にあります。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the list; the files stay.</source>
-        <translation>
-            <numerusform>%n 曲を一覧から取り除きました。ファイルは残ります。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>表示(&amp;S)</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) need a look before they can be published. %2</source>
-        <translation>
-            <numerusform>%n 曲中 %1 曲は公開前に確認が必要です。%2</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time.</source>
-        <translation>
-            <numerusform>前回の %n 曲です。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time; %1 no longer there.</source>
-        <translation>
-            <numerusform>前回の %n 曲です。%1は見つかりません。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n file(s)</source>
-        <translation>
-            <numerusform>%n 個のファイル</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Start &amp;Empty</source>
-        <translation>空で始める(&amp;E)</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongListModel</name>
-    <message>
-        <source>Reading…</source>
-        <translation>読み込み中…</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>番号</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>タイトル</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>アーティスト</translation>
-    </message>
-    <message>
-        <source>Album</source>
-        <translation>アルバム</translation>
-    </message>
-    <message>
-        <source>Album artist</source>
-        <translation>アルバムアーティスト</translation>
-    </message>
-    <message>
-        <source>Genre</source>
-        <translation>ジャンル</translation>
-    </message>
-    <message>
-        <source>Length</source>
-        <translation>長さ</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>形式</translation>
-    </message>
-    <message>
-        <source>Track number</source>
-        <translation>トラック番号</translation>
-    </message>
-    <message>
-        <source>Mark</source>
-        <translation>印</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongView</name>
-    <message>
-        <source>Songs</source>
-        <translation>曲</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>列</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::StatusLine</name>
-    <message>
-        <source>Status</source>
-        <translation>状態</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>準備完了</translation>
-    </message>
-    <message>
-        <source>Show each song</source>
-        <translation>曲ごとに表示</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowActions</name>
-    <message>
-        <source>Menus</source>
-        <translation>メニュー</translation>
-    </message>
-    <message>
-        <source>&amp;Publish</source>
-        <translation>公開(&amp;P)</translation>
-    </message>
-    <message>
-        <source>&amp;About xbrhost</source>
-        <translation>xbrhost について(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>ヘルプ(&amp;H)</translation>
-    </message>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>曲を追加(&amp;A)…</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>追加</translation>
-    </message>
-    <message>
-        <source>Add songs (%1)</source>
-        <translation>曲を追加 (%1)</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>終了(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>ファイル(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Edit Cell</source>
-        <translation>セルを編集(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>取り除く(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>取り除く</translation>
-    </message>
-    <message>
-        <source>Remove the selected songs from the list; the files stay</source>
-        <translation>選択した曲をリストから取り除きます。ファイルは残ります</translation>
-    </message>
-    <message>
-        <source>Move &amp;Up</source>
-        <translation>上へ(&amp;U)</translation>
-    </message>
-    <message>
-        <source>Move &amp;Down</source>
-        <translation>下へ(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>すべて選択(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>編集(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>表示(&amp;V)</translation>
-    </message>
-    <message>
-        <source>&amp;Next Area</source>
-        <translation>次の領域(&amp;N)</translation>
-    </message>
-    <message>
-        <source>&amp;Appearance</source>
-        <translation>外観(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Reset Layout</source>
-        <translation>レイアウトをリセット(&amp;R)</translation>
-    </message>
-    <message>
-        <source>As the &amp;Desktop</source>
-        <translation>デスクトップに合わせる(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>ライト(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Da&amp;rk</source>
-        <translation>ダーク(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
-    </message>
-    <message>
-        <source>Red&amp;o</source>
-        <translation>やり直す(&amp;O)</translation>
-    </message>
-    <message>
-        <source>&amp;Next Problem</source>
-        <translation>次の問題(&amp;N)</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Problem</source>
-        <translation>前の問題(&amp;P)</translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>停止(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>再試行(&amp;T)</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowFront</name>
-    <message>
-        <source>%1, border %2.%3</source>
-        <translation>%1、インターフェース %2.%3</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
-        <translation>サインインに対するブラウザーの応答を受け取れません: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Words</name>
+    <name>Words</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>ブラウザーから許可なしで戻りました。ブラウザーでアクセスを許可するか、ここでキャンセルしてください。</translation>
@@ -1547,6 +860,693 @@
     <message>
         <source>“%1” was published from this computer on %2.</source>
         <translation>「%1」は %2 にこのコンピューターから公開されました。</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::AboutDialog</name>
+    <message>
+        <source>About xbrhost</source>
+        <translation>xbrhost について</translation>
+    </message>
+    <message>
+        <source>Publishes finished songs through the modules of a workstation.</source>
+        <translation>ワークステーションのモジュールを通じて、完成した曲を公開します。</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>コピー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Copy the versions</source>
+        <translation>バージョン情報をコピー</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DockTitle</name>
+    <message>
+        <source>Float or dock</source>
+        <translation>切り離し／ドッキング</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>隠す</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::EmptyState</name>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>曲を追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Drop your finished songs here</source>
+        <translation>完成した曲をここにドロップ</translation>
+    </message>
+    <message>
+        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
+        <translation>WAV、AIFF、FLAC、MP3、Ogg。1曲ずつでも、フォルダーごとでも</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::FileSelector</name>
+    <message>
+        <source>All usable files</source>
+        <translation>使用できるすべてのファイル</translation>
+    </message>
+    <message>
+        <source>Choose Files</source>
+        <translation>ファイルを選択</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::GadgetDock</name>
+    <message>
+        <source>The form of this panel cannot be shown.</source>
+        <translation>このパネルのフォームを表示できません。</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>%n 曲の未送信の変更があります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>前回の送信結果があります。</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>パネルの曲を置き換えますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>そのままにする(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>置き換える(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>ほかの曲はそれらなしで渡せます。</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>曲を除きますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>除く(&amp;L)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n 曲をパネルに渡しました。まだ何も送信されていません。情報を確認してからアップロードしてください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>%n 曲中 %1 曲に、サービスに必要な情報が足りません。「%2」: %3。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Header</name>
+    <message>
+        <source>Songs</source>
+        <translation>曲</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>まだありません</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s)</source>
+        <translation>
+            <numerusform>%n曲</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>キーリング</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::MainWindow</name>
+    <message>
+        <source>Songs – xbrhost</source>
+        <translation>曲 – xbrhost</translation>
+    </message>
+    <message>
+        <source>Add Songs</source>
+        <translation>曲を追加</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Some songs are still being read; try again in a moment.</source>
+        <translation>まだ読み込み中の曲があります。少し待ってからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Add songs first.</source>
+        <translation>先に曲を追加してください。</translation>
+    </message>
+    <message>
+        <source>Wait until the upload that runs has ended.</source>
+        <translation>実行中のアップロードが終わるまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Quit</source>
+        <translation>中止して終了(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Uploading</source>
+        <translation>アップロードを続ける(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>選択した曲、またはすべての曲をパネルに渡します。まだ何も送信されません</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>パネルの %n 曲に未送信の変更があり、失われます。一覧は次回の起動時に戻ります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>送信を停止しますか?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>公開せずに終了しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>編集を続ける(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>トラック番号</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n 曲をパネルから取り除きました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%n 曲の「%1」を変更しました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%n 曲中 %1 曲が公開済みです。残りは公開されません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>「%1」を送信中です。</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>%1 に公開</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>%1 に %2 として公開</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>この情報なしで送信しますか?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>「%1」: %2。サービスに拒否される可能性があります。まだ何も送信されていません。</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>それでも送信(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>もう一度公開しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>もう一度公開(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>除く(&amp;L)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%n 曲中 %1 曲は、このコンピューターからすでに公開されています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>再試行(&amp;T)</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>アカウントページ(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>除く(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>サインイン(&amp;I)</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>停止(&amp;S)</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>送信を終了します。届いたものは公開されたままです</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressSheet</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Working on</source>
+        <translation>処理中</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>中止しています…</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>「%1」は送信中のため、今は変更できません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n 曲を選択中: 変更はすべてに適用されます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n 個の値</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>同じ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n 種類の値: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>アドレスをコピー</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>戻りリンク</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>何も起きませんか？</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>コピーしました</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Song</name>
+    <message>
+        <source>%1 bit</source>
+        <translation>%1 ビット</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>音声ファイル</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n 曲を追加しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n 曲を追加しました。%1 曲はすでに一覧にあります。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n 曲を一覧から取り除きました。ファイルは残ります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%n 曲中 %1 曲は公開前に確認が必要です。%2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>前回の %n 曲です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>前回の %n 曲です。%1は見つかりません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n 個のファイル</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>空で始める(&amp;E)</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongListModel</name>
+    <message>
+        <source>Reading…</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>アーティスト</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>アルバム</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>アルバムアーティスト</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>ジャンル</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長さ</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>トラック番号</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>印</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongView</name>
+    <message>
+        <source>Songs</source>
+        <translation>曲</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::StatusLine</name>
+    <message>
+        <source>Status</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>曲ごとに表示</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowActions</name>
+    <message>
+        <source>Menus</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>&amp;Publish</source>
+        <translation>公開(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;About xbrhost</source>
+        <translation>xbrhost について(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>曲を追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Add songs (%1)</source>
+        <translation>曲を追加 (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>セルを編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>取り除く(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>取り除く</translation>
+    </message>
+    <message>
+        <source>Remove the selected songs from the list; the files stay</source>
+        <translation>選択した曲をリストから取り除きます。ファイルは残ります</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>上へ(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>下へ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Area</source>
+        <translation>次の領域(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>外観(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>レイアウトをリセット(&amp;R)</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>デスクトップに合わせる(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>ライト(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>ダーク(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>やり直す(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>次の問題(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>前の問題(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>停止(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>再試行(&amp;T)</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowFront</name>
+    <message>
+        <source>%1, border %2.%3</source>
+        <translation>%1、インターフェース %2.%3</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>サインインに対するブラウザーの応答を受け取れません: %1.</translation>
     </message>
 </context>
 </TS>

@@ -2,30 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
-    <name>xbr::host::AboutDialog</name>
-    <message>
-        <source>About xbrhost</source>
-        <translation>Acerca do xbrhost</translation>
-    </message>
-    <message>
-        <source>Publishes finished songs through the modules of a workstation.</source>
-        <translation>Publica músicas prontas através dos módulos de uma estação de áudio.</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fechar</translation>
-    </message>
-    <message>
-        <source>Co&amp;py</source>
-        <translation>Co&amp;piar</translation>
-    </message>
-    <message>
-        <source>Copy the versions</source>
-        <translation>Copiar as versões</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::CommandLine</name>
+    <name>CommandLine</name>
     <message>
         <source>The link is too long, or not one line.</source>
         <translation>O link é longo demais ou não é uma só linha.</translation>
@@ -140,213 +117,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::DesktopNotification</name>
-    <message>
-        <source>Show</source>
-        <translation>Mostrar</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::DockTitle</name>
-    <message>
-        <source>Float or dock</source>
-        <translation>Soltar ou encaixar</translation>
-    </message>
-    <message>
-        <source>Hide</source>
-        <translation>Ocultar</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::EmptyState</name>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>&amp;Adicionar músicas…</translation>
-    </message>
-    <message>
-        <source>Drop your finished songs here</source>
-        <translation>Solte aqui as músicas prontas</translation>
-    </message>
-    <message>
-        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
-        <translation>WAV, AIFF, FLAC, MP3 ou Ogg, uma a uma ou uma pasta inteira</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::FileSelector</name>
-    <message>
-        <source>All usable files</source>
-        <translation>Todos os arquivos utilizáveis</translation>
-    </message>
-    <message>
-        <source>Choose Files</source>
-        <translation>Escolher arquivos</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::GadgetDock</name>
-    <message>
-        <source>The form of this panel cannot be shown.</source>
-        <translation>Não é possível mostrar o formulário deste painel.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::HandOver</name>
-    <message numerus="yes">
-        <source>It holds edits of %n song(s) that have not been sent.</source>
-        <translation>
-            <numerusform>Ele contém alterações de %n música que não foram enviadas.</numerusform>
-            <numerusform>Ele contém alterações de %n músicas que não foram enviadas.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>It holds the results of the last upload.</source>
-        <translation>Ele contém os resultados do último envio.</translation>
-    </message>
-    <message>
-        <source>Replace the songs in the panel?</source>
-        <translation>Substituir as músicas do painel?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>&amp;Manter</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Substituir</translation>
-    </message>
-    <message>
-        <source>The other songs can be handed over without them.</source>
-        <translation>As outras músicas podem ser passadas sem elas.</translation>
-    </message>
-    <message>
-        <source>Leave out songs?</source>
-        <translation>Deixar músicas de fora?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>&amp;Deixar de fora</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
-        <translation>
-            <numerusform>%n música passada ao painel; nada foi enviado ainda. Confira os detalhes lá e depois envie.</numerusform>
-            <numerusform>%n músicas passadas ao painel; nada foi enviado ainda. Confira os detalhes lá e depois envie.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostrar</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
-        <translation>
-            <numerusform>Faltam a %1 de %n música detalhes de que o serviço precisa. “%2”: %3.</numerusform>
-            <numerusform>Faltam a %1 de %n músicas detalhes de que o serviço precisa. “%2”: %3.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Header</name>
-    <message>
-        <source>Songs</source>
-        <translation>Músicas</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>Nenhuma ainda</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s)</source>
-        <translation>
-            <numerusform>%n música</numerusform>
-            <numerusform>%n músicas</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::KeyringSheet</name>
-    <message>
-        <source>Keyring</source>
-        <translation>Chaveiro</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::MainWindow</name>
-    <message>
-        <source>Songs – xbrhost</source>
-        <translation>Músicas – xbrhost</translation>
-    </message>
-    <message>
-        <source>Add Songs</source>
-        <translation>Adicionar músicas</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Todos os arquivos (*)</translation>
-    </message>
-    <message>
-        <source>Some songs are still being read; try again in a moment.</source>
-        <translation>Algumas músicas ainda estão sendo lidas; tente de novo em instantes.</translation>
-    </message>
-    <message>
-        <source>Add songs first.</source>
-        <translation>Adicione músicas primeiro.</translation>
-    </message>
-    <message>
-        <source>Wait until the upload that runs has ended.</source>
-        <translation>Aguarde o fim do envio em andamento.</translation>
-    </message>
-    <message>
-        <source>&amp;Stop and Quit</source>
-        <translation>&amp;Interromper e sair</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Uploading</source>
-        <translation>&amp;Continuar o envio</translation>
-    </message>
-    <message>
-        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
-        <translation>Passa as músicas selecionadas, ou todas, ao painel; nada é enviado ainda</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Desfazer</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
-        <translation>
-            <numerusform>%n música no painel tem alterações não enviadas; elas se perderiam. A lista volta na próxima abertura.</numerusform>
-            <numerusform>%n músicas no painel têm alterações não enviadas; elas se perderiam. A lista volta na próxima abertura.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Stop the upload?</source>
-        <translation>Parar o envio?</translation>
-    </message>
-    <message>
-        <source>Quit without publishing?</source>
-        <translation>Sair sem publicar?</translation>
-    </message>
-    <message>
-        <source>&amp;Keep Editing</source>
-        <translation>&amp;Continuar editando</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Sair</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Output</name>
+    <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
         <translation>O navegador voltou sem permissão. Permita o acesso lá ou termine com Ctrl-C.</translation>
@@ -457,484 +228,7 @@
     </message>
 </context>
 <context>
-    <name>xbr::host::PanelMemory</name>
-    <message>
-        <source>Track number</source>
-        <translation>Número da faixa</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the panel.</source>
-        <translation>
-            <numerusform>%n música removida do painel.</numerusform>
-            <numerusform>%n músicas removidas do painel.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 changed in %n song(s).</source>
-        <translation>
-            <numerusform>%1 mudou em %n música.</numerusform>
-            <numerusform>%1 mudou em %n músicas.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::PanelNotices</name>
-    <message numerus="yes">
-        <source>%1 of %n song(s) are published; the rest would not be.</source>
-        <translation>
-            <numerusform>%1 de %n música está publicada; o resto não estaria.</numerusform>
-            <numerusform>%1 de %n músicas estão publicadas; o resto não estaria.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>“%1” is being sent.</source>
-        <translation>“%1” está sendo enviada.</translation>
-    </message>
-    <message>
-        <source>Published %1</source>
-        <translation>Publicada em %1</translation>
-    </message>
-    <message>
-        <source>Published %1 as %2</source>
-        <translation>Publicada em %1 como %2</translation>
-    </message>
-    <message>
-        <source>Send without these details?</source>
-        <translation>Enviar sem esses detalhes?</translation>
-    </message>
-    <message>
-        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
-        <translation>“%1”: %2. O serviço provavelmente vai recusá-la. Nada foi enviado ainda.</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostrar</translation>
-    </message>
-    <message>
-        <source>Send &amp;Anyway</source>
-        <translation>Enviar &amp;mesmo assim</translation>
-    </message>
-    <message>
-        <source>Publish again?</source>
-        <translation>Publicar de novo?</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
-    </message>
-    <message>
-        <source>Publish &amp;Again</source>
-        <translation>Publicar de &amp;novo</translation>
-    </message>
-    <message>
-        <source>&amp;Leave them out</source>
-        <translation>&amp;Deixá-las de fora</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) were published from this computer before.</source>
-        <translation>
-            <numerusform>%1 de %n música já foi publicada a partir deste computador.</numerusform>
-            <numerusform>%1 de %n músicas já foram publicadas a partir deste computador.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>&amp;Tentar de novo</translation>
-    </message>
-    <message>
-        <source>A&amp;ccount page</source>
-        <translation>Página da &amp;conta</translation>
-    </message>
-    <message>
-        <source>&amp;Leave out</source>
-        <translation>&amp;Deixar de fora</translation>
-    </message>
-    <message>
-        <source>Sign &amp;in</source>
-        <translation>&amp;Entrar</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressRow</name>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Parar</translation>
-    </message>
-    <message>
-        <source>End the upload; what has arrived stays published</source>
-        <translation>Encerrar o envio; o que chegou continua publicado</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progresso</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::ProgressSheet</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
-    </message>
-    <message>
-        <source>Working on</source>
-        <translation>Trabalhando em</translation>
-    </message>
-    <message>
-        <source>Stopping…</source>
-        <translation>Interrompendo…</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Selection</name>
-    <message>
-        <source>“%1” is on its way and cannot be changed now.</source>
-        <translation>“%1” está a caminho e não pode ser alterada agora.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) selected: an edit changes all of them.</source>
-        <translation>
-            <numerusform>%n música selecionada: uma alteração muda todas.</numerusform>
-            <numerusform>%n músicas selecionadas: uma alteração muda todas.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>≠ %n value(s)</source>
-        <translation>
-            <numerusform>≠ %n valor</numerusform>
-            <numerusform>≠ %n valores</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>same</source>
-        <translation>igual</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different value(s): %1</source>
-        <translation>
-            <numerusform>%n valor diferente: %1</numerusform>
-            <numerusform>%n valores diferentes: %1</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SignInStrip</name>
-    <message>
-        <source>Copy the address</source>
-        <translation>Copiar o endereço</translation>
-    </message>
-    <message>
-        <source>Link back</source>
-        <translation>Link de retorno</translation>
-    </message>
-    <message>
-        <source>Go on</source>
-        <translation>Continuar</translation>
-    </message>
-    <message>
-        <source>Nothing happened?</source>
-        <translation>Nada aconteceu?</translation>
-    </message>
-    <message>
-        <source>Copied</source>
-        <translation>Copiado</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Song</name>
-    <message>
-        <source>%1 bit</source>
-        <translation>%1 bits</translation>
-    </message>
-    <message>
-        <source>%1 kbit/s</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>%1 kHz</source>
-        <translation>%1 kHz</translation>
-    </message>
-    <message>
-        <source>Audio files</source>
-        <translation>Arquivos de áudio</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongCommands</name>
-    <message numerus="yes">
-        <source>%n song(s) added.</source>
-        <translation>
-            <numerusform>%n música adicionada.</numerusform>
-            <numerusform>%n músicas adicionadas.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) added; %1 were in the list already.</source>
-        <translation>
-            <numerusform>%n música adicionada; %1 já na lista.</numerusform>
-            <numerusform>%n músicas adicionadas; %1 já na lista.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) removed from the list; the files stay.</source>
-        <translation>
-            <numerusform>%n música removida da lista; o arquivo fica.</numerusform>
-            <numerusform>%n músicas removidas da lista; os arquivos ficam.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostrar</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n song(s) need a look before they can be published. %2</source>
-        <translation>
-            <numerusform>%1 de %n música precisa de atenção antes de ser publicada. %2</numerusform>
-            <numerusform>%1 de %n músicas precisam de atenção antes de serem publicadas. %2</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time.</source>
-        <translation>
-            <numerusform>%n música da última vez.</numerusform>
-            <numerusform>%n músicas da última vez.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n song(s) from last time; %1 no longer there.</source>
-        <translation>
-            <numerusform>%n música da última vez; %1 não está mais lá.</numerusform>
-            <numerusform>%n músicas da última vez; %1 não está mais lá.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n file(s)</source>
-        <translation>
-            <numerusform>%n arquivo</numerusform>
-            <numerusform>%n arquivos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Start &amp;Empty</source>
-        <translation>Começar &amp;vazio</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongListModel</name>
-    <message>
-        <source>Reading…</source>
-        <translation>Lendo…</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>N.º</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Título</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Artista</translation>
-    </message>
-    <message>
-        <source>Album</source>
-        <translation>Álbum</translation>
-    </message>
-    <message>
-        <source>Album artist</source>
-        <translation>Artista do álbum</translation>
-    </message>
-    <message>
-        <source>Genre</source>
-        <translation>Gênero</translation>
-    </message>
-    <message>
-        <source>Length</source>
-        <translation>Duração</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>Formato</translation>
-    </message>
-    <message>
-        <source>Track number</source>
-        <translation>Número da faixa</translation>
-    </message>
-    <message>
-        <source>Mark</source>
-        <translation>Marca</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::SongView</name>
-    <message>
-        <source>Songs</source>
-        <translation>Músicas</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>Colunas</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::StatusLine</name>
-    <message>
-        <source>Status</source>
-        <translation>Estado</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Dispensar</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Pronto.</translation>
-    </message>
-    <message>
-        <source>Show each song</source>
-        <translation>Mostrar cada música</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowActions</name>
-    <message>
-        <source>Menus</source>
-        <translation>Menus</translation>
-    </message>
-    <message>
-        <source>&amp;Publish</source>
-        <translation>&amp;Publicar</translation>
-    </message>
-    <message>
-        <source>&amp;About xbrhost</source>
-        <translation>&amp;Acerca do xbrhost</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;juda</translation>
-    </message>
-    <message>
-        <source>&amp;Add Songs…</source>
-        <translation>&amp;Adicionar músicas…</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Adicionar</translation>
-    </message>
-    <message>
-        <source>Add songs (%1)</source>
-        <translation>Adicionar músicas (%1)</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Sair</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Arquivo</translation>
-    </message>
-    <message>
-        <source>&amp;Edit Cell</source>
-        <translation>&amp;Editar célula</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Remover</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Remover</translation>
-    </message>
-    <message>
-        <source>Remove the selected songs from the list; the files stay</source>
-        <translation>Remover da lista as músicas selecionadas; os arquivos permanecem</translation>
-    </message>
-    <message>
-        <source>Move &amp;Up</source>
-        <translation>Mover para &amp;cima</translation>
-    </message>
-    <message>
-        <source>Move &amp;Down</source>
-        <translation>Mover para &amp;baixo</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>Selecionar &amp;tudo</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Editar</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>E&amp;xibir</translation>
-    </message>
-    <message>
-        <source>&amp;Next Area</source>
-        <translation>&amp;Próxima área</translation>
-    </message>
-    <message>
-        <source>&amp;Appearance</source>
-        <translation>&amp;Aparência</translation>
-    </message>
-    <message>
-        <source>&amp;Reset Layout</source>
-        <translation>&amp;Redefinir disposição</translation>
-    </message>
-    <message>
-        <source>As the &amp;Desktop</source>
-        <translation>Como a área de &amp;trabalho</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Claro</translation>
-    </message>
-    <message>
-        <source>Da&amp;rk</source>
-        <translation>&amp;Escuro</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Desfazer</translation>
-    </message>
-    <message>
-        <source>Red&amp;o</source>
-        <translation>&amp;Refazer</translation>
-    </message>
-    <message>
-        <source>&amp;Next Problem</source>
-        <translation>&amp;Próximo problema</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Problem</source>
-        <translation>Problema &amp;anterior</translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Parar</translation>
-    </message>
-    <message>
-        <source>&amp;Try again</source>
-        <translation>&amp;Tentar de novo</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::WindowFront</name>
-    <message>
-        <source>%1, border %2.%3</source>
-        <translation>%1, interface %2.%3</translation>
-    </message>
-    <message>
-        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
-        <translation>Não é possível receber a resposta do navegador à entrada: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>xbr::host::Words</name>
+    <name>Words</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or cancel here.</source>
         <translation>O navegador voltou sem permissão. Permita o acesso lá ou cancele aqui.</translation>
@@ -1566,6 +860,712 @@
     <message>
         <source>“%1” was published from this computer on %2.</source>
         <translation>“%1” foi publicada a partir deste computador em %2.</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::AboutDialog</name>
+    <message>
+        <source>About xbrhost</source>
+        <translation>Acerca do xbrhost</translation>
+    </message>
+    <message>
+        <source>Publishes finished songs through the modules of a workstation.</source>
+        <translation>Publica músicas prontas através dos módulos de uma estação de áudio.</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>Co&amp;piar</translation>
+    </message>
+    <message>
+        <source>Copy the versions</source>
+        <translation>Copiar as versões</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DesktopNotification</name>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::DockTitle</name>
+    <message>
+        <source>Float or dock</source>
+        <translation>Soltar ou encaixar</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ocultar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::EmptyState</name>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>&amp;Adicionar músicas…</translation>
+    </message>
+    <message>
+        <source>Drop your finished songs here</source>
+        <translation>Solte aqui as músicas prontas</translation>
+    </message>
+    <message>
+        <source>WAV, AIFF, FLAC, MP3 or Ogg, one by one or a whole folder</source>
+        <translation>WAV, AIFF, FLAC, MP3 ou Ogg, uma a uma ou uma pasta inteira</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::FileSelector</name>
+    <message>
+        <source>All usable files</source>
+        <translation>Todos os arquivos utilizáveis</translation>
+    </message>
+    <message>
+        <source>Choose Files</source>
+        <translation>Escolher arquivos</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::GadgetDock</name>
+    <message>
+        <source>The form of this panel cannot be shown.</source>
+        <translation>Não é possível mostrar o formulário deste painel.</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::HandOver</name>
+    <message numerus="yes">
+        <source>It holds edits of %n song(s) that have not been sent.</source>
+        <translation>
+            <numerusform>Ele contém alterações de %n música que não foram enviadas.</numerusform>
+            <numerusform>Ele contém alterações de %n músicas que não foram enviadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It holds the results of the last upload.</source>
+        <translation>Ele contém os resultados do último envio.</translation>
+    </message>
+    <message>
+        <source>Replace the songs in the panel?</source>
+        <translation>Substituir as músicas do painel?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Manter</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Substituir</translation>
+    </message>
+    <message>
+        <source>The other songs can be handed over without them.</source>
+        <translation>As outras músicas podem ser passadas sem elas.</translation>
+    </message>
+    <message>
+        <source>Leave out songs?</source>
+        <translation>Deixar músicas de fora?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Deixar de fora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) handed over to the panel; nothing is sent yet. Check the details there, then upload.</source>
+        <translation>
+            <numerusform>%n música passada ao painel; nada foi enviado ainda. Confira os detalhes lá e depois envie.</numerusform>
+            <numerusform>%n músicas passadas ao painel; nada foi enviado ainda. Confira os detalhes lá e depois envie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) lack details that the service needs. “%2”: %3.</source>
+        <translation>
+            <numerusform>Faltam a %1 de %n música detalhes de que o serviço precisa. “%2”: %3.</numerusform>
+            <numerusform>Faltam a %1 de %n músicas detalhes de que o serviço precisa. “%2”: %3.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Header</name>
+    <message>
+        <source>Songs</source>
+        <translation>Músicas</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Nenhuma ainda</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s)</source>
+        <translation>
+            <numerusform>%n música</numerusform>
+            <numerusform>%n músicas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::KeyringSheet</name>
+    <message>
+        <source>Keyring</source>
+        <translation>Chaveiro</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::MainWindow</name>
+    <message>
+        <source>Songs – xbrhost</source>
+        <translation>Músicas – xbrhost</translation>
+    </message>
+    <message>
+        <source>Add Songs</source>
+        <translation>Adicionar músicas</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>Some songs are still being read; try again in a moment.</source>
+        <translation>Algumas músicas ainda estão sendo lidas; tente de novo em instantes.</translation>
+    </message>
+    <message>
+        <source>Add songs first.</source>
+        <translation>Adicione músicas primeiro.</translation>
+    </message>
+    <message>
+        <source>Wait until the upload that runs has ended.</source>
+        <translation>Aguarde o fim do envio em andamento.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop and Quit</source>
+        <translation>&amp;Interromper e sair</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Uploading</source>
+        <translation>&amp;Continuar o envio</translation>
+    </message>
+    <message>
+        <source>Hands the selected songs, or all, over to the panel; nothing is sent yet</source>
+        <translation>Passa as músicas selecionadas, ou todas, ao painel; nada é enviado ainda</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) in the panel have edits that were not sent; they would be lost. The list comes back at the next start.</source>
+        <translation>
+            <numerusform>%n música no painel tem alterações não enviadas; elas se perderiam. A lista volta na próxima abertura.</numerusform>
+            <numerusform>%n músicas no painel têm alterações não enviadas; elas se perderiam. A lista volta na próxima abertura.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop the upload?</source>
+        <translation>Parar o envio?</translation>
+    </message>
+    <message>
+        <source>Quit without publishing?</source>
+        <translation>Sair sem publicar?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Editing</source>
+        <translation>&amp;Continuar editando</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelMemory</name>
+    <message>
+        <source>Track number</source>
+        <translation>Número da faixa</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the panel.</source>
+        <translation>
+            <numerusform>%n música removida do painel.</numerusform>
+            <numerusform>%n músicas removidas do painel.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 changed in %n song(s).</source>
+        <translation>
+            <numerusform>%1 mudou em %n música.</numerusform>
+            <numerusform>%1 mudou em %n músicas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::PanelNotices</name>
+    <message numerus="yes">
+        <source>%1 of %n song(s) are published; the rest would not be.</source>
+        <translation>
+            <numerusform>%1 de %n música está publicada; o resto não estaria.</numerusform>
+            <numerusform>%1 de %n músicas estão publicadas; o resto não estaria.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” is being sent.</source>
+        <translation>“%1” está sendo enviada.</translation>
+    </message>
+    <message>
+        <source>Published %1</source>
+        <translation>Publicada em %1</translation>
+    </message>
+    <message>
+        <source>Published %1 as %2</source>
+        <translation>Publicada em %1 como %2</translation>
+    </message>
+    <message>
+        <source>Send without these details?</source>
+        <translation>Enviar sem esses detalhes?</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. The service will probably refuse it. Nothing is sent yet.</source>
+        <translation>“%1”: %2. O serviço provavelmente vai recusá-la. Nada foi enviado ainda.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>Send &amp;Anyway</source>
+        <translation>Enviar &amp;mesmo assim</translation>
+    </message>
+    <message>
+        <source>Publish again?</source>
+        <translation>Publicar de novo?</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Publish &amp;Again</source>
+        <translation>Publicar de &amp;novo</translation>
+    </message>
+    <message>
+        <source>&amp;Leave them out</source>
+        <translation>&amp;Deixá-las de fora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) were published from this computer before.</source>
+        <translation>
+            <numerusform>%1 de %n música já foi publicada a partir deste computador.</numerusform>
+            <numerusform>%1 de %n músicas já foram publicadas a partir deste computador.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Tentar de novo</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount page</source>
+        <translation>Página da &amp;conta</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Deixar de fora</translation>
+    </message>
+    <message>
+        <source>Sign &amp;in</source>
+        <translation>&amp;Entrar</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressRow</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Parar</translation>
+    </message>
+    <message>
+        <source>End the upload; what has arrived stays published</source>
+        <translation>Encerrar o envio; o que chegou continua publicado</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::ProgressSheet</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Working on</source>
+        <translation>Trabalhando em</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Interrompendo…</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Selection</name>
+    <message>
+        <source>“%1” is on its way and cannot be changed now.</source>
+        <translation>“%1” está a caminho e não pode ser alterada agora.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) selected: an edit changes all of them.</source>
+        <translation>
+            <numerusform>%n música selecionada: uma alteração muda todas.</numerusform>
+            <numerusform>%n músicas selecionadas: uma alteração muda todas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>≠ %n value(s)</source>
+        <translation>
+            <numerusform>≠ %n valor</numerusform>
+            <numerusform>≠ %n valores</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>igual</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different value(s): %1</source>
+        <translation>
+            <numerusform>%n valor diferente: %1</numerusform>
+            <numerusform>%n valores diferentes: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SignInStrip</name>
+    <message>
+        <source>Copy the address</source>
+        <translation>Copiar o endereço</translation>
+    </message>
+    <message>
+        <source>Link back</source>
+        <translation>Link de retorno</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Nothing happened?</source>
+        <translation>Nada aconteceu?</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::Song</name>
+    <message>
+        <source>%1 bit</source>
+        <translation>%1 bits</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>Arquivos de áudio</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongCommands</name>
+    <message numerus="yes">
+        <source>%n song(s) added.</source>
+        <translation>
+            <numerusform>%n música adicionada.</numerusform>
+            <numerusform>%n músicas adicionadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) added; %1 were in the list already.</source>
+        <translation>
+            <numerusform>%n música adicionada; %1 já na lista.</numerusform>
+            <numerusform>%n músicas adicionadas; %1 já na lista.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) removed from the list; the files stay.</source>
+        <translation>
+            <numerusform>%n música removida da lista; o arquivo fica.</numerusform>
+            <numerusform>%n músicas removidas da lista; os arquivos ficam.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n song(s) need a look before they can be published. %2</source>
+        <translation>
+            <numerusform>%1 de %n música precisa de atenção antes de ser publicada. %2</numerusform>
+            <numerusform>%1 de %n músicas precisam de atenção antes de serem publicadas. %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time.</source>
+        <translation>
+            <numerusform>%n música da última vez.</numerusform>
+            <numerusform>%n músicas da última vez.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n song(s) from last time; %1 no longer there.</source>
+        <translation>
+            <numerusform>%n música da última vez; %1 não está mais lá.</numerusform>
+            <numerusform>%n músicas da última vez; %1 não está mais lá.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n arquivo</numerusform>
+            <numerusform>%n arquivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Start &amp;Empty</source>
+        <translation>Começar &amp;vazio</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongListModel</name>
+    <message>
+        <source>Reading…</source>
+        <translation>Lendo…</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Artista do álbum</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Gênero</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Número da faixa</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marca</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::SongView</name>
+    <message>
+        <source>Songs</source>
+        <translation>Músicas</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colunas</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::StatusLine</name>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Dispensar</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Pronto.</translation>
+    </message>
+    <message>
+        <source>Show each song</source>
+        <translation>Mostrar cada música</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowActions</name>
+    <message>
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message>
+        <source>&amp;Publish</source>
+        <translation>&amp;Publicar</translation>
+    </message>
+    <message>
+        <source>&amp;About xbrhost</source>
+        <translation>&amp;Acerca do xbrhost</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;juda</translation>
+    </message>
+    <message>
+        <source>&amp;Add Songs…</source>
+        <translation>&amp;Adicionar músicas…</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Add songs (%1)</source>
+        <translation>Adicionar músicas (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>&amp;Editar célula</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Remover</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Remove the selected songs from the list; the files stay</source>
+        <translation>Remover da lista as músicas selecionadas; os arquivos permanecem</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Mover para &amp;cima</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Mover para &amp;baixo</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Selecionar &amp;tudo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>E&amp;xibir</translation>
+    </message>
+    <message>
+        <source>&amp;Next Area</source>
+        <translation>&amp;Próxima área</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>&amp;Aparência</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>&amp;Redefinir disposição</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Como a área de &amp;trabalho</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Claro</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>&amp;Escuro</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>&amp;Próximo problema</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>Problema &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Parar</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Tentar de novo</translation>
+    </message>
+</context>
+<context>
+    <name>xbr::host::WindowFront</name>
+    <message>
+        <source>%1, border %2.%3</source>
+        <translation>%1, interface %2.%3</translation>
+    </message>
+    <message>
+        <source>The browser&apos;s answer to a sign-in cannot be received: %1.</source>
+        <translation>Não é possível receber a resposta do navegador à entrada: %1.</translation>
     </message>
 </context>
 </TS>

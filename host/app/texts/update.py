@@ -21,7 +21,9 @@ def main():
     for path in sorted(folder.glob("*.ts")):
         plurals = ["-pluralonly"] if path.stem == "en" else []
         command = [LUPDATE, "-silent", "-locations", "none", "-no-obsolete", "-I", str(ROOT), *plurals, *sources, "-ts", str(path)]
-        if subprocess.run(command, check=False).returncode != 0:
+        result = subprocess.run(command, capture_output=True, text=True, check=False)
+        if result.returncode != 0:  # what it says otherwise are doubts about the standard library's names
+            sys.stderr.write(result.stderr)
             return 1
     return 0
 

@@ -1,72 +1,22 @@
 #include "host/app/publishing/upload/follow.h"
 
-#include "framework/abi/system.h"
-#include "framework/support/objects/text.h"
 #include "framework/support/parts/path.h"
+#include "host/app/publishing/upload/reasons.h"
 #include "host/base/fileurl.h"
 #include "host/net/hostnet.h"
 #include "host/system/hostsystem.h"
 
 #include <algorithm>
 #include <cassert>
-#include <filesystem>
 #include <utility>
 
 namespace xbr::host {
 
 namespace {
 
-namespace fs = std::filesystem;
-
-/// The folder for copies, as the user knows it: the one that ours lies in.
-std::string folderForCopies() {
-    Ref<IString> url;
-    XBRGetSystem()->getTemporaryFolder(url.out());
-    return fs::path(localPath(take(url)).value_or("")).parent_path().string();
-}
-
 /// With credentials and a body it is an upload; asking for the account has none, signing in no credentials.
 bool isUpload(const Exchange& exchange) {
     return exchange.hadCredentials && exchange.hadBody;
-}
-
-bool isThere(const std::string& path) {
-    std::error_code failed;
-    return fs::exists(path, failed);
-}
-
-/// Songs are copied, and the copies packed.
-void measureSpace(UploadFacts& facts) {
-    std::error_code failed;
-    for (const TrackFact& track : facts.tracks) {
-        const auto size = fs::file_size(track.source, failed);
-        facts.neededSpace += failed ? 0 : 2 * static_cast<std::int64_t>(size);
-    }
-    facts.folder = folderForCopies();
-    const auto space = fs::space(facts.folder, failed);
-    facts.freeSpace = failed ? 0 : static_cast<std::int64_t>(space.available);
-}
-
-/// Modules say nothing of songs that they could not prepare; the reason may be seen still.
-void findReasons(UploadFacts& facts) {
-    for (const TrackFact& track : facts.tracks) {
-        if (track.state != TrackState::kDone && !track.wasSent && !isThere(track.source)) {
-            facts.files.push_back({Fault::kMissing, track.source, 0, {}, {}, {}});
-        }
-    }
-    const bool wasSent = std::any_of(facts.tracks.begin(), facts.tracks.end(),
-                                     [](const TrackFact& track) { return track.wasSent; });
-    if (facts.files.empty() && !wasSent && !facts.folder.empty() && facts.freeSpace < facts.neededSpace) {
-        facts.files.push_back({Fault::kDiskFull, facts.folder, 0, {}, {}, {}});
-    }
-    for (Problem& problem : facts.files) {
-        const bool isSong =
-            std::any_of(facts.tracks.begin(), facts.tracks.end(),
-                        [&](const TrackFact& track) { return track.source == problem.subject; });
-        if (problem.fault == Fault::kMissing && (!isSong || isThere(problem.subject))) {
-            problem.fault = Fault::kNoTemporaryFolder; // the place for the copy is missing
-        }
-    }
 }
 
 } // namespace
@@ -81,7 +31,7 @@ Follow::Follow(GadgetPanel& panel, Activity& activity, Listener listener)
               if (const auto row = static_cast<std::size_t>(track.index); row < m_named.size()) {
                   m_named[row] = named(track);
               }
-              noteTravelling();
+              noteTravelling(track);
               if (isBusy()) {
                   m_hears.changed(named(track));
               }
@@ -93,7 +43,6 @@ Follow::Follow(GadgetPanel& panel, Activity& activity, Listener listener)
     m_later.callOnTimeout([this] { look(); });
     m_telling.setInterval(kTellEvery);
     m_telling.callOnTimeout([this] { tellSending(); });
-    m_clock.start();
 }
 
 void Follow::named(const std::vector<HandedSong>& songs) {
@@ -132,9 +81,8 @@ void Follow::beginUpload() {
     m_findings.clear();
     m_isCancelled = false;
     m_hasNoRoom = false;
-    m_sizes.clear();
     ++m_upload;
-    m_finished = 0;
+    m_meter = {};
     for (const TrackReport& track : m_follower.reports()) {
         if (track.state == TrackState::kNone) {
             m_carried.erase(track.file); // it goes anew
@@ -193,10 +141,13 @@ void Follow::ended(Activity::Kind kind, bool isCancelled) {
 
 void Follow::noteTravelling() {
     for (const TrackReport& track : m_follower.reports()) {
-        if (track.isUploading &&
-            std::find(m_travelling.begin(), m_travelling.end(), track.file) == m_travelling.end()) {
-            m_travelling.push_back(track.file);
-        }
+        noteTravelling(track);
+    }
+}
+
+void Follow::noteTravelling(const TrackReport& track) {
+    if (track.isUploading) {
+        m_travelling.insert(track.file);
     }
     if (!m_travelling.empty() && m_phase == Phase::kPreparing &&
         !m_activity->isOpen(Activity::Kind::kPreparing)) {
@@ -206,16 +157,14 @@ void Follow::noteTravelling() {
 
 void Follow::exchangeBegan(const Exchange& exchange) {
     if (m_phase != Phase::kIdle && isUpload(exchange)) {
-        m_pace.begin(m_finished == 0, m_clock.elapsed());
-        m_request = {0, exchange.size, -1};
+        m_meter.requestBegan(exchange.size);
         m_telling.start();
     }
 }
 
 void Follow::exchangeProgressed(const Exchange& exchange) {
-    if (m_request.total >= 0 && isUpload(exchange)) {
-        m_request.bytes = exchange.sent;
-        m_pace.sent(m_finished + exchange.sent, m_clock.elapsed());
+    if (isUpload(exchange)) {
+        m_meter.requestProgressed(exchange.sent);
     }
 }
 
@@ -224,85 +173,28 @@ void Follow::exchangeEnded(const Exchange& exchange) {
         return;
     }
     m_telling.stop();
-    m_pace.pause(m_clock.elapsed());
-    m_finished += exchange.sent;
-    m_request = {};
+    m_meter.requestEnded(exchange.sent);
     for (const std::string& file : std::exchange(m_travelling, {})) {
         m_carried[file] = {exchange, m_upload};
     }
     lookLater();
 }
 
-std::int64_t Follow::sizeOf(const TrackReport& track) {
-    const auto [found, isNew] = m_sizes.try_emplace(track.file, 0);
-    if (isNew) {
-        std::error_code failed;
-        const auto size = fs::file_size(localPath(track.file).value_or(""), failed);
-        found->second = failed ? 0 : static_cast<std::int64_t>(size);
-    }
-    return found->second;
-}
-
-/// Of the files that are still to go.
-std::int64_t Follow::waitingBytes() {
-    std::int64_t bytes = 0;
-    for (const TrackReport& track : m_follower.reports()) {
-        const bool isWaiting = track.state == TrackState::kNone && !track.isUploading;
-        bytes += isWaiting ? sizeOf(track) : 0;
-    }
-    return bytes;
-}
-
-UploadProgress Follow::progress() {
-    UploadProgress progress;
-    const auto& reports = m_follower.reports();
-    const auto travelling = std::find_if(reports.begin(), reports.end(),
-                                         [](const TrackReport& track) { return track.isUploading; });
-    progress.isAlbum = m_panel->isAlbum();
-    progress.songs = reports.size();
-    progress.songsDone =
-        static_cast<std::size_t>(std::count_if(reports.begin(), reports.end(), [](const TrackReport& track) {
-            return track.state == TrackState::kDone;
-        }));
-    if (travelling != reports.end()) {
-        progress.index = travelling->index;
-        progress.label =
-            progress.isAlbum ? travelling->details.text(Detail::kAlbumTitle) : labelOf(named(*travelling));
-    }
-    const std::int64_t now = m_clock.elapsed();
-    progress.bytesPerSecond = m_pace.bytesPerSecond(now);
-    progress.quietSeconds = m_pace.quietSeconds(now);
-    const auto complete = [this, now](std::int64_t bytes, std::int64_t total) {
-        return Amount{bytes, total, m_pace.secondsFor(total - bytes, now)};
-    };
-    const std::int64_t sent = m_finished + m_request.bytes;
-    progress.song = complete(m_request.bytes, m_request.total);
-    progress.all = complete(sent, sent + m_request.total - m_request.bytes + waitingBytes());
-    return progress;
-}
-
 void Follow::tellSending() {
-    if (m_phase == Phase::kSending) {
-        m_hears.sending(progress());
+    if (m_phase != Phase::kSending) {
+        return;
     }
+    UploadProgress progress = m_meter.upload(m_follower.reports(), m_panel->isAlbum());
+    if (!progress.isAlbum && !progress.label.empty()) {
+        progress.label = labelOf(tracks().at(static_cast<std::size_t>(progress.index)));
+    }
+    m_hears.sending(progress);
 }
 
 void Follow::workProgressed(Activity::Kind kind, double fraction, const std::string& what) {
-    if (kind != Activity::Kind::kPreparing || m_phase != Phase::kPreparing) {
-        return;
+    if (kind == Activity::Kind::kPreparing && m_phase == Phase::kPreparing) {
+        m_hears.preparing(m_meter.preparation(m_follower.reports(), m_panel->isAlbum(), fraction, what));
     }
-    PreparationProgress progress;
-    progress.file = what;
-    const bool isAlbum = m_panel->isAlbum();
-    std::int64_t total = 0;
-    for (const TrackReport& track : m_follower.reports()) {
-        if (isAlbum || (track.state == TrackState::kNone && progress.songs == 0)) {
-            total += sizeOf(track);
-            ++progress.songs;
-        }
-    }
-    progress.amount = {static_cast<std::int64_t>(static_cast<double>(total) * fraction), total, -1};
-    m_hears.preparing(progress);
 }
 
 void Follow::fileFailed(const Problem& problem) {

@@ -2,17 +2,17 @@
 
 #include "host/app/modules/gadgetpanel.h"
 #include "host/app/publishing/upload/handover.h"
-#include "host/app/publishing/upload/progress.h"
+#include "host/app/publishing/upload/meter.h"
 #include "host/app/publishing/upload/tracks.h"
-#include "host/app/publishing/verdict.h"
+#include "host/app/publishing/verdict/verdict.h"
 #include "host/app/session/activity.h"
 
-#include <QElapsedTimer>
 #include <QTimer>
 
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -81,10 +81,8 @@ private:
     bool isAtRest();
     void finish();
     void noteTravelling();
+    void noteTravelling(const TrackReport& track);
     void tellSending();
-    UploadProgress progress();
-    std::int64_t waitingBytes();
-    std::int64_t sizeOf(const TrackReport& track);
     TrackReport named(TrackReport report) const;
     std::string sourceOf(const std::string& url) const;
     UploadFacts facts();
@@ -103,14 +101,10 @@ private:
     std::vector<TrackReport> m_named; ///< the tracks, by the user's files
     std::vector<Problem> m_files;
     std::vector<Finding> m_findings;
-    std::map<std::string, Carried> m_carried;    ///< by the URL of the track's file
-    std::vector<std::string> m_travelling;       ///< URLs of the tracks on their way
-    std::map<std::string, std::int64_t> m_sizes; ///< of files, by URL, while an upload runs
-    int m_upload = 0;                            ///< counts the uploads
-    Pace m_pace;
-    Amount m_request;            ///< on its way; no total when there is none
-    std::int64_t m_finished = 0; ///< bytes of the upload's requests that have ended
-    QElapsedTimer m_clock;
+    std::map<std::string, Carried> m_carried; ///< by the URL of the track's file
+    std::set<std::string> m_travelling;       ///< URLs of the tracks on their way
+    int m_upload = 0;                         ///< counts the uploads
+    Meter m_meter;                            ///< of this upload
     QTimer m_telling;
     TrackFollower m_follower;
     QTimer m_later;

@@ -2,7 +2,7 @@
 
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/path.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/base/fileurl.h"
 
 #include <filesystem>
@@ -85,13 +85,11 @@ Outcome<void> give(const Plan& plan, PublishedItems& items, GadgetPanel& panel, 
         panel.set(GadgetPanel::kAlbumMode, mode);
     }
     if (!publisher || publisher->publish(&items) != kOk) {
-        return moduleProblem(
-            entry, say(QCoreApplication::translate("xbr::host::Words", "it does not take the songs")));
+        return moduleProblem(entry, say(Words::tr("it does not take the songs")));
     }
     const auto songs = plan.songs();
     if (!panel.tracks() || panel.tracks()->countRows() != static_cast<std::int32_t>(songs.size())) {
-        return moduleProblem(
-            entry, say(QCoreApplication::translate("xbr::host::Words", "it does not take all songs")));
+        return moduleProblem(entry, say(Words::tr("it does not take all songs")));
     }
     if (!plan.isForPanel) {
         panel.set(GadgetPanel::kAlbumMode, mode);

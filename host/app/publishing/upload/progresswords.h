@@ -18,7 +18,4 @@ struct ProgressWords {
 ProgressWords wordsOf(const UploadProgress& progress);
 std::string wordsOf(const PreparationProgress& progress);
 
-/// "12 s", "3 min", "1 h 20 min": rounded up.
-std::string wordsOfSeconds(std::int64_t seconds);
-
 } // namespace xbr::host

@@ -1,7 +1,7 @@
 #include "host/app/publishing/upload/readiness.h"
 
 #include "framework/support/objects/text.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <algorithm>
 
@@ -11,8 +11,7 @@ namespace {
 
 Hindrance lackOf(const TrackReport& track) {
     std::vector<Detail> missing = missingDetails(track);
-    std::string sentence = say(QCoreApplication::translate("xbr::host::Words", "“%1” lacks: %2."),
-                               labelOf(track), wordsOf(missing));
+    std::string sentence = say(Words::tr("“%1” lacks: %2."), labelOf(track), wordsOf(missing));
     return {Hindrance::Kind::kIncomplete, std::move(sentence), track.index, std::move(missing)};
 }
 
@@ -34,29 +33,17 @@ void select(IListViewModel& tracks, const std::vector<std::int32_t>& rows) {
 
 Hindrance hindranceOf(const std::vector<TrackReport>& tracks, bool isSignedIn, bool isUploading) {
     if (isUploading) {
-        return {Hindrance::Kind::kUploading,
-                say(QCoreApplication::translate("xbr::host::Words", "An upload is running.")),
-                -1,
-                {}};
+        return {Hindrance::Kind::kUploading, say(Words::tr("An upload is running.")), -1, {}};
     }
     if (tracks.empty()) {
-        return {Hindrance::Kind::kNoSongs,
-                say(QCoreApplication::translate("xbr::host::Words", "Hand over songs first.")),
-                -1,
-                {}};
+        return {Hindrance::Kind::kNoSongs, say(Words::tr("Hand over songs first.")), -1, {}};
     }
     if (!isSignedIn) {
-        return {Hindrance::Kind::kNotSignedIn,
-                say(QCoreApplication::translate("xbr::host::Words", "Sign in first.")),
-                -1,
-                {}};
+        return {Hindrance::Kind::kNotSignedIn, say(Words::tr("Sign in first.")), -1, {}};
     }
     if (std::all_of(tracks.begin(), tracks.end(),
                     [](const TrackReport& track) { return track.state == TrackState::kDone; })) {
-        return {Hindrance::Kind::kAllPublished,
-                say(QCoreApplication::translate("xbr::host::Words", "All songs are published.")),
-                -1,
-                {}};
+        return {Hindrance::Kind::kAllPublished, say(Words::tr("All songs are published.")), -1, {}};
     }
     const auto isComplete = [](const TrackReport& track) { return missingDetails(track).empty(); };
     return std::any_of(tracks.begin(), tracks.end(), isComplete) ? Hindrance{} : lackOf(tracks.front());

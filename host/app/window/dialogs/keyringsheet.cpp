@@ -1,5 +1,6 @@
 #include "host/app/window/dialogs/keyringsheet.h"
 
+#include "host/app/publishing/verdict/words.h"
 #include "host/app/window/look/tints.h"
 
 #include <QApplication>
@@ -31,9 +32,8 @@ bool KeyringSheet::wait(bool isForUser) {
     if (!m_sheet) {
         return false;
     }
-    m_text->setText(
-        isForUser ? QCoreApplication::translate("xbr::host::Words", "Waiting for the keyring to be unlocked.")
-                  : QCoreApplication::translate("xbr::host::Words", "Waiting for the keyring to answer."));
+    m_text->setText(isForUser ? Words::tr("Waiting for the keyring to be unlocked.")
+                              : Words::tr("Waiting for the keyring to answer."));
     const bool isShown = m_sheet->isVisible();
     if (!isShown && m_clock.elapsed() >= kShowAfter) {
         m_sheet->show();

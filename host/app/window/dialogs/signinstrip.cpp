@@ -1,6 +1,6 @@
 #include "host/app/window/dialogs/signinstrip.h"
 
-#include "host/app/publishing/account.h"
+#include "host/app/publishing/signin/account.h"
 
 #include <QClipboard>
 #include <QGridLayout>

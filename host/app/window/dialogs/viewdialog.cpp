@@ -1,6 +1,6 @@
 #include "host/app/window/dialogs/viewdialog.h"
 
-#include "host/app/publishing/reachability.h"
+#include "host/app/publishing/signin/reachability.h"
 #include "host/app/window/dialogs/signinstrip.h"
 #include "host/app/window/look/desktop.h"
 #include "host/gui/hostwidgets.h"

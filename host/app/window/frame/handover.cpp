@@ -1,6 +1,6 @@
 #include "host/app/window/frame/handover.h"
 
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/app/window/dialogs/question.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "host/app/window/frame/header.h"
 
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/app/window/look/tints.h"
 #include "host/app/window/songs/songlistmodel.h"
 

@@ -3,7 +3,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/app/window/dialogs/fileselector.h"
 #include "host/app/window/dialogs/question.h"
 #include "host/app/window/dialogs/viewdialog.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/publishing/notice.h"
+#include "host/app/publishing/verdict/notice.h"
 
 #include <QMetaType>
 #include <QString>

@@ -6,7 +6,7 @@
 #include "framework/support/objects/value.h"
 #include "framework/support/parts/path.h"
 #include "host/app/publishing/upload/progresswords.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/app/window/dialogs/question.h"
 #include "host/base/fileurl.h"
 
@@ -48,9 +48,8 @@ void PanelNotices::tell(NoticeKind kind, const QString& text) {
 
 void PanelNotices::callbackArrived() {
     if (m_panel->clientState() == ClientState::kAwaitingBrowser) {
-        m_tellInDialog(QCoreApplication::translate(
-            "xbr::host::Words",
-            "The browser came back without a permission. Allow the access there, or cancel here."));
+        m_tellInDialog(
+            Words::tr("The browser came back without a permission. Allow the access there, or cancel here."));
     }
 }
 
@@ -74,10 +73,9 @@ void PanelNotices::tellState(ClientState state) {
     const bool isHopeless = m_settings->wasAsked && !m_settings->isComplete();
     if (state == ClientState::kAwaitingBrowser && !isHopeless) {
         m_tellInDialog({});
-        tell(NoticeKind::kBusy,
-             QCoreApplication::translate("xbr::host::Words", "Waiting for your permission in the browser."));
+        tell(NoticeKind::kBusy, Words::tr("Waiting for your permission in the browser."));
     } else if (state == ClientState::kRequestingToken) {
-        tell(NoticeKind::kBusy, QCoreApplication::translate("xbr::host::Words", "Signing in…"));
+        tell(NoticeKind::kBusy, Words::tr("Signing in…"));
     }
 }
 
@@ -138,7 +136,7 @@ QString PanelNotices::wordsOfLoss() {
 }
 
 QString PanelNotices::wordsOfPublication(const std::string& fingerprint) const {
-    const auto known = m_publishing.history().findFingerprint(fingerprint, m_panel->text("userName"));
+    const auto known = m_publishing.findPublishedFingerprint(fingerprint);
     if (!known) {
         return {};
     }
@@ -189,8 +187,7 @@ bool PanelNotices::askAboutPublished() {
     for (const TrackReport& track : tracks) {
         const std::string path = localPath(track.file).value_or("");
         const bool isWaiting = track.state == TrackState::kNone && !m_wantedAgain.contains(path);
-        const auto known =
-            isWaiting ? m_publishing.history().find(path, m_panel->text("userName")) : std::nullopt;
+        const auto known = isWaiting ? m_publishing.findPublished(path) : std::nullopt;
         if (known) {
             label = rows.empty() ? labelOf(track) : label;
             time = rows.empty() ? known->time : time;

@@ -1,12 +1,8 @@
 #include "host/app/window/songs/savedsongs.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
+#include "host/app/settings/keptlist.h"
+
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace xbr::host {
@@ -14,17 +10,6 @@ namespace xbr::host {
 namespace {
 
 constexpr qint64 kMostBytes = 20000000;
-
-struct SavedField {
-    const char* name;
-    QString Song::*text;
-};
-
-constexpr SavedField kSavedFields[] = {{"title", &Song::title},
-                                       {"artist", &Song::artist},
-                                       {"album", &Song::album},
-                                       {"albumArtist", &Song::albumArtist},
-                                       {"genre", &Song::genre}};
 
 QString filePath() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/xbrhost/songs.json";
@@ -38,7 +23,7 @@ QString textOf(const std::string& path) {
 QJsonObject objectOf(const Song& song) {
     QJsonObject object{{"file", textOf(song.path)}};
     if (!song.isBeingRead && !song.file.problem) {
-        for (const SavedField& field : kSavedFields) {
+        for (const SongField& field : kSongFields) {
             object[field.name] = song.*field.text;
         }
         object["number"] = song.number;
@@ -50,7 +35,7 @@ Song songOf(const QJsonObject& object) {
     Song song;
     song.path = QByteArray::fromPercentEncoding(object["file"].toString().toLatin1()).toStdString();
     song.isEdited = object.contains("number");
-    for (const SavedField& field : kSavedFields) {
+    for (const SongField& field : kSongFields) {
         song.*field.text = object[field.name].toString().simplified();
     }
     song.number = object["number"].toInt();
@@ -63,12 +48,8 @@ Song songOf(const QJsonObject& object) {
 } // namespace
 
 std::vector<Song> SavedSongs::load() const {
-    QFile file(filePath());
     std::vector<Song> songs;
-    if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes) {
-        return songs;
-    }
-    for (const auto& each : QJsonDocument::fromJson(file.readAll()).array()) {
+    for (const auto& each : readKeptList(filePath(), kMostBytes).value_or(QJsonArray())) {
         Song song = songOf(each.toObject());
         if (!song.path.empty()) {
             songs.push_back(std::move(song));
@@ -82,12 +63,7 @@ void SavedSongs::save(const std::vector<Song>& songs) const {
     for (const Song& song : songs) {
         all.append(objectOf(song));
     }
-    QDir().mkpath(QFileInfo(filePath()).path());
-    QSaveFile file(filePath());
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(QJsonDocument(all).toJson());
-        file.commit();
-    }
+    writeKeptList(filePath(), all);
 }
 
 } // namespace xbr::host

@@ -1,7 +1,7 @@
 #include "host/app/window/songs/song.h"
 
 #include "host/app/publishing/history.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -14,20 +14,9 @@ namespace {
 
 constexpr int kHertz = 1000;
 
-struct Field {
-    const char* attribute;
-    QString Song::*text;
-};
-
-constexpr Field kFields[] = {
-    {"Media:Title", &Song::title}, {"Media:Artist", &Song::artist},
-    {"Media:Album", &Song::album}, {"Media:AlbumArtist", &Song::albumArtist},
-    {"Media:Genre", &Song::genre},
-};
-
 void takeTags(const MediaTags& tags, Song& song) {
     for (const auto& [name, text] : tags.texts) {
-        for (const Field& field : kFields) {
+        for (const SongField& field : kSongFields) {
             if (name == field.attribute) {
                 song.*field.text = QString::fromStdString(text).simplified();
             }
@@ -60,7 +49,7 @@ SongFile fileOf(const Song& song) {
     SongFile file = song.file;
     file.path = song.path;
     file.tags = {};
-    for (const Field& field : kFields) {
+    for (const SongField& field : kSongFields) {
         const std::string text = (song.*field.text).toStdString();
         if (!text.empty()) {
             file.tags.texts.emplace_back(field.attribute, text);

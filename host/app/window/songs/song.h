@@ -25,6 +25,21 @@ struct Song {
     bool isBeingRead = true; ///< its tags are still to come
 };
 
+/// A text of a song.
+struct SongField {
+    const char* attribute; ///< its tag
+    const char* name;      ///< in the saved list
+    QString Song::*text;
+};
+
+inline constexpr std::array kSongFields = {
+    SongField{"Media:Title", "title", &Song::title},
+    SongField{"Media:Artist", "artist", &Song::artist},
+    SongField{"Media:Album", "album", &Song::album},
+    SongField{"Media:AlbumArtist", "albumArtist", &Song::albumArtist},
+    SongField{"Media:Genre", "genre", &Song::genre},
+};
+
 /// The name of the song's file.
 QString fileNameOf(const Song& song);
 

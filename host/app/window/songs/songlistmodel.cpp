@@ -1,6 +1,6 @@
 #include "host/app/window/songs/songlistmodel.h"
 
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <QMimeData>
 
@@ -302,9 +302,12 @@ void SongListModel::orderByNumbers(const std::vector<std::string>& paths) {
         const auto album = std::find(albums.begin(), albums.end(), song.album) - albums.begin();
         return std::pair(album, song.number > 0 ? song.number : kGreatestNumber + 1);
     };
+    const auto isBefore = [&](const Song& left, const Song& right) { return placeOf(left) < placeOf(right); };
+    if (std::is_sorted(first, last, isBefore)) {
+        return;
+    }
     emit layoutAboutToBeChanged();
-    std::stable_sort(first, last,
-                     [&](const Song& left, const Song& right) { return placeOf(left) < placeOf(right); });
+    std::stable_sort(first, last, isBefore);
     emit layoutChanged();
     emit dataChanged(index(0, 0), index(rowCount() - 1, kColumnCount - 1));
 }

@@ -189,9 +189,14 @@ void SongView::removeSelected() {
 }
 
 void SongView::selectRows(const std::vector<int>& rows) {
+    // One range for rows that follow each other: many ranges are slow to draw, and to keep in a new order.
     QItemSelection selection;
-    for (const int row : rows) {
-        selection.select(m_songs->index(row, 0), m_songs->index(row, SongListModel::kColumnCount - 1));
+    for (std::size_t first = 0, last = 0; first < rows.size(); first = ++last) {
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1) {
+            ++last;
+        }
+        selection.select(m_songs->index(rows[first], 0),
+                         m_songs->index(rows[last], SongListModel::kColumnCount - 1));
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     if (!rows.empty()) {

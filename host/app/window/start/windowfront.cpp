@@ -1,7 +1,7 @@
 #include "host/app/window/start/windowfront.h"
 
 #include "framework/abi/border.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/app/window/dialogs/fileselector.h"
 #include "host/app/window/dialogs/progressindicator.h"
 #include "host/app/window/dialogs/viewdialog.h"
@@ -131,15 +131,12 @@ void WindowFront::browserFailed(const std::string& reason) {
     const QString words = QString::fromStdString(reason);
     if (m_place.dialog) {
         m_place.dialog->setNotice(
-            QCoreApplication::translate(
-                "xbr::host::Words", "The web browser could not be started: %1. Copy the address and open it "
-                                    "in a browser.")
+            Words::tr("The web browser could not be started: %1. Copy the address and open it "
+                      "in a browser.")
                 .arg(words));
     } else {
         m_window->showNotice(
-            {NoticeKind::kError,
-             QCoreApplication::translate("xbr::host::Words", "The web browser could not be started: %1.")
-                 .arg(words)});
+            {NoticeKind::kError, Words::tr("The web browser could not be started: %1.").arg(words)});
     }
 }
 

@@ -1,7 +1,7 @@
-#include "host/app/headless/output.h"
-#include "host/app/headless/terminal.h"
+#include "host/app/headless/output/output.h"
+#include "host/app/headless/output/terminal.h"
 #include "host/app/publishing/upload/progresswords.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/base/textscan.h"
 
 #include <QElapsedTimer>
@@ -18,11 +18,11 @@ namespace {
 std::string wordsOfState(TrackState state) {
     switch (state) {
     case TrackState::kDone:
-        return say(QCoreApplication::translate("xbr::host::Output", "published"));
+        return say(Output::tr("published"));
     case TrackState::kFailed:
-        return say(QCoreApplication::translate("xbr::host::Output", "not published"));
+        return say(Output::tr("not published"));
     case TrackState::kMissingInformation:
-        return say(QCoreApplication::translate("xbr::host::Output", "refused, details are missing"));
+        return say(Output::tr("refused, details are missing"));
     case TrackState::kNone:
         break;
     }
@@ -30,15 +30,14 @@ std::string wordsOfState(TrackState state) {
 }
 
 std::string orNotSet(const std::string& text) {
-    return text.empty() ? say(QCoreApplication::translate("xbr::host::Output", "(not set)")) : text;
+    return text.empty() ? say(Output::tr("(not set)")) : text;
 }
 
 std::string wordsOfSong(const PlannedSong& song) {
     const std::string start = "  " + std::to_string(song.number) + ". " + orNotSet(song.title) + " - " +
                               orNotSet(song.artist) + " (";
     return start +
-           (song.isRendered ? say(QCoreApplication::translate("xbr::host::Output", "%1, rendered from “%2”"),
-                                  song.fileName, song.source)
+           (song.isRendered ? say(Output::tr("%1, rendered from “%2”"), song.fileName, song.source)
                             : song.fileName) +
            ")";
 }
@@ -48,14 +47,12 @@ std::vector<std::string> linesOf(const Draft& draft) {
     const PlannedRelease& release = draft.release;
     const std::string number = std::to_string(draft.index + 1);
     const std::string count = std::to_string(draft.count);
-    std::vector<std::string> lines{
-        draft.isIncomplete
-            ? say(QCoreApplication::translate("xbr::host::Output", "Release %1 of %2 (incomplete)"), number,
-                  count)
-            : say(QCoreApplication::translate("xbr::host::Output", "Release %1 of %2"), number, count),
-        say(QCoreApplication::translate("xbr::host::Output", "  Title: %1"), orNotSet(release.title)),
-        say(QCoreApplication::translate("xbr::host::Output", "  Artist: %1"), orNotSet(release.artist)),
-        say(QCoreApplication::translate("xbr::host::Output", "  Genre: %1"), orNotSet(release.genre))};
+    std::vector<std::string> lines{draft.isIncomplete
+                                       ? say(Output::tr("Release %1 of %2 (incomplete)"), number, count)
+                                       : say(Output::tr("Release %1 of %2"), number, count),
+                                   say(Output::tr("  Title: %1"), orNotSet(release.title)),
+                                   say(Output::tr("  Artist: %1"), orNotSet(release.artist)),
+                                   say(Output::tr("  Genre: %1"), orNotSet(release.genre))};
     for (const PlannedSong& song : release.songs) {
         lines.push_back(wordsOfSong(song));
     }
@@ -74,23 +71,17 @@ std::string wordsOfCount(const RunEnd& end) {
     const std::string done = std::to_string(std::count_if(
         end.songs.begin(), end.songs.end(), [](const SongResult& song) { return song.isPublished(); }));
     return end.account.empty()
-               ? say(QCoreApplication::translate("xbr::host::Output", "Published %1 of %2 songs as singles."),
-                     done, count)
-               : say(QCoreApplication::translate("xbr::host::Output",
-                                                 "Published %1 of %2 songs as singles, as %3."),
-                     done, count, end.account);
+               ? say(Output::tr("Published %1 of %2 songs as singles."), done, count)
+               : say(Output::tr("Published %1 of %2 songs as singles, as %3."), done, count, end.account);
 }
 
 /// What became of a song that is not published.
 std::string wordsOfResult(const SongResult& song) {
     const std::string file = fileNameOf(song.source);
-    return song.isUnsure()
-               ? say(QCoreApplication::translate("xbr::host::Output",
-                                                 "Perhaps published: %1: it was sent, the answer did not "
-                                                 "come. Look at your account page."),
-                     file)
-               : say(QCoreApplication::translate("xbr::host::Output", "Not published: %1: %2"), file,
-                     song.sentence);
+    return song.isUnsure() ? say(Output::tr("Perhaps published: %1: it was sent, the answer did not "
+                                            "come. Look at your account page."),
+                                 file)
+                           : say(Output::tr("Not published: %1: %2"), file, song.sentence);
 }
 
 /// Lines for people: results on the standard output, problems and what moves on the standard error.
@@ -105,15 +96,12 @@ public:
     void message(std::string_view text) override { note(text); }
 
     void signInAddress(std::string_view url) override {
-        aside(say(QCoreApplication::translate("xbr::host::Output",
-                                              "Waiting for your permission in the browser. If no page "
-                                              "opened, open this address:")));
+        aside(say(Output::tr("Waiting for your permission in the browser. If no page "
+                             "opened, open this address:")));
         aside(url);
-        aside(m_isAnswered ? say(QCoreApplication::translate(
-                                 "xbr::host::Output",
-                                 "Link back (paste it here if the browser does not return by itself):"))
-                           : say(QCoreApplication::translate("xbr::host::Output", "Hand it over with: %1"),
-                                 "xbrhost open-url 'LINK'"));
+        aside(m_isAnswered
+                  ? say(Output::tr("Link back (paste it here if the browser does not return by itself):"))
+                  : say(Output::tr("Hand it over with: %1"), "xbrhost open-url 'LINK'"));
     }
 
     void account(bool, std::string_view) override {} // a sentence tells it
@@ -143,9 +131,8 @@ public:
         if (std::exchange(m_sending, progress.index) != progress.index) {
             m_told.start();
             if (!m_moving.isShown() || m_isVerbose) {
-                note(say(QCoreApplication::translate("xbr::host::Output", "%1%2: sending %3"),
-                         placeOf(progress.index, progress.songs), progress.label,
-                         wordsOfSize(progress.song.total)));
+                note(say(Output::tr("%1%2: sending %3"), placeOf(progress.index, progress.songs),
+                         progress.label, wordsOfSize(progress.song.total)));
             }
         } else if (!m_moving.isShown() && m_told.hasExpired(kTellEvery)) {
             m_told.start();
@@ -214,15 +201,15 @@ private:
 
     void noteProgress(const UploadProgress& progress) {
         const auto [sent, size] = wordsOfSizes(progress.song.bytes, progress.song.total);
-        note(say(
-            QCoreApplication::translate("xbr::host::Output", "%1%2: %3 %, %4 of %5, %6 left, all %7 left"),
-            placeOf(progress.index, progress.songs), progress.label, std::to_string(progress.song.percent()),
-            sent, size, wordsOfSeconds(progress.song.secondsLeft), wordsOfSeconds(progress.all.secondsLeft)));
+        note(say(Output::tr("%1%2: %3 %, %4 of %5, %6 left, all %7 left"),
+                 placeOf(progress.index, progress.songs), progress.label,
+                 std::to_string(progress.song.percent()), sent, size,
+                 wordsOfSeconds(progress.song.secondsLeft), wordsOfSeconds(progress.all.secondsLeft)));
     }
 
     void tellList(const RunEnd& end) {
         if (end.verdict.code == ExitCode::kInterrupted) {
-            result(say(QCoreApplication::translate("xbr::host::Words", "Stopped.")));
+            result(say(Words::tr("Stopped.")));
         }
         result(wordsOfCount(end));
         for (const SongResult& song : end.songs) {
@@ -238,9 +225,8 @@ private:
     void tellSpeed(const RunEnd& end) {
         static constexpr std::int64_t kSecond = 1000;
         const std::int64_t time = std::max<std::int64_t>(end.milliseconds, 1);
-        note(say(QCoreApplication::translate("xbr::host::Output", "Sent %1 in %2, %3/s."),
-                 wordsOfSize(end.bytes), wordsOfSeconds((time + kSecond - 1) / kSecond),
-                 wordsOfSize(end.bytes * kSecond / time)));
+        note(say(Output::tr("Sent %1 in %2, %3/s."), wordsOfSize(end.bytes),
+                 wordsOfSeconds((time + kSecond - 1) / kSecond), wordsOfSize(end.bytes * kSecond / time)));
     }
 
     bool m_isQuiet;

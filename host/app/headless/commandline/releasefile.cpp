@@ -1,6 +1,6 @@
-#include "host/app/headless/releasefile.h"
+#include "host/app/headless/commandline/releasefile.h"
 
-#include "host/app/headless/commandline.h"
+#include "host/app/headless/commandline/commandline.h"
 
 #include <nlohmann/json.hpp>
 

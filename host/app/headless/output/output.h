@@ -1,11 +1,13 @@
 #pragma once
 
-#include "host/app/headless/commandline.h"
+#include "host/app/headless/commandline/commandline.h"
 #include "host/app/process/exitcodes.h"
 #include "host/app/publishing/plan.h"
 #include "host/app/publishing/upload/progress.h"
 #include "host/app/publishing/upload/tracks.h"
-#include "host/app/publishing/verdict.h"
+#include "host/app/publishing/verdict/verdict.h"
+
+#include <QCoreApplication>
 
 #include <memory>
 #include <string>
@@ -48,6 +50,8 @@ struct RunEnd {
 
 /// Tells the user, or a program that started us, what happens. Texts may come from outside and hold anything.
 class Output {
+    Q_DECLARE_TR_FUNCTIONS(Output)
+
 public:
     virtual ~Output() = default;
 

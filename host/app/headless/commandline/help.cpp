@@ -1,4 +1,4 @@
-#include "host/app/headless/commandline.h"
+#include "host/app/headless/commandline/commandline.h"
 
 namespace xbr::host {
 

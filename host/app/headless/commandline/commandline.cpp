@@ -1,6 +1,6 @@
-#include "host/app/headless/commandline.h"
+#include "host/app/headless/commandline/commandline.h"
 
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/base/nearness.h"
 #include "host/base/textscan.h"
 
@@ -112,10 +112,7 @@ std::vector<std::string> optionNames(Command command) {
 std::string withNearest(const std::string& sentence, const std::string& typed,
                         const std::vector<std::string>& names) {
     const auto near = nearestTo(typed, names);
-    return near.empty()
-               ? sentence
-               : sentence + " " +
-                     say(QCoreApplication::translate("xbr::host::CommandLine", "Nearest: %1."), near.front());
+    return near.empty() ? sentence : sentence + " " + say(CommandLine::tr("Nearest: %1."), near.front());
 }
 
 std::string unknownCommand(const std::string& typed) {
@@ -123,9 +120,7 @@ std::string unknownCommand(const std::string& typed) {
     for (const CommandName& row : kCommands) {
         names.emplace_back(row.name);
     }
-    return withNearest(
-        say(QCoreApplication::translate("xbr::host::CommandLine", "There is no command “%1”."), typed), typed,
-        names);
+    return withNearest(say(CommandLine::tr("There is no command “%1”."), typed), typed, names);
 }
 
 /// Walks through the arguments and fills a command line. What is wrong ends it.
@@ -182,8 +177,7 @@ private:
         const bool isNone = m_line.command == Command::kSignIn || m_line.command == Command::kSignOut ||
                             m_line.command == Command::kStatus;
         if (!isMany || isNone) {
-            complain(QCoreApplication::translate("xbr::host::CommandLine", "“%1” is one word too many."),
-                     word);
+            complain(CommandLine::tr("“%1” is one word too many."), word);
         } else if (m_line.command == Command::kPublish) {
             m_line.wish.songs.push_back({word, {}, {}, {}, 0});
         } else {
@@ -211,21 +205,19 @@ private:
             flag->of(m_line) = true;
         } else if ((value && isHere(value->commands)) || (name == kTrackNumber && isHere(kPublish))) {
             if (equals == std::string::npos && m_next == m_rest.size()) {
-                complain(QCoreApplication::translate("xbr::host::CommandLine", "%1 needs a value behind it."),
-                         name);
+                complain(CommandLine::tr("%1 needs a value behind it."), name);
                 return;
             }
             takeValue(name, value, equals == std::string::npos ? m_rest[m_next++] : word.substr(equals + 1));
             return;
         } else {
-            m_wrong = withNearest(say(QCoreApplication::translate("xbr::host::CommandLine",
-                                                                  "There is no option “%1” for “%2”."),
-                                      name, nameOf(m_line.command)),
-                                  name, optionNames(m_line.command));
+            m_wrong = withNearest(
+                say(CommandLine::tr("There is no option “%1” for “%2”."), name, nameOf(m_line.command)), name,
+                optionNames(m_line.command));
             return;
         }
         if (equals != std::string::npos) {
-            complain(QCoreApplication::translate("xbr::host::CommandLine", "%1 takes no value."), name);
+            complain(CommandLine::tr("%1 takes no value."), name);
         }
     }
 
@@ -252,9 +244,8 @@ private:
         const auto [end, failed] = std::from_chars(text.data(), text.data() + text.size(), number);
         if (failed != std::errc() || end != text.data() + text.size() || number < 1 ||
             number > kMaximumTrackNumber) {
-            complain(QCoreApplication::translate("xbr::host::CommandLine",
-                                                 "%1 needs a whole number from 1 to %2."),
-                     kTrackNumber, std::to_string(kMaximumTrackNumber));
+            complain(CommandLine::tr("%1 needs a whole number from 1 to %2."), kTrackNumber,
+                     std::to_string(kMaximumTrackNumber));
         } else if (songsOf(m_line).empty()) {
             complainOfPlace(kTrackNumber);
         } else if (std::exchange(songsOf(m_line).back().number, number) != 0) {
@@ -263,14 +254,10 @@ private:
     }
 
     void complainOfPlace(const std::string& name) {
-        complain(QCoreApplication::translate("xbr::host::CommandLine",
-                                             "%1 belongs to the song before it: put it behind a song."),
-                 name);
+        complain(CommandLine::tr("%1 belongs to the song before it: put it behind a song."), name);
     }
 
-    void complainOfSecond(const std::string& name) {
-        complain(QCoreApplication::translate("xbr::host::CommandLine", "%1 is there twice."), name);
-    }
+    void complainOfSecond(const std::string& name) { complain(CommandLine::tr("%1 is there twice."), name); }
 
     /// Looks at all of it together.
     void checkAll() {
@@ -282,7 +269,7 @@ private:
             m_line.topic = m_line.words.front();
             m_wrong = find(kCommands, m_line.topic) ? "" : unknownCommand(m_line.topic);
         } else if (m_line.command == Command::kOpenUrl && m_line.words.empty()) {
-            complain(QCoreApplication::translate("xbr::host::CommandLine", "open-url needs a link."));
+            complain(CommandLine::tr("open-url needs a link."));
         } else if (m_line.command == Command::kPublish) {
             checkPublish();
         }
@@ -293,16 +280,13 @@ private:
         const bool isAboutAlbum = !wish.albumTitle.empty() || !wish.albumArtist.empty();
         if (!m_line.releaseFile.empty()) {
             if (!wish.songs.empty() || m_line.isAlbum || isAboutAlbum || !wish.genre.empty()) {
-                complain(QCoreApplication::translate(
-                    "xbr::host::CommandLine",
-                    "--release tells all about the release: leave out songs and details."));
+                complain(
+                    CommandLine::tr("--release tells all about the release: leave out songs and details."));
             }
         } else if (wish.songs.empty()) {
-            complain(QCoreApplication::translate("xbr::host::CommandLine",
-                                                 "publish needs a song, or a folder with songs."));
+            complain(CommandLine::tr("publish needs a song, or a folder with songs."));
         } else if (isAboutAlbum && !m_line.isAlbum) {
-            complain(QCoreApplication::translate(
-                "xbr::host::CommandLine",
+            complain(CommandLine::tr(
                 "--album-title and --album-artist need --album: a single bears the title and the artist of "
                 "its song."));
         }
@@ -324,17 +308,13 @@ Outcome<CommandLine> parseCommandLine(const std::vector<std::string>& arguments)
 
 std::string problemOfText(const std::string& name, const std::string& text) {
     if (text.find_first_not_of(' ') == std::string::npos) {
-        return say(QCoreApplication::translate("xbr::host::CommandLine",
-                                               "%1 is empty; leave it out to keep what the file's tags say."),
-                   name);
+        return say(CommandLine::tr("%1 is empty; leave it out to keep what the file's tags say."), name);
     }
     if (!isUtf8(text)) {
-        return say(QCoreApplication::translate("xbr::host::CommandLine", "%1 is not UTF-8."), name);
+        return say(CommandLine::tr("%1 is not UTF-8."), name);
     }
     return hasControls(text)
-               ? say(QCoreApplication::translate("xbr::host::CommandLine",
-                                                 "%1 holds a line break or another control character."),
-                     name)
+               ? say(CommandLine::tr("%1 holds a line break or another control character."), name)
                : "";
 }
 

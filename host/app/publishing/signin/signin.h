@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/app/modules/gadgetpanel.h"
-#include "host/app/publishing/account.h"
+#include "host/app/publishing/signin/account.h"
 #include "host/app/session/activity.h"
 
 #include <QTimer>

@@ -1,7 +1,7 @@
-#include "host/app/headless/terminal.h"
+#include "host/app/headless/output/terminal.h"
 
 #include "host/app/publishing/upload/progresswords.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <QChar>
 #include <QString>
@@ -63,20 +63,18 @@ std::string barOf(int percent) {
 
 std::string timeOf(const UploadProgress& progress, bool isForAll) {
     if (progress.isStuck()) {
-        return say(QCoreApplication::translate("xbr::host::Output", "no bytes for %1"),
-                   wordsOfSeconds(progress.quietSeconds));
+        return say(Output::tr("no bytes for %1"), wordsOfSeconds(progress.quietSeconds));
     }
     if (progress.isSent()) {
-        return say(QCoreApplication::translate("xbr::host::Output", "waiting for the answer"));
+        return say(Output::tr("waiting for the answer"));
     }
     if (progress.song.secondsLeft < 0) {
         return {};
     }
     const std::string song = wordsOfSeconds(progress.song.secondsLeft);
     return isForAll && progress.all.secondsLeft >= 0 && progress.songs > 1
-               ? say(QCoreApplication::translate("xbr::host::Output", "%1 left, all %2"), song,
-                     wordsOfSeconds(progress.all.secondsLeft))
-               : say(QCoreApplication::translate("xbr::host::Output", "%1 left"), song);
+               ? say(Output::tr("%1 left, all %2"), song, wordsOfSeconds(progress.all.secondsLeft))
+               : say(Output::tr("%1 left"), song);
 }
 
 /// The line with the first so many parts.

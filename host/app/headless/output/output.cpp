@@ -1,6 +1,6 @@
-#include "host/app/headless/output.h"
+#include "host/app/headless/output/output.h"
 
-#include "host/app/headless/terminal.h"
+#include "host/app/headless/output/terminal.h"
 #include "host/base/textscan.h"
 
 #include <iostream>

@@ -1,5 +1,5 @@
-#include "host/app/headless/output.h"
-#include "host/app/publishing/words.h"
+#include "host/app/headless/output/output.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <QElapsedTimer>
 #include <nlohmann/json.hpp>

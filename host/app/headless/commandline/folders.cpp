@@ -1,7 +1,7 @@
-#include "host/app/headless/folders.h"
+#include "host/app/headless/commandline/folders.h"
 
 #include "host/app/audio/audiofolder.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <filesystem>
 
@@ -14,28 +14,24 @@ Problem complaint(Fault fault, const QString& text, const std::string& folder, c
 }
 
 Problem cannotBeRead(const Problem& problem) {
-    return complaint(Fault::kUnreadable,
-                     QCoreApplication::translate("xbr::host::CommandLine", "“%1” cannot be read: %2."),
-                     problem.subject, wordsOfErrno(problem.code));
+    return complaint(Fault::kUnreadable, CommandLine::tr("“%1” cannot be read: %2."), problem.subject,
+                     wordsOfErrno(problem.code));
 }
 
 Problem isEmpty(const std::string& folder, bool isRecursive) {
-    return complaint(Fault::kNotAudio,
-                     isRecursive ? QCoreApplication::translate("xbr::host::CommandLine",
-                                                               "“%1” and the folders in it hold no songs.")
-                                 : QCoreApplication::translate(
-                                       "xbr::host::CommandLine",
-                                       "“%1” holds no songs; --recursive looks into the folders in it, too."),
-                     folder);
+    return complaint(
+        Fault::kNotAudio,
+        isRecursive ? CommandLine::tr("“%1” and the folders in it hold no songs.")
+                    : CommandLine::tr("“%1” holds no songs; --recursive looks into the folders in it, too."),
+        folder);
 }
 
 Outcome<std::vector<SongWish>> songsIn(const SongWish& folder, bool isRecursive) {
     if (!folder.title.empty() || folder.number != 0) {
-        return complaint(Fault::kWish,
-                         QCoreApplication::translate(
-                             "xbr::host::CommandLine",
-                             "--title and --track-number belong to one song, and “%1” is a folder."),
-                         folder.path);
+        return complaint(
+            Fault::kWish,
+            CommandLine::tr("--title and --track-number belong to one song, and “%1” is a folder."),
+            folder.path);
     }
     const auto files = audioFilesIn(folder.path, isRecursive);
     if (!files) {

@@ -1,4 +1,4 @@
-#include "host/app/publishing/signin.h"
+#include "host/app/publishing/signin/signin.h"
 
 #include "host/system/hostsystem.h"
 

@@ -3,6 +3,8 @@
 #include "host/app/publishing/release.h"
 #include "host/base/problem.h"
 
+#include <QCoreApplication>
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -38,6 +40,8 @@ struct CommandLine {
     bool isRecursive = false;
     bool isDryRun = false;
     std::string account; ///< the only one to send as; empty for any
+
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };
 
 /// Reads the arguments behind the program's name. The words of a problem are a sentence.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/publishing/verdict.h"
+#include "host/app/publishing/verdict/verdict.h"
 #include "host/app/settings/configurationstore.h"
 #include "host/security/hostsecurity.h"
 

@@ -1,4 +1,4 @@
-#include "host/app/publishing/reachability.h"
+#include "host/app/publishing/signin/reachability.h"
 
 #include "framework/support/objects/message.h"
 #include "framework/support/objects/text.h"

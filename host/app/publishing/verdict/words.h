@@ -17,6 +17,11 @@
 
 namespace xbr::host {
 
+/// Translates what both front ends say.
+class Words {
+    Q_DECLARE_TR_FUNCTIONS(Words)
+};
+
 /// A translated text with what belongs in its places: "%1" is the first argument. What an argument holds is
 /// not looked at for places of its own.
 template <class... Texts>
@@ -49,11 +54,18 @@ std::pair<std::string, std::string> wordsOfSizes(std::int64_t part, std::int64_t
 /// "3:07"; empty when it is unknown.
 std::string wordsOfLength(std::int64_t milliseconds);
 
+/// "12 s", "3 min", "1 h 20 min": rounded up.
+std::string wordsOfSeconds(std::int64_t seconds);
+
 /// A day, as people here write it, of seconds since 1970.
 std::string wordsOfDate(std::int64_t seconds);
 
 /// Of a song that was published before.
 std::string wordsOfPublished(const std::string& song, std::int64_t time);
+
+/// Why a service cannot be reached: its own words, or the status of the answer; without a full stop.
+std::string reasonOf(const Problem& problem);
+std::string wordsOfServer(const Problem& problem);
 
 /// The service's own words as they may be shown: plain, one line, 200 characters at most.
 std::string quoted(const std::string& said);
