@@ -1,4 +1,4 @@
-#include "host/app/headless/releasefile.h"
+#include "host/app/headless/commandline/releasefile.h"
 #include "tests/fuzz/fuzz.h"
 
 /// A release file is a wish, or a reason in one line.

@@ -3,7 +3,7 @@
 #include "framework/abi/view.h"
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/verdict/words.h"
 #include "host/app/window/dialogs/progressindicator.h"
 #include "host/app/window/frame/statusline.h"
 #include "host/app/window/songs/song.h"

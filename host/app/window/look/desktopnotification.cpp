@@ -23,12 +23,17 @@ QDBusMessage call(const char* method) {
 
 } // namespace
 
-DesktopNotification::DesktopNotification(QWidget& window) : m_window(&window) {
+DesktopNotification::DesktopNotification(QWidget& window)
+    : DesktopNotification(window, &QDBusConnection::sessionBus) {}
+
+DesktopNotification::DesktopNotification(QWidget& window, std::function<QDBusConnection()> bus)
+    : m_window(&window),
+      m_bus(std::move(bus)) {
     window.installEventFilter(this);
 }
 
 void DesktopNotification::show(const QString& title) {
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = m_bus();
     if (!bus.isConnected()) {
         return;
     }
@@ -57,7 +62,7 @@ void DesktopNotification::takeBack() {
     if (m_id != 0) {
         QDBusMessage message = call("CloseNotification");
         message << std::exchange(m_id, 0U);
-        QDBusConnection::sessionBus().asyncCall(message);
+        m_bus().asyncCall(message);
     }
 }
 

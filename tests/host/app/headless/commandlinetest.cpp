@@ -1,6 +1,6 @@
 // What the arguments mean, and what the program says of those that make no sense.
 
-#include "host/app/headless/commandline.h"
+#include "host/app/headless/commandline/commandline.h"
 
 #include "tests/fixtures/testfolder.h"
 

@@ -2,7 +2,7 @@
 
 #include "host/app/publishing/plan.h"
 
-#include "host/app/publishing/verdict.h"
+#include "host/app/publishing/verdict/verdict.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/app/headless/releasefile.h"
+#include "host/app/headless/commandline/releasefile.h"
 #include "tests/fixtures/testfolder.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 // What became of an upload, from what is known of it: one table.
 
-#include "host/app/publishing/account.h"
-#include "host/app/publishing/words.h"
+#include "host/app/publishing/signin/account.h"
+#include "host/app/publishing/verdict/words.h"
 
 #include <gtest/gtest.h>
 
