@@ -36,16 +36,31 @@ xbr::Url archiveOf(const xbr::Url& folder) {
     return folder.parent().join("payload.zip");
 }
 
+/// Appends what is left of a stream to the body, and lets the host live meanwhile: a gigabyte takes a while.
+bool appendArchive(xbr::MemoryStream& body, xbr::IStream& stream, const std::string& name,
+                   xbr::IProgress& progress) {
+    static constexpr std::uint64_t kPiece = 16U << 20U;
+    auto left = static_cast<std::uint64_t>(xbr::measure(stream));
+    while (left > kPiece) {
+        if (!body.writeFrom(stream, kPiece) || progress.isCancelled()) {
+            return false;
+        }
+        left -= kPiece;
+        progress.update(1.0, xbr::toText(name)); // it is packed
+    }
+    return body.writeFrom(stream, left);
+}
+
 /// The whole body in memory; empty when the archive cannot be read, or there is no memory for it.
-xbr::Ref<xbr::MemoryStream> makeBody(const xbr::Url& archive, std::string_view boundary) {
+xbr::Ref<xbr::MemoryStream> makeBody(const xbr::Url& archive, std::string_view boundary,
+                                     xbr::IProgress& progress) {
     xbr::Ref<xbr::IStream> stream;
     if (XBRGetFileSystem()->openForReading(xbr::toText(archive.toString()), stream.out()) != xbr::kOk) {
         return {};
     }
-    const auto size = xbr::measure(*stream);
     auto body = xbr::make<xbr::MemoryStream>();
     const bool isWhole = body->write(partHead(boundary, archive.fileName())) &&
-                         body->writeFrom(*stream, static_cast<std::uint64_t>(size)) &&
+                         appendArchive(*body, *stream, archive.fileName(), progress) &&
                          body->write(partTail(boundary)) && xbr::rewind(*body);
     return isWhole ? body : nullptr;
 }
@@ -68,7 +83,7 @@ xbr::Ref<IngestionRequest> createIngestionRequest(xbr::IProgress& progress) {
         return {};
     }
     packFolder(folder, archive, progress);
-    auto body = makeBody(archive, boundary);
+    auto body = makeBody(archive, boundary, progress);
     if (!body) {
         return {};
     }
