@@ -49,12 +49,18 @@ Hindrance hindranceOf(const std::vector<TrackReport>& tracks, bool isSignedIn, b
     return std::any_of(tracks.begin(), tracks.end(), isComplete) ? Hindrance{} : lackOf(tracks.front());
 }
 
-std::vector<TrackReport> incompleteOf(const std::vector<TrackReport>& tracks, bool isAlbum) {
-    std::vector<TrackReport> incomplete;
+Incomplete incompleteOf(const std::vector<TrackReport>& tracks, bool isAlbum) {
+    Incomplete incomplete;
     for (const TrackReport& track : tracks) {
-        if ((isAlbum || track.state != TrackState::kDone) && !missingDetails(track).empty()) {
-            incomplete.push_back(track);
+        auto missing = missingDetails(track);
+        if ((!isAlbum && track.state == TrackState::kDone) || missing.empty()) {
+            continue;
         }
+        if (incomplete.count == 0) {
+            incomplete.first = track;
+            incomplete.missing = std::move(missing);
+        }
+        ++incomplete.count;
     }
     return incomplete;
 }

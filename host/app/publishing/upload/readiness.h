@@ -19,8 +19,13 @@ struct Hindrance {
 /// What is in the way; the first thing that the user has to do.
 Hindrance hindranceOf(const std::vector<TrackReport>& tracks, bool isSignedIn, bool isUploading);
 
-/// The tracks that "upload" would send although they lack something, as findings with the rows as numbers.
-std::vector<TrackReport> incompleteOf(const std::vector<TrackReport>& tracks, bool isAlbum);
+/// Tracks that "upload" would send although they lack something.
+struct Incomplete {
+    std::size_t count = 0;
+    TrackReport first;           ///< when there are any
+    std::vector<Detail> missing; ///< of the first
+};
+Incomplete incompleteOf(const std::vector<TrackReport>& tracks, bool isAlbum);
 
 /// True when the track was sent, and the service did not take it.
 bool isNotTaken(const TrackReport& track);

@@ -22,7 +22,7 @@ QString words(const std::string& sentence) {
 
 /// Asked when the panel holds what would be lost.
 bool mayReplace(DialogPlace& place, PanelNotices& panel) {
-    const auto tracks = panel.publishing().tracks();
+    const auto& tracks = panel.publishing().tracks();
     const auto edited = static_cast<int>(panel.memory().countEdited());
     const bool hasResults = std::any_of(tracks.begin(), tracks.end(), [](const TrackReport& track) {
         return track.state != TrackState::kNone;
@@ -58,7 +58,7 @@ bool mayLeaveOut(DialogPlace& place, const Plan& plan) {
 
 /// The songs are in the panel: how many, or what is open there.
 Notice noticeOf(const Plan& plan, PanelNotices& panel) {
-    const auto tracks = panel.publishing().tracks();
+    const auto& tracks = panel.publishing().tracks();
     const auto count = static_cast<int>(tracks.size());
     const Verdict verdict = judge(plan);
     QStringList warnings;
@@ -74,45 +74,40 @@ Notice noticeOf(const Plan& plan, PanelNotices& panel) {
                    ? Notice{NoticeKind::kInfo, text, {}, {}}
                    : Notice{NoticeKind::kWarning, text + " " + warnings.front(), {}, warnings.mid(1)};
     }
-    const auto incomplete = incompleteOf(tracks, false);
-    if (incomplete.empty()) {
+    const Incomplete incomplete = incompleteOf(tracks, false);
+    if (incomplete.count == 0) {
         return {NoticeKind::kWarning, words(verdict.sentence), {}, warnings};
     }
-    const TrackReport& first = incomplete.front();
-    const NoticeStep show{"show", HandOverTexts::tr("&Show"),
-                          [self = QPointer(&panel), row = first.index, missing = missingDetails(first)] {
-                              if (self) {
-                                  emit self->showAsked(row, parameterOf(missing.front()));
-                              }
-                          }};
+    const NoticeStep show{
+        "show", HandOverTexts::tr("&Show"),
+        [self = QPointer(&panel), row = incomplete.first.index, missing = incomplete.missing] {
+            if (self) {
+                emit self->showAsked(row, parameterOf(missing.front()));
+            }
+        }};
     if (verdict.cause != Cause::kMissingDetails) {
         return {NoticeKind::kWarning, words(verdict.sentence), {show}, warnings};
     }
     const QString text =
         HandOverTexts::tr("%1 of %n song(s) lack details that the service needs. “%2”: %3.", nullptr, count)
-            .arg(QString::number(incomplete.size()), words(labelOf(first)),
-                 words(wordsOf(missingDetails(first))));
+            .arg(QString::number(incomplete.count), words(labelOf(incomplete.first)),
+                 words(wordsOf(incomplete.missing)));
     return {NoticeKind::kWarning, text, {show}, {}};
 }
 
 } // namespace
 
 Notice handOverSongs(DialogPlace& place, PanelNotices& panel, const PublishEntry& entry,
-                     const std::vector<Song>& songs) {
+                     const std::vector<SongFile>& songs) {
     ReleaseWish wish;
     wish.mode = ReleaseMode::kPanel;
     wish.songs.resize(songs.size());
-    std::vector<SongFile> files;
-    files.reserve(songs.size());
-    for (const Song& song : songs) {
-        files.push_back(fileOf(song));
-    }
     const QPointer<PanelNotices> self(&panel);
     Publishing& publishing = panel.publishing();
-    Plan plan = publishing.plan(entry, wish, files);
+    Plan plan = publishing.plan(entry, wish, songs);
     if (mayLeaveOut(place, plan)) {
         wish.skipsUnreadable = true;
-        plan = publishing.plan(entry, wish, files);
+        plan = publishing.plan(entry, wish, songs);
     }
     if (!self || (plan.canBeHandedOver() && !mayReplace(place, panel)) || !self) {
         return {};

@@ -263,12 +263,12 @@ void MainWindow::showNotice(const Notice& notice) {
 }
 
 void MainWindow::publish(const PublishEntry& entry) {
-    std::vector<Song> songs;
+    std::vector<SongFile> songs;
+    bool isReading = false;
     for (const int row : m_view->chosenRows()) {
-        songs.push_back(m_songs.song(row));
+        songs.push_back(fileOf(m_songs.song(row)));
+        isReading = isReading || m_songs.song(row).isBeingRead;
     }
-    const bool isReading =
-        std::any_of(songs.begin(), songs.end(), [](const Song& song) { return song.isBeingRead; });
     if (songs.empty() || isReading) {
         showNotice({NoticeKind::kInfo,
                     isReading ? tr("Some songs are still being read; try again in a moment.")

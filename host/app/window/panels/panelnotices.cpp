@@ -159,20 +159,19 @@ bool PanelNotices::uploadComes() {
 
 /// Before bytes go that the service will not take.
 bool PanelNotices::askAboutMissing() {
-    const auto incomplete = incompleteOf(m_publishing.tracks(), m_panel->isAlbum());
-    if (incomplete.empty()) {
+    const Incomplete incomplete = incompleteOf(m_publishing.tracks(), m_panel->isAlbum());
+    if (incomplete.count == 0) {
         return true;
     }
-    const auto missing = missingDetails(incomplete.front());
     const Question question{tr("Send without these details?"),
                             tr("“%1”: %2. The service will probably refuse it. Nothing is sent yet.")
-                                .arg(QString::fromStdString(labelOf(incomplete.front())),
-                                     QString::fromStdString(wordsOf(missing))),
+                                .arg(QString::fromStdString(labelOf(incomplete.first)),
+                                     QString::fromStdString(wordsOf(incomplete.missing))),
                             {tr("&Show"), tr("Send &Anyway")}};
     const QPointer<PanelNotices> self(this);
     const bool isWanted = ask(*m_place, question) == 1;
     if (self && !isWanted) {
-        emit showAsked(incomplete.front().index, parameterOf(missing.front()));
+        emit showAsked(incomplete.first.index, parameterOf(incomplete.missing.front()));
     }
     return self && isWanted;
 }
