@@ -258,14 +258,9 @@ TEST_F(CasesTest, aFolderOfSongsWithoutTagsIsAnAlbumWithNumbersAndTitles) {
         songs.push_back(
             stage.untaggedSong("album/" + number + " Song " + static_cast<char>('@' + i) + ".wav"));
     }
-    const QStringList options{"--album",
-                              "--album-title=Night Drive",
-                              "--genre",
-                              "Ambient",
-                              "--album-artist=The Lamps",
-                              QString::fromStdString(stage.path("album")),
-                              "--artist",
-                              "The Lamps"};
+    QStringList options{"--album", "--album-title=Night Drive", "--genre", "Ambient"};
+    options << "--album-artist=The Lamps" << stage.path("album").c_str() << "--artist"
+            << "The Lamps";
     EXPECT_EQ(run(options + QStringList("--dry-run")).last["exitCode"].toInt(), 0);
     EXPECT_EQ(run(options).last["text"].toString().toStdString(),
               "Published the album “Night Drive” with 12 songs.");

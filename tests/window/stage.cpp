@@ -3,6 +3,7 @@
 #include "host/app/window/frame/statusline.h"
 #include "tests/fixtures/soundfiles.h"
 #include "tests/fixtures/wavefile.h"
+#include "tests/window/person.h"
 
 #include <QDBusConnection>
 #include <QProcess>
