@@ -8,12 +8,18 @@
 namespace {
 
 std::string events; ///< what happened to the module
+std::string kind;   ///< how it is wrong
 
 } // namespace
 
 XBR_API void recordModuleEvent(const char* event);
 XBR_API void recordModuleEvent(const char* event) {
     events += std::string(event) + ' ';
+}
+
+XBR_API const char* testModuleKind();
+XBR_API const char* testModuleKind() {
+    return kind.c_str();
 }
 
 namespace xbr::host {
@@ -39,18 +45,19 @@ struct ModuleLoading : testing::Test {
 } // namespace
 
 TEST_F(ModuleLoading, everyProblemIsOneClearLine) {
-    const std::tuple<std::string, const char*, const char*> cases[] = {
-        {folder.path("none.so"), "is not there", ""},
-        {folder.path(), "is not there", ""},
-        {folder.write("text.so", "no library"), "cannot be loaded", ""},
-        {TEST_LIBRARY, "no module", ""},
-        {TEST_MODULES "/refusing.so", "refuses", "load unload "},
-        {TEST_MODULES "/newer.so", "border version 2.0, this host for 1.0", ""},
-        {TEST_MODULES "/serviceless.so", "no service", "load unload "},
-        {TEST_MODULES "/failing.so", "cannot start its service 'Test'", "load test host released unload "},
+    const std::tuple<std::string, const char*, const char*, const char*> cases[] = {
+        {folder.path("none.so"), "is not there", "", ""},
+        {folder.path(), "is not there", "", ""},
+        {folder.write("text.so", "no library"), "cannot be loaded", "", ""},
+        {TEST_LIBRARY, "no module", "", ""},
+        {TEST_MODULE, "refuses", "load unload ", "refusing"},
+        {TEST_MODULE, "border version 2.0, this host for 1.0", "", "newer"},
+        {TEST_MODULE, "no service", "load unload ", "serviceless"},
+        {TEST_MODULE, "cannot start its service 'Test'", "load test host released unload ", "failing"},
     };
-    for (const auto& [path, problem, expected] : cases) {
+    for (const auto& [path, problem, expected, isWrong] : cases) {
         events.clear();
+        kind = isWrong;
         const auto loaded = LoadedModule::load(path, *context);
         ASSERT_FALSE(loaded) << path;
         EXPECT_EQ(loaded.problem().subject, path);
@@ -62,10 +69,11 @@ TEST_F(ModuleLoading, everyProblemIsOneClearLine) {
 }
 
 TEST_F(ModuleLoading, unloadingTakesEverythingBackInReverse) {
+    kind.clear();
     for (const char* time : {"once", "and again"}) {
         events.clear();
         {
-            const auto module = LoadedModule::load(TEST_MODULES "/good.so", *context);
+            const auto module = LoadedModule::load(TEST_MODULE, *context);
             ASSERT_TRUE(module) << time;
             EXPECT_EQ((*module)->name() + " " + (*module)->version(), "Test 1.2.3");
             EXPECT_EQ(countThings(), 1);

@@ -1,16 +1,19 @@
-// A module for the tests of the loader. Each build of it is wrong in the way that TEST_KIND names.
+// A module for the tests of the loader, which is wrong in the way that the test program says.
 
 #include "framework/support/objects/text.h"
 #include "framework/support/parts/classfactory.h"
 
-/// In the test program.
+// In the test program; not where others load the module.
 extern "C" void recordModuleEvent(const char* event) __attribute__((weak));
+extern "C" const char* testModuleKind() __attribute__((weak));
 
 namespace {
 
 using namespace xbr;
 
-constexpr std::string_view kKind = TEST_KIND;
+bool isKind(std::string_view kind) {
+    return testModuleKind && testModuleKind() == kind;
+}
 
 void record(const char* event) {
     if (recordModuleEvent) {
@@ -25,7 +28,7 @@ struct Service final : Object<IProgramService> {
 
     Result initialise(IHostContext* context) noexcept override {
         record(toString(context->hostName()).c_str());
-        return kKind == "failing" ? kUnexpected : kOk;
+        return isKind("failing") ? kUnexpected : kOk;
     }
     Result getClasses(IClassFactory** out) noexcept override {
         static const auto thing = describe(uid("5a4d2a4e-57b5-4d13-a1b7-2f53a0c3f002"), "Test", "Thing");
@@ -42,9 +45,9 @@ struct Service final : Object<IProgramService> {
 
 struct Factory final : Object<IClassFactory, IModuleInfo> {
     std::uint32_t borderVersion() const noexcept override {
-        return kBorderVersion + (kKind == "newer" ? 0x0001'0000U : 0U);
+        return kBorderVersion + (isKind("newer") ? 0x0001'0000U : 0U);
     }
-    std::int32_t countClasses() const noexcept override { return kKind == "serviceless" ? 0 : 1; }
+    std::int32_t countClasses() const noexcept override { return isKind("serviceless") ? 0 : 1; }
     const ClassDescription* classAt(std::int32_t index) const noexcept override {
         static const auto service =
             describe(uid("5a4d2a4e-57b5-4d13-a1b7-2f53a0c3f001"), "ProgramService", "Test");
@@ -61,7 +64,7 @@ struct Factory final : Object<IClassFactory, IModuleInfo> {
 
 XBR_API std::int32_t XBRModuleMain(void* handle, std::int32_t reason) noexcept {
     record(reason == 1 ? "load" : "unload");
-    return handle && kKind != "refusing" ? 1 : 0;
+    return handle && !isKind("refusing") ? 1 : 0;
 }
 
 XBR_API xbr::IClassFactory* XBRGetClassFactory() noexcept {

@@ -220,9 +220,7 @@ TEST_F(Callbacks, oneHostThatWaitsGetsTheLinkBack) {
         for (const std::string& answer : each.others) {
             others.emplace_back(m_folder + "/" + std::to_string(others.size()) + ".sock", answer);
         }
-        const auto began = std::chrono::steady_clock::now();
         EXPECT_EQ(sendElsewhere("test:a", &sendLinkBack), each.delivery);
-        EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(2)) << "all at once";
         EXPECT_EQ(m_handler->urls.size(), each.isOurs ? 1U : 0U);
         for (const OtherHost& other : others) {
             EXPECT_EQ(other.wasSentUrl, !each.isOurs && other.answer == "waits 10");
