@@ -5,7 +5,6 @@
 #include <QAccessible>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTest>
 
 #include <set>
 
@@ -13,7 +12,9 @@ namespace xbr::host::tests {
 
 namespace {
 
-bool isControl(QAccessible::Role role) {
+/// Goes through everything that a screen reader reaches, and tells what cannot be told; the number of
+/// controls grows.
+std::string faultsOf(QAccessibleInterface& item, int& controls, const std::string& way = "") {
     static const std::set<QAccessible::Role> kControls{
         QAccessible::Button,       QAccessible::ButtonMenu,  QAccessible::ButtonDropDown,
         QAccessible::CheckBox,     QAccessible::ComboBox,    QAccessible::EditableText,
@@ -21,63 +22,32 @@ bool isControl(QAccessible::Role role) {
         QAccessible::PageTab,      QAccessible::ProgressBar, QAccessible::RadioButton,
         QAccessible::ColumnHeader, QAccessible::SpinBox,     QAccessible::Table,
         QAccessible::Tree};
-    return kControls.count(role) > 0;
-}
-
-/// Goes through everything that a screen reader reaches, and tells what cannot be told.
-void walk(QAccessibleInterface& item, const std::string& way, std::vector<std::string>& faults,
-          int& controls) {
-    const QAccessible::State state = item.state();
-    if (state.invisible) {
-        return;
-    }
+    const QAccessible::Role role = item.role();
     const std::string name = item.text(QAccessible::Name).toStdString();
     const std::string here = way + "/" + (item.object() ? item.object()->objectName().toStdString() : name);
-    if (isControl(item.role()) || state.focusable) {
+    std::string faults;
+    if (item.state().invisible) {
+        return faults;
+    }
+    if (item.state().focusable || kControls.contains(role)) {
         ++controls;
-        const bool isItem = item.role() == QAccessible::Cell || item.role() == QAccessible::TreeItem;
-        if (name.empty() && !isItem) { // a cell may well be empty
-            faults.push_back(here + " has no name");
-        }
-        if (item.role() == QAccessible::NoRole || item.role() == QAccessible::Client) {
-            faults.push_back(here + " has no role");
-        }
+        const bool mayBeEmpty = role == QAccessible::Cell || role == QAccessible::TreeItem;
+        const bool hasRole = role != QAccessible::NoRole && role != QAccessible::Client;
+        faults += name.empty() && !mayBeEmpty ? here + " has no name\n" : "";
+        faults += item.state().focusable && !hasRole ? here + " has no role\n" : "";
     }
     for (int i = 0; i < item.childCount(); ++i) {
         if (QAccessibleInterface* child = item.child(i)) {
-            walk(*child, here, faults, controls);
+            faults += faultsOf(*child, controls, here);
         }
     }
+    return faults;
 }
 
 std::string faultsOf(QWidget& window, int leastControls) {
-    std::vector<std::string> faults;
     int controls = 0;
-    walk(*QAccessible::queryAccessibleInterface(&window), "", faults, controls);
-    if (controls < leastControls) {
-        faults.push_back("only " + std::to_string(controls) + " controls were reached");
-    }
-    std::string all;
-    for (const std::string& fault : faults) {
-        all += fault + "\n";
-    }
-    return all;
-}
-
-/// The widgets that the tabulator reaches, in order, until it comes back.
-std::vector<QWidget*> tabOrder(QWidget& window, QWidget& first) {
-    std::vector<QWidget*> order;
-    first.setFocus();
-    static constexpr int kLimit = 200;
-    for (int i = 0; i < kLimit; ++i) {
-        QWidget* focus = QApplication::focusWidget();
-        if (!focus || std::find(order.begin(), order.end(), focus) != order.end()) {
-            break;
-        }
-        order.push_back(focus);
-        QTest::keyClick(&window, Qt::Key_Tab);
-    }
-    return order;
+    const std::string faults = faultsOf(*QAccessible::queryAccessibleInterface(&window), controls);
+    return controls < leastControls ? "few controls were reached\n" + faults : faults;
 }
 
 } // namespace
@@ -86,7 +56,7 @@ TEST_F(WindowTest, everyControlHasANameAndARole) {
     open({});
     EXPECT_EQ(faultsOf(window(), 10), "") << "before the sign-in";
     window().addSongs(stage.songs());
-    ASSERT_TRUE(waitFor([&] { return !cell(songList(), 2, SongListModel::kLength).empty(); }));
+    ASSERT_TRUE(waitFor([&] { return !song(2, SongListModel::kLength).empty(); }));
     click(window(), "publish");
     signIn();
     selectRows(trackList(), {0, 1});
@@ -100,15 +70,17 @@ TEST_F(WindowTest, everyControlHasANameAndARole) {
 TEST_F(WindowTest, theTabulatorReachesEverything) {
     openReady(stage.songs());
     selectRows(trackList(), {0});
-    const auto order = tabOrder(window(), songList());
-    ASSERT_GT(order.size(), 10U);
+    std::set<QWidget*> reached; // until it comes back
+    songList().setFocus();
+    while (QApplication::focusWidget() && reached.insert(QApplication::focusWidget()).second) {
+        QTest::keyClick(&window(), Qt::Key_Tab);
+    }
     for (const char* name :
          {"songs", "publish", "dismiss", "user", "disconnect", "singles", "tracks", "addTracks", "removeAll",
           "songTitle", "songArtist", "trackNumber", "albumTitle", "albumArtist", "primaryGenre", "upload"}) {
-        const bool isReached = std::any_of(order.begin(), order.end(), [name](const QWidget* widget) {
+        EXPECT_TRUE(std::any_of(reached.begin(), reached.end(), [name](const QWidget* widget) {
             return widget->objectName() == name || widget->parentWidget()->objectName() == name;
-        });
-        EXPECT_TRUE(isReached) << name;
+        })) << name;
     }
 }
 

@@ -1,12 +1,12 @@
-// Nothing that was typed is lost, and nothing is sent twice by mistake.
+// The list of songs and the panel's tracks: nothing that was typed is lost, and nothing is sent twice by
+// mistake.
 
 #include "tests/window/fixture.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
+#include <QMimeData>
 
 #include <filesystem>
+#include <memory>
 
 namespace xbr::host::tests {
 
@@ -14,12 +14,43 @@ namespace {
 
 class Keeping : public WindowTest {
 protected:
-    std::string field(const char* name) { return window().findChild<QLineEdit*>(name)->text().toStdString(); }
-    std::string label(const char* name) { return window().findChild<QLabel*>(name)->text().toStdString(); }
+    std::vector<std::string> artists() {
+        std::vector<std::string> all;
+        for (int row : {0, 1, 2}) {
+            selectRows(trackList(), {row});
+            all.push_back(text("songArtist"));
+        }
+        return all;
+    }
+};
 
-    void edit(int row, const char* name, const QString& text) {
-        selectRows(trackList(), {row});
-        type(window(), name, text);
+class SongList : public WindowTest {
+protected:
+    SongList() {
+        open(
+            {stage.untaggedSong("03 C.wav"), stage.untaggedSong("01 A.wav"), stage.untaggedSong("02 B.wav")});
+        EXPECT_TRUE(waitFor([this] { return order() == "1 A, 2 B, 3 C"; })) << order();
+    }
+
+    std::string order() {
+        std::string all;
+        for (int row = 0; row < songList().model()->rowCount(); ++row) {
+            all += (row > 0 ? ", " : "") + song(row, SongListModel::kNumber) + " " +
+                   song(row, SongListModel::kTitle);
+        }
+        return all;
+    }
+
+    /// Drags rows to above or below another one.
+    void drag(const std::vector<int>& rows, int target, bool isBelow) {
+        QModelIndexList indexes;
+        for (const int row : rows) {
+            indexes.append(songList().model()->index(row, 1));
+        }
+        const std::unique_ptr<QMimeData> data(songList().model()->mimeData(indexes));
+        const QRect cell = songList().visualRect(songList().model()->index(target, 1));
+        const QPoint place(cell.center().x(), isBelow ? cell.bottom() - 1 : cell.top() + 1);
+        drop(*songList().viewport(), *data, place, Qt::MoveAction);
     }
 };
 
@@ -33,30 +64,22 @@ TEST_F(Keeping, whatIsRemovedOrChangedInThePanelComesBack) {
     EXPECT_TRUE(statusSays("3 songs removed from the panel."));
     EXPECT_EQ(trackList().model()->rowCount(), 0);
     click(window(), "undo");
-    ASSERT_TRUE(waitFor([&] { return trackList().model()->rowCount() == 3; }));
+    ASSERT_TRUE(areTracks(3));
     EXPECT_EQ(cell(trackList(), 1, 0), "Typed");
 
     // Several at once: it is said before, and can be taken back.
-    std::vector<std::string> artists;
-    for (int row : {0, 1, 2}) {
-        selectRows(trackList(), {row});
-        artists.push_back(field("songArtist"));
-    }
+    const auto before = artists();
     selectRows(trackList(), {0, 1});
     EXPECT_TRUE(
-        waitFor([&] { return label("editorHeader") == "2 songs selected: an edit changes all of them."; }));
-    EXPECT_EQ(label("songTitleDiffers"), "≠ 2 values");
+        waitFor([&] { return text("editorHeader") == "2 songs selected: an edit changes all of them."; }));
+    EXPECT_EQ(text("songTitleDiffers"), "≠ 2 values");
     type(window(), "songArtist", "Both");
     EXPECT_TRUE(statusSays("Song artist changed in 2 songs."));
-    EXPECT_TRUE(waitFor([&] { return label("songArtistDiffers") == "same"; }));
+    EXPECT_TRUE(waitFor([&] { return text("songArtistDiffers") == "same"; }));
     EXPECT_TRUE(choose(window(), "Undo"));
-    for (int row : {0, 1, 2}) {
-        selectRows(trackList(), {row});
-        EXPECT_EQ(field("songArtist"), artists[static_cast<std::size_t>(row)]);
-    }
-    selectRows(trackList(), {0});
+    EXPECT_EQ(artists(), before);
     EXPECT_TRUE(choose(window(), "Redo"));
-    EXPECT_EQ(field("songArtist"), "Both");
+    EXPECT_EQ(artists(), (std::vector<std::string>{"Both", "Both", before[2]}));
 }
 
 TEST_F(Keeping, editsAreNotReplacedOrLeftWithoutAQuestion) {
@@ -82,35 +105,29 @@ TEST_F(Keeping, editsAreNotReplacedOrLeftWithoutAQuestion) {
 
 TEST_F(Keeping, theListComesBackAsItWas) {
     open(stage.songs());
-    const auto index = songList().model()->index(1, SongListModel::kTitle);
-    songList().model()->setData(index, "Typed");
+    songList().model()->setData(songList().model()->index(1, SongListModel::kTitle), "Typed");
     selectRows(songList(), {2});
     EXPECT_TRUE(choose(window(), "Remove"));
     EXPECT_TRUE(statusSays("1 song removed from the list; the files stay."));
     EXPECT_TRUE(choose(window(), "Undo"));
-    EXPECT_EQ(songList().model()->rowCount(), 3);
     EXPECT_TRUE(window().close());
     stage.close();
-    const std::string gone = stage.songs().back();
-    std::filesystem::rename(gone, gone + ".away");
+    std::filesystem::rename(stage.songs().back(), stage.path("away"));
     stage.open({});
     EXPECT_EQ(songList().model()->rowCount(), 3);
-    EXPECT_EQ(cell(songList(), 1, SongListModel::kTitle), "Typed");
-    int marked = 0;
+    EXPECT_EQ(song(1, SongListModel::kTitle), "Typed");
     EXPECT_TRUE(waitFor([&] {
-        marked = 0;
-        for (int row = 0; row < 3; ++row) {
-            marked += cell(songList(), row, SongListModel::kMark) == "!" ? 1 : 0;
-        }
-        return marked == 1;
-    })) << marked;
+        return song(0, SongListModel::kMark) + song(1, SongListModel::kMark) +
+                   song(2, SongListModel::kMark) ==
+               "!";
+    })) << "the one that is gone";
 }
 
 TEST_F(Keeping, aSongIsNotPublishedTwiceByMistake) {
     openReady({stage.songs().front()});
     click(window(), "upload");
     ASSERT_TRUE(statusSays("Published “"));
-    EXPECT_TRUE(waitFor([&] { return cell(songList(), 0, SongListModel::kMark) == "✓"; }));
+    EXPECT_TRUE(waitFor([&] { return song(0, SongListModel::kMark) == "✓"; }));
     std::filesystem::rename(stage.songs().front(), stage.path("Renamed.mp3"));
     selectRows(songList(), {0});
     EXPECT_TRUE(choose(window(), "Remove"));
@@ -122,6 +139,34 @@ TEST_F(Keeping, aSongIsNotPublishedTwiceByMistake) {
         click(window(), "upload");
         EXPECT_TRUE(waitFor([&] { return stage.arrived() == (choice[0] == 'C' ? 1U : 2U); })) << choice;
     }
+}
+
+TEST_F(SongList, rowsAreMovedByKeyAndByDragAndNumbersFollow) {
+    selectRows(songList(), {2});
+    QTest::keyClick(&songList(), Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(order(), "1 A, 2 C, 3 B");
+    drag({0}, 2, true);
+    EXPECT_EQ(order(), "1 C, 2 B, 3 A");
+    drag({1, 2}, 0, false);
+    EXPECT_EQ(order(), "1 B, 2 A, 3 C");
+    EXPECT_TRUE(choose(window(), "Undo"));
+    EXPECT_EQ(order(), "1 C, 2 B, 3 A");
+
+    // Numbers that do not count the places are the user's own.
+    songList().model()->setData(songList().model()->index(0, SongListModel::kNumber), 7);
+    drag({2}, 0, false);
+    EXPECT_EQ(order(), "3 A, 7 C, 2 B");
+}
+
+TEST_F(SongList, anUnknownGenreIsSaidBeforeItIsHandedOverWithWhatMayBeMeant) {
+    const auto genre = songList().model()->index(0, SongListModel::kGenre);
+    songList().model()->setData(genre, "Tecno");
+    EXPECT_EQ(song(0, SongListModel::kMark), "!");
+    EXPECT_NE(genre.data(SongListModel::kProblemRole).toString().indexOf("Nearest: "), -1);
+    EXPECT_EQ(song(0, SongListModel::kGenre), "Tecno") << "kept as typed";
+    QTest::keyClick(&window(), Qt::Key_F8);
+    ASSERT_NE(songList().findChild<QLineEdit*>(), nullptr);
+    EXPECT_EQ(songList().currentIndex(), genre);
 }
 
 } // namespace xbr::host::tests

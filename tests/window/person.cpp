@@ -1,15 +1,10 @@
 #include "tests/window/person.h"
 
-#include "tests/window/stage.h"
-
 #include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QDropEvent>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QTest>
 #include <QUrl>
 #include <gtest/gtest.h>
@@ -27,18 +22,16 @@ QWidget* find(QWidget& window, const char* name) {
 }
 
 void click(QWidget& window, const char* name) {
-    QWidget* button = find(window, name);
-    if (button) {
+    if (QWidget* button = find(window, name)) {
         EXPECT_TRUE(button->isEnabled()) << name;
         QTest::mouseClick(button, Qt::LeftButton);
     }
 }
 
 void type(QWidget& window, const char* name, const QString& text) {
-    auto* field = findAs<QLineEdit>(window, name);
-    if (field) {
+    if (auto* field = findAs<QLineEdit>(window, name)) {
         field->setFocus();
-        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+        field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
         QTest::keyClicks(field, text);
         QTest::keyClick(field, Qt::Key_Return);
@@ -52,16 +45,19 @@ bool drop(QWidget& target, const std::vector<std::string>& files) {
         urls.append(QUrl::fromLocalFile(QString::fromStdString(file)));
     }
     data.setUrls(urls);
-    const QPoint place = target.rect().center();
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&target, &enter);
-    if (!enter.isAccepted()) {
-        return false;
+    return drop(target, data, target.rect().center(), Qt::CopyAction);
+}
+
+bool drop(QWidget& target, const QMimeData& data, QPoint place, Qt::DropAction action) {
+    QDragEnterEvent enter(place, action, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragMoveEvent move(place, action, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent dropped(place, action, &data, Qt::LeftButton, Qt::NoModifier);
+    for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), static_cast<QDropEvent*>(&move), &dropped}) {
+        QApplication::sendEvent(&target, event);
+        if (!enter.isAccepted()) {
+            return false;
+        }
     }
-    QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&target, &move);
-    QDropEvent dropped(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&target, &dropped);
     return dropped.isAccepted();
 }
 
@@ -90,13 +86,22 @@ bool choose(QWidget& window, const QString& text) {
     return false;
 }
 
-std::unique_ptr<QTimer> answer(const QString& button) {
-    return whenever([button] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box) {
-            return false;
+std::unique_ptr<QTimer> whenever(const std::function<bool()>& act) {
+    static constexpr int kPause = 5;
+    auto timer = std::make_unique<QTimer>();
+    timer->callOnTimeout([timer = timer.get(), act] {
+        timer->stop(); // it may run the event loop
+        if (!act()) {
+            timer->start();
         }
-        for (QAbstractButton* each : box->buttons()) {
+    });
+    timer->start(kPause);
+    return timer;
+}
+
+std::unique_ptr<QTimer> answer(const QString& button) {
+    return inDialog<QMessageBox>([button](QMessageBox& box) {
+        for (QAbstractButton* each : box.buttons()) {
             if (each->text().remove('&') == button) {
                 QTest::mouseClick(each, Qt::LeftButton);
                 return true;
@@ -104,6 +109,10 @@ std::unique_ptr<QTimer> answer(const QString& button) {
         }
         return false;
     });
+}
+
+bool waitFor(const std::function<bool()>& condition, int milliseconds) {
+    return QTest::qWaitFor(condition, milliseconds);
 }
 
 } // namespace xbr::host::tests

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QMimeData>
 #include <QString>
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,8 +20,7 @@ QWidget* find(QWidget& window, const char* name);
 
 template <class T>
 T* findAs(QWidget& window, const char* name) {
-    T* found = qobject_cast<T*>(find(window, name));
-    return found;
+    return qobject_cast<T*>(find(window, name));
 }
 
 void click(QWidget& window, const char* name);
@@ -26,8 +28,10 @@ void click(QWidget& window, const char* name);
 /// Replaces the text of a field by typing.
 void type(QWidget& window, const char* name, const QString& text);
 
-/// Drops files onto a widget, as a file manager does. False when the widget does not want them.
+/// Drops files onto a widget, as a file manager does, or anything at a place. False when the widget does not
+/// want it.
 bool drop(QWidget& target, const std::vector<std::string>& files);
+bool drop(QWidget& target, const QMimeData& data, QPoint place, Qt::DropAction action);
 
 /// Selects rows with the mouse and the keyboard's modifiers.
 void selectRows(QAbstractItemView& list, const std::vector<int>& rows);
@@ -39,7 +43,22 @@ std::string cell(const QAbstractItemView& list, int row, int column);
 /// missing.
 bool choose(QWidget& window, const QString& text);
 
-/// Presses a button of the question that comes up, whatever event loop runs then.
+/// Calls a function again and again, in whatever event loop runs, until it answers true or the handle dies.
+[[nodiscard]] std::unique_ptr<QTimer> whenever(const std::function<bool()>& act);
+
+/// The same while a modal dialog of that kind is open.
+template <class Dialog>
+[[nodiscard]] std::unique_ptr<QTimer> inDialog(const std::function<bool(Dialog&)>& act) {
+    return whenever([act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        return dialog && act(*dialog);
+    });
+}
+
+/// Presses a button of the question that comes up.
 [[nodiscard]] std::unique_ptr<QTimer> answer(const QString& button);
+
+/// Runs the event loop until the condition holds; false when that takes too long.
+bool waitFor(const std::function<bool()>& condition, int milliseconds = 20000);
 
 } // namespace xbr::host::tests

@@ -1,15 +1,12 @@
 #pragma once
 
 #include "host/app/window/start/windowfront.h"
+#include "tests/fixtures/testfolder.h"
 #include "tests/sandbox/runningservice.h"
 
 #include <QLocalServer>
-#include <QTemporaryDir>
-#include <QTimer>
 
-#include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,7 +28,7 @@ public:
     void stopService() { m_service.reset(); }
 
     /// A file or folder of this stage.
-    std::string path(const std::string& name) const;
+    std::string path(const std::string& name) const { return m_folder.path(name); }
 
     /// Three songs with all the information that a release needs: MP3, FLAC, WAV by name.
     const std::vector<std::string>& songs() const { return m_songs; }
@@ -42,9 +39,9 @@ public:
     /// A song of a kind that has to be rendered.
     std::string renderedSong(const std::string& name) const;
 
-    /// What the person with the browser does with the next sign-in page.
+    /// What the person with the browser does with the next sign-in page; before that a line of a shell runs.
     enum class Visit { kAllow, kDeny, kGoAway };
-    void setVisit(Visit visit) const;
+    void setVisit(Visit visit, const std::string& before = "true") const;
 
     /// Settings of the service; an empty address leaves them out.
     void configure(const std::string& server) const;
@@ -75,19 +72,14 @@ public:
 private:
     void setVariable(const char* name, const std::string& value);
     void makeSongs(int seconds);
+    void writeScript(const std::string& name, const std::string& commands) const;
 
     std::vector<std::pair<const char*, QByteArray>> m_variables; ///< of the environment, as they were
-    QTemporaryDir m_folder;
+    TestFolder m_folder;
     QLocalServer m_bus; ///< the silent one
     std::unique_ptr<RunningService> m_service;
     std::vector<std::string> m_songs;
     std::unique_ptr<WindowFront> m_host;
 };
-
-/// Runs the event loop until the condition holds; false when that takes too long.
-bool waitFor(const std::function<bool()>& condition, int milliseconds = 20000);
-
-/// Calls a function again and again, in whatever event loop runs, until it answers true or the handle dies.
-[[nodiscard]] std::unique_ptr<QTimer> whenever(const std::function<bool()>& act);
 
 } // namespace xbr::host::tests

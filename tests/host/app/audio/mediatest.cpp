@@ -2,11 +2,13 @@
 #include "framework/support/objects/text.h"
 #include "host/app/audio/mediasignature.h"
 #include "host/app/audio/mediatags.h"
-#include "host/base/fileurl.h"
+#include "tests/fixtures/soundfiles.h"
 #include "tests/fixtures/testfolder.h"
 #include "tests/fixtures/wavefile.h"
 
 #include <gtest/gtest.h>
+#include <taglib/fileref.h>
+#include <taglib/tpropertymap.h>
 
 #include <filesystem>
 #include <fstream>
@@ -18,6 +20,7 @@ namespace xbr::host {
 namespace {
 
 constexpr std::uint64_t kMiB = std::uint64_t{1} << 20U;
+const std::string kFrame("\xFF\xFB\x90\x64", 4); // of an MP3 file
 
 std::string id3Head(char version, std::uint64_t size) {
     std::string head{'I', 'D', '3', version, '\0', '\0'};
@@ -28,8 +31,8 @@ std::string id3Head(char version, std::uint64_t size) {
 }
 
 std::string flacBlock(char type, std::uint32_t size) {
-    return {type, static_cast<char>(size >> 16U), static_cast<char>(size >> 8U & 0xFFU),
-            static_cast<char>(size & 0xFFU)};
+    const std::string number = littleEndian(size, 3);
+    return type + std::string(number.rbegin(), number.rend());
 }
 
 std::string apeFooter(std::uint64_t size) {
@@ -43,22 +46,25 @@ std::uint64_t mostMemory() {
     return static_cast<std::uint64_t>(usage.ru_maxrss) * 1024;
 }
 
+/// Attributes as one text in the order of the border's documentation.
+std::string textOf(const Attributes& attributes) {
+    std::string text;
+    for (const char* key :
+         {"Media:Title", "Media:Artist", "Media:Album", "Media:AlbumArtist", "Media:Genre"}) {
+        text += attributes.getString(key) + "|";
+    }
+    return text + std::to_string(integerOf(attributes.get("Media:TrackIndex")));
+}
+
 class Media : public testing::Test {
 protected:
-    Result open(const std::string& path) { return m_info->open(toText(fileUrl(path))); }
-
-    /// The attributes of a file with these bytes, as one text in the order of the border's documentation.
-    std::string attributesOf(const std::string& name, std::string_view bytes) {
+    /// The attributes of a file with these bytes.
+    std::string attributesOf(std::string_view bytes) {
+        m_folder.write("named.flac", bytes);
         const auto attributes = make<Attributes>();
-        if (open(m_folder.write(name, bytes)) != kOk || m_info->getAttributes(attributes.get()) != kOk) {
-            return "no audio";
-        }
-        std::string text;
-        for (const char* key :
-             {"Media:Title", "Media:Artist", "Media:Album", "Media:AlbumArtist", "Media:Genre"}) {
-            text += attributes->getString(key) + "|";
-        }
-        return text + std::to_string(integerOf(attributes->get("Media:TrackIndex")));
+        const bool isAudio = m_info->open(toText(m_folder.url("named.flac"))) == kOk &&
+                             m_info->getAttributes(attributes.get()) == kOk;
+        return isAudio ? textOf(*attributes) : "no audio";
     }
 
     TestFolder m_folder;
@@ -67,69 +73,67 @@ protected:
 
 } // namespace
 
-TEST_F(Media, wavTagsComeFromInfoAndId3) {
+TEST_F(Media, bytesTellWhatAFileIsAndSays) {
     const auto info =
         infoChunk({{"INAM", "Night"}, {"IART", "Ann"}, {"IPRD", "Moon"}, {"IGNR", "Pop"}, {"IPRT", "7"}});
     const auto id3 = chunk("id3 ", id3Tag({{"TIT2", "Day"}, {"TPE2", "Band"}, {"TRCK", "3/12"}}));
-    EXPECT_EQ(attributesOf("plain.wav", waveFile()), "|||||0");
-    EXPECT_EQ(attributesOf("info.wav", waveFile(info)), "Night|Ann|Moon||Pop|7");
-    EXPECT_EQ(attributesOf("id3.wav", waveFile(id3)), "Day|||Band||3");
-    EXPECT_EQ(attributesOf("both.wav", waveFile(info + id3)), "Day|Ann|Moon|Band|Pop|3");
-    EXPECT_EQ(attributesOf("itrk.wav", waveFile(infoChunk({{"ITRK", "05"}}))), "|||||5");
-}
-
-TEST_F(Media, infoTextIsUtf8OrLatin1) {
-    EXPECT_EQ(attributesOf("u.wav", waveFile(infoChunk({{"INAM", "Ax\xC3\xA9"}}))), "Axé|||||0");
-    EXPECT_EQ(attributesOf("l.wav", waveFile(infoChunk({{"INAM", "Ax\xE9"}}))), "Axé|||||0");
-}
-
-TEST_F(Media, theBytesCountNotTheName) {
     const std::string tag = id3Tag({{"TIT2", "Song"}, {"TRCK", "x"}});
-    const std::string frame("\xFF\xFB\x90\x64", 4);
-    EXPECT_EQ(attributesOf("a.mp3", tag + std::string(100, '\0') + frame + std::string(500, '\0')),
-              "Song|||||0");
-    EXPECT_EQ(attributesOf("named.flac", waveFile()), "|||||0");
-    EXPECT_EQ(recognise(m_folder.write("b.mp3", std::string(10, '\0') + frame)), MediaKind::kMp3);
-    EXPECT_EQ(recognise(m_folder.write("c.flac", "fLaC" + std::string(60, '\0'))), MediaKind::kFlac);
-    EXPECT_EQ(recognise(m_folder.write("d.flac", tag + "fLaC")), MediaKind::kFlac);
-    EXPECT_EQ(recognise(m_folder.write("e.wav", "RF64" + waveFile().substr(4))), MediaKind::kWav);
-}
-
-TEST_F(Media, damagedFilesAreRefused) {
     const std::string wave = waveFile();
-    const std::string bodies[] = {
-        "",
-        "RIFF",
-        "just text, long enough to be looked at as something else",
-        wave.substr(0, 12),                                        // nothing behind the head
-        wave.substr(0, 36),                                        // no audio
-        wave.substr(0, 8) + "AVI " + wave.substr(12),              // another form
-        "RIFF\xFF\xFF\xFF\xFFWAVE" + std::string(4000, '\xFF'),    // sizes beyond the end
-        "ID3\x04" + std::string(3, '\0') + std::string(4, '\x7F'), // a tag of 256 MiB that is not there
-        std::string("PK\x03\x04", 4) + std::string(1000, 'x'),
-    };
-    for (const std::string& body : bodies) {
-        EXPECT_EQ(attributesOf("damaged.wav", body), "no audio") << body.substr(0, 20);
-    }
     std::string manyChunks = wave.substr(0, 36);
     for (int i = 0; i < 5000; ++i) {
         manyChunks += chunk("junk", "");
     }
-    EXPECT_EQ(attributesOf("chunks.wav", manyChunks + chunk("data", "xx")), "no audio");
+    const std::pair<std::string, const char*> cases[] = {
+        {wave, "|||||0"},
+        {"RF64" + wave.substr(4), "|||||0"},
+        {waveFile(info), "Night|Ann|Moon||Pop|7"},
+        {waveFile(id3), "Day|||Band||3"},
+        {waveFile(info + id3), "Day|Ann|Moon|Band|Pop|3"},
+        {waveFile(infoChunk({{"ITRK", "05"}})), "|||||5"},
+        {waveFile(infoChunk({{"INAM", "Ax\xC3\xA9"}})), "Axé|||||0"},
+        {waveFile(infoChunk({{"INAM", "Ax\xE9"}})), "Axé|||||0"},
+        {tag + std::string(100, '\0') + kFrame + std::string(500, '\0'), "Song|||||0"},
+        {"", "no audio"},
+        {"RIFF", "no audio"},
+        {"just text, long enough to be looked at as something else", "no audio"},
+        {wave.substr(0, 12), "no audio"},                                        // nothing behind the head
+        {wave.substr(0, 36), "no audio"},                                        // no audio
+        {wave.substr(0, 8) + "AVI " + wave.substr(12), "no audio"},              // another form
+        {"RIFF\xFF\xFF\xFF\xFFWAVE" + std::string(4000, '\xFF'), "no audio"},    // sizes beyond the end
+        {"ID3\x04" + std::string(3, '\0') + std::string(4, '\x7F'), "no audio"}, // 256 MiB that are not there
+        {std::string("PK\x03\x04", 4) + std::string(1000, 'x'), "no audio"},
+        {manyChunks + chunk("data", "xx"), "no audio"},
+    };
+    for (const auto& [bytes, expected] : cases) {
+        EXPECT_EQ(attributesOf(bytes), expected) << bytes.substr(0, 60);
+    }
+    EXPECT_EQ(recognise(m_folder.write("a", std::string(10, '\0') + kFrame)), MediaKind::kMp3);
+    EXPECT_EQ(recognise(m_folder.write("b", "fLaC" + std::string(60, '\0'))), MediaKind::kFlac);
+    EXPECT_EQ(recognise(m_folder.write("c", tag + "fLaC")), MediaKind::kFlac);
 }
 
-TEST_F(Media, tagsCutShortDoNoHarm) {
-    const auto id3 = chunk("id3 ", id3Tag({{"TIT2", std::string(300, 'T')}, {"TPE1", "Ann"}}));
-    const std::string whole = waveFile(infoChunk({{"INAM", "Night"}, {"IART", "Ann"}}) + id3);
-    for (std::size_t length = waveFile().size(); length < whole.size(); length += 7) {
-        EXPECT_NE(attributesOf("cut.wav", whole.substr(0, length)), "no audio") << length;
+TEST_F(Media, tagsOfForeignFormatsAreRead) {
+    for (const auto& [name, format] : {std::pair{"a.aiff", SF_FORMAT_AIFF | SF_FORMAT_PCM_16},
+                                       std::pair{"a.ogg", SF_FORMAT_OGG | SF_FORMAT_VORBIS},
+                                       std::pair{"a.opus", SF_FORMAT_OGG | SF_FORMAT_OPUS}}) {
+        const std::string song = m_folder.path(name);
+        writeSound(song, format, 48000);
+        EXPECT_EQ(readForeignTags(song).texts.size(), 0U) << name;
+        const TagLib::FileRef file(song.c_str(), false);
+        TagLib::PropertyMap properties;
+        for (const char* key : {"TITLE", "ARTIST", "ALBUM", "ALBUMARTIST", "GENRE"}) {
+            properties.insert(key, TagLib::String(key + std::string(" Axé"), TagLib::String::UTF8));
+        }
+        properties.insert("TRACKNUMBER", TagLib::String("7/9"));
+        file.file()->setProperties(properties);
+        ASSERT_TRUE(file.file()->save());
+        EXPECT_EQ(textOf(*host::attributesOf(readForeignTags(song))),
+                  "TITLE Axé|ARTIST Axé|ALBUM Axé|ALBUMARTIST Axé|GENRE Axé|7");
     }
 }
 
 TEST_F(Media, hostileTagsCostLittle) {
-    const std::string frame("\xFF\xFB\x90\x64", 4);
     const std::string bomb = compressedText(100 * kMiB);
-    const std::string picture(3 * kMiB, 'P');
     constexpr int kMany = 1'000'000;
     std::string many = id3Head(3, std::uint64_t{11} * kMany);
     for (int i = 0; i < kMany; ++i) {
@@ -140,34 +144,26 @@ TEST_F(Media, hostileTagsCostLittle) {
     const std::string compressed = id3Tag({{"TIT2", "Song"}, {"TXXX", bomb, '\x80'}});
     const std::string flacTexts =
         "fLaC" + flacBlock('\x84', 16 * kMiB - 1) + littleEndian(0) + littleEndian(9);
-    const std::string wave = waveFile();
-    /// A file is `start`, zeros up to `size`, and `end`.
-    struct Case {
-        const char* what;
-        std::string start;
-        std::uint64_t size;
-        std::string end;
-        const char* title;
-    };
-    const Case cases[] = {
-        {"a picture", id3Tag({{"APIC", picture}, {"TIT2", "Song"}}) + frame, 0, "", "Song"},
-        {"a tag of 70 MiB", id3Head(4, 70 * kMiB), 71 * kMiB, frame, ""},
-        {"an old tag of 20 MiB", id3Head(2, 20 * kMiB) + std::string("TT2\0\0\1x", 7), 21 * kMiB, frame, ""},
-        {"many frames", many + frame, 0, "", ""},
-        {"a text of many parts", parts + frame, 0, "", ""},
-        {"a frame that grows", compressed + frame, 0, "", "Song"},
+    const std::string info = waveFile() + "LIST";
+    // A file is a start, zeros up to a size, and an end; its title is known then.
+    const std::tuple<const char*, std::string, std::uint64_t, std::string, const char*> cases[] = {
+        {"picture", id3Tag({{"APIC", std::string(3 * kMiB, 'P')}, {"TIT2", "Song"}}), 0, kFrame, "Song"},
+        {"a tag of 70 MiB", id3Head(4, 70 * kMiB), 71 * kMiB, kFrame, ""},
+        {"an old tag", id3Head(2, 20 * kMiB) + std::string("TT2\0\0\1x", 7), 21 * kMiB, kFrame, ""},
+        {"many frames", many, 0, kFrame, ""},
+        {"a text of many parts", parts, 0, kFrame, ""},
+        {"a frame that grows", compressed, 0, kFrame, "Song"},
         {"the same in a recording", waveFile(chunk("id3 ", compressed)), 0, "", "Song"},
-        {"the same in a chapter", id3Tag({{"CHAP", std::string(17, 'c') + inner, '\x20'}}) + frame, 0, "",
-         ""},
-        {"an APE tag of 64 MiB", frame, 100 * kMiB, apeFooter(64 * kMiB), ""},
-        {"the same before an ID3v1 tag", frame, 100 * kMiB,
+        {"and in a chapter", id3Tag({{"CHAP", std::string(17, 'c') + inner, '\x20'}}), 0, kFrame, ""},
+        {"an APE tag of 64 MiB", kFrame, 100 * kMiB, apeFooter(64 * kMiB), ""},
+        {"the same before an ID3v1 tag", kFrame, 100 * kMiB,
          apeFooter(64 * kMiB) + "TAGSong" + std::string(121, '\0'), ""},
-        {"a gap of 200 MiB before the first frame", std::string(500, '\0') + frame, 200 * kMiB, "", ""},
-        {"a picture", "fLaC" + flacBlock(6, 16) + std::string(16, 'p') + flacBlock('\x81', 9), 0, "", ""},
+        {"a gap before the first frame", std::string(500, '\0') + kFrame, 200 * kMiB, "", ""},
+        {"picture", "fLaC" + flacBlock(6, 16) + std::string(16, 'p') + flacBlock('\x81', 9), 0, "", ""},
         {"texts of 16 MiB", flacTexts, 17 * kMiB, "", ""},
         {"endless blocks", "fLaC" + flacBlock(6, 16 * kMiB - 1), 100 * kMiB, "", ""},
-        {"info of 1 MiB", wave + "LIST" + littleEndian(kMiB) + "INFO", kMiB + wave.size(), "", ""},
-        {"info of 8 MiB", wave + "LIST" + littleEndian(8 * kMiB) + "INFO", 9 * kMiB, "", ""},
+        {"info of 1 MiB", info + littleEndian(kMiB) + "INFO", kMiB + info.size(), "", ""},
+        {"info of 8 MiB", info + littleEndian(8 * kMiB) + "INFO", 9 * kMiB, "", ""},
         {"endless pages", std::string("OggS\0\2", 6), 80 * kMiB, "", ""},
     };
     for (const auto& [what, start, size, end, title] : cases) {
@@ -185,11 +181,10 @@ TEST_F(Media, hostileTagsCostLittle) {
 }
 
 TEST_F(Media, whatIsNoFileIsRefusedAtOnce) {
-    const std::string pipe = m_folder.path("pipe.wav");
-    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRWXU), 0);
-    EXPECT_EQ(open(pipe), kUnexpected); // opening it would wait for a writer
-    EXPECT_EQ(open(m_folder.path()), kUnexpected);
-    EXPECT_EQ(open(m_folder.path("none.wav")), kUnexpected);
+    ASSERT_EQ(mkfifo(m_folder.path("pipe.wav").c_str(), S_IRWXU), 0);
+    for (const char* name : {"pipe.wav", "", "none.wav"}) { // opening the pipe would wait for a writer
+        EXPECT_EQ(m_info->open(toText(m_folder.url(name))), kUnexpected) << name;
+    }
     EXPECT_EQ(m_info->open(toText("https://example.org/a.wav")), kInvalidArgument);
     EXPECT_EQ(m_info->getAttributes(make<Attributes>().get()), kUnexpected);
 }

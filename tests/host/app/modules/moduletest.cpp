@@ -7,16 +7,19 @@
 
 namespace {
 
-std::vector<std::string>& events() {
-    static std::vector<std::string> recorded;
-    return recorded;
-}
+std::string events; ///< what happened to the module
+std::string kind;   ///< how it is wrong
 
 } // namespace
 
 XBR_API void recordModuleEvent(const char* event);
 XBR_API void recordModuleEvent(const char* event) {
-    events().emplace_back(event);
+    events += std::string(event) + ' ';
+}
+
+XBR_API const char* testModuleKind();
+XBR_API const char* testModuleKind() {
+    return kind.c_str();
 }
 
 namespace xbr::host {
@@ -26,91 +29,72 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class FakeContext final : public Object<IHostContext> {
-public:
+struct FakeContext final : Object<IHostContext> {
     std::uint32_t borderVersion() const noexcept override { return kBorderVersion; }
     Text hostName() const noexcept override { return toText("test host"); }
     Text hostVersion() const noexcept override { return toText("1"); }
 };
 
-class ModuleLoading : public testing::Test {
-protected:
-    ModuleLoading() { events().clear(); }
-
-    std::string load(const std::string& path) {
-        m_module.reset();
-        auto loaded = LoadedModule::load(path, *m_context);
-        if (!loaded) {
-            EXPECT_EQ(loaded.problem().subject, path);
-            return loaded.problem().words;
-        }
-        m_module = std::move(*loaded);
-        return {};
-    }
-    static std::string testModule(const std::string& kind) {
-        return std::string(TEST_MODULES) + "/testmodule_" + kind + ".so";
-    }
+struct ModuleLoading : testing::Test {
     static std::int32_t countThings() { return XBRGetPlugInManager()->countClasses(toText("Test")); }
 
-    Ref<FakeContext> m_context = make<FakeContext>();
-    std::unique_ptr<LoadedModule> m_module;
-    TestFolder m_folder;
+    TestFolder folder;
+    Ref<FakeContext> context = make<FakeContext>();
 };
 
 } // namespace
 
 TEST_F(ModuleLoading, everyProblemIsOneClearLine) {
-    const struct {
-        std::string path;
-        const char* problem;
-        std::vector<std::string> events;
-    } cases[] = {
-        {m_folder.path("none.so"), "is not there", {}},
-        {m_folder.path(), "is not there", {}},
-        {m_folder.write("text.so", "no library"), "cannot be loaded", {}},
-        {testModule("empty"), "no module", {}},
-        {testModule("refusing"), "refuses", {"load", "unload"}},
-        {testModule("newer"), "border version 2.0, this host for 1.0", {}},
-        {testModule("serviceless"), "no service", {"load", "unload"}},
-        {testModule("failing"),
-         "cannot start its service 'Test'",
-         {"load", "test host", "released", "unload"}},
+    const std::tuple<std::string, const char*, const char*, const char*> cases[] = {
+        {folder.path("none.so"), "is not there", "", ""},
+        {folder.path(), "is not there", "", ""},
+        {folder.write("text.so", "no library"), "cannot be loaded", "", ""},
+        {TEST_LIBRARY, "no module", "", ""},
+        {TEST_MODULE, "refuses", "load unload ", "refusing"},
+        {TEST_MODULE, "border version 2.0, this host for 1.0", "", "newer"},
+        {TEST_MODULE, "no service", "load unload ", "serviceless"},
+        {TEST_MODULE, "cannot start its service 'Test'", "load test host released unload ", "failing"},
     };
-    for (const auto& one : cases) {
-        events().clear();
-        const std::string error = load(one.path);
-        EXPECT_EQ(m_module, nullptr);
-        EXPECT_THAT(error, HasSubstr(one.problem));
-        EXPECT_EQ(error.find('\n'), std::string::npos);
-        EXPECT_EQ(events(), one.events) << one.path;
+    for (const auto& [path, problem, expected, isWrong] : cases) {
+        events.clear();
+        kind = isWrong;
+        const auto loaded = LoadedModule::load(path, *context);
+        ASSERT_FALSE(loaded) << path;
+        EXPECT_EQ(loaded.problem().subject, path);
+        EXPECT_THAT(loaded.problem().words, HasSubstr(problem));
+        EXPECT_EQ(loaded.problem().words.find('\n'), std::string::npos);
+        EXPECT_EQ(events, expected) << path;
         EXPECT_EQ(countThings(), 0);
     }
 }
 
 TEST_F(ModuleLoading, unloadingTakesEverythingBackInReverse) {
-    ASSERT_EQ(load(testModule("good")), "");
-    EXPECT_EQ(m_module->name() + " " + m_module->version(), "Test 1.2.3");
-    EXPECT_EQ(countThings(), 1);
-    m_module.reset();
-    EXPECT_EQ(countThings(), 0);
-    EXPECT_THAT(events(), ElementsAre("load", "test host", "terminated", "released", "unload"));
-    ASSERT_EQ(load(testModule("good")), ""); // and again
-    EXPECT_EQ(countThings(), 1);
+    kind.clear();
+    for (const char* time : {"once", "and again"}) {
+        events.clear();
+        {
+            const auto module = LoadedModule::load(TEST_MODULE, *context);
+            ASSERT_TRUE(module) << time;
+            EXPECT_EQ((*module)->name() + " " + (*module)->version(), "Test 1.2.3");
+            EXPECT_EQ(countThings(), 1);
+        }
+        EXPECT_EQ(countThings(), 0);
+        EXPECT_EQ(events, "load test host terminated released unload ") << time;
+    }
 }
 
 TEST_F(ModuleLoading, searchPathNamesFilesAndFolders) {
-    m_folder.write("a/two.so", "");
-    m_folder.write("a/one.so", "");
-    m_folder.write("a/readme.txt", "");
+    const std::string two = folder.write("a/two.so", "");
+    const std::string one = folder.write("a/one.so", "");
+    folder.write("a/readme.txt", "");
     {
-        const TestVariable path("XBRHOST_MODULE_PATH", "/none.so::" + m_folder.path("a"));
-        EXPECT_THAT(findModules("/bin"),
-                    ElementsAre("/none.so", m_folder.path("a/one.so"), m_folder.path("a/two.so")));
+        const TestVariable path("XBRHOST_MODULE_PATH", "/none.so::" + folder.path("a"));
+        EXPECT_THAT(findModules("/bin"), ElementsAre("/none.so", one, two));
     }
-    const std::string installed = m_folder.write("lib/xbrhost/modules/m.so", "");
-    EXPECT_THAT(findModules(m_folder.path("bin")), ElementsAre(installed));
-    const std::string built = m_folder.write("lib/libbrindlex.so", "");
-    EXPECT_THAT(findModules(m_folder.path("bin")), ElementsAre(built));
+    const std::string installed = folder.write("lib/xbrhost/modules/m.so", "");
+    EXPECT_THAT(findModules(folder.path("bin")), ElementsAre(installed));
+    const std::string built = folder.write("lib/libbrindlex.so", "");
+    EXPECT_THAT(findModules(folder.path("bin")), ElementsAre(built));
 }
 
 } // namespace xbr::host
