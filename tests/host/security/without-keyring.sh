@@ -19,24 +19,11 @@ if [ "$kind" = none ]; then
     exit
 fi
 if [ "$kind" = deaf ]; then
-    cat >"$home/services/org.freedesktop.secrets.service" <<END
-[D-BUS Service]
-Name=org.freedesktop.secrets
-Exec=/bin/sh -c "exec sleep 12 >/dev/null 2>&1"
-END
+    printf '[D-BUS Service]\nName=org.freedesktop.secrets\nExec=/bin/sh -c "exec sleep 12 >/dev/null 2>&1"\n' \
+        >"$home/services/org.freedesktop.secrets.service"
 fi
 cat >"$home/bus.conf" <<END
-<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-BUS Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:dir=$home/run</listen>
-  <servicedir>$home/services</servicedir>
-  <policy context="default">
-    <allow send_destination="*"/>
-    <allow receive_sender="*"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
+<busconfig><type>session</type><listen>unix:dir=$home/run</listen><servicedir>$home/services</servicedir>
+<policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy></busconfig>
 END
 dbus-run-session --config-file="$home/bus.conf" -- "$@"
