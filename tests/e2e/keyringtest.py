@@ -1,7 +1,5 @@
 #!/usr/bin/env python3
-"""Each state of the keyring against everything that needs it: what the user is told, the exit code, and how long it takes.
-
-With KEYRING_TABLE in the environment the whole table is printed."""
+"""Each state of the keyring against everything that needs it: what the user is told, the exit code, and how long it takes."""
 
 import concurrent.futures
 import contextlib
@@ -14,7 +12,7 @@ import subprocess
 import time
 import unittest
 
-from stage import Stage, interrupt, sign_in_page
+from stage import Stage, StageTest, interrupt
 
 WITH_KEYRING = pathlib.Path(__file__).resolve().parents[1] / "host" / "security" / "with-keyring.sh"
 SECRETS = "org.freedesktop.secrets"
@@ -115,54 +113,27 @@ def silent_bus(desktop):
         yield {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={desktop.folder}/silent"}
 
 
-@contextlib.contextmanager
-def no_service(desktop, service=""):
-    """A bus without a keyring, or with one that is started and never says a word."""
-    folder = desktop.folder
-    (folder / "services").mkdir(exist_ok=True)
-    if service:
-        (folder / "services" / f"{SECRETS}.service").write_text(f"[D-BUS Service]\nName={SECRETS}\nExec={service}\n")
-    config = folder / "bus.conf"
-    config.write_text(f'<busconfig><type>session</type><listen>unix:dir={folder}/run</listen>'
-                      f'<servicedir>{folder}/services</servicedir><policy context="default">'
-                      '<allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy></busconfig>')
-    with subprocess.Popen(["dbus-daemon", f"--config-file={config}", "--nofork", "--print-address"],
-                          stdout=subprocess.PIPE, text=True) as bus:
-        try:
-            yield {"DBUS_SESSION_BUS_ADDRESS": bus.stdout.readline().strip()}
-        finally:
-            bus.terminate()
-
-
-def deaf_service(desktop):
-    return no_service(desktop, "/bin/sleep 60")
-
-
 # Of the unlocked keyring the order counts.
-ROWS = ((unlocked, STORED), (locked, LOCKED), (stopped, HELD_BACK), (bus_gone, NO_STORE), (silent_bus, HELD_BACK),
-        (no_service, NO_STORE), (deaf_service, HELD_BACK))
-
-
-def run(stage, song, command, **environment):
-    """What a command told, its exit code, and its time."""
-    start = time.monotonic()
-    result = stage.run(command, *(["--again", song] if command == "publish" else []), **environment)
-    return result.stdout_text + result.stderr_text, result.returncode, time.monotonic() - start
+ROWS = ((unlocked, STORED), (locked, LOCKED), (stopped, HELD_BACK), (bus_gone, NO_STORE), (silent_bus, HELD_BACK))
 
 
 def play(store, expected):
     """A row of the table: each command, with what it did; then whether the sign-in is there still."""
     desktop = Desktop()
+
+    def run(command, **environment):
+        start = time.monotonic()
+        result = desktop.run(command, *(["--again", song] if command == "publish" else []), **environment)
+        return result.told, result.returncode, time.monotonic() - start
     try:
         song = desktop.make_songs()[0]
-        told = [("sign-in at first", (SIGNED_IN + ".", 0), run(desktop, song, "sign-in"))]
+        told = [("sign-in at first", (SIGNED_IN + ".", 0), run("sign-in"))]
         with store(desktop) as environment:
-            told += [(each, expected[each], run(desktop, song, each, **environment)) for each in expected]
+            told += [(each, expected[each], run(each, **environment)) for each in expected]
         if store is locked:
             desktop.unlock()
-        told.append(("sign-out in the end", ("Nobody was signed in." if store is unlocked else "Signed out.", 0),
-                     run(desktop, song, "sign-out")))
-        return told
+        last = "Nobody was signed in." if store is unlocked else "Signed out."
+        return [*told, ("sign-out in the end", (last, 0), run("sign-out"))]
     finally:
         desktop.close()
 
@@ -177,71 +148,47 @@ class StoresTest(unittest.TestCase):
                     self.assertIn(sentence, told)
                     self.assertEqual(ended, code, told)
                     self.assertLess(took, LIMIT, told)
-                if "KEYRING_TABLE" in os.environ:
-                    line = next((line for line in told.splitlines() if sentence in line), told)
-                    print(f"{store:12} {command:19} {ended:3} {took:5.1f} s  {line}")
 
 
-class SignInTest(unittest.TestCase):
-    def setUp(self):
-        self.stage = Desktop()
-        self.addCleanup(self.stage.close)
-        self.song = self.stage.make_songs()[0]
-
-    def check(self, command, expected):
-        told, code, _ = run(self.stage, self.song, command)
-        self.assertIn(expected[0], told)
-        self.assertEqual(code, expected[1], told)
-
-    def wait_for_browser(self):
-        """A host that waits, and the address that it asks for."""
-        host = self.stage.start("sign-in", BROWSER="/bin/true")
-        self.addCleanup(host.communicate)
-        self.addCleanup(host.kill)
-        return host, sign_in_page(host)
+class SignInTest(StageTest):
+    make_stage = Desktop
 
     def test_one_of_several_hosts_gets_the_code(self):
-        for count, stopped_hosts in ((2, ()), (3, (2,)), (5, (1, 4))):
-            with self.subTest(hosts=count, stopped=stopped_hosts):
-                hosts = [self.wait_for_browser() for _ in range(count)]
-                for index in stopped_hosts:
-                    hosts[index][0].send_signal(signal.SIGSTOP)
-                left = [host for index, host in enumerate(hosts) if index not in stopped_hosts]
-                while left:
-                    last, address = left.pop()
-                    start = time.monotonic()
-                    self.stage.visit(address)
-                    took = time.monotonic() - start
-                    self.assertIn(SIGNED_IN, last.communicate(timeout=10)[0])
-                    self.assertEqual(last.returncode, 0)
-                    self.assertLess(took, 4)  # two for the hosts, the others for the browser and who takes its link
-                    self.assertTrue(all(host.poll() is None for host, _ in left), "they wait on")
-                for index in stopped_hosts:
-                    host = hosts[index][0]
-                    host.send_signal(signal.SIGCONT)
-                    self.assertIsNone(host.poll())
-                    interrupt(host)
-                    self.assertEqual(host.returncode, 130, "it waited on until the user gave it up")
-                self.check("status", STORED["status"])
-                self.check("sign-out", ("Signed out.", 0))
+        hosts = [self.start_sign_in("sign-in") for _ in range(4)]
+        stopped_host, _ = hosts.pop(1)
+        stopped_host.send_signal(signal.SIGSTOP)
+        while hosts:
+            last, address = hosts.pop()
+            self.stage.visit(address)
+            self.assertIn(SIGNED_IN, last.communicate(timeout=10)[0])
+            self.assertEqual(last.returncode, 0)
+            self.assertTrue(all(host.poll() is None for host, _ in hosts), "they wait on")
+        stopped_host.send_signal(signal.SIGCONT)
+        self.assertIsNone(stopped_host.poll())
+        interrupt(stopped_host)
+        self.assertEqual(stopped_host.returncode, 130, "it waited on until the user gave it up")
+        self.check("status", told=SIGNED_IN)
+        self.check("sign-out", told="Signed out.")
 
     def test_two_first_publishes_at_once(self):
-        hosts = [self.stage.start("publish", self.song) for _ in range(2)]
+        song = self.stage.make_songs()[0]
+        hosts = [self.start("publish", song) for _ in range(2)]
         told = [host.communicate(timeout=60) for host in hosts]
         self.assertEqual([host.returncode for host in hosts], [0, 0], told)
-        self.check("sign-out", ("Signed out.", 0))
+        self.check("sign-out", told="Signed out.")
 
     def test_the_service_cannot_be_asked(self):
-        self.check("sign-in", STORED["sign-in"])
+        self.check("sign-in", told=SIGNED_IN)
         self.stage.configure("http://127.0.0.1:9")
-        self.check("status", ("A sign-in is stored, but the service could not be asked: ", 6))
+        self.check("status", code=6, told="A sign-in is stored, but the service could not be asked: ")
         self.stage.configure("http://service.example")
-        self.check("status", ("is not encrypted, and only this computer may be reached that way.", 9))
+        self.check("status", code=9, told="is not encrypted, and only this computer may be reached that way.")
 
     def test_an_answer_that_cannot_be_used_is_no_sign_in(self):
-        self.stage.control("POST", "fault", {"path": "/oauth/token", "status": 200, "body": {"access_token": "a\r\nX: y"}})
-        self.check("publish", ("Not signed in: the service sent an answer that cannot be used. Nothing was sent.", 5))
-        self.check("status", ("Not signed in.", 5))
+        self.stage.fault("/oauth/token", status=200, body={"access_token": "a\r\nX: y"})
+        self.check("publish", self.stage.make_songs()[0], code=5,
+                   told="Not signed in: the service sent an answer that cannot be used. Nothing was sent.")
+        self.check("status", code=5, told="Not signed in.")
 
 
 if __name__ == "__main__":
