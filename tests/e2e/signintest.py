@@ -4,7 +4,6 @@
 Runs in a D-Bus session of its own with an unlocked keyring (tests/host/security/with-keyring.sh)."""
 
 import json
-import os
 import pathlib
 import shutil
 import unittest
@@ -15,7 +14,7 @@ from selenium.webdriver.common.by import By
 
 from stage import ACCOUNT, BIN, Stage, StageTest, wait_for
 
-DESKTOP_FILE = pathlib.Path(os.environ["BRINDLEX_DESKTOP_FILE"])
+DESKTOP_FILE = pathlib.Path(__file__).resolve().parents[2] / "packaging" / "xbrhost-open-url.desktop"
 
 # The browser runs without its sandbox, as root needs it in a container, and without asking for updates.
 BROWSER_ARGUMENTS = ["--headless=new", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
@@ -27,6 +26,13 @@ class Browser:
     """Chromium with a new profile, which opens callback links of the service without asking."""
 
     def __init__(self, stage):
+        # A desktop where links of the service are the host's.
+        home = pathlib.Path(stage.environment["HOME"])
+        (home / "data" / "applications").mkdir(parents=True)
+        shutil.copy(DESKTOP_FILE, home / "data" / "applications")
+        (home / "config").mkdir()
+        (home / "config" / "mimeapps.list").write_text(
+            "[Default Applications]\nx-scheme-handler/brindlex=xbrhost-open-url.desktop\n")
         profile = stage.folder / "profile"
         (profile / "Default").mkdir(parents=True)
         (profile / "Default" / "Preferences").write_text(json.dumps(
@@ -35,8 +41,10 @@ class Browser:
         options.binary_location = "/usr/bin/chromium"
         for argument in [*BROWSER_ARGUMENTS, f"--user-data-dir={profile}"]:
             options.add_argument(argument)
-        self.driver = webdriver.Chrome(
-            service=Service("/usr/bin/chromedriver", env=desktop_environment(stage)), options=options)
+        # xdg-open asks for the handler only where it believes in a display; nothing is drawn there.
+        environment = {**stage.environment, "DISPLAY": ":no-screen", "TMPDIR": str(stage.folder),
+                       "PATH": f"{BIN}:{stage.environment['PATH']}"}
+        self.driver = webdriver.Chrome(service=Service("/usr/bin/chromedriver", env=environment), options=options)
 
     def fill_in(self, password):
         for name, text in (("email", "mara@example.org"), ("password", password)):
@@ -46,21 +54,7 @@ class Browser:
         self.press("sign-in")
 
     def press(self, decision):
-        buttons = wait_for(lambda: self.driver.find_elements(By.CSS_SELECTOR, f"button[value={decision}]"),
-                           f"the button '{decision}'")
-        buttons[0].click()
-
-
-def desktop_environment(stage):
-    """A desktop where links of the service are the host's, as packaging/xbrhost-open-url.desktop says."""
-    data = pathlib.Path(stage.environment["XDG_DATA_HOME"]) / "applications"
-    data.mkdir(parents=True)
-    shutil.copy(DESKTOP_FILE, data)
-    config = pathlib.Path(stage.environment["XDG_CONFIG_HOME"])
-    config.mkdir(parents=True)
-    (config / "mimeapps.list").write_text("[Default Applications]\nx-scheme-handler/brindlex=xbrhost-open-url.desktop\n")
-    # xdg-open asks for the handler only where it believes in a display; nothing is drawn there.
-    return {**stage.environment, "DISPLAY": ":no-screen", "TMPDIR": str(stage.folder), "PATH": f"{BIN}:{stage.environment['PATH']}"}
+        wait_for(lambda: self.driver.find_elements(By.CSS_SELECTOR, f"button[value={decision}]"), decision)[0].click()
 
 
 class SignInTest(StageTest):
