@@ -10,9 +10,7 @@
 #include <ctime>
 #include <set>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <tuple>
-#include <unistd.h>
 
 namespace xbr::host::tests {
 namespace {
@@ -88,29 +86,6 @@ TEST_F(FileStoreTest, ListsFilesWithSizeAndTime) {
     EXPECT_EQ(files->sizeAt(-1), 0U);
     EXPECT_EQ(store->getFiles(toText(folder.url("missing")), files.out()), kFalse);
     EXPECT_FALSE(files);
-}
-
-/// Writers and a reader that never sees half of what one of them wrote.
-TEST_F(FileStoreTest, ServesTwoProcessesAtOnce) {
-    constexpr std::size_t kSize = 300'000;
-    replace("shared", std::string(kSize, 'a'));
-    const pid_t child = fork();
-    for (int i = 0; child == 0 && i < 200; ++i) {
-        replace("shared", std::string(kSize, 'b'));
-    }
-    if (child == 0) {
-        _exit(0);
-    }
-    int status = -1;
-    for (int i = 0; waitpid(child, &status, WNOHANG) == 0; ++i) {
-        if (i % 2 == 0) {
-            replace("shared", std::string(kSize, 'a'));
-        }
-        const std::string seen = readFile(folder.path("shared"));
-        ASSERT_EQ(seen, std::string(kSize, seen.empty() ? '?' : seen.front()));
-    }
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(namesIn(folder.path()), std::vector<std::string>{"shared"});
 }
 
 } // namespace

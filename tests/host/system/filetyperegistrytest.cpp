@@ -15,25 +15,15 @@ template <class Method>
 std::string asked(Method method, std::string_view what) {
     Ref<IFileType> type;
     const auto result = (XBRGetFileTypeRegistry()->*method)(toText(what), type.out());
-    EXPECT_EQ(result == kOk, static_cast<bool>(type)) << what;
-    return type               ? toString(type->extension()) + " " + toString(type->mimeType())
-           : result == kFalse ? "-"
-                              : "failed";
+    EXPECT_EQ(result, type ? kOk : kFalse) << what;
+    return type ? toString(type->extension()) + " " + toString(type->mimeType()) : "-";
 }
 
 TEST(FileTypeRegistryTest, KnowsTypesByExtensionAndByMimeType) {
     const std::pair<const char*, const char*> extensions[] = {
-        {"wav", "wav audio/x-wav"},
-        {"WAV", "wav audio/x-wav"},
-        {"Flac", "flac audio/flac"},
-        {"mp3", "mp3 audio/mpeg"},
-        {"ogg", "ogg audio/ogg"},
-        {"aiff", "aiff audio/x-aiff"},
-        {"aif", "aif audio/x-aiff"},
-        {"jpg", "jpg image/jpeg"},
-        {"", "-"},
+        {"wav", "wav audio/x-wav"},    {"WAV", "wav audio/x-wav"}, {"mp3", "mp3 audio/mpeg"},
+        {"aiff", "aiff audio/x-aiff"}, {"jpg", "jpg image/jpeg"},  {"", "-"},
         {"no-such-type", "-"},
-        {"a/wav", "-"},
     };
     for (const auto& [extension, expected] : extensions) {
         EXPECT_EQ(asked(&IFileTypeRegistry::getTypeByExtension, extension), expected) << extension;
@@ -41,13 +31,10 @@ TEST(FileTypeRegistryTest, KnowsTypesByExtensionAndByMimeType) {
     const std::pair<const char*, const char*> mimeTypes[] = {
         {"audio/x-wav", "wav audio/x-wav"},
         {"audio/wav", "wav audio/x-wav"},
-        {"audio/flac", "flac audio/flac"},
         {"audio/mpeg", "mp3 audio/mpeg"},
         {"audio/x-aiff", "aiff audio/x-aiff"},
-        {"audio/ogg", "ogg audio/ogg"},
         {"Image/JPEG; charset=binary", "jpg image/jpeg"},
         {"application/octet-stream", "-"},
-        {"nonsense", "-"},
         {"", "-"},
     };
     for (const auto& [type, expected] : mimeTypes) {
