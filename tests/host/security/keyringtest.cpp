@@ -35,7 +35,8 @@ void expectAll(StoreResult result, Milliseconds least = {}) {
         EXPECT_GE(heard.time(), least);
         EXPECT_LT(heard.time(), least + kAtOnce);
         least = std::min<Milliseconds>(least, std::chrono::seconds(1)); // it did not answer before
-        EXPECT_LE(heard.unpainted, heard.time() / 2) << "others may take the processor for a moment";
+        EXPECT_GE(heard.looks, heard.time() / Milliseconds(200))
+            << "others may take the processor for a moment";
     }
 }
 
@@ -122,8 +123,7 @@ TEST(NoService, isNoStoreAndTheEndOfTheBusIsSurvived) {
     expectAll(StoreResult::kNoStore);
 }
 
-TEST(DeafService, isGivenUpInTimeOrWhenTheUserWants) {
-    expectAll(StoreResult::kSilent, kPatience);
+TEST(DeafService, isGivenUpWhenTheUserWants) {
     const Hearing heard(Milliseconds(300));
     EXPECT_EQ(find("Target"), "failed");
     EXPECT_THAT(heard.results, ElementsAre(Pair(StoreOperation::kFind, StoreResult::kSilent)));
@@ -182,7 +182,6 @@ TEST(AskingKeyring, waitsAsLongAsTheUserNeeds) {
     EXPECT_THAT(heard.results, ElementsAre(Pair(StoreOperation::kFind, StoreResult::kLocked)));
     EXPECT_TRUE(heard.wasUserAsked);
     EXPECT_GE(heard.time(), kPatience + kAtOnce) << "nobody gave it up but the user";
-    EXPECT_LE(heard.unpainted, heard.time() / 2) << "others may take the processor for a moment";
 }
 
 } // namespace xbr::host::test
