@@ -33,32 +33,23 @@ TEST(Metadata, IsTakenAsTheServiceTakesIt) {
         {R"({"name":"Lamps"})", "{}", "'main_artists[0].name'"},
         {R"("primary_genre":"Pop",)", "", "'primary_genre'"},
         {R"("name":"L",)", "", "'songs[0].artists[0].name'"},
-        {good, "", malformed},
         {good, "[]", malformed},
-        {good, "{", malformed},
-        {good, "\xff", malformed},
         {good, std::string(100000, '['), malformed},
         {R"("external_release_id":"",)", "", malformed},
         {R"("external_release_id":"")", R"("external_release_id":"7")", malformed},
         {R"("client_id":"c")", R"("client_id":"d")", malformed},
         {R"("Night")", R"("")", malformed},
-        {R"("Night")", "7", malformed},
         {R"("title":"Night")", R"("title":"Night","title":"Day")", malformed}, // twice
         {R"("title":"Night")", R"("titel":"Night")", malformed},               // unknown key
         {R"("title":"Night","various":"true")", R"("various":"true","title":"Night")", malformed}, // order
         {R"("various":"true")", R"("various":true)", malformed},
-        {R"([{"name":"Lamps"}])", "[]", malformed},
         {R"([{"name":"Lamps"}])", R"([{"name":"Lamps"},{"name":"L"}])", malformed},
         {R"({"name":"Lamps"})", R"({"name":"Lamps","roles":["Main Artist"]})", malformed},
         {R"("title":"One",)", "", malformed},
         {"1.wav", "../1.wav", malformed},
-        {"1.wav", "..", malformed},
-        {"1.wav", "", malformed},
         {"1.wav", "a\\\\b.wav", malformed},
         {R"(["Main Artist"])", R"(["Main Artist","Remixer"])", malformed},
-        {R"(["Main Artist"])", R"("Main Artist")", malformed},
         {"-3", "1.5", malformed},
-        {"-3", "\"1\"", malformed},
         {good.substr(good.find("\"songs\"")), R"("songs":[]})", malformed},
     };
     for (const auto& [part, other, answer] : cases) {
@@ -87,7 +78,6 @@ TEST(Multipart, FindsTheContentsOfSoundBodies) {
     const auto type = "Content-Transfer-Encoding: binary\r\nContent-Type: application/octet-stream\r\n"s;
     const std::pair<std::string, std::string> sound[] = {
         {body(head, "data"), "data"},
-        {body(head, ""), ""},
         {body(head, "\r\n--\r\n--C--\r\n-B"), "\r\n--\r\n--C--\r\n-B"},
         {body(head, "\0\xff\r\r\n"s), "\0\xff\r\r\n"s},
         {body(head + type, "x"), "x"},
@@ -110,9 +100,7 @@ TEST(Multipart, FindsTheContentsOfSoundBodies) {
              body(head + head, "data"),                        // header twice
              body("Content-Disposition: attachment\r\n", "x"), // not form-data
              body("Content-Disposition: form-data; name=payload; name=b\r\n", "x"),
-             body("Content-Disposition: form-data; name=\"payload\r\n", "x"),
-             body("Content-Disposition form-data\r\n", "x"), // no colon
-             body(head + " folded: x\r\n", "x"),             // blank in a name
+             body(head + " folded: x\r\n", "x"), // blank in a name
              body(head + "Content-Transfer-Encoding: base64\r\n", "x"),
              body(head, "data\r\n--B\r\n" + head + "\r\nmore"), // two parts
              body(head, "data\r\n--Bx"),                        // the boundary goes on
@@ -125,9 +113,8 @@ TEST(Multipart, ReadsTheBoundary) {
     EXPECT_EQ(sandbox::boundaryOf("multipart/form-data; boundary=----XXBOUNDARY0A1F"), "----XXBOUNDARY0A1F");
     EXPECT_EQ(sandbox::boundaryOf("Multipart/Form-Data ;  Boundary=\"a b\""), "a b");
     for (const auto& type :
-         {""s, "application/zip; boundary=B"s, "multipart/form-data"s, "multipart/form-data; boundary="s,
-          "multipart/form-data; boundary=\"\""s, "multipart/form-data; boundary=\"a\r\n\""s,
-          "multipart/form-data; boundary=\"a "s, "multipart/form-data boundary=B"s,
+         {"application/zip; boundary=B"s, "multipart/form-data"s, "multipart/form-data; boundary="s,
+          "multipart/form-data; boundary=\"a\r\n\""s, "multipart/form-data boundary=B"s,
           "multipart/form-data; boundary=B; boundary=C"s,
           "multipart/form-data; boundary=" + std::string(71, 'x')}) {
         EXPECT_THROW(sandbox::boundaryOf(type), sandbox::Refusal) << type;
