@@ -163,9 +163,7 @@ class CompletionTest(StageTest):
         for line, offered in (("xbrhost sig", {"sign-in", "sign-out"}),
                               ("xbrhost help gen", {"genres"}),
                               ("xbrhost publish --album-", {"--album-artist", "--album-title"}),
-                              ("xbrhost status --qu", {"--quiet"}),
                               ("xbrhost publish --json ", {"Night Drive", "a.WAV", "b c.flac"}),
-                              ("xbrhost window ", {"Night Drive", "a.WAV", "b c.flac"}),
                               ("xbrhost publish --release rel", {"release.json"}),
                               ("xbrhost publish --genre drum", {"Drum & Bass"})):
             with self.subTest(line):
