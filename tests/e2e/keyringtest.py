@@ -1,19 +1,15 @@
 #!/usr/bin/env python3
-"""What the user is told when the keyring cannot be had, with which exit code and how soon; and sign-ins side by side."""
+"""What the user is told when the keyring cannot be had, and with which exit code; and sign-ins side by side."""
 
-import os
 import pathlib
 import signal
-import socket
 import subprocess
-import time
 import unittest
 
 from stage import Stage, StageTest, interrupt
 
 WITH_KEYRING = pathlib.Path(__file__).resolve().parents[1] / "host" / "security" / "with-keyring.sh"
 SIGNED_IN = "Signed in as Mara Lindqvist"
-LIMIT = 12  # seconds: five for the first question, one for each that follows, and a start of the program
 
 
 class Desktop(Stage):
@@ -24,10 +20,6 @@ class Desktop(Stage):
         self.session = subprocess.Popen([WITH_KEYRING, "sh", "-c", 'echo "$DBUS_SESSION_BUS_ADDRESS"; exec cat >/dev/null'],
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.session.stdout.readline().strip()
-        opener = self.folder / "home" / "xdg-open"  # the real one waits for a bus that is silent
-        opener.write_text('#!/bin/sh\nexec "$BROWSER" "$1"\n')
-        opener.chmod(0o700)
-        self.environment["PATH"] = f"{opener.parent}:{os.environ['PATH']}"
 
     def close(self):
         self.session.communicate(timeout=20)
@@ -42,14 +34,7 @@ class KeyringTest(StageTest):
         song = self.stage.make_songs()[0]
         for (command, *arguments), told, code in zip((["status"], ["sign-in"], ["publish", "--again", song], ["sign-out"]), *answers):
             with self.subTest(command):
-                start = time.monotonic()
                 self.check(command, *arguments, told=told, code=code, **environment)
-                self.assertLess(time.monotonic() - start, LIMIT)
-
-    def check_refusing(self, why, **environment):
-        unread = f"The keyring {why}: the stored sign-in cannot be read."
-        self.check_all(((unread, f"{SIGNED_IN}, until the program ends: the keyring {why}.", f"{unread} Nothing was sent.",
-                         f"The keyring {why}: the stored sign-in may still be there."), (12, 0, 12, 12)), **environment)
 
     def test_without_a_keyring(self):
         here = f"{SIGNED_IN}, until the program ends: this computer has no keyring."
@@ -62,13 +47,9 @@ class KeyringTest(StageTest):
         subprocess.run(["gdbus", "call", "--session", "--dest", "org.freedesktop.secrets", "--object-path", "/org/freedesktop/secrets",
                         "--method", "org.freedesktop.Secret.Service.Lock", "['/org/freedesktop/secrets/aliases/default']"],
                        env=self.stage.environment, stdout=subprocess.DEVNULL, timeout=20, check=True)
-        self.check_refusing("was not unlocked")
-
-    def test_silent_bus(self):
-        with socket.socket(socket.AF_UNIX) as bus:
-            bus.bind(str(self.stage.folder / "silent"))
-            bus.listen(16)
-            self.check_refusing("does not answer", DBUS_SESSION_BUS_ADDRESS=f"unix:path={self.stage.folder}/silent")
+        unread = "The keyring was not unlocked: the stored sign-in cannot be read."
+        self.check_all(((unread, f"{SIGNED_IN}, until the program ends: the keyring was not unlocked.", f"{unread} Nothing was sent.",
+                         "The keyring was not unlocked: the stored sign-in may still be there."), (12, 0, 12, 12)))
 
     def test_one_of_several_hosts_gets_the_code(self):
         hosts = [self.start_sign_in("sign-in") for _ in range(4)]
