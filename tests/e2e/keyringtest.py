@@ -1,46 +1,15 @@
 #!/usr/bin/env python3
-"""Each state of the keyring against everything that needs it: what the user is told, the exit code, and how long it takes.
+"""What the user is told when the keyring cannot be had, and with which exit code; and sign-ins side by side."""
 
-With KEYRING_TABLE in the environment the whole table is printed."""
-
-import concurrent.futures
-import contextlib
-import os
 import pathlib
 import signal
-import socket
-import struct
 import subprocess
-import time
 import unittest
 
-from stage import Stage, interrupt, sign_in_page
+from stage import Stage, StageTest, interrupt
 
 WITH_KEYRING = pathlib.Path(__file__).resolve().parents[1] / "host" / "security" / "with-keyring.sh"
-SECRETS = "org.freedesktop.secrets"
 SIGNED_IN = "Signed in as Mara Lindqvist"
-UNREAD = "the stored sign-in cannot be read."
-KEPT = "the stored sign-in may still be there."
-NONE = "this computer has no keyring."
-NOT_UNLOCKED = "The keyring was not unlocked: "
-SILENT = "The keyring does not answer: "
-
-# What is told and the exit code, by command; a sign-in is in the keyring before.
-STORED = {"status": (SIGNED_IN + ".", 0), "sign-in": (SIGNED_IN + ".", 0), "publish": ("Published", 0),
-          "sign-out": ("Signed out.", 0)}
-NO_STORE = {"status": ("Not signed in: " + NONE, 5), "sign-in": (SIGNED_IN + ", until the program ends: " + NONE, 0),
-            "publish": (SIGNED_IN + ", until the program ends: " + NONE, 0),
-            "sign-out": ("No keyring can be reached from here: nothing was removed.", 12)}
-
-
-def refusing(why, kept):
-    return {"status": (why + UNREAD, 12), "sign-in": (SIGNED_IN + ", until the program ends: the " + kept, 0),
-            "publish": (why + UNREAD + " Nothing was sent.", 12), "sign-out": (why + KEPT, 12)}
-
-
-LOCKED = refusing(NOT_UNLOCKED, "keyring was not unlocked.")
-HELD_BACK = refusing(SILENT, "keyring does not answer.")
-LIMIT = 12  # seconds: five for the first question, one for each that follows, and a start of the program
 
 
 class Desktop(Stage):
@@ -48,200 +17,75 @@ class Desktop(Stage):
 
     def __init__(self):
         super().__init__()
-        self.session = subprocess.Popen(
-            [WITH_KEYRING, "sh", "-c", 'echo "$DBUS_SESSION_BUS_ADDRESS"; echo "$XDG_RUNTIME_DIR"; exec cat >/dev/null'],
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.session = subprocess.Popen([WITH_KEYRING, "sh", "-c", 'echo "$DBUS_SESSION_BUS_ADDRESS"; exec cat >/dev/null'],
+                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.session.stdout.readline().strip()
-        self.keyring_folder = self.session.stdout.readline().strip()
-        opener = self.folder / "home" / "xdg-open"  # the real one waits for a bus that is silent
-        opener.write_text('#!/bin/sh\nexec "$BROWSER" "$1"\n')
-        opener.chmod(0o700)
-        self.environment["PATH"] = f"{opener.parent}:{os.environ['PATH']}"
 
     def close(self):
         self.session.communicate(timeout=20)
         super().close()
 
-    def unlock(self):
-        """As a login does, which has the daemon's control socket: size, operation, password."""
-        with socket.socket(socket.AF_UNIX) as control:
-            control.connect(self.keyring_folder + "/keyring/control")
-            control.sendall(b"\0" + struct.pack(">III", 16, 1, 4) + b"test")
-            if control.recv(8) != struct.pack(">II", 8, 0):
-                raise AssertionError("the keyring cannot be unlocked")
 
-    def call(self, destination, path, method, argument):
-        """Calls a method on the session's bus."""
-        told = subprocess.run(["gdbus", "call", "--session", "--dest", destination, "--object-path", path, "--method",
-                               method, argument], env=self.environment, capture_output=True, text=True, timeout=20, check=True)
-        return told.stdout
+class KeyringTest(StageTest):
+    make_stage = Desktop
 
+    def check_all(self, answers, **environment):
+        """Each command, with what it tells and its exit code, and a sign-in in the keyring."""
+        song = self.stage.make_songs()[0]
+        for (command, *arguments), told, code in zip((["status"], ["sign-in"], ["publish", "--again", song], ["sign-out"]), *answers):
+            with self.subTest(command):
+                self.check(command, *arguments, told=told, code=code, **environment)
 
-@contextlib.contextmanager
-def unlocked(_):
-    yield {}
+    def test_without_a_keyring(self):
+        here = f"{SIGNED_IN}, until the program ends: this computer has no keyring."
+        self.check_all((("Not signed in: this computer has no keyring.", here, here,
+                         "No keyring can be reached from here: nothing was removed."), (5, 0, 0, 12)),
+                       DBUS_SESSION_BUS_ADDRESS=f"unix:path={self.stage.folder}/gone")
 
-
-@contextlib.contextmanager
-def locked(desktop):
-    """And nobody there to unlock it."""
-    desktop.call(SECRETS, "/org/freedesktop/secrets", "org.freedesktop.Secret.Service.Lock",
-                 "['/org/freedesktop/secrets/aliases/default']")
-    yield {}
-
-
-@contextlib.contextmanager
-def stopped(desktop):
-    told = desktop.call("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                        "org.freedesktop.DBus.GetConnectionUnixProcessID", SECRETS)
-    process = int(told.split()[1].rstrip(",)"))
-    os.kill(process, signal.SIGSTOP)
-    try:
-        yield {}
-    finally:
-        os.kill(process, signal.SIGCONT)
-
-
-@contextlib.contextmanager
-def bus_gone(desktop):
-    yield {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={desktop.folder}/gone"}
-
-
-@contextlib.contextmanager
-def silent_bus(desktop):
-    with socket.socket(socket.AF_UNIX) as bus:
-        bus.bind(str(desktop.folder / "silent"))
-        bus.listen(16)
-        yield {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={desktop.folder}/silent"}
-
-
-@contextlib.contextmanager
-def no_service(desktop, service=""):
-    """A bus without a keyring, or with one that is started and never says a word."""
-    folder = desktop.folder
-    (folder / "services").mkdir(exist_ok=True)
-    if service:
-        (folder / "services" / f"{SECRETS}.service").write_text(f"[D-BUS Service]\nName={SECRETS}\nExec={service}\n")
-    config = folder / "bus.conf"
-    config.write_text(f'<busconfig><type>session</type><listen>unix:dir={folder}/run</listen>'
-                      f'<servicedir>{folder}/services</servicedir><policy context="default">'
-                      '<allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy></busconfig>')
-    with subprocess.Popen(["dbus-daemon", f"--config-file={config}", "--nofork", "--print-address"],
-                          stdout=subprocess.PIPE, text=True) as bus:
-        try:
-            yield {"DBUS_SESSION_BUS_ADDRESS": bus.stdout.readline().strip()}
-        finally:
-            bus.terminate()
-
-
-def deaf_service(desktop):
-    return no_service(desktop, "/bin/sleep 60")
-
-
-# Of the unlocked keyring the order counts.
-ROWS = ((unlocked, STORED), (locked, LOCKED), (stopped, HELD_BACK), (bus_gone, NO_STORE), (silent_bus, HELD_BACK),
-        (no_service, NO_STORE), (deaf_service, HELD_BACK))
-
-
-def run(stage, song, command, **environment):
-    """What a command told, its exit code, and its time."""
-    start = time.monotonic()
-    result = stage.run(command, *(["--again", song] if command == "publish" else []), **environment)
-    return result.stdout_text + result.stderr_text, result.returncode, time.monotonic() - start
-
-
-def play(store, expected):
-    """A row of the table: each command, with what it did; then whether the sign-in is there still."""
-    desktop = Desktop()
-    try:
-        song = desktop.make_songs()[0]
-        told = [("sign-in at first", (SIGNED_IN + ".", 0), run(desktop, song, "sign-in"))]
-        with store(desktop) as environment:
-            told += [(each, expected[each], run(desktop, song, each, **environment)) for each in expected]
-        if store is locked:
-            desktop.unlock()
-        told.append(("sign-out in the end", ("Nobody was signed in." if store is unlocked else "Signed out.", 0),
-                     run(desktop, song, "sign-out")))
-        return told
-    finally:
-        desktop.close()
-
-
-class StoresTest(unittest.TestCase):
-    def test_each_store_and_each_command(self):
-        with concurrent.futures.ThreadPoolExecutor(len(ROWS)) as pool:
-            rows = [(store.__name__, pool.submit(play, store, expected)) for store, expected in ROWS]
-        for store, row in rows:
-            for command, (sentence, code), (told, ended, took) in row.result():
-                with self.subTest(store=store, command=command):
-                    self.assertIn(sentence, told)
-                    self.assertEqual(ended, code, told)
-                    self.assertLess(took, LIMIT, told)
-                if "KEYRING_TABLE" in os.environ:
-                    line = next((line for line in told.splitlines() if sentence in line), told)
-                    print(f"{store:12} {command:19} {ended:3} {took:5.1f} s  {line}")
-
-
-class SignInTest(unittest.TestCase):
-    def setUp(self):
-        self.stage = Desktop()
-        self.addCleanup(self.stage.close)
-        self.song = self.stage.make_songs()[0]
-
-    def check(self, command, expected):
-        told, code, _ = run(self.stage, self.song, command)
-        self.assertIn(expected[0], told)
-        self.assertEqual(code, expected[1], told)
-
-    def wait_for_browser(self):
-        """A host that waits, and the address that it asks for."""
-        host = self.stage.start("sign-in", BROWSER="/bin/true")
-        self.addCleanup(host.communicate)
-        self.addCleanup(host.kill)
-        return host, sign_in_page(host)
+    def test_locked_with_nobody_there_to_unlock_it(self):
+        self.check("sign-in", told=SIGNED_IN)
+        subprocess.run(["gdbus", "call", "--session", "--dest", "org.freedesktop.secrets", "--object-path", "/org/freedesktop/secrets",
+                        "--method", "org.freedesktop.Secret.Service.Lock", "['/org/freedesktop/secrets/aliases/default']"],
+                       env=self.stage.environment, stdout=subprocess.DEVNULL, timeout=20, check=True)
+        unread = "The keyring was not unlocked: the stored sign-in cannot be read."
+        self.check_all(((unread, f"{SIGNED_IN}, until the program ends: the keyring was not unlocked.", f"{unread} Nothing was sent.",
+                         "The keyring was not unlocked: the stored sign-in may still be there."), (12, 0, 12, 12)))
 
     def test_one_of_several_hosts_gets_the_code(self):
-        for count, stopped_hosts in ((2, ()), (3, (2,)), (5, (1, 4))):
-            with self.subTest(hosts=count, stopped=stopped_hosts):
-                hosts = [self.wait_for_browser() for _ in range(count)]
-                for index in stopped_hosts:
-                    hosts[index][0].send_signal(signal.SIGSTOP)
-                left = [host for index, host in enumerate(hosts) if index not in stopped_hosts]
-                while left:
-                    last, address = left.pop()
-                    start = time.monotonic()
-                    self.stage.visit(address)
-                    took = time.monotonic() - start
-                    self.assertIn(SIGNED_IN, last.communicate(timeout=10)[0])
-                    self.assertEqual(last.returncode, 0)
-                    self.assertLess(took, 4)  # two for the hosts, the others for the browser and who takes its link
-                    self.assertTrue(all(host.poll() is None for host, _ in left), "they wait on")
-                for index in stopped_hosts:
-                    host = hosts[index][0]
-                    host.send_signal(signal.SIGCONT)
-                    self.assertIsNone(host.poll())
-                    interrupt(host)
-                    self.assertEqual(host.returncode, 130, "it waited on until the user gave it up")
-                self.check("status", STORED["status"])
-                self.check("sign-out", ("Signed out.", 0))
+        hosts = [self.start_sign_in("sign-in") for _ in range(4)]
+        stopped, _ = hosts.pop(1)
+        stopped.send_signal(signal.SIGSTOP)
+        while hosts:
+            last, address = hosts.pop()
+            self.stage.visit(address)
+            self.assertIn(SIGNED_IN, last.communicate(timeout=10)[0])
+            self.assertEqual(last.returncode, 0)
+            self.assertTrue(all(host.poll() is None for host, _ in hosts), "they wait on")
+        stopped.send_signal(signal.SIGCONT)
+        self.assertIsNone(stopped.poll())
+        interrupt(stopped)
+        self.assertEqual(stopped.returncode, 130, "it waited on until the user gave it up")
+        self.check("status", told=SIGNED_IN)
 
     def test_two_first_publishes_at_once(self):
-        hosts = [self.stage.start("publish", self.song) for _ in range(2)]
+        song = self.stage.make_songs()[0]
+        hosts = [self.start("publish", song) for _ in range(2)]
         told = [host.communicate(timeout=60) for host in hosts]
         self.assertEqual([host.returncode for host in hosts], [0, 0], told)
-        self.check("sign-out", ("Signed out.", 0))
+        self.check("sign-out", told="Signed out.")
 
     def test_the_service_cannot_be_asked(self):
-        self.check("sign-in", STORED["sign-in"])
+        self.check("sign-in", told=SIGNED_IN)
         self.stage.configure("http://127.0.0.1:9")
-        self.check("status", ("A sign-in is stored, but the service could not be asked: ", 6))
+        self.check("status", code=6, told="A sign-in is stored, but the service could not be asked: ")
         self.stage.configure("http://service.example")
-        self.check("status", ("is not encrypted, and only this computer may be reached that way.", 9))
+        self.check("status", code=9, told="is not encrypted, and only this computer may be reached that way.")
 
     def test_an_answer_that_cannot_be_used_is_no_sign_in(self):
-        self.stage.control("POST", "fault", {"path": "/oauth/token", "status": 200, "body": {"access_token": "a\r\nX: y"}})
-        self.check("publish", ("Not signed in: the service sent an answer that cannot be used. Nothing was sent.", 5))
-        self.check("status", ("Not signed in.", 5))
+        self.stage.fault("/oauth/token", status=200, body={"access_token": "a\r\nX: y"})
+        self.check("publish", self.stage.make_songs()[0], code=5,
+                   told="Not signed in: the service sent an answer that cannot be used. Nothing was sent.")
+        self.check("status", code=5, told="Not signed in.")
 
 
 if __name__ == "__main__":

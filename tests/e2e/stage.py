@@ -3,16 +3,21 @@
 import json
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
 import tempfile
 import time
+import unittest
 import urllib.request
 
 BIN = pathlib.Path(os.environ["BRINDLEX_BIN"])
 
-# Marked values: none of them may show up where it does not belong.
+ACCOUNT = "/api/frontstage/account"
+INGESTION = "/api/frontstage/release_ingestion"
+
+# A marked value, which may not show up where it does not belong.
 CLIENT_SECRET = "marked+client/secret=0815"
 
 # A desktop session of whoever runs the tests stays out of them.
@@ -44,7 +49,6 @@ class Stage:
             [BIN / "brindlex-sandbox", "--inbox", self.inbox, "--port-file", port, "--client-secret", CLIENT_SECRET,
              "--write-settings", self.settings], stdout=subprocess.DEVNULL)
         self.server = "http://127.0.0.1:" + wait_for(lambda: port.exists() and port.read_text().strip(), "the service")
-        self.configured = self.server
         kept = ["DBUS_SESSION_BUS_ADDRESS"] if keyring else []
         self.environment = {key: value for key, value in os.environ.items() if key in kept or key not in SESSION}
         self.environment.update({
@@ -65,19 +69,12 @@ class Stage:
 
     def configure(self, server):
         """Another address of the service."""
-        self.settings.write_text(self.settings.read_text().replace(self.configured, server))
-        self.configured = server
+        self.settings.write_text(re.sub("(?m)^ServerURL=.*", f"ServerURL={server}", self.settings.read_text()))
 
-    def make_songs(self):
-        """Three tagged songs: MP3, FLAC and WAV, in the order of their names."""
-        songs = self.folder / "songs"
-        subprocess.run([BIN / "brindlex-songs", songs, "1"], check=True)
-        return sorted(songs.iterdir())
-
-    def make_foreign_songs(self):
-        """Two tagged songs that have to be rendered: AIFF and OGG."""
-        songs = self.folder / "foreign"
-        subprocess.run([BIN / "brindlex-songs", songs, "1", "foreign"], check=True)
+    def make_songs(self, length=1, *kind):
+        """Three tagged songs, MP3, FLAC and WAV, in the order of their names; "foreign" are AIFF and OGG."""
+        songs = self.folder / "-".join(["songs", str(length), *kind])
+        subprocess.run([BIN / "brindlex-songs", songs, str(length), *kind], check=True)
         return sorted(songs.iterdir())
 
     def start(self, *arguments, **environment):
@@ -88,10 +85,11 @@ class Stage:
         """Runs xbrhost to its end."""
         process = self.start(*arguments, **environment)
         try:
-            process.stdout_text, process.stderr_text = process.communicate(timeout=60)
+            process.out, process.errors = process.communicate(timeout=60)
         except subprocess.TimeoutExpired:
             process.kill()
             raise AssertionError(f"xbrhost {arguments} hangs: {process.communicate()}") from None
+        process.told = process.out + process.errors
         return process
 
     def visit(self, page):
@@ -99,11 +97,9 @@ class Stage:
         subprocess.run([BIN / "brindlex-browser", page], env=self.environment, timeout=20, check=True)
 
     def releases(self):
-        """What was accepted: folder, document and audio of each release, in order."""
-        found = []
-        for folder in sorted(path for path in self.inbox.iterdir() if (path / "metadata.json").exists()):
-            found.append((json.loads((folder / "metadata.json").read_text()), sorted((folder / "assets").iterdir())))
-        return found
+        """What was accepted: document and audio of each release, in order."""
+        return [(json.loads(path.read_text()), sorted((path.parent / "assets").iterdir()))
+                for path in sorted(self.inbox.glob("*/metadata.json"))]
 
     def control(self, method, path, body=None):
         request = urllib.request.Request(self.server + "/control/" + path, method=method,
@@ -111,12 +107,54 @@ class Stage:
         with urllib.request.urlopen(request, timeout=10) as reply:
             return reply.read().decode()
 
+    def fault(self, path, **what):
+        """What comes of the next request to a path."""
+        self.control("POST", "fault", {"path": path, **what})
+
     def log(self, path):
         """The requests to a path that the service saw."""
         return [entry for entry in json.loads(self.control("GET", "log")) if entry["path"] == path]
 
     def leftovers(self):
         return [str(path.relative_to(self.folder)) for path in (self.folder / "tmp").rglob("*")]
+
+
+class StageTest(unittest.TestCase):
+    """Tests with a stage for each."""
+
+    make_stage = Stage
+
+    def setUp(self):
+        self.stage = self.make_stage()
+        self.addCleanup(self.stage.close)
+
+    def check(self, *arguments, code=0, told="", **environment):
+        """Runs xbrhost, which ends with a code, has told something, and leaves no temporary files."""
+        result = self.stage.run(*arguments, **environment)
+        self.assertEqual(result.returncode, code, result.told)
+        self.assertIn(told, result.told)
+        self.assertEqual(self.stage.leftovers(), [], "temporary files")
+        return result
+
+    def publish(self, *arguments, **expected):
+        return self.check("publish", *arguments, **expected)
+
+    def events(self, *arguments, code=0):
+        """What `publish --json` tells."""
+        events = [json.loads(line) for line in self.publish("--json", *arguments, code=code).out.splitlines()]
+        self.assertEqual((events[-1]["event"], events[-1]["exitCode"]), ("finished", code))
+        return events
+
+    def start(self, *arguments, **environment):
+        process = self.stage.start(*arguments, **environment)
+        self.addCleanup(process.communicate)
+        self.addCleanup(process.kill)
+        return process
+
+    def start_sign_in(self, *arguments, **environment):
+        """A host that waits for the browser, and the address that it asks for."""
+        process = self.start(*arguments, BROWSER="/bin/true", **environment)
+        return process, sign_in_page(process)
 
 
 def sign_in_page(process):

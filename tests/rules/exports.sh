@@ -1,16 +1,16 @@
-#!/ bin / sh
-#The extension exports its two entry points and needs the host's five libraries and the C++ runtime, nothing else.
-set - eu library = $1
+#!/bin/sh
+# The extension exports its two entry points and needs the host's five libraries and the C++ runtime, nothing else.
+set -eu
+library=$1
 
-    exported = $(nm - D-- defined - only "$library" | awk '{print $3}' | sort |
-                 tr '\n' ' ') if["$exported" != "XBRGetClassFactory XBRModuleMain "]; then
+exported=$(nm -D --defined-only "$library" | awk '{print $3}' | sort | tr '\n' ' ')
+if [ "$exported" != "XBRGetClassFactory XBRModuleMain " ]; then
     echo "exported: $exported"
     exit 1
 fi
 
 needed=$(readelf -d "$library" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
-for name in $needed;
-do
+for name in $needed; do
     case $name in
     libxbrsystem.so | libxbrtext.so | libxbrgui.so | libxbrnet.so | libxbrsecurity.so) ;;
     libstdc++.so.* | libgcc_s.so.* | libc.so.* | libm.so.* | ld-linux*) ;;

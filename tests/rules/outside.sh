@@ -1,29 +1,30 @@
-#!/ bin / sh
-#Builds the extension outside of this build : outside.sh WHAT ROOT[XBRHOST]
-#alone with a C++ compiler and CMake and nothing else, twice : the bytes are the same, and hardened
-#example the module of docs / example from an installation of the border; the host tells its name
-#windows for another system; the library exports what a module exports
+#!/bin/sh
+# Builds the extension outside of this build: outside.sh WHAT ROOT [XBRHOST]
+#   alone    with a C++ compiler and CMake and nothing else, twice: the bytes are the same, and hardened
+#   example  the module of docs/example from an installation of the border; the host tells its name
+#   windows  for another system; the library exports what a module exports
 set -eu
 what=$1
 root=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-#Nothing else can be found then.
+# Nothing else can be found then.
 mkdir "$work/bin"
-for tool in cmake c++ g++ as ld ar ranlib ninja;
-do
-    ln - s "$(command -v $tool)"
-           "$work/bin/" done path = $work / bin
+for tool in cmake c++ g++ as ld ar ranlib ninja; do
+    ln -s "$(command -v $tool)" "$work/bin/"
+done
+path=$work/bin
 
-                                            build() {
-#build FOLDER OPTION... : prints what was said when it failed folder =
-            $1 shift env - i PATH = "$path" HOME =
-                "$work" / bin / sh - c 'cmake -G Ninja -B "$@" && cmake --build "$1"' sh "$folder" -
-                DCMAKE_BUILD_TYPE = Release - DCMAKE_UNITY_BUILD = ON "$@"> "$work/log" 2> & 1 || {
-            cat "$work/log" exit 1
-        }
+build() { # build FOLDER OPTION...: prints what was said when it failed
+    folder=$1
+    shift
+    env -i PATH="$path" HOME="$work" /bin/sh -c 'cmake -G Ninja -B "$@" && cmake --build "$1"' sh \
+        "$folder" -DCMAKE_BUILD_TYPE=Release -DCMAKE_UNITY_BUILD=ON "$@" >"$work/log" 2>&1 || {
+        cat "$work/log"
+        exit 1
     }
+}
 
 case $what in
 alone)

@@ -8,50 +8,46 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using Act = std::function<void()>;
+
 /// Sparse, so that it takes no room; and long enough for a report or two while it is packed.
 constexpr std::uint64_t kLongSize = std::uint64_t{1} << 30U;
 
 /// A source that changes while it is packed must never become an entry that looks right.
 TEST_F(PackageTest, ASourceThatChangesIsAnError) {
     const auto song = payload / "song.wav";
-    const auto other = folder.path() / "payload" / "other";
-    const std::vector<std::pair<const char*, std::function<void()>>> changes = {
+    const auto other = payload / "other";
+    const std::vector<std::pair<const char*, Act>> changes = {
         {"shortened", [&] { fs::resize_file(song, kLongSize - 1); }},
         {"grown", [&] { std::ofstream(song, std::ios::app) << "more"; }},
         {"written to", [&] { std::fstream(song, std::ios::in | std::ios::out) << "other"; }},
         {"removed", [&] { fs::remove(song); }},
         {"replaced by its like",
          [&] {
-             const auto time = fs::last_write_time(song);
              writeSparseFile(other, kLongSize);
-             fs::last_write_time(other, time);
+             fs::last_write_time(other, fs::last_write_time(song));
              fs::rename(other, song);
          }},
         {"replaced by a link",
          [&] {
-             fs::rename(song, folder.path() / "moved");
-             fs::create_symlink(folder.path() / "moved", song);
+             fs::rename(song, other);
+             fs::create_symlink(other, song);
          }},
     };
     for (const auto& [what, change] : changes) {
-        for (const char* when : {"before", "at the start", "in the middle"}) {
-            SCOPED_TRACE(std::string(what) + ' ' + when);
+        for (const double from : {-1.0, 0.0, 0.001}) { // before, at the start, in the middle
+            SCOPED_TRACE(what + std::to_string(from));
             fs::remove(song);
+            fs::remove(other);
             writeSparseFile(song, kLongSize);
             start();
             EXPECT_EQ(add(), kOk);
-            if (std::string_view(when) == "before") {
-                change();
-            } else {
-                progress->thenFrom = std::string_view(when) == "in the middle" ? 0.001 : 0.0;
-                progress->then = change;
-            }
-            problems.clear();
+            progress->thenFrom = from;
+            from < 0 ? change() : static_cast<void>(progress->then = change);
             EXPECT_EQ(flush(), kUnexpected);
             EXPECT_FALSE(progress->then) << "the change was not made";
             EXPECT_EQ(problems, (std::vector{Problem{Fault::kChanged, "song.wav", 0, {}, {}, {}}}));
-            fs::remove(folder.path() / "moved");
-            expectNothingLeft(what);
+            expectNothingLeft();
         }
     }
 }
@@ -66,7 +62,7 @@ TEST_F(PackageTest, CancellingLeavesNoArchiveNorAnOldOne) {
         progress->then = [&] { progress->cancelled = true; };
         EXPECT_EQ(flush(), kFalse) << from;
         EXPECT_LT(progress->lastFraction, 1.0);
-        expectNothingLeft("from " + std::to_string(from));
+        expectNothingLeft();
     }
     start();
     progress->cancelled = true;
@@ -76,6 +72,7 @@ TEST_F(PackageTest, CancellingLeavesNoArchiveNorAnOldOne) {
 /// Modules go on when a copy fails; what they meant to pack must not go out without it.
 TEST_F(PackageTest, AFolderWithoutWhatWasMeantForItIsNotPacked) {
     auto& files = *XBRGetFileSystem();
+    const auto source = folder.path() / "song.wav";
     const auto copy = [&] {
         return files.copyFile(toText(folder.url("song.wav")), toText(folder.url("payload/assets/song.wav")));
     };
@@ -85,48 +82,44 @@ TEST_F(PackageTest, AFolderWithoutWhatWasMeantForItIsNotPacked) {
         files.createFile(toText(folder.url("payload/metadata.json")), stream.out());
         return stream->write("{}{}{}{}{}", 10, &done);
     };
-    const std::pair<const char*, std::function<void()>> faults[] = {
-        {"no song",
-         [&] {
-             fs::remove(folder.path() / "song.wav");
-             EXPECT_EQ(copy(), kUnexpected);
-         }},
-        {"no room",
-         [&] {
-             const FileSizeLimit full(5);
-             EXPECT_EQ(copy(), kUnexpected);
-         }},
-        {"no room for the document",
-         [&] {
-             const FileSizeLimit full(5);
-             EXPECT_EQ(write(), kUnexpected);
-         }},
+    const auto expectAdd = [&](Result result) {
+        start();
+        EXPECT_EQ(add(), result);
+        EXPECT_EQ(flush(), result);
+        EXPECT_EQ(fs::exists(archive), result == kOk);
     };
-    for (const auto& [name, fault] : faults) {
+    const Act faults[] = {[&] {
+                              fs::remove(source);
+                              EXPECT_EQ(copy(), kUnexpected);
+                          },
+                          [&] {
+                              const FileSizeLimit full(5);
+                              EXPECT_EQ(copy(), kUnexpected);
+                          },
+                          [&] {
+                              const FileSizeLimit full(5);
+                              EXPECT_EQ(write(), kUnexpected);
+                          }};
+    for (const auto& fault : faults) {
         for (const bool isOldOneThere : {false, true}) {
-            SCOPED_TRACE(name);
+            SCOPED_TRACE(&fault - faults);
             fs::remove_all(payload);
             writeFile(payload / "other.wav", "x");
-            writeFile(folder.path() / "song.wav", "new song");
+            writeFile(source, "new song");
             if (isOldOneThere) {
                 writeFile(payload / "assets/song.wav", "old song");
             }
             fault();
-            start();
-            EXPECT_EQ(add(), kUnexpected);
-            EXPECT_EQ(flush(), kUnexpected);
-            EXPECT_FALSE(fs::exists(archive));
-            writeFile(folder.path() / "song.wav", "new song");
+            expectAdd(kUnexpected);
+            writeFile(source, "new song");
             EXPECT_EQ(copy(), kOk);
             EXPECT_EQ(write(), kOk);
-            start();
-            EXPECT_EQ(add(), kOk) << "all that was missing is there now";
+            expectAdd(kOk); // all that was missing is there now
             files.removeFolder(toText(folder.url("payload")));
             fault();
             files.removeFolder(toText(folder.url("payload")));
             writeFile(payload / "other.wav", "x");
-            start();
-            EXPECT_EQ(add(), kOk) << "the folder is a new one";
+            expectAdd(kOk); // the folder is a new one
         }
     }
 }
@@ -139,11 +132,10 @@ TEST_F(PackageTest, AFullDiskLeavesNoPartialArchive) {
         start();
         EXPECT_EQ(add(), kOk);
         const FileSizeLimit full(limit);
-        problems.clear();
         EXPECT_EQ(flush(), kUnexpected) << limit;
         EXPECT_EQ(problems,
                   (std::vector{Problem{Fault::kNotWritable, archive, EFBIG, "File too large", {}, {}}}));
-        expectNothingLeft(std::to_string(limit));
+        expectNothingLeft();
     }
 }
 

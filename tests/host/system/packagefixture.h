@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/abi/filesystem.h"
 #include "framework/abi/package.h"
 #include "framework/support/objects/text.h"
 #include "host/system/hostsystem.h"
@@ -7,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <thread>
 
 namespace xbr::host::tests {
@@ -47,11 +47,12 @@ protected:
     ~PackageTest() override { setFileProblemListener({}); }
 
     /// A new package at the archive's place, and a new progress.
-    void start() {
+    void start(bool isCompressed = true) {
         progress = make<RecordingProgress>();
+        problems.clear();
         const auto url = folder.url("payload.zip");
         ASSERT_EQ(XBRGetPackageHandler()->createPackage(kZipPackage, toText(url), package.out()), kOk);
-        EXPECT_EQ(package->setOption(toText("compressed"), 1), kOk);
+        EXPECT_EQ(package->setOption(toText("compressed"), isCompressed ? 1 : 0), kOk);
         EXPECT_EQ(package->create(), kOk);
     }
     Result add() {
@@ -60,9 +61,7 @@ protected:
     Result flush() { return package->flush(progress.get()); }
 
     /// Neither an archive nor a part of one.
-    void expectNothingLeft(const std::string& context) const {
-        EXPECT_EQ(namesIn(folder.path()), std::vector<std::string>{"payload"}) << context;
-    }
+    void expectNothingLeft() const { EXPECT_EQ(namesIn(folder.path()), std::vector<std::string>{"payload"}); }
 
     TestFolder folder;
     std::filesystem::path payload = folder.path() / "payload";

@@ -26,19 +26,20 @@ std::string archiveOf(const std::vector<std::pair<std::string, std::string>>& en
 
 class ResourcesTest : public testing::Test {
 protected:
-    ~ResourcesTest() override { files.unregisterResources(toText("brindlex")); }
+    ~ResourcesTest() override { remove(); }
 
-    Result add(const std::string& bytes) {
-        return files.registerResources(toText("brindlex"), bytes.data(), bytes.size());
+    Result add(const std::string& bytes, std::string_view name = "brindlex") {
+        return files.registerResources(toText(name), bytes.data(), bytes.size());
     }
+    Result remove() { return files.unregisterResources(toText("brindlex")); }
     /// The text of a resource; "-" when there is none.
-    std::string read(const std::string& url) {
-        Ref<IStream> stream;
-        const auto result = files.openForReading(toText(url), stream.out());
+    std::string read(const std::string& path) {
+        const auto result = files.openForReading(toText("resource://" + path), stream.out());
         return result == kOk ? readAll(*stream) : result == kFalse && !stream ? "-" : "failed";
     }
 
     IFileSystem& files = *XBRGetFileSystem();
+    Ref<IStream> stream;
 };
 
 TEST_F(ResourcesTest, AreReadByTheirExactNames) {
@@ -48,43 +49,42 @@ TEST_F(ResourcesTest, AreReadByTheirExactNames) {
                                     {"empty", ""},
                                     {"../outside", "trap"},
                                     {"large", large}});
+    EXPECT_EQ(add(archive, ""), kInvalidArgument);
+    EXPECT_EQ(add(archive, "a/b"), kInvalidArgument);
     ASSERT_EQ(add(archive), kOk);
     EXPECT_EQ(add(archive), kFalse);
-    const std::vector<std::pair<std::string, std::string>> table = {
-        {"resource://brindlex/gadget.xml", "<Gadget/>"},
-        {"resource://brindlex/skin/forms/Ax%C3%A9%201.ui", "form"},
-        {"resource://brindlex/empty", ""},
-        {"resource://brindlex/large", large},
-        {"resource://brindlex/skin/../gadget.xml", "-"},
-        {"resource://brindlex/../../etc/passwd", "-"},
-        {"resource://brindlex//etc/passwd", "-"},
-        {"resource://brindlex/skin", "-"},
-        {"resource://brindlex/", "-"},
-        {"resource://brindlex", "-"},
-        {"resource://other/gadget.xml", "-"},
-        {"resource://brindlex/%zz", "-"},
+    const std::pair<const char*, std::string> table[] = {
+        {"brindlex/gadget.xml", "<Gadget/>"},
+        {"brindlex/skin/forms/Ax%C3%A9%201.ui", "form"},
+        {"brindlex/empty", ""},
+        {"brindlex/large", large},
+        {"brindlex/skin/../gadget.xml", "-"},
+        {"brindlex//etc/passwd", "-"},
+        {"brindlex/", "-"},
+        {"other/gadget.xml", "-"},
+        {"brindlex/%zz", "-"},
     };
-    for (const auto& [url, text] : table) {
-        EXPECT_EQ(read(url), text) << url;
-        EXPECT_EQ(files.fileExists(toText(url)), text != "-") << url;
+    for (const auto& [path, text] : table) {
+        EXPECT_TRUE(read(path) == text) << path;
+        EXPECT_EQ(files.fileExists(toText("resource://" + std::string(path))), text != "-") << path;
     }
-    EXPECT_TRUE(files.folderExists(toText("resource://brindlex/skin/forms")));
-    EXPECT_TRUE(files.folderExists(toText("resource://brindlex/skin/")));
-    EXPECT_TRUE(files.folderExists(toText("resource://brindlex")));
-    EXPECT_FALSE(files.folderExists(toText("resource://brindlex/gadget.xml")));
-    EXPECT_FALSE(files.folderExists(toText("resource://other")));
-
-    EXPECT_EQ(files.unregisterResources(toText("brindlex")), kOk);
-    EXPECT_EQ(files.unregisterResources(toText("brindlex")), kFalse);
-    EXPECT_EQ(read("resource://brindlex/gadget.xml"), "-");
+    for (const auto* url :
+         {"resource://brindlex/skin/forms", "resource://brindlex/skin/", "resource://brindlex"}) {
+        EXPECT_TRUE(files.folderExists(toText(url))) << url;
+    }
+    for (const auto* url : {"resource://brindlex/gadget.xml", "resource://other"}) {
+        EXPECT_FALSE(files.folderExists(toText(url))) << url;
+    }
+    EXPECT_EQ(remove(), kOk);
+    EXPECT_EQ(remove(), kFalse);
+    EXPECT_EQ(read("brindlex/gadget.xml"), "-");
 }
 
 TEST_F(ResourcesTest, AStreamOutlivesItsArchive) {
     const auto archive = archiveOf({{"file", "0123456789"}});
     ASSERT_EQ(add(archive), kOk);
-    Ref<IStream> stream;
-    ASSERT_EQ(files.openForReading(toText("resource://brindlex/file"), stream.out()), kOk);
-    files.unregisterResources(toText("brindlex"));
+    EXPECT_EQ(read("brindlex/file"), "0123456789");
+    remove();
     EXPECT_EQ(measure(*stream), 10);
     EXPECT_EQ(stream->seek(-4, SeekOrigin::kEnd, nullptr), kOk);
     EXPECT_EQ(readAll(*stream), "6789");
@@ -96,21 +96,17 @@ TEST_F(ResourcesTest, AStreamOutlivesItsArchive) {
 }
 
 TEST_F(ResourcesTest, DamagedAndOversizedArchivesAreRefused) {
-    EXPECT_EQ(add("this is no archive"), kInvalidArgument);
-    EXPECT_EQ(add(""), kInvalidArgument);
-    auto archive = archiveOf({{"file", "the contents of the file"}}, ZIP_CM_STORE);
-    EXPECT_EQ(files.registerResources(toText(""), archive.data(), archive.size()), kInvalidArgument);
-    EXPECT_EQ(files.registerResources(toText("a/b"), archive.data(), archive.size()), kInvalidArgument);
-    EXPECT_EQ(add(archive.substr(0, archive.size() / 2)), kInvalidArgument);
-
-    archive[archive.find("contents")] = 'C'; // the check sum does not fit any more
-    ASSERT_EQ(add(archive), kOk);
-    EXPECT_EQ(read("resource://brindlex/file"), "-");
-    files.unregisterResources(toText("brindlex"));
-
-    const auto bomb = archiveOf({{"file", std::string(65U << 20U, '\0')}});
-    ASSERT_EQ(add(bomb), kOk);
-    EXPECT_EQ(read("resource://brindlex/file"), "-");
+    auto damaged = archiveOf({{"file", "the contents of the file"}}, ZIP_CM_STORE);
+    for (const auto& bytes :
+         {std::string("this is no archive"), std::string(), damaged.substr(0, damaged.size() / 2)}) {
+        EXPECT_EQ(add(bytes), kInvalidArgument);
+    }
+    damaged[damaged.find("contents")] = 'C'; // the check sum does not fit any more
+    for (const auto& bytes : {damaged, archiveOf({{"file", std::string(65U << 20U, '\0')}})}) {
+        ASSERT_EQ(add(bytes), kOk);
+        EXPECT_EQ(read("brindlex/file"), "-");
+        remove();
+    }
 }
 
 } // namespace
