@@ -479,7 +479,7 @@
     </message>
     <message>
         <source>album artist</source>
-        <translation>Albumkünstler</translation>
+        <translation>Albuminterpret</translation>
     </message>
     <message>
         <source>genre</source>
@@ -491,7 +491,7 @@
     </message>
     <message>
         <source>song artist</source>
-        <translation>Songkünstler</translation>
+        <translation>Songinterpret</translation>
     </message>
     <message>
         <source>“%1” lacks: %2.</source>

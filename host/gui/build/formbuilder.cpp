@@ -12,6 +12,7 @@
 #include "host/gui/build/taborder.h"
 #include "host/gui/list/listview.h"
 
+#include <QAbstractButton>
 #include <QBuffer>
 #include <QEvent>
 #include <QScrollArea>
@@ -149,6 +150,10 @@ void FormBuilder::bindTree(QWidget& widget, Ref<IController> scope) {
     bindWidget(widget, *scope);
     if (auto* list = qobject_cast<ListView*>(&widget)) {
         list->setTranslations(m_translations);
+    }
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget);
+        button && widget.property("xbrCommand").isValid()) {
+        button->setText(translate(button->text(), *m_translations)); // the module names it in English
     }
     for (QWidget* child : children) {
         bindTree(*child, scope);

@@ -10,14 +10,6 @@ namespace xbr::host {
 
 namespace {
 
-QString translate(const QString& source, ITranslationTable& translations) {
-    const std::string text = source.toStdString();
-    Ref<IString> translated;
-    return translations.translate(toText(text), translated.out()) == kOk
-               ? QString::fromStdString(take(translated))
-               : source;
-}
-
 /// True for the start of a <string> element that a person reads.
 bool startsText(const QXmlStreamReader& reader) {
     return reader.isStartElement() && reader.name() == u"string" &&
@@ -38,6 +30,14 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
         return list;
     }
     return QUiLoader::createWidget(className, parent, name);
+}
+
+QString translate(const QString& source, ITranslationTable& translations) {
+    const std::string text = source.toStdString();
+    Ref<IString> translated;
+    return translations.translate(toText(text), translated.out()) == kOk
+               ? QString::fromStdString(take(translated))
+               : source;
 }
 
 QByteArray translateForm(const std::string& form, ITranslationTable& translations) {

@@ -48,8 +48,8 @@ ProgressSheet::ProgressSheet(QWidget* parent, const QString& title, bool isCance
     m_what->setObjectName("sheetDetail");
     m_what->setTextFormat(Qt::PlainText);
     m_what->setAccessibleName(tr("Working on"));
+    m_cancel->setObjectName("stopWork"); // before it is shown: that is when it gets its style
     m_cancel->setVisible(isCancellable);
-    m_cancel->setObjectName("stopWork");
     m_cancel->setAutoDefault(false);
     connect(m_cancel, &QPushButton::clicked, this, &ProgressSheet::cancel);
 

@@ -8,7 +8,7 @@
 namespace xbr::host {
 
 std::size_t ask(DialogPlace& place, const Question& question) {
-    QMessageBox box(QMessageBox::Question, question.title, question.title, QMessageBox::NoButton,
+    QMessageBox box(QMessageBox::NoIcon, question.title, question.title, QMessageBox::NoButton,
                     place.window);
     box.setObjectName("question");
     box.setTextFormat(Qt::PlainText);
