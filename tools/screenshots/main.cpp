@@ -91,7 +91,10 @@ private:
     void connectPanel() {
         click(window(), "connect");
         auto* user = window().findChild<QPushButton*>("user");
-        waitFor([user] { return user->isVisible() && !user->text().isEmpty(); });
+        const auto* line = window().findChild<StatusLine*>();
+        waitFor([user, line] {
+            return user->isVisible() && !user->text().isEmpty() && line->notice().kind != NoticeKind::kBusy;
+        });
         click(window(), "dismiss"); // there is no keyring here, and the window says so
     }
 
