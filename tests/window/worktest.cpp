@@ -137,15 +137,20 @@ TEST_F(WindowTest, publishingInOneGoEndsAtEveryStageAndWaitsForTheAccount) {
         const PublishEntry entry = findPublishEntries().front();
         publishing.publish(entry, publishing.plan(entry, wish, files));
     };
-    const auto stop = [&](QDialog&) {
+    using Act = std::function<bool(QDialog&)>;
+    const Act stop = [&](QDialog&) {
         publishing.stop();
+        return true;
+    };
+    const Act cancel = [](QDialog& dialog) {
+        dialog.reject();
         return true;
     };
     publish();
     publishing.stop();
     EXPECT_TRUE(statusSays("Stopped. Nothing was sent."));
     {
-        const auto giving = inDialog<ViewDialogFrame>([](ViewDialogFrame& dialog) { return dialog.close(); });
+        const auto cancelling = inDialog<ViewDialogFrame>(cancel);
         publish();
         EXPECT_TRUE(statusSays("Not signed in: the sign-in was given up. Nothing was sent."));
     }
@@ -158,12 +163,14 @@ TEST_F(WindowTest, publishingInOneGoEndsAtEveryStageAndWaitsForTheAccount) {
     stage.service().addFault(R"({"path":"/api/frontstage/account","delay_ms":300})");
     publish();
     EXPECT_TRUE(statusSays("Published the album “Lights” with one song."));
-    publishing.uploadAsked();
-    EXPECT_TRUE(statusSays("Nothing waits to be sent."));
     wish.songs.push_back({stage.untaggedSong("Long.wav", 1U << 30U), "Quay", "Ann", {}, 0});
-    const auto stopping = inDialog<ProgressSheet>(stop);
-    publish();
-    EXPECT_TRUE(statusSays("Stopped. "));
+    for (const Act& act : {stop, cancel}) {
+        publishing.uploadAsked();
+        EXPECT_TRUE(statusSays("Nothing waits to be sent."));
+        const auto acting = inDialog<ProgressSheet>(act);
+        publish();
+        EXPECT_TRUE(statusSays("Stopped. "));
+    }
     EXPECT_EQ(stage.arrived(), 1U);
 }
 

@@ -85,37 +85,28 @@ TEST_F(Configuration, newsComeFromAnAddressOfTheWebOnly) {
 }
 
 TEST_F(Configuration, wrongAddressesAreToldAndNothingGoesThereUnencrypted) {
-    const std::tuple<std::string, std::string, std::string> cases[] = {
-        {"https://service.example/api", "brindlex://authorize", ""},
-        {"http://127.0.0.1:8080", "brindlex:x", ""},
-        {"http://127.8.0.1", "brindlex:x", ""},
-        {"http://[::1]:80/a", "brindlex:x", ""},
-        {"http://LocalHost", "brindlex:x", ""},
-        {"http://service.example", "brindlex:x", "unencrypted "},
-        {"HTTP://localhost.example", "brindlex:x", "unencrypted "},
-        {"http://localhost@service.example", "brindlex:x", "unencrypted wrong ServerURL "},
-        {"", "brindlex:x", "missing ServerURL "},
-        {"", "", "missing ServerURL missing CallbackURL "},
-        {"service.example", "brindlex:x", "wrong ServerURL "},
-        {"ftp://service.example", "brindlex:x", "wrong ServerURL "},
-        {"https://", "brindlex:x", "wrong ServerURL "},
-        {"https://a b/", "authorize", "wrong ServerURL wrong CallbackURL "},
-    };
-    for (const auto& [server, callback, expected] : cases) {
-        write("[brindlex]\nConsumerKey=k\nConsumerSecret=s\nServerURL=" + server +
-              "\nCallbackURL=" + callback);
+    for (const std::string row :
+         {"https://service.example/api → ", "http://127.0.0.1:8080 → ", "http://127.8.0.1 → ",
+          "http://[::1]:80/a → ", "http://LocalHost → ", "http://service.example → unencrypted ",
+          "HTTP://localhost.example → unencrypted ",
+          "http://localhost@service.example → unencrypted wrong ServerURL ", " → missing ServerURL ",
+          "\nCallbackURL= → missing ServerURL missing CallbackURL ", "service.example → wrong ServerURL ",
+          "ftp://service.example → wrong ServerURL ", "https:// → wrong ServerURL ",
+          "https://a b/\nCallbackURL=authorize → wrong ServerURL wrong CallbackURL "}) {
+        const std::string server = row.substr(0, row.find(" → "));
+        write("[brindlex]\nConsumerKey=k\nConsumerSecret=s\nCallbackURL=brindlex:x\nServerURL=" + server);
         const Result result = load();
-        std::string told = m_report->isUnencrypted ? "unencrypted " : "";
-        EXPECT_EQ(result, told.empty() ? kOk : kUnexpected);
-        EXPECT_EQ(m_told->getString("ServerURL"), told.empty() ? server : "");
+        EXPECT_EQ(result, m_report->isUnencrypted ? kUnexpected : kOk) << row;
+        EXPECT_EQ(m_told->getString("ServerURL"), m_report->isUnencrypted ? "" : m_report->serverUrl);
+        std::string told = server + " → " + (m_report->isUnencrypted ? "unencrypted " : "");
         for (const std::string& key : m_report->missingKeys) {
             told += "missing " + key + " ";
         }
         for (const std::string& key : m_report->wrongKeys) {
             told += "wrong " + key + " ";
         }
-        EXPECT_EQ(told, expected) << server;
-        EXPECT_EQ(m_report->isComplete(), expected.empty()) << server;
+        EXPECT_EQ(told, row);
+        EXPECT_EQ(m_report->isComplete(), row.ends_with("→ ")) << row;
     }
 }
 
