@@ -18,10 +18,6 @@ struct Disturbance {
     std::function<void(PublishingStage&, Moment)> happen;
 };
 
-void PrintTo(const Disturbance& disturbance, std::ostream* out) {
-    *out << disturbance.name;
-}
-
 const Disturbance kDisturbances[] = {
     {"Abort",
      [](auto& stage, Moment moment) {

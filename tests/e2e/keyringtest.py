@@ -8,7 +8,7 @@ import unittest
 
 from stage import Stage, StageTest, interrupt
 
-WITH_KEYRING = pathlib.Path(__file__).resolve().parents[1] / "host" / "security" / "with-keyring.sh"
+SESSION = pathlib.Path(__file__).resolve().parents[1] / "host" / "security" / "session.sh"
 SIGNED_IN = "Signed in as Mara Lindqvist"
 
 
@@ -17,7 +17,7 @@ class Desktop(Stage):
 
     def __init__(self):
         super().__init__()
-        self.session = subprocess.Popen([WITH_KEYRING, "sh", "-c", 'echo "$DBUS_SESSION_BUS_ADDRESS"; exec cat >/dev/null'],
+        self.session = subprocess.Popen([SESSION, "keyring", "sh", "-c", 'echo "$DBUS_SESSION_BUS_ADDRESS"; exec cat >/dev/null'],
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.session.stdout.readline().strip()
 

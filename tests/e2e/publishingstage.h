@@ -13,7 +13,6 @@
 #include "sandbox/pages/settings.h"
 #include "sandbox/visitor.h"
 #include "tests/e2e/builtmodule.h"
-#include "tests/e2e/panel.h"
 #include "tests/fixtures/testfolder.h"
 #include "tests/sandbox/runningservice.h"
 

@@ -59,19 +59,6 @@ class ReleaseTest(StageTest):
         self.publish("--dry-run", self.aiff, told="Harbour.wav, rendered from")
         self.assertEqual(json.loads(self.stage.control("GET", "log")), [], "without the service")
 
-    def test_dry_run_tells_what_is_missing(self):
-        bare = self.stage.folder / "bare.wav"
-        with wave.open(str(bare), "wb") as file:
-            file.setparams((1, 2, 8000, 0, "NONE", ""))
-            file.writeframes(bytes(1000))
-        [_, single] = self.drafts(self.wav, bare, code=7)
-        self.assertEqual((single["title"], single["missing"], single["songs"][0]["missing"]),
-                         ("bare", ["albumArtist", "primaryGenre"], ["songArtist"]))
-        [album] = self.drafts("--album", bare, "--album-title", "T", "--title", "S", code=7)
-        self.assertEqual((album["title"], album["missing"]), ("T", ["albumArtist", "primaryGenre"]))
-        self.publish("--dry-run", self.wav, bare, code=7, told="“bare” lacks: song artist, genre.")
-        self.publish("--dry-run", self.wav, "--genre", "Electronca", code=2, told="Nearest: Electronica")
-
     def test_release_file(self):
         release = self.stage.folder / "release.json"
         release.write_text(json.dumps({

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The whole sign-in as a person does it: a real browser, a real keyring, the desktop's handler for callback links.
 
-Runs in a D-Bus session of its own with an unlocked keyring (tests/host/security/with-keyring.sh)."""
+Runs in a D-Bus session of its own with an unlocked keyring (tests/host/security/session.sh)."""
 
 import json
 import pathlib

@@ -154,17 +154,12 @@ class StageTest(unittest.TestCase):
     def start_sign_in(self, *arguments, **environment):
         """A host that waits for the browser, and the address that it asks for."""
         process = self.start(*arguments, BROWSER="/bin/true", **environment)
-        return process, sign_in_page(process)
-
-
-def sign_in_page(process):
-    """The address of the sign-in page, once xbrhost has told it."""
-    def told():
-        line = process.stderr.readline().strip()
-        return line if "/oauth/authorize" in line else None
-    page = wait_for(told, "the address of the sign-in page")
-    process.stderr.readline()  # how to hand the link over by hand
-    return page
+        page = ""
+        while "/oauth/authorize" not in page:
+            page = process.stderr.readline()
+            self.assertNotEqual(page, "", "it ended without the address of the sign-in page")
+        process.stderr.readline()  # how to hand the link over by hand
+        return process, page.strip()
 
 
 def interrupt(process):

@@ -97,7 +97,6 @@ inline std::vector<std::string> itemsOf(std::string target) {
 }
 
 inline void runShell(const std::string& command) {
-    // NOLINTNEXTLINE(cert-env33-c,concurrency-mt-unsafe): nobody else changes the environment
     EXPECT_EQ(std::system(command.c_str()), 0) << command;
 }
 

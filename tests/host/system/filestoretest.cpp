@@ -1,11 +1,6 @@
 #include "framework/abi/filestore.h"
 
-#include "framework/abi/filesystem.h"
-#include "framework/support/objects/ref.h"
-#include "framework/support/objects/text.h"
-#include "tests/host/system/testfiles.h"
-
-#include <gtest/gtest.h>
+#include "tests/host/system/filesfixture.h"
 
 #include <ctime>
 #include <set>

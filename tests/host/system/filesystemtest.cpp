@@ -1,11 +1,7 @@
-#include "framework/abi/filesystem.h"
-
 #include "framework/abi/system.h"
 #include "framework/support/data/memorystream.h"
-#include "framework/support/objects/text.h"
 #include "host/base/fileurl.h"
-#include "host/system/hostsystem.h"
-#include "tests/host/system/packagefixture.h"
+#include "tests/host/system/filesfixture.h"
 
 #include <chrono>
 #include <set>

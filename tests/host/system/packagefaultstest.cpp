@@ -1,4 +1,4 @@
-#include "tests/host/system/packagefixture.h"
+#include "tests/host/system/filesfixture.h"
 
 #include <cerrno>
 #include <fstream>

@@ -1,5 +1,5 @@
 #include "host/system/package/packagepipeline.h"
-#include "tests/host/system/packagefixture.h"
+#include "tests/host/system/filesfixture.h"
 
 #include <cstdlib>
 

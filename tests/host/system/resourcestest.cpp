@@ -1,9 +1,6 @@
-#include "framework/abi/filesystem.h"
 #include "framework/support/data/memorystream.h"
-#include "framework/support/objects/text.h"
-#include "tests/host/system/testfiles.h"
+#include "tests/host/system/filesfixture.h"
 
-#include <gtest/gtest.h>
 #include <zip.h>
 
 namespace xbr::host::tests {

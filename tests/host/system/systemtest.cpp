@@ -1,15 +1,10 @@
 #include "framework/abi/system.h"
 
-#include "framework/support/objects/text.h"
 #include "host/base/fileurl.h"
-#include "host/system/hostsystem.h"
-#include "tests/host/system/testfiles.h"
-
-#include <gtest/gtest.h>
+#include "tests/host/system/filesfixture.h"
 
 #include <cstdlib>
 #include <ctime>
-#include <functional>
 #include <sys/inotify.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
