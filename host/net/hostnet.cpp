@@ -21,10 +21,24 @@ class WebService final : public Object<IWebService, IDownloadService, IFeedReade
 public:
     WebService() { TransferLoop::setFarewell(&abortAllRequests); }
 
-    Result createCredentials(IWebCredentials** out) noexcept override;
-    Result createRequest(IWebRequest** out) noexcept override;
-    Result createTask(Text url, IDownloadTask** out) noexcept override;
-    Result readFeed(IStream* stream, Text location, Text mimeType, IFeed** out) noexcept override;
+    Result createCredentials(IWebCredentials** out) noexcept override {
+        *out = make<WebCredentials>().detach();
+        return kOk;
+    }
+    Result createRequest(IWebRequest** out) noexcept override {
+        *out = make<WebRequest>().detach();
+        return kOk;
+    }
+    Result createTask(Text url, IDownloadTask** out) noexcept override {
+        const DownloadSource source = downloadSource(view(url));
+        const bool isKnown = source != DownloadSource::kNone;
+        *out = isKnown ? make<DownloadTask>(toString(url), source).detach() : nullptr;
+        return isKnown ? kOk : kInvalidArgument;
+    }
+    Result readFeed(IStream* stream, Text location, Text mimeType, IFeed** out) noexcept override {
+        *out = nullptr;
+        return stream ? host::readFeed(*stream, location, mimeType, out) : kInvalidArgument;
+    }
 };
 
 } // namespace
@@ -49,31 +63,6 @@ void setIdleLimit(std::chrono::milliseconds limit) {
 
 void setExchangeListener(ExchangeListener* listener) {
     WebRequest::setListener(listener);
-}
-
-Result WebService::createCredentials(IWebCredentials** out) noexcept {
-    *out = make<WebCredentials>().detach();
-    return kOk;
-}
-
-Result WebService::createRequest(IWebRequest** out) noexcept {
-    *out = make<WebRequest>().detach();
-    return kOk;
-}
-
-Result WebService::createTask(Text url, IDownloadTask** out) noexcept {
-    *out = nullptr;
-    const DownloadSource source = downloadSource(view(url));
-    if (source == DownloadSource::kNone) {
-        return kInvalidArgument;
-    }
-    *out = make<DownloadTask>(toString(url), source).detach();
-    return kOk;
-}
-
-Result WebService::readFeed(IStream* stream, Text location, Text mimeType, IFeed** out) noexcept {
-    *out = nullptr;
-    return stream ? host::readFeed(*stream, location, mimeType, out) : kInvalidArgument;
 }
 
 } // namespace xbr::host

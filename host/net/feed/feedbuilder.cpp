@@ -94,18 +94,12 @@ void FeedBuilder::begin(FeedPart part, const FeedAttributes& attributes, const Q
     if (m_isOverLimits) {
         return;
     }
-    switch (part) {
-    case FeedPart::kEntry:
+    if (part == FeedPart::kEntry) {
         m_feed.entries.emplace_back();
-        break;
-    case FeedPart::kLink:
+    } else if (part == FeedPart::kLink) {
         addLink(attributes, base);
-        break;
-    case FeedPart::kCategory:
-        addCategory(std::string(attributeOf(attributes, "term")));
-        break;
-    default:
-        break;
+    } else if (part == FeedPart::kCategory && m_feed.entries.back().categories.size() < kMaximumOfEntry) {
+        m_feed.entries.back().categories.emplace_back(attributeOf(attributes, "term"));
     }
 }
 
@@ -122,13 +116,6 @@ void FeedBuilder::addLink(FeedLink link, const QUrl& base) {
     setAttribute(link, "rel", relationName(attributeOf(link, "rel")));
     setAttribute(link, "href", std::move(address));
     links.push_back(std::move(link));
-}
-
-void FeedBuilder::addCategory(std::string term) {
-    auto& categories = m_feed.entries.back().categories;
-    if (categories.size() < kMaximumOfEntry) {
-        categories.push_back(std::move(term));
-    }
 }
 
 void FeedBuilder::end(FeedPart part, std::string text) {

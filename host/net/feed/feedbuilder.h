@@ -59,7 +59,6 @@ public:
 
 private:
     void addLink(FeedLink link, const QUrl& base);
-    void addCategory(std::string term);
 
     FeedRecord m_feed;
     std::size_t m_addressBytes = 0; ///< what all links take, see kMaximumAddressBytes

@@ -177,10 +177,7 @@ void FeedParser::addText(std::string_view text) {
 }
 
 std::string FeedParser::takeText(const Open& ending) {
-    if (!isTextConstruct(ending.part)) {
-        return std::string(trim(m_characters));
-    }
-    switch (formOf(ending.attributes)) {
+    switch (isTextConstruct(ending.part) ? formOf(ending.attributes) : TextForm::kPreformatted) {
     case TextForm::kText:
         return collapsed(m_characters);
     case TextForm::kHtml:
