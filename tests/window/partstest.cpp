@@ -12,9 +12,13 @@
 #include "tests/fixtures/testfolder.h"
 #include "tests/window/fixture.h"
 
+#include <QComboBox>
+#include <QCompleter>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QRegularExpression>
+#include <QScreen>
 
 namespace xbr::host::tests {
 
@@ -147,6 +151,32 @@ TEST(Status, goodNewsDoNotHideAWarningAndWhatRunsOnlyCoversIt) {
         line.showNotice(notice);
         EXPECT_EQ(line.notice().text, shown);
     }
+}
+
+TEST_F(WindowTest, aTypedGenreFindsItsOwnNameFirstAndTheWindowFitsTheScreen) {
+    openReady({stage.songs().front()});
+    EXPECT_TRUE(window().screen()->availableGeometry().contains(window().geometry())) << "the first window";
+    selectRows(trackList(), {0});
+    auto* genres = findAs<QComboBox>(window(), "primaryGenre");
+    ASSERT_GT(genres->count(), 100);
+    for (const auto& [typed, first] : {std::pair("techno", "Techno (Peak Time / Driving)"),
+                                       {"POP", "Pop"},
+                                       {"hous", "House"},
+                                       {"blues", "Blues"}}) {
+        genres->lineEdit()->selectAll();
+        QTest::keyClicks(genres->lineEdit(), typed);
+        EXPECT_EQ(genres->completer()->popup()->model()->index(0, 0).data().toString().toStdString(), first)
+            << typed;
+        genres->completer()->popup()->hide();
+    }
+}
+
+TEST_F(WindowTest, theModulesOwnNamesAreInTheUsersLanguage) {
+    const QByteArray before = qgetenv("LC_ALL");
+    qputenv("LC_ALL", "de_DE.UTF-8");
+    open({stage.songs().front()});
+    qputenv("LC_ALL", before);
+    EXPECT_TRUE(choose(window(), "Zu Brindlex hochladen"));
 }
 
 TEST(Translations, areFinishedAndKeepTheirPlaceholders) {
