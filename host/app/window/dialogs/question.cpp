@@ -8,8 +8,7 @@
 namespace xbr::host {
 
 std::size_t ask(DialogPlace& place, const Question& question) {
-    QMessageBox box(QMessageBox::NoIcon, question.title, question.title, QMessageBox::NoButton,
-                    place.window);
+    QMessageBox box(QMessageBox::NoIcon, question.title, question.title, QMessageBox::NoButton, place.window);
     box.setObjectName("question");
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(question.text.toHtmlEscaped());
