@@ -1,203 +1,228 @@
-// The news as the panel shows them: the module's components, the host's libraries and the stand-in of the
-// service.
+// The news in the panel: its forms around the module's components, with the host's libraries and the stand-in
+// of the service.
 
-#include "framework/support/objects/text.h"
+#include "framework/abi/graphics.h"
 #include "host/net/hostnet.h"
+#include "host/system/hostsystem.h"
+#include "tests/host/gui/panel.h"
 #include "tests/sandbox/runningservice.h"
-#include "ui/news/feedelement.h"
 
-#include <QApplication>
-#include <QElapsedTimer>
+#include <QAbstractButton>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTest>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <cstdlib>
-#include <functional>
-#include <string>
-#include <vector>
+#include <algorithm>
 
 namespace brindlex {
 
 namespace {
 
-using nlohmann::json;
-
-bool spinUntil(const std::function<bool()>& done) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!done() && clock.elapsed() < 10'000) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
-    }
-    return done();
+/// A widget that is painted in its middle, as labels with a picture are; a picture leaves the corner out.
+bool isPainted(QWidget& widget) {
+    const QImage seen = widget.grab().toImage();
+    return widget.isVisible() &&
+           seen.pixel(seen.width() / 2, seen.height() / 3) != seen.pixel(seen.width() - 1, seen.height() - 1);
 }
 
-class NewsTest : public testing::Test {
+class News : public testing::Test {
 protected:
-    NewsTest() {
-        // NOLINTNEXTLINE(concurrency-mt-unsafe): the service's thread reads no variables
-        setenv("XDG_CACHE_HOME", (m_service.folder() / "cache").c_str(), 1);
-        open();
-    }
+    News() { qputenv("XDG_CACHE_HOME", (m_service.folder() / "cache").c_str()); }
 
-    /// As after a start of the program: nothing in memory.
+    /// Opens the panel, as after a start of the program, and its news.
     void open(const std::string& path = "/feed.atom") {
-        feed = xbr::make<FeedElement>();
-        feed->setLocation(m_service.origin() + path);
-        m_service.clearLog();
+        m_forms.open("BrindlexManager", m_service.origin() + path).resize(480, 640);
+        at<QAbstractButton>("showNews").click();
+    }
+    template <class Widget = QWidget>
+    Widget& at(const char* name) {
+        return m_forms.at<Widget>(name);
+    }
+    bool waitForState(int state) {
+        return QTest::qWaitFor([&] { return at<QStackedWidget>("states").currentIndex() == state; });
+    }
+    qsizetype countRows() { return at("entries").findChildren<QWidget*>("FeedEntry").size(); }
+    bool waitForRows(int count = 1) {
+        return QTest::qWaitFor([&] { return countRows() >= count; });
     }
 
-    /// Fetches the feed and its pictures. False when there is no feed.
-    bool fetch() {
-        feed->startDownload();
-        spinUntil([this] { return feed->downloadState() != xbr::DownloadState::kRunning; });
-        for (std::int32_t i = 0; i < feed->itemCount(); ++i) {
-            xbr::query<xbr::IShownImage>(image(i))->beginShowing();
+    /// What a row shows, "-" for what it hides.
+    std::string row(int index) {
+        const auto* entry = at("entries").findChildren<QWidget*>("FeedEntry").at(index);
+        std::string texts;
+        for (const char* name : {"title", "date", "summary", "readMore"}) {
+            const auto* widget = entry->findChild<QWidget*>(name);
+            texts += (widget->isVisible() ? widget->property("text").toString().toStdString() : "-") + "|";
         }
-        return spinUntil([this] { return isSettled(); }) && feed->itemCount() > 0;
+        return texts;
     }
-
-    std::string text(std::int32_t entry, std::int32_t parameter) {
-        return std::string(xbr::textOf(feed->parameterAt(entry * 5 + parameter)->value()));
+    bool hasPicture(int index) {
+        return isPainted(*at("entries").findChildren<QLabel*>("picture").at(index));
     }
-
-    std::string picture(std::int32_t entry) {
-        const auto source = xbr::query<xbr::IImageSource>(image(entry));
-        xbr::Ref<xbr::IImage> found;
-        return source->getImage(found.out()) == xbr::kOk
-                   ? std::to_string(found->width()) + "x" + std::to_string(found->height())
-                   : "(none)";
-    }
-    std::vector<std::string> pictures() {
-        std::vector<std::string> sizes;
-        for (std::int32_t i = 0; i < feed->itemCount(); ++i) {
-            sizes.push_back(picture(i));
-        }
-        return sizes;
+    /// True when every row that is seen has its picture.
+    bool isWholeToBeSeen() {
+        auto& view = *at<QScrollArea>("entries").viewport();
+        const auto labels = view.findChildren<QLabel*>("picture");
+        return std::all_of(labels.begin(), labels.end(), [&](QLabel* label) {
+            const QRect place(label->mapTo(&view, QPoint()), label->size());
+            return !place.intersects(view.rect()) || isPainted(*label);
+        });
     }
 
     /// "path status" of each request, and a look at what none of them may carry.
     std::vector<std::string> requests() {
         std::vector<std::string> lines;
-        for (const auto& entry : json::parse(m_service.log())) {
-            lines.push_back(entry["path"].get<std::string>() + " " +
-                            std::to_string(entry["status"].get<int>()));
+        for (const auto& entry : nlohmann::json::parse(m_service.log())) {
+            lines.push_back(entry["path"].get<std::string>() + " " + entry["status"].dump());
             EXPECT_EQ(entry["authorization"]["present"], false);
         }
         std::sort(lines.begin(), lines.end());
         return lines;
     }
 
-    xbr::IObject* image(std::int32_t entry) {
-        return feed->findObject(xbr::toText("image" + std::to_string(entry)));
-    }
     RunningService m_service;
-    xbr::Ref<FeedElement> feed;
-
-private:
-    /// True when each picture has come, or will not.
-    bool isSettled() {
-        for (std::int32_t i = 0; i < feed->itemCount(); ++i) {
-            xbr::Value state{};
-            xbr::query<xbr::IPropertySource>(image(i))->getProperty(xbr::toText("downloadState"), &state);
-            const bool isDue = xbr::query<xbr::IShownImage>(image(i))->mayHaveImage();
-            if (isDue && (xbr::integerOf(state) < 2 || picture(i) == "(none)")) {
-                return false;
-            }
-        }
-        return true;
-    }
+    xbr::host::tests::PanelForms m_forms;
 };
 
-TEST_F(NewsTest, ShowEntriesWithTheirPicturesForTheDisplay) {
-    ASSERT_TRUE(fetch());
-    EXPECT_EQ(text(0, 0), "Lossless delivery for every release");
-    EXPECT_EQ(text(1, 0), "Release planning: Fridays & the week before");
-    EXPECT_EQ(text(2, 0), "Portrait: Hafþór and the 4 <am> sessions");
-    EXPECT_EQ(text(0, 3), m_service.origin() + "/news/1");
-    EXPECT_EQ(text(0, 4), "Monday, 2 June 2025");
-    EXPECT_EQ(text(3, 4), "Monday, 1 January 1900");
-    const bool isHigh = XBRGetGraphicsHelper()->displayScale() > 1.0;
-    const std::vector<std::string> sizes = {
-        "320x180", isHigh ? "320x180" : "640x360", "320x180", "(none)", "(none)", "201x113"};
-    EXPECT_EQ(pictures(), sizes);
-    const std::string high = isHigh ? "@2x" : "";
+TEST_F(News, takeThePlaceOfThePageWhenTheyAreAskedFor) {
+    m_forms.open("BrindlexManager");
+    EXPECT_FALSE(at("news").isVisible()) << "there is no address";
+    m_forms.open("BrindlexManager", m_service.origin() + "/feed.atom");
+    QTest::qWait(100);
+    EXPECT_EQ(requests(), std::vector<std::string>()) << "nobody has asked for news yet";
+    open();
+    EXPECT_FALSE(at("pages").isVisible());
+    ASSERT_TRUE(waitForRows(6));
+    EXPECT_EQ(row(0),
+              "Lossless delivery for every release|Monday, June 2, 2025|FLAC and 24-bit WAV now reach all "
+              "stores.|Read more|");
+    EXPECT_TRUE(row(1).starts_with("Release planning: Fridays & the week before|"));
+    EXPECT_TRUE(row(2).starts_with("Portrait: Hafþór and the 4 <am> sessions|"));
+    EXPECT_TRUE(row(3).find("|-|") != std::string::npos) << row(3) << ": it has no date";
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return hasPicture(0) && hasPicture(1) && hasPicture(2) && hasPicture(5); }));
+    EXPECT_FALSE(hasPicture(3));
+    const std::string high = XBRGetGraphicsHelper()->displayScale() > 1.0 ? "@2x" : "";
     EXPECT_EQ(requests(), (std::vector<std::string>{"/feed.atom 200", "/news/image1" + high + ".png 200",
                                                     "/news/image2@2x.png 200", "/news/image3.png 200",
                                                     "/news/image6" + high + ".png 200"}))
         << "and nothing else";
+    at<QAbstractButton>("showPublish").click();
+    EXPECT_TRUE(at("pages").isVisible());
+    EXPECT_FALSE(at("newsPage").isVisible());
 }
 
-TEST_F(NewsTest, ShowWhatTheyCanWhenTheServiceFails) {
-    struct {
+TEST_F(News, openTheArticleInTheBrowserFromTheKeyboard) {
+    qputenv("PATH", "/nowhere"); // no browser is started here
+    std::string opened;
+    xbr::host::setBrowserAnnouncer([&](std::string_view url) {
+        opened = url;
+        return true;
+    });
+    m_service.addFault(R"({"path":"/old/news","redirect":"/feed.atom","status":301})");
+    open("/old/news");
+    ASSERT_TRUE(waitForRows());
+    auto& more = at<QAbstractButton>("readMore");
+    for (int i = 0; i < 4 && !more.hasFocus(); ++i) {
+        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : m_forms.form.get(),
+                        Qt::Key_Tab);
+    }
+    EXPECT_EQ(more.accessibleName(), "Lossless delivery for every release");
+    QTest::keyClick(&more, Qt::Key_Space);
+    EXPECT_EQ(opened, m_service.origin() + "/news/1") << "not below the old address of the feed";
+    xbr::host::setBrowserAnnouncer({});
+}
+
+TEST_F(News, showWhatTheyCanWhenTheServiceFails) {
+    const struct {
         const char* fault;
-        bool hasFeed;
         int state;
-    } const cases[] = {
-        {R"({"path":"/feed.atom","status":500,"body":"no"})", false, 3},
-        {R"({"path":"/feed.atom","truncate":true})", false, 3},
-        {R"({"path":"/feed.atom","reset_after":0})", false, 3},
-        {R"({"path":"/feed.atom","reply_stall_ms":5000})", false, 3},
-        {R"({"path":"/feed.atom","body":"x","body_repeat":9000000})", false, 3},
-        {R"({"path":"/feed.atom","body":"<html>Sign in to the network</html>"})", false, 2},
-        {R"({"path":"/feed.atom","redirect":"ftp://127.0.0.1/feed.atom"})", false, 3},
-        {R"({"path":"/feed.atom","redirect":"/elsewhere"})", false, 3},
-        {R"({"path":"/feed.atom","delay_ms":300})", true, 2},
-        {R"({"path":"/news/image1.png","status":404,"body":"no","times":9})", true, 2},
-        {R"({"path":"/news/image3.png","truncate":true,"times":9})", true, 2},
+        int rows;
+    } cases[] = {
+        {R"({"path":"/feed.atom","status":500,"body":"no"})", 3, 0},
+        {R"({"path":"/feed.atom","truncate":true})", 3, 0},
+        {R"({"path":"/feed.atom","reply_stall_ms":5000})", 3, 0},
+        {R"({"path":"/feed.atom","body":"<html>Sign in to the network</html>"})", 2, 0},
+        {R"({"path":"/feed.atom","delay_ms":300})", 2, 6},
+        {R"({"path":"/news/image1.png","status":404,"body":"no","times":9})", 2, 6},
+        {R"({"path":"/news/image3.png","truncate":true,"times":9})", 2, 6},
     };
     xbr::host::setIdleLimit(std::chrono::milliseconds(800));
-    for (const auto& one : cases) {
+    for (const auto& [fault, state, rows] : cases) {
         m_service.clearFaults();
-        m_service.addFault(one.fault);
+        m_service.clearLog();
+        m_service.addFault(fault);
         open();
-        EXPECT_EQ(fetch(), one.hasFeed) << one.fault;
-        EXPECT_EQ(static_cast<int>(feed->downloadState()), one.state) << one.fault;
-        EXPECT_EQ(feed->itemCount(), one.hasFeed ? 6 : 0) << one.fault;
+        ASSERT_TRUE(waitForState(state)) << fault;
+        EXPECT_TRUE(waitForRows(rows)) << fault;
+        EXPECT_EQ(at("failedText").isVisible(), state == 3) << fault;
+        EXPECT_EQ(at("nothing").isVisible(), state == 2 && rows == 0) << fault;
+        EXPECT_EQ(at("reload").isVisible(), state == 2) << fault;
+        if (rows == 0) { // the service, or the network, lets us through by now
+            at<QAbstractButton>(state == 3 ? "tryAgain" : "reload").click();
+            EXPECT_TRUE(waitForRows(6)) << fault;
+            EXPECT_FALSE(at("nothing").isVisible()) << fault;
+        }
     }
     xbr::host::setIdleLimit(std::chrono::seconds(60));
 }
 
-TEST_F(NewsTest, FollowTheFeedToItsNewPlace) {
-    m_service.addFault(R"({"path":"/old/news","redirect":"/feed.atom","status":301})");
-    open("/old/news");
-    ASSERT_TRUE(fetch());
-    EXPECT_EQ(text(0, 3), m_service.origin() + "/news/1") << "not below the old one";
-    EXPECT_EQ(picture(0), "320x180");
+TEST_F(News, mayBeClosedWhileTheyLoad) {
+    m_service.addFault(R"({"path":"/feed.atom","delay_ms":200})");
+    m_service.addFault(R"({"path":"/news/image1.png","reply_stall_ms":3000})");
+    for (const std::size_t begun : {1U, 3U}) {
+        open();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return requests().size() >= begun; }));
+        m_forms.form.reset();
+        m_forms.panel.reset();
+        m_service.clearLog();
+    }
+    xbr::host::abortAllRequests();
+    QTest::qWait(100);
 }
 
-TEST_F(NewsTest, MayBeClosedWhileTheyLoad) {
-    m_service.addFault(R"({"path":"/feed.atom","delay_ms":200})");
-    feed->startDownload();
-    spinUntil(
-        [this] { return !requests().empty() || feed->downloadState() != xbr::DownloadState::kRunning; });
-    feed.reset();
-    open();
-    m_service.addFault(R"({"path":"/news/image1.png","reply_stall_ms":3000})");
-    feed->startDownload();
-    spinUntil([this] { return feed->itemCount() > 0; });
-    xbr::query<xbr::IShownImage>(image(0))->beginShowing();
-    spinUntil([this] { return requests().size() > 1; });
-    feed.reset();
-    QElapsedTimer clock;
-    clock.start();
-    xbr::host::abortAllRequests();
-    spinUntil([&] { return clock.elapsed() > 100; });
+std::string feedOf(int count) {
+    std::string feed = "<feed xmlns='http://www.w3.org/2005/Atom'><title>News</title>";
+    for (int i = 0; i < count; ++i) {
+        const std::string number = std::to_string(i);
+        feed += "<entry><title>Entry " + number + " of many, with a title of some length</title><summary>" +
+                std::string(60, 'x') + " " + std::string(90, 'y') +
+                "</summary><link href='https://example.org/" + number +
+                "'/><link rel='enclosure' type='image/png' href='/news/image3.png?" + number +
+                "'/><updated>2025-06-02T09:30:00Z</updated></entry>";
+    }
+    return feed + "</feed>";
+}
+
+TEST_F(News, showThePicturesOfAllEntriesAndFetchNoneTwice) {
+    constexpr int kEntries = 60;
+    m_service.addFault(
+        nlohmann::json{{"path", "/feed.atom"}, {"body", feedOf(kEntries)}, {"times", 2}}.dump());
+    for (const int wholeOnes : {kEntries, 0}) { // the second time is a later start
+        m_service.clearLog();
+        open();
+        ASSERT_TRUE(waitForRows());
+        auto& area = at<QScrollArea>("entries");
+        int atEnd = 0;
+        for (int page = 0; page < kEntries && atEnd < 5; ++page) {
+            ASSERT_TRUE(QTest::qWaitFor([&] { return isWholeToBeSeen(); }, 20'000)) << "page " << page;
+            EXPECT_LT(countRows(), 40);
+            QTest::keyClick(&area, Qt::Key_PageDown);
+            QTest::qWait(20);
+            atEnd += area.verticalScrollBar()->value() == area.verticalScrollBar()->maximum() ? 1 : 0;
+        }
+        EXPECT_EQ(area.findChildren<QLabel*>("title").back()->text().left(9),
+                  "Entry " + QString::number(kEntries - 1) + " ");
+        const auto lines = requests();
+        EXPECT_EQ(std::count(lines.begin(), lines.end(), "/news/image3.png 200"), wholeOnes);
+        EXPECT_EQ(std::count(lines.begin(), lines.end(), "/news/image3.png 304"), kEntries - wholeOnes);
+    }
 }
 
 } // namespace
 
 } // namespace brindlex
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    for (const char* name : {"http_proxy", "https_proxy", "all_proxy", "HTTPS_PROXY", "ALL_PROXY"}) {
-        qunsetenv(name);
-    }
-    for (const char* name : {"LC_ALL", "LC_TIME", "LANG"}) {
-        qputenv(name, "C");
-    }
-    qputenv("TZ", "UTC");
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -1,82 +1,56 @@
 #pragma once
 
-#include "framework/abi/view.h"
 #include "framework/support/parts/classfactory.h"
-#include "framework/support/parts/component.h"
+#include "framework/support/parts/modulecomponent.h"
+#include "tests/host/gui/testcontroller.h"
 #include "ui/tracks/tracklistcomponent.h"
 
 #include <QByteArray>
-
-#include <memory>
-#include <string>
-#include <vector>
-
-class QWidget;
+#include <QWidget>
 
 namespace xbr::host::tests {
 
-/// The sign-in client of the panel, with a state that tests choose.
-class PanelClient final : public Component {
-public:
-    PanelClient();
-
-    void setState(int state);
-    Result getProperty(Text name, Value* out) noexcept override;
-
-    int resets = 0;
-    int retries = 0;
-
-protected:
-    void parameterChanged(Parameter& parameter) override;
-
-private:
-    int m_state = 0;
-};
-
 /// The panel's controller as its forms see it: the extension's own track list and editor beside a client
-/// without a network.
-class Panel final : public Component {
+/// without a network, whose state tests choose.
+class Panel final : public TestController {
 public:
     Panel();
-    ~Panel() override;
 
-    PanelClient& client() const { return *m_client; }
-    brindlex::TrackListComponent& tracks() const { return *m_tracks; }
-    Parameter& named(std::string_view name);
-
-    void signIn(std::string_view user, std::string_view url);
+    void setState(int state);
+    void signIn();
     void addTracks(int count);
 
-    int uploads = 0;
-
-protected:
-    void parameterChanged(Parameter& parameter) override;
-
-private:
-    Ref<PanelClient> m_client;
-    Ref<brindlex::TrackListComponent> m_tracks;
+    const Ref<TestController> client = make<TestController>("Client");
+    const Ref<brindlex::TrackListComponent> tracks = make<brindlex::TrackListComponent>();
 };
 
-/// The extension's resources and the component of its news, registered as the module would, in the language
-/// "LANGUAGE" names.
-class PanelSkin {
+/// The forms of the extension's resources in a language, with the component of its news, as the module and
+/// the host bring them to the screen.
+class PanelForms {
 public:
-    explicit PanelSkin(const std::string& archive, const std::string& language = "en");
-    PanelSkin(const PanelSkin&) = delete;
-    PanelSkin& operator=(const PanelSkin&) = delete;
-    ~PanelSkin();
+    explicit PanelForms(const std::string& language = "en");
+    PanelForms(const PanelForms&) = delete;
+    PanelForms& operator=(const PanelForms&) = delete;
+    ~PanelForms();
 
-    /// Panels made from now on show these news; an empty address for none.
-    static void setNews(const std::string& url);
+    /// Shows a form of a new panel, with the news of an address.
+    QWidget& open(const char* form, const std::string& news = {});
 
-    Ref<IView> view(std::string_view form, IController& controller) const;
-    std::unique_ptr<QWidget> widget(std::string_view form, IController& controller) const;
+    template <class Widget = QWidget>
+    Widget& at(const char* name) const {
+        auto* found = form->findChild<Widget*>(QLatin1String(name));
+        Q_ASSERT(found);
+        return *found;
+    }
+
+    Ref<Panel> panel;
+    std::unique_ptr<QWidget> form;
 
 private:
-    std::string m_bytes;
-    QByteArray m_locale; // as it was before
-    Ref<ClassFactory> m_classes;
-    Ref<ITheme> m_theme;
+    ModuleComponent m_module{"brindlex", "Kestrova", "Brindlex Support", "1"};
+    std::string m_resources;
+    QByteArray m_locale = qgetenv("LC_ALL"); // as it was before
+    Ref<ClassFactory> m_classes = make<ClassFactory>();
 };
 
 } // namespace xbr::host::tests

@@ -1,23 +1,42 @@
 #pragma once
 
 #include "framework/abi/webservice.h"
-#include "framework/support/data/memorystream.h"
-#include "framework/support/objects/object.h"
+#include "framework/support/objects/text.h"
+#include "framework/support/objects/value.h"
+#include "tests/fixtures/streams.h"
 
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <algorithm>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace xbr::host::test {
 
 /// Runs the event loop until `done`; false when that took longer than `milliseconds`.
-bool spinUntil(const std::function<bool()>& done, int milliseconds = 10'000);
+inline bool spinUntil(const std::function<bool()>& done, int milliseconds = 10'000) {
+    QEventLoop loop;
+    QElapsedTimer clock;
+    clock.start();
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (done() || clock.elapsed() > milliseconds) {
+            loop.quit();
+        }
+    });
+    poll.start(1);
+    loop.exec();
+    return done();
+}
 
 /// Runs the event loop for that long.
-void spinFor(int milliseconds);
+inline void spinFor(int milliseconds) {
+    spinUntil([] { return false; }, milliseconds);
+}
 
 /// A handler that writes down what it hears.
 class Recorder final : public Object<IObserver> {
@@ -25,11 +44,20 @@ public:
     Recorder() { ++s_alive; }
     ~Recorder() override { --s_alive; }
 
-    void notify(ISubject* subject, IMessage* message) noexcept override;
-
-    /// True when the request has said its last word.
-    bool isCompleted() const { return heard("onloadend") + heard("onabort") > 0; }
-    int heard(std::string_view name) const;
+    void notify(ISubject* subject, IMessage* message) noexcept override {
+        const auto name = toString(message->name());
+        names.push_back(name);
+        sender = subject;
+        if (name == "onprogress") {
+            fractions.push_back(numberOf(message->argument(0)));
+        }
+        if (const auto running = hook) {
+            running(name);
+        }
+    }
+    int heard(std::string_view name) const {
+        return static_cast<int>(std::count(names.begin(), names.end(), name));
+    }
 
     std::vector<std::string> names;
     std::vector<double> fractions;
@@ -39,16 +67,23 @@ public:
     static int alive() { return s_alive; }
 
 private:
-    static int s_alive;
+    static inline int s_alive = 0;
 };
 
-using Headers = std::vector<std::pair<std::string, std::string>>;
+/// Null for those that are refused, as for requests.
+inline Ref<IWebCredentials> makeCredentials(std::string_view user, std::string_view password,
+                                            std::string_view scheme) {
+    Ref<IWebCredentials> made;
+    XBRGetWebService()->createCredentials(made.out());
+    return made->set(toText(user), toText(password), toText(scheme)) == kOk ? made : Ref<IWebCredentials>();
+}
 
-Ref<IWebCredentials> makeCredentials(std::string_view user, std::string_view password,
-                                     std::string_view scheme);
-Ref<IWebRequest> openRequest(std::string_view method, std::string_view url,
-                             const Ref<IWebCredentials>& credentials = {});
-Ref<MemoryStream> streamOf(std::string_view bytes);
+inline Ref<IWebRequest> openRequest(std::string_view method, std::string_view url,
+                                    const Ref<IWebCredentials>& credentials = {}) {
+    Ref<IWebRequest> made;
+    XBRGetWebService()->createRequest(made.out());
+    return made->open(toText(method), toText(url), credentials.get()) == kOk ? made : Ref<IWebRequest>();
+}
 
 /// What came of a request.
 struct Exchanged {
@@ -59,11 +94,23 @@ struct Exchanged {
     std::vector<double> fractions;
 };
 
-/// What a completed request answers.
-Exchanged resultOf(IWebRequest& request, const Recorder& recorder);
-
 /// Sends a request and waits for its end.
-Exchanged exchange(IWebRequest& request, IStream* body = nullptr);
-Exchanged get(const std::string& url);
+inline Exchanged exchange(IWebRequest& request, IStream* body = nullptr) {
+    const auto recorder = make<Recorder>();
+    if (request.send(body, recorder.get()) != kOk) {
+        return {};
+    }
+    spinUntil([&] { return recorder->heard("onloadend") + recorder->heard("onabort") > 0; });
+    Ref<IStream> answered;
+    Ref<IString> error;
+    request.getErrorText(error.out());
+    const bool isAnswered = request.getResponseBody(answered.out()) == kOk;
+    return {request.status(), isAnswered ? readAll(*answered) : "", take(error), recorder->names,
+            recorder->fractions};
+}
+
+inline Exchanged get(const std::string& url) {
+    return exchange(*openRequest("GET", url));
+}
 
 } // namespace xbr::host::test

@@ -5,8 +5,11 @@
 #include "tests/host/net/exchange.h"
 #include "tests/host/net/scriptedserver.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
+
+#include <openssl/ssl.h>
 
 namespace xbr::host::test {
 
@@ -18,41 +21,49 @@ class Tls : public ::testing::Test {
 protected:
     ~Tls() override { qunsetenv("SSL_CERT_FILE"); }
 
-    void trust(const TlsIdentity& identity) {
-        const std::string path = m_folder.filePath("trusted.pem").toStdString();
-        identity.writeCertificate(path);
-        qputenv("SSL_CERT_FILE", path.c_str());
+    /// For a server with a certificate that it signs itself; `subject` is its alternative name, for example
+    /// "IP:127.0.0.1".
+    ssl_ctx_st* identity(const QString& subject, bool isTrusted = true) {
+        const QString key = m_folder.filePath("key.pem");
+        const QString certificate = m_folder.filePath("certificate.pem");
+        QProcess::execute("openssl", {"req", "-x509", "-noenc", "-newkey", "ec", "-pkeyopt",
+                                      "ec_paramgen_curve:P-256", "-subj", "/CN=throwaway", "-addext",
+                                      "subjectAltName=" + subject, "-keyout", key, "-out", certificate});
+        if (isTrusted) {
+            qputenv("SSL_CERT_FILE", certificate.toUtf8());
+        }
+        SSL_CTX* context = SSL_CTX_new(TLS_server_method());
+        SSL_CTX_use_certificate_file(context, certificate.toUtf8(), SSL_FILETYPE_PEM);
+        SSL_CTX_use_PrivateKey_file(context, key.toUtf8(), SSL_FILETYPE_PEM);
+        return context;
     }
 
 private:
     QTemporaryDir m_folder;
 };
 
-TEST_F(Tls, trustedCertificateOfTheRightServer) {
-    const TlsIdentity identity("IP:127.0.0.1");
-    trust(identity);
-    const ScriptedServer server(answering(answer(200, "private")), &identity);
-    EXPECT_EQ(get(server.url()).body, "private");
-}
-
-TEST_F(Tls, wrongCertificates) {
-    const TlsIdentity right("IP:127.0.0.1");
-    const TlsIdentity elsewhere("DNS:example.com");
-    const ScriptedServer unknown(answering(answer(200, "private")), &right);
-    const Exchanged untrusted = get(unknown.url("/?token=hidden"));
-    EXPECT_EQ(untrusted.status, 0);
-    EXPECT_EQ(untrusted.error, "The certificate of 127.0.0.1 is not trusted.");
-
-    trust(elsewhere);
-    const ScriptedServer misnamed(answering(answer(200, "private")), &elsewhere);
-    EXPECT_EQ(get(misnamed.url()).error, "The certificate of 127.0.0.1 is not trusted.");
+TEST_F(Tls, onlyTheTrustedCertificateOfTheRightServerWillDo) {
+    const struct {
+        const char* subject;
+        bool isTrusted;
+        const char *body, *error;
+    } cases[] = {
+        {"IP:127.0.0.1", false, "", "The certificate of 127.0.0.1 is not trusted."},
+        {"DNS:example.com", true, "", "The certificate of 127.0.0.1 is not trusted."},
+        {"IP:127.0.0.1", true, "private", ""},
+    };
+    for (const auto& [subject, isTrusted, body, error] : cases) {
+        const ScriptedServer server(answering(answer(200, "private")), identity(subject, isTrusted));
+        const Exchanged result = get(server.url("/?token=hidden"));
+        EXPECT_EQ(result.body, body);
+        EXPECT_EQ(result.error, error);
+    }
 }
 
 TEST_F(Tls, documentsStayWithIt) {
-    const TlsIdentity identity("IP:127.0.0.1");
-    trust(identity);
     const ScriptedServer plain(answering(answer(200, "changed on the way")));
-    const ScriptedServer secure(answering(answer(302, "", "Location: " + plain.url() + "\r\n")), &identity);
+    const ScriptedServer secure(answering(answer(302, "", "Location: " + plain.url() + "\r\n")),
+                                identity("IP:127.0.0.1"));
     Ref<IDownloadTask> task;
     query<IDownloadService>(XBRGetWebService())->createTask(toText(secure.url()), task.out());
     task->start();
@@ -61,30 +72,21 @@ TEST_F(Tls, documentsStayWithIt) {
     EXPECT_EQ(plain.connections(), 0);
 }
 
-TEST_F(Tls, otherFailures) {
+TEST_F(Tls, otherFailuresAreTold) {
     const ScriptedServer plain([](Peer& peer) {
         peer.read(100);
         peer.send("HTTP/1.1 400 Bad Request\r\n\r\n");
         peer.waitForClose();
     });
-    const std::string url = "https://127.0.0.1:" + std::to_string(plain.port()) + "/";
+    const std::string url = plain.url("/", "https");
     EXPECT_EQ(get(url).error, "No secure connection to 127.0.0.1 could be made.");
     qputenv("SSL_CERT_FILE", "/nowhere/trusted.pem");
     EXPECT_THAT(get(url).error, HasSubstr("could not be read"));
-}
 
-TEST_F(Tls, resetInTheMiddleOfABody) {
     // Writing to a closed connection must not raise SIGPIPE, which would end the host.
-    const TlsIdentity identity("IP:127.0.0.1");
-    trust(identity);
-    const ScriptedServer server(
-        [](Peer& peer) {
-            peer.readHead();
-            peer.reset();
-        },
-        &identity);
+    const ScriptedServer closing(answering("", &Peer::reset), identity("IP:127.0.0.1"));
     const std::string bytes(std::size_t{16} << 20U, 'b');
-    const Exchanged result = exchange(*openRequest("POST", server.url()), streamOf(bytes).get());
+    const Exchanged result = exchange(*openRequest("POST", closing.url()), streamOf(bytes).get());
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.error, HasSubstr("127.0.0.1"));
 }
