@@ -56,8 +56,9 @@ TEST_F(Display, warnsOnceOfWhatItCannotBindAndShowsTheRest) {
         {"xbrLink=title", "title"},
         {"xbrPageSwitch=flag", "flag"},
         {"xbrCommand=0", "0"},
-        {"xbrRows=F", "F"},
+        {"xbrRows=Other", "Other"},
     };
+    addForm("Other", "");
     for (const auto& [binding, path] : table) {
         show(widgetXml("QLabel", "wrong", binding, widgetXml("QLabel", "within", "xbrText=title")) +
              widgetXml("QLabel", "again", binding) + widgetXml("QLineEdit", "rest", "xbrParameter=title"));
@@ -74,9 +75,9 @@ TEST_F(Display, warnsOnceOfWhatItCannotBindAndShowsTheRest) {
 }
 
 TEST_F(Display, aBrokenSkinIsRefused) {
-    m_folder.write("good.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
-    m_folder.write("bad.svg", "<svg>");
-    m_folder.write("a.qss", "QLabel { color: red }");
+    folder.write("good.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    folder.write("bad.svg", "<svg>");
+    folder.write("a.qss", "QLabel { color: red }");
     const std::pair<const char*, Result> table[] = {
         {"<Image file='good.svg'/><Style file='a.qss' appearance='dark'/>", kOk},
         {"<Image file='bad.svg'/>", kInvalidArgument},

@@ -46,7 +46,7 @@ inline std::string columnXml(const Texts& widgets) {
 
 /// Lets everything that is posted happen.
 inline void settle() {
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 10; ++i) {
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
@@ -65,8 +65,8 @@ protected:
     /// Adds a form, or replaces the one of that name; `content` stands inside its top widget, whose name is
     /// the form's.
     void addForm(const std::string& name, const std::string& content) {
-        m_folder.write(name + ".ui", "<ui version='4.0'><class>test</class>" +
-                                         widgetXml("QWidget", name, {}, content) + "</ui>");
+        folder.write(name + ".ui", "<ui version='4.0'><class>test</class>" +
+                                       widgetXml("QWidget", name, {}, content) + "</ui>");
         m_forms.insert("<Form name='" + name + "' file='" + name + ".ui'/>");
         std::string entries;
         for (const std::string& each : m_forms) {
@@ -77,9 +77,9 @@ protected:
 
     /// Reads a skin of these entries.
     Result load(const std::string& entries) {
-        m_folder.write("skin.xml", "<Skin>" + entries + "</Skin>");
+        folder.write("skin.xml", "<Skin>" + entries + "</Skin>");
         m_theme = createHostObject<ITheme>();
-        return m_theme->load(toText(m_folder.url("")));
+        return m_theme->load(toText(folder.url("")));
     }
 
     Ref<IView> view(std::string_view name) {
@@ -114,7 +114,7 @@ protected:
     }
     std::string text(const char* name) const { return at(name).property("text").toString().toStdString(); }
 
-    TestFolder m_folder;
+    TestFolder folder;
     Ref<TestController> root = make<TestController>("Root");
     std::unique_ptr<QWidget> form;
     std::string warnings;

@@ -2,18 +2,14 @@
 #include "tests/host/gui/formtest.h"
 
 #include <QContextMenuEvent>
-#include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QMenu>
-#include <QMimeData>
 #include <QTreeView>
-#include <QUrl>
 
 namespace xbr::host::tests {
 namespace {
 
-/// A list model of texts; rows that begin with "!" may not be removed. Drops of files
-/// ending in ".wav" become rows.
+/// A list model of texts; rows that begin with "!" may not be removed.
 class TestList final : private IListViewDelegate, private Object<ICommandList> {
 public:
     TestList() = default;
@@ -44,17 +40,6 @@ private:
         }
         return texts;
     }
-    static Texts urlsOf(IObjectIterator& objects) {
-        Texts urls;
-        Ref<IObject> object;
-        while (objects.next(object.out()) == kOk) {
-            Ref<IString> url;
-            query<IUrlSource>(object.get())->getUrl(url.out());
-            urls.push_back(take(url));
-        }
-        return urls;
-    }
-
     std::int32_t countColumns() const override { return 2; }
     Column columnAt(std::int32_t index) const override {
         return {toText(index == 0 ? "Name" : "State"), index == 0 ? 300 : 100};
@@ -64,16 +49,8 @@ private:
         return {column == 0 ? textOf(item) : ""};
     }
     bool isItemEditable(IObject& item) const override { return !textOf(item).starts_with('!'); }
-    DropEffect dragOver(IObjectIterator& objects) override {
-        const auto urls = urlsOf(objects);
-        const bool isAny =
-            std::any_of(urls.begin(), urls.end(), [](auto& url) { return url.ends_with(".wav"); });
-        return isAny ? DropEffect::kCopy : DropEffect::kNone;
-    }
-    Result drop(IObjectIterator& objects) override {
-        add(urlsOf(objects));
-        return kOk;
-    }
+    DropEffect dragOver(IObjectIterator&) override { return DropEffect::kNone; }
+    Result drop(IObjectIterator&) override { return kFalse; }
     Result removeFocused() override {
         if (!m_model->isEditable(m_model->focus())) {
             return kFalse;
@@ -250,35 +227,6 @@ TEST_F(List, theMenuHoldsTheModelsCommands) {
     EXPECT_EQ(list.performed, (Texts{"Cut & paste", "Cut & paste"}));
     openMenu(QContextMenuEvent::Keyboard)->actions()[6]->trigger();
     EXPECT_EQ(list.texts(), (Texts{"a", "c", "d"}));
-}
-
-TEST_F(List, showsWhereFilesCanBeDropped) {
-    const std::pair<QList<QUrl>, bool> table[] = {
-        {{}, false},
-        {{QUrl("file:///x.txt")}, false},
-        {{QUrl("file:///x.txt"), QUrl::fromLocalFile("/my ä.wav")}, true},
-    };
-    const auto expectTarget = [&](bool isTarget) {
-        EXPECT_EQ(view->property("dropTarget").toBool(), isTarget);
-    };
-    for (const auto& [urls, isTaken] : table) {
-        QMimeData data;
-        data.setUrls(urls);
-        QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(view->viewport(), &enter);
-        EXPECT_EQ(enter.isAccepted(), isTaken);
-        expectTarget(isTaken);
-        QDragLeaveEvent leave;
-        QApplication::sendEvent(view->viewport(), &leave);
-        expectTarget(false);
-        if (isTaken) {
-            QApplication::sendEvent(view->viewport(), &enter);
-            QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
-            QApplication::sendEvent(view->viewport(), &drop);
-            expectTarget(false);
-        }
-    }
-    EXPECT_EQ(list.texts(), (Texts{"a", "b", "c", "d", "file:///x.txt", "file:///my%20%C3%A4.wav"}));
 }
 
 TEST_F(List, columnsFitThePanelUntilThePersonMovesThem) {

@@ -23,21 +23,14 @@ Panel::Panel() : TestController("Panel") {
     addChild(tracks);
     addParameter(ParameterKind::kCommand, 101, "upload").setEnabled(false);
     addParameter(ParameterKind::kCommand, 102, "connect");
-    addParameter(ParameterKind::kText, 103, "userName");
-    addParameter(ParameterKind::kText, 104, "userURL");
+    addParameter(ParameterKind::kText, 103, "userName").set(textValue("Ana"));
+    addParameter(ParameterKind::kText, 104, "userURL").set(textValue("https://example.org/me"));
     setState(0);
 }
 
 void Panel::setState(int state) {
-    static constexpr int kAuthorized = 3;
-    client->named("isAuthorized").set(boolValue(state == kAuthorized), Notify::kNobody);
+    client->named("isAuthorized").set(boolValue(state == kSignedIn), Notify::kNobody);
     client->change("clientState", state);
-}
-
-void Panel::signIn() {
-    named("userName").set(textValue("Ana"));
-    named("userURL").set(textValue("https://example.org/me"));
-    setState(3);
 }
 
 void Panel::addTracks(int count) {
@@ -73,8 +66,6 @@ PanelForms::~PanelForms() {
     XBRGetPlugInManager()->removeFactory(m_classes.get());
     setComponentSettings({});
     unregisterGuiClasses();
-    qputenv("LC_ALL", m_locale);
-    qunsetenv("LANGUAGE");
 }
 
 QWidget& PanelForms::open(const char* name, const std::string& news) {

@@ -5,7 +5,6 @@
 #include "tests/host/gui/testcontroller.h"
 #include "ui/tracks/tracklistcomponent.h"
 
-#include <QByteArray>
 #include <QWidget>
 
 namespace xbr::host::tests {
@@ -14,10 +13,11 @@ namespace xbr::host::tests {
 /// without a network, whose state tests choose.
 class Panel final : public TestController {
 public:
+    static constexpr int kSignedIn = 3;
+
     Panel();
 
     void setState(int state);
-    void signIn();
     void addTracks(int count);
 
     const Ref<TestController> client = make<TestController>("Client");
@@ -49,7 +49,6 @@ public:
 private:
     ModuleComponent m_module{"brindlex", "Kestrova", "Brindlex Support", "1"};
     std::string m_resources;
-    QByteArray m_locale = qgetenv("LC_ALL"); // as it was before
     Ref<ClassFactory> m_classes = make<ClassFactory>();
 };
 

@@ -2,8 +2,6 @@
 
 #include "framework/abi/download.h"
 
-#include "framework/support/objects/message.h"
-#include "framework/support/objects/text.h"
 #include "host/net/hostnet.h"
 #include "tests/fixtures/testfolder.h"
 #include "tests/host/net/exchange.h"

@@ -6,6 +6,7 @@
 #include "framework/support/objects/text.h"
 #include "tests/fixtures/streams.h"
 
+#include <QStringEncoder>
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -141,7 +142,6 @@ TEST(Feeds, datesAreReadInEveryLegalForm) {
         {"2003-12-13T24:00:00Z", {}},
         {"2003-12-13T18:30Z", {}},
         {"2003-12-13T18:30:02", {}},
-        {"2003-12-13T18:30:02Zulu", {}},
         {"2003-12-13T18:30:02+99:00", {}},
         {"yesterday", {}},
         {"", {}},
@@ -205,20 +205,13 @@ TEST(Feeds, tellTheirCategoriesAndAttributesInOrder) {
     EXPECT_EQ(feed->entryAt(-1), nullptr);
 }
 
-std::string utf16(std::u16string_view text, bool isBigEndian) {
-    std::string bytes;
-    for (const char16_t unit : text) {
-        const char high = static_cast<char>(unit >> 8U);
-        const char low = static_cast<char>(unit & 0xFFU);
-        bytes += isBigEndian ? std::string{high, low} : std::string{low, high};
-    }
-    return bytes;
+std::string utf16(const QString& text, QStringConverter::Encoding encoding) {
+    return QByteArray(QStringEncoder(encoding)(text)).toStdString();
 }
 
 TEST(Feeds, encodingsAreTakenAsDeclared) {
-    const std::u16string wide =
-        u"<?xml version='1.0' encoding='UTF-16'?><feed "
-        u"xmlns='http://www.w3.org/2005/Atom'><entry><title>ä€</title></entry></feed>";
+    const QString wide = "<?xml version='1.0' encoding='UTF-16'?><feed xmlns='http://www.w3.org/2005/Atom'>"
+                         "<entry><title>ä€</title></entry></feed>";
     const auto declared = [](const char* encoding, const char* title) {
         return "<?xml version=\"1.0\" encoding=\"" + std::string(encoding) + "\"?>" +
                atomEntry("<title>" + std::string(title) + "</title>");
@@ -226,9 +219,9 @@ TEST(Feeds, encodingsAreTakenAsDeclared) {
     const std::pair<std::string, const char*> taken[] = {
         {declared("utf-8", "ä€"), ""},
         {"\xEF\xBB\xBF" + declared("iso-8859-1", "ä€"), "application/atom+xml; charset=latin1"},
-        {utf16(u"\uFEFF" + wide, true), ""},
-        {utf16(wide, true), ""},
-        {utf16(wide, false), ""},
+        {utf16("\uFEFF" + wide, QStringConverter::Utf16BE), ""},
+        {utf16(wide, QStringConverter::Utf16BE), ""},
+        {utf16(wide, QStringConverter::Utf16LE), ""},
         {declared("windows-1252", "\xE4\x80"), ""},
         {declared("utf-8", "\xE4\x80"), "application/atom+xml;charset=\"Windows-1252\""},
         {atomEntry("<title>&#228;&#x20AC;</title>"), ""},
@@ -239,7 +232,7 @@ TEST(Feeds, encodingsAreTakenAsDeclared) {
         EXPECT_EQ(view(feed->entryAt(0)->title()), "ä€") << document.substr(0, 60);
     }
     for (const auto& refused : {declared("utf-8", "\xE4"), declared("klingon", "a"), declared("utf-16", "a"),
-                                utf16(wide, true) + "x"}) {
+                                utf16(wide, QStringConverter::Utf16BE) + "x"}) {
         EXPECT_FALSE(readFeed(refused)) << refused;
     }
 }
@@ -249,13 +242,10 @@ TEST(Feeds, whatIsNoFeedIsRefusedAsAWhole) {
     const std::string half = "<feed xmlns='http://www.w3.org/2005/Atom'>" + entry;
     const std::string cases[] = {
         "",
-        "not a feed",
         "<html><body>Sign in to this network</body></html>",
         "<feed><entry/></feed>",
         "<entry xmlns='http://www.w3.org/2005/Atom'/>",
         half,
-        half + "<entry>&nbsp;</entry></feed>",
-        half + "<x:y/></feed>",
         half + "</feed><feed/>",
         "<!DOCTYPE feed [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;'>]>" + atom("<title>&b;</title>"),
         "<!DOCTYPE feed SYSTEM 'file:///etc/passwd'>" + atom(entry),

@@ -1,7 +1,6 @@
 // Certificates are checked, always.
 
 #include "framework/abi/download.h"
-#include "framework/support/objects/text.h"
 #include "tests/host/net/exchange.h"
 #include "tests/host/net/scriptedserver.h"
 
@@ -24,17 +23,18 @@ protected:
     /// For a server with a certificate that it signs itself; `subject` is its alternative name, for example
     /// "IP:127.0.0.1".
     ssl_ctx_st* identity(const QString& subject, bool isTrusted = true) {
-        const QString key = m_folder.filePath("key.pem");
-        const QString certificate = m_folder.filePath("certificate.pem");
-        QProcess::execute("openssl", {"req", "-x509", "-noenc", "-newkey", "ec", "-pkeyopt",
-                                      "ec_paramgen_curve:P-256", "-subj", "/CN=throwaway", "-addext",
-                                      "subjectAltName=" + subject, "-keyout", key, "-out", certificate});
+        const QString file = m_folder.filePath("both.pem");
+        QProcess openssl;
+        openssl.start("openssl", {"req", "-x509", "-noenc", "-newkey", "ec", "-pkeyopt",
+                                  "ec_paramgen_curve:P-256", "-subj", "/CN=throwaway", "-addext",
+                                  "subjectAltName=" + subject, "-keyout", file, "-out", file});
+        openssl.waitForFinished();
         if (isTrusted) {
-            qputenv("SSL_CERT_FILE", certificate.toUtf8());
+            qputenv("SSL_CERT_FILE", file.toUtf8());
         }
         SSL_CTX* context = SSL_CTX_new(TLS_server_method());
-        SSL_CTX_use_certificate_file(context, certificate.toUtf8(), SSL_FILETYPE_PEM);
-        SSL_CTX_use_PrivateKey_file(context, key.toUtf8(), SSL_FILETYPE_PEM);
+        SSL_CTX_use_certificate_file(context, file.toUtf8(), SSL_FILETYPE_PEM);
+        SSL_CTX_use_PrivateKey_file(context, file.toUtf8(), SSL_FILETYPE_PEM);
         return context;
     }
 

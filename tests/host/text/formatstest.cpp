@@ -5,10 +5,9 @@
 #include "framework/support/objects/text.h"
 #include "tests/fixtures/streams.h"
 
+#include <QStringEncoder>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstring>
 #include <limits>
 #include <vector>
 
@@ -17,22 +16,11 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// A stream that answers some bytes and then breaks, in reading as in writing.
 class BrokenStream final : public Object<IStream> {
 public:
-    explicit BrokenStream(std::string bytes) : m_bytes(std::move(bytes)) {}
-
-    Result read(void* buffer, std::uint64_t size, std::uint64_t* done) noexcept override {
-        *done = std::min(size, std::uint64_t{m_bytes.size()});
-        std::memcpy(buffer, m_bytes.data(), *done);
-        m_bytes.erase(0, *done);
-        return *done == size ? kOk : kUnexpected;
-    }
+    Result read(void*, std::uint64_t, std::uint64_t*) noexcept override { return kUnexpected; }
     Result write(const void*, std::uint64_t, std::uint64_t*) noexcept override { return kUnexpected; }
     Result seek(std::int64_t, SeekOrigin, std::int64_t*) noexcept override { return kUnexpected; }
-
-private:
-    std::string m_bytes;
 };
 
 Result parse(std::string_view document, Attributes& root) {
@@ -72,42 +60,31 @@ TEST(Json, whatIsNoDocumentIsRefusedAndLeavesTheRootAlone) {
         EXPECT_EQ(stringify(*root), "{\n  \"kept\": \"as it was\"\n}") << document.substr(0, 99);
     }
     const auto root = make<Attributes>();
-    EXPECT_EQ(XBRJsonParse(make<BrokenStream>(R"({"a":1})").get(), root.get()), kUnexpected);
+    EXPECT_EQ(XBRJsonParse(make<BrokenStream>().get(), root.get()), kUnexpected);
     EXPECT_EQ(root->count(), 0);
 }
 
-TEST(Json, kindsAndRangesAreKept) {
-    const auto root = make<Attributes>();
-    ASSERT_EQ(parse(R"({"min":-9223372036854775808,"max":9223372036854775807,"over":9223372036854775808,
-                        "small":-9223372036854775809,"whole":1.0,"yes":true,"no":false,"nothing":null})",
-                    *root),
-              kOk);
-    const std::pair<const char*, Value> table[] = {
-        {"min", integerValue(std::numeric_limits<std::int64_t>::min())},
-        {"max", integerValue(std::numeric_limits<std::int64_t>::max())},
-        {"over", floatValue(9223372036854775808.0)},
-        {"small", floatValue(-9223372036854775808.0)},
-        {"whole", floatValue(1.0)},
-        {"yes", boolValue(true)},
-        {"no", boolValue(false)},
-        {"nothing", noValue()},
-    };
-    for (const auto& [name, expected] : table) {
-        const Value value = root->get(std::string_view(name));
-        EXPECT_EQ(value.kind, expected.kind) << name;
-        EXPECT_EQ(value.boolean, expected.boolean) << name;
-        EXPECT_EQ(value.integer, expected.integer) << name;
-        EXPECT_EQ(value.number, expected.number) << name;
+TEST(Json, isWrittenAsItWasReadInItsOrderAndRanges) {
+    const std::string document = R"({
+  "min": -9223372036854775808,
+  "max": 9223372036854775807,
+  "list": [
+    1.0,
+    "Axé\n",
+    null,
+    true,
+    false,
+    [],
+    {
+      "empty": {}
     }
-}
-
-TEST(Json, isWrittenAsItWasReadInItsOrder) {
-    const std::string document =
-        "{\n  \"z\": 1,\n  \"a\": {\n    \"empty\": {},\n    \"list\": [\n      2.5,\n"
-        "      null,\n      true,\n      [],\n      {\n        \"b\": \"Axé\\n\"\n"
-        "      }\n    ]\n  },\n  \"m\": -3\n}";
+  ],
+  "a": -3
+})";
     const std::pair<std::string, std::string> table[] = {
         {document, document},
+        {R"({"a":9223372036854775808})", "{\n  \"a\": 9.223372036854776e+18\n}"},
+        {R"({"a":-9223372036854775809})", "{\n  \"a\": -9.223372036854776e+18\n}"},
         {"\xEF\xBB\xBF{\"a\":1,\"b\":2,\"a\":{\"c\":3}}", "{\n  \"a\": {\n    \"c\": 3\n  },\n  \"b\": 2\n}"},
         {"{}", "{}"},
     };
@@ -132,7 +109,7 @@ TEST(Json, isWrittenAsItWasReadInItsOrder) {
     odd->set("none", objectValue(nullptr));
     EXPECT_EQ(stringify(*odd),
               "{\n  \"bad\uFFFD\": \"caf\uFFFD\",\n  \"infinite\": null,\n  \"none\": null\n}");
-    EXPECT_EQ(XBRJsonStringify(odd.get(), make<BrokenStream>("").get()), kUnexpected);
+    EXPECT_EQ(XBRJsonStringify(odd.get(), make<BrokenStream>().get()), kUnexpected);
 }
 
 /// Writes down what it receives.
@@ -160,13 +137,10 @@ std::string crowded(int count) {
     return document + "/>";
 }
 
-/// UTF-16 with a byte order mark; `text` is ASCII.
-std::string utf16(std::string_view text) {
-    std::string bytes = "\xFF\xFE";
-    for (const char c : text) {
-        bytes += {c, '\0'};
-    }
-    return bytes;
+/// UTF-16 with a byte order mark.
+std::string utf16(const std::string& text) {
+    QStringEncoder encoder(QStringEncoder::Utf16LE, QStringEncoder::Flag::WriteBom);
+    return QByteArray(encoder(QString::fromStdString(text))).toStdString();
 }
 
 TEST(Xml, partsAreHandedOutInOrder) {
@@ -214,7 +188,7 @@ TEST(Xml, theIllFormedAndTheDangerousIsRefused) {
             << document.substr(0, 99);
         EXPECT_EQ(handler->log.find("bbbb"), std::string::npos) << document.substr(0, 99);
     }
-    EXPECT_EQ(XBRXmlParse(make<BrokenStream>("<a/>").get(), make<Handler>().get()), kUnexpected);
+    EXPECT_EQ(XBRXmlParse(make<BrokenStream>().get(), make<Handler>().get()), kUnexpected);
 }
 
 Lines linesOf(IStream& stream, Result& last) {
@@ -247,7 +221,7 @@ TEST(TextStreamer, splitsLines) {
         EXPECT_EQ(linesOf(*streamOf(text), last), expected);
         EXPECT_EQ(last, kFalse);
     }
-    linesOf(*make<BrokenStream>("a\nb"), last);
+    linesOf(*make<BrokenStream>(), last);
     EXPECT_EQ(last, kUnexpected);
 }
 
