@@ -12,9 +12,6 @@ namespace {
 /// A list model of texts; rows that begin with "!" may not be removed.
 class TestList final : private IListViewDelegate, private Object<ICommandList> {
 public:
-    TestList() = default;
-    TestList(const TestList&) = delete;
-    TestList& operator=(const TestList&) = delete;
     ~TestList() override { m_model->detach(); }
 
     ListViewModel& model() const { return *m_model; }

@@ -29,8 +29,6 @@ public:
 class PanelForms {
 public:
     explicit PanelForms(const std::string& language = "en");
-    PanelForms(const PanelForms&) = delete;
-    PanelForms& operator=(const PanelForms&) = delete;
     ~PanelForms();
 
     /// Shows a form of a new panel, with the news of an address.

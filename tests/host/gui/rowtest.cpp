@@ -131,8 +131,9 @@ protected:
 };
 
 TEST_F(Rows, areMadeOfWhatComesNearThePersonsSight) {
-    entries->show(300, "a");
     open();
+    entries->show(300, "a");
+    settle();
     const int first = entries->made();
     EXPECT_GE(first, 2 * 300 / 50); // what is seen, and as much again
     EXPECT_LT(first, 40);

@@ -141,8 +141,6 @@ public:
         }
         m_acceptor = std::thread([this] { acceptAll(); });
     }
-    ScriptedServer(const ScriptedServer&) = delete;
-    ScriptedServer& operator=(const ScriptedServer&) = delete;
     ~ScriptedServer() {
         ::eventfd_write(m_stop, 1);
         m_acceptor.join();
