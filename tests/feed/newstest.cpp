@@ -144,12 +144,10 @@ TEST_F(News, showWhatTheyCanWhenTheServiceFails) {
         int rows;
     } cases[] = {
         {R"({"path":"/feed.atom","status":500,"body":"no"})", 3, 0},
-        {R"({"path":"/feed.atom","truncate":true})", 3, 0},
         {R"({"path":"/feed.atom","reply_stall_ms":5000})", 3, 0},
         {R"({"path":"/feed.atom","body":"<html>Sign in to the network</html>"})", 2, 0},
         {R"({"path":"/feed.atom","delay_ms":300})", 2, 6},
         {R"({"path":"/news/image1.png","status":404,"body":"no","times":9})", 2, 6},
-        {R"({"path":"/news/image3.png","truncate":true,"times":9})", 2, 6},
     };
     xbr::host::setIdleLimit(std::chrono::milliseconds(800));
     for (const auto& [fault, state, rows] : cases) {

@@ -41,7 +41,6 @@ TEST_F(Display, resolvesPathsFromTheScope) {
 TEST_F(Display, warnsOnceOfWhatItCannotBindAndShowsTheRest) {
     const std::pair<std::string, std::string> table[] = {
         {"xbrText=none", "none"},
-        {"xbrText=Inner/none", "Inner/none"},
         {"xbrText=None/title", "None/title"},
         {"xbrText=../title", "../title"},
         {"xbrVisibleIf=!none=3", "none"},

@@ -2,8 +2,10 @@
 #include "tests/host/gui/formtest.h"
 
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QMenu>
+#include <QMimeData>
 #include <QTreeView>
 
 namespace xbr::host::tests {
@@ -46,7 +48,7 @@ private:
         return {column == 0 ? textOf(item) : ""};
     }
     bool isItemEditable(IObject& item) const override { return !textOf(item).starts_with('!'); }
-    DropEffect dragOver(IObjectIterator&) override { return DropEffect::kNone; }
+    DropEffect dragOver(IObjectIterator&) override { return DropEffect::kCopy; }
     Result drop(IObjectIterator&) override { return kFalse; }
     Result removeFocused() override {
         if (!m_model->isEditable(m_model->focus())) {
@@ -224,6 +226,17 @@ TEST_F(List, theMenuHoldsTheModelsCommands) {
     EXPECT_EQ(list.performed, (Texts{"Cut & paste", "Cut & paste"}));
     openMenu(QContextMenuEvent::Keyboard)->actions()[6]->trigger();
     EXPECT_EQ(list.texts(), (Texts{"a", "c", "d"}));
+}
+
+TEST_F(List, showsThatFilesCanBeDropped) {
+    const QMimeData data;
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(view->viewport(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    EXPECT_TRUE(view->property("dropTarget").toBool());
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(view->viewport(), &leave);
+    EXPECT_FALSE(view->property("dropTarget").toBool());
 }
 
 TEST_F(List, columnsFitThePanelUntilThePersonMovesThem) {

@@ -217,14 +217,12 @@ TEST(Feeds, encodingsAreTakenAsDeclared) {
                atomEntry("<title>" + std::string(title) + "</title>");
     };
     const std::pair<std::string, const char*> taken[] = {
-        {declared("utf-8", "ä€"), ""},
         {"\xEF\xBB\xBF" + declared("iso-8859-1", "ä€"), "application/atom+xml; charset=latin1"},
         {utf16("\uFEFF" + wide, QStringConverter::Utf16BE), ""},
         {utf16(wide, QStringConverter::Utf16BE), ""},
         {utf16(wide, QStringConverter::Utf16LE), ""},
         {declared("windows-1252", "\xE4\x80"), ""},
         {declared("utf-8", "\xE4\x80"), "application/atom+xml;charset=\"Windows-1252\""},
-        {atomEntry("<title>&#228;&#x20AC;</title>"), ""},
     };
     for (const auto& [document, mimeType] : taken) {
         const auto feed = readFeed(document, mimeType);

@@ -100,7 +100,6 @@ TEST_F(Locale, datesAreThoseOfTheUsersLocaleAndZone) {
         {"nonsense", "", "", "UTC", kFirst, "Monday, 1 January 1900"},
         {"C", "", "", "America/New_York", 0, "Wednesday, 31 December 1969"},
         {"C", "", "", "Asia/Tokyo", 1'748'822'400, "Monday, 2 June 2025"},
-        {"C", "", "", "UTC", 1'748'822'399, "Sunday, 1 June 2025"},
         {"C", "", "", "UTC", -62'135'596'800, "Monday, 1 January 0001"},
         {"C", "", "", "UTC", -62'135'596'801, ""},
         {"C", "", "", "UTC", 253'402'300'799, "Friday, 31 December 9999"},
