@@ -11,7 +11,6 @@ namespace xbr::host::test {
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 /// What the host program hears.
 class Listener final : public ExchangeListener {
@@ -89,7 +88,7 @@ TEST(Answers, reachTheHandlerOnce) {
         EXPECT_THAT(result.messages, ::testing::ElementsAre("onloadend")) << words;
         EXPECT_EQ(result.body, status == 0 ? "" : words);
         EXPECT_THAT(result.error, status == 0 ? ::testing::Matcher<std::string>(HasSubstr(words)) : "");
-        EXPECT_THAT(result.error, Not(HasSubstr("hidden")));
+        EXPECT_THAT(result.error, ::testing::Not(HasSubstr("hidden")));
 
         EXPECT_EQ(listener.beginnings, 1) << words;
         ASSERT_EQ(listener.ends.size(), 1U) << words;
