@@ -28,11 +28,15 @@ public:
 };
 
 /// The host that waits for a browser.
-struct Host {
-    Host() {
+struct Host final : xbr::host::CallbackServer::Host {
+    Host() : server(*this) {
         fuzz::expect(static_cast<bool>(server.start()));
         XBRGetFileTypeRegistry()->addHandler(handler.get());
     }
+
+    std::optional<std::int64_t> waitsForBrowserSince() override { return std::nullopt; }
+    bool isHeld() override { return false; }
+    void urlCame() override {}
 
     int count = 0;
     QCoreApplication application{count, nullptr};

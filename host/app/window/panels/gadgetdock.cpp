@@ -7,6 +7,7 @@
 #include "host/app/window/panels/docktitle.h"
 #include "host/gui/hostwidgets.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QMainWindow>
 #include <QScreen>
