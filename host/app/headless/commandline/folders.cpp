@@ -1,6 +1,7 @@
 #include "host/app/headless/commandline/folders.h"
 
 #include "host/app/audio/audiofolder.h"
+#include "host/app/headless/commandline/commandline.h"
 #include "host/app/publishing/verdict/words.h"
 
 #include <filesystem>

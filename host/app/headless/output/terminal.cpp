@@ -1,5 +1,6 @@
 #include "host/app/headless/output/terminal.h"
 
+#include "host/app/headless/output/output.h"
 #include "host/app/publishing/upload/progresswords.h"
 #include "host/app/publishing/verdict/words.h"
 
