@@ -117,6 +117,25 @@
     </message>
 </context>
 <context>
+    <name>LineTexts</name>
+    <message>
+        <source>no bytes for %1</source>
+        <translation type="unfinished">seit %1 keine Bytes</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation type="unfinished">wartet auf die Antwort</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation type="unfinished">noch %1, alle %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation type="unfinished">noch %1</translation>
+    </message>
+</context>
+<context>
     <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
@@ -125,22 +144,6 @@
     <message>
         <source>Publish the other songs?</source>
         <translation>Die anderen Songs veröffentlichen?</translation>
-    </message>
-    <message>
-        <source>no bytes for %1</source>
-        <translation>seit %1 keine Bytes</translation>
-    </message>
-    <message>
-        <source>waiting for the answer</source>
-        <translation>wartet auf die Antwort</translation>
-    </message>
-    <message>
-        <source>%1 left, all %2</source>
-        <translation>noch %1, alle %2</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>noch %1</translation>
     </message>
     <message>
         <source>published</source>

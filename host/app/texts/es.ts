@@ -117,6 +117,25 @@
     </message>
 </context>
 <context>
+    <name>LineTexts</name>
+    <message>
+        <source>no bytes for %1</source>
+        <translation type="unfinished">sin bytes desde hace %1</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation type="unfinished">esperando la respuesta</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation type="unfinished">quedan %1, todas %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation type="unfinished">quedan %1</translation>
+    </message>
+</context>
+<context>
     <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
@@ -125,22 +144,6 @@
     <message>
         <source>Publish the other songs?</source>
         <translation>¿Publicar las demás canciones?</translation>
-    </message>
-    <message>
-        <source>no bytes for %1</source>
-        <translation>sin bytes desde hace %1</translation>
-    </message>
-    <message>
-        <source>waiting for the answer</source>
-        <translation>esperando la respuesta</translation>
-    </message>
-    <message>
-        <source>%1 left, all %2</source>
-        <translation>quedan %1, todas %2</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>quedan %1</translation>
     </message>
     <message>
         <source>published</source>

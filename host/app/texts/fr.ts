@@ -117,6 +117,25 @@
     </message>
 </context>
 <context>
+    <name>LineTexts</name>
+    <message>
+        <source>no bytes for %1</source>
+        <translation type="unfinished">aucun octet depuis %1</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation type="unfinished">attend la réponse</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation type="unfinished">reste %1, tout %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
@@ -125,22 +144,6 @@
     <message>
         <source>Publish the other songs?</source>
         <translation>Publier les autres morceaux ?</translation>
-    </message>
-    <message>
-        <source>no bytes for %1</source>
-        <translation>aucun octet depuis %1</translation>
-    </message>
-    <message>
-        <source>waiting for the answer</source>
-        <translation>attend la réponse</translation>
-    </message>
-    <message>
-        <source>%1 left, all %2</source>
-        <translation>reste %1, tout %2</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>reste %1</translation>
     </message>
     <message>
         <source>published</source>

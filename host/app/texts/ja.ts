@@ -117,6 +117,25 @@
     </message>
 </context>
 <context>
+    <name>LineTexts</name>
+    <message>
+        <source>no bytes for %1</source>
+        <translation type="unfinished">%1 送信なし</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation type="unfinished">応答待ち</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation type="unfinished">残り %1、全体 %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation type="unfinished">残り %1</translation>
+    </message>
+</context>
+<context>
     <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
@@ -125,22 +144,6 @@
     <message>
         <source>Publish the other songs?</source>
         <translation>ほかの曲を公開しますか?</translation>
-    </message>
-    <message>
-        <source>no bytes for %1</source>
-        <translation>%1 送信なし</translation>
-    </message>
-    <message>
-        <source>waiting for the answer</source>
-        <translation>応答待ち</translation>
-    </message>
-    <message>
-        <source>%1 left, all %2</source>
-        <translation>残り %1、全体 %2</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>残り %1</translation>
     </message>
     <message>
         <source>published</source>

@@ -117,6 +117,25 @@
     </message>
 </context>
 <context>
+    <name>LineTexts</name>
+    <message>
+        <source>no bytes for %1</source>
+        <translation type="unfinished">sem bytes há %1</translation>
+    </message>
+    <message>
+        <source>waiting for the answer</source>
+        <translation type="unfinished">esperando a resposta</translation>
+    </message>
+    <message>
+        <source>%1 left, all %2</source>
+        <translation type="unfinished">faltam %1, todas %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation type="unfinished">faltam %1</translation>
+    </message>
+</context>
+<context>
     <name>Output</name>
     <message>
         <source>The browser came back without a permission. Allow the access there, or end with Ctrl-C.</source>
@@ -125,22 +144,6 @@
     <message>
         <source>Publish the other songs?</source>
         <translation>Publicar as outras músicas?</translation>
-    </message>
-    <message>
-        <source>no bytes for %1</source>
-        <translation>sem bytes há %1</translation>
-    </message>
-    <message>
-        <source>waiting for the answer</source>
-        <translation>esperando a resposta</translation>
-    </message>
-    <message>
-        <source>%1 left, all %2</source>
-        <translation>faltam %1, todas %2</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>faltam %1</translation>
     </message>
     <message>
         <source>published</source>

@@ -1,10 +1,10 @@
 #include "host/app/headless/output/terminal.h"
 
-#include "host/app/headless/output/output.h"
 #include "host/app/publishing/upload/progresswords.h"
 #include "host/app/publishing/verdict/words.h"
 
 #include <QChar>
+#include <QCoreApplication>
 #include <QString>
 
 #include <algorithm>
@@ -18,6 +18,10 @@
 namespace xbr::host {
 
 namespace {
+
+struct LineTexts {
+    Q_DECLARE_TR_FUNCTIONS(Output)
+};
 
 constexpr std::size_t kUsualColumns = 80;
 constexpr std::size_t kBarColumns = 20;
@@ -64,18 +68,18 @@ std::string barOf(int percent) {
 
 std::string timeOf(const UploadProgress& progress, bool isForAll) {
     if (progress.isStuck()) {
-        return say(Output::tr("no bytes for %1"), wordsOfSeconds(progress.quietSeconds));
+        return say(LineTexts::tr("no bytes for %1"), wordsOfSeconds(progress.quietSeconds));
     }
     if (progress.isSent()) {
-        return say(Output::tr("waiting for the answer"));
+        return say(LineTexts::tr("waiting for the answer"));
     }
     if (progress.song.secondsLeft < 0) {
         return {};
     }
     const std::string song = wordsOfSeconds(progress.song.secondsLeft);
     return isForAll && progress.all.secondsLeft >= 0 && progress.songs > 1
-               ? say(Output::tr("%1 left, all %2"), song, wordsOfSeconds(progress.all.secondsLeft))
-               : say(Output::tr("%1 left"), song);
+               ? say(LineTexts::tr("%1 left, all %2"), song, wordsOfSeconds(progress.all.secondsLeft))
+               : say(LineTexts::tr("%1 left"), song);
 }
 
 /// The line with the first so many parts.
