@@ -120,19 +120,19 @@
     <name>LineTexts</name>
     <message>
         <source>no bytes for %1</source>
-        <translation type="unfinished">seit %1 keine Bytes</translation>
+        <translation>seit %1 keine Bytes</translation>
     </message>
     <message>
         <source>waiting for the answer</source>
-        <translation type="unfinished">wartet auf die Antwort</translation>
+        <translation>wartet auf die Antwort</translation>
     </message>
     <message>
         <source>%1 left, all %2</source>
-        <translation type="unfinished">noch %1, alle %2</translation>
+        <translation>noch %1, alle %2</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished">noch %1</translation>
+        <translation>noch %1</translation>
     </message>
 </context>
 <context>

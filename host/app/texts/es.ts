@@ -120,19 +120,19 @@
     <name>LineTexts</name>
     <message>
         <source>no bytes for %1</source>
-        <translation type="unfinished">sin bytes desde hace %1</translation>
+        <translation>sin bytes desde hace %1</translation>
     </message>
     <message>
         <source>waiting for the answer</source>
-        <translation type="unfinished">esperando la respuesta</translation>
+        <translation>esperando la respuesta</translation>
     </message>
     <message>
         <source>%1 left, all %2</source>
-        <translation type="unfinished">quedan %1, todas %2</translation>
+        <translation>quedan %1, todas %2</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished">quedan %1</translation>
+        <translation>quedan %1</translation>
     </message>
 </context>
 <context>

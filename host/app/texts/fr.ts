@@ -120,19 +120,19 @@
     <name>LineTexts</name>
     <message>
         <source>no bytes for %1</source>
-        <translation type="unfinished">aucun octet depuis %1</translation>
+        <translation>aucun octet depuis %1</translation>
     </message>
     <message>
         <source>waiting for the answer</source>
-        <translation type="unfinished">attend la réponse</translation>
+        <translation>attend la réponse</translation>
     </message>
     <message>
         <source>%1 left, all %2</source>
-        <translation type="unfinished">reste %1, tout %2</translation>
+        <translation>reste %1, tout %2</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished"></translation>
+        <translation></translation>
     </message>
 </context>
 <context>

@@ -120,19 +120,19 @@
     <name>LineTexts</name>
     <message>
         <source>no bytes for %1</source>
-        <translation type="unfinished">%1 送信なし</translation>
+        <translation>%1 送信なし</translation>
     </message>
     <message>
         <source>waiting for the answer</source>
-        <translation type="unfinished">応答待ち</translation>
+        <translation>応答待ち</translation>
     </message>
     <message>
         <source>%1 left, all %2</source>
-        <translation type="unfinished">残り %1、全体 %2</translation>
+        <translation>残り %1、全体 %2</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished">残り %1</translation>
+        <translation>残り %1</translation>
     </message>
 </context>
 <context>

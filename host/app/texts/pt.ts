@@ -120,19 +120,19 @@
     <name>LineTexts</name>
     <message>
         <source>no bytes for %1</source>
-        <translation type="unfinished">sem bytes há %1</translation>
+        <translation>sem bytes há %1</translation>
     </message>
     <message>
         <source>waiting for the answer</source>
-        <translation type="unfinished">esperando a resposta</translation>
+        <translation>esperando a resposta</translation>
     </message>
     <message>
         <source>%1 left, all %2</source>
-        <translation type="unfinished">faltam %1, todas %2</translation>
+        <translation>faltam %1, todas %2</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished">faltam %1</translation>
+        <translation>faltam %1</translation>
     </message>
 </context>
 <context>

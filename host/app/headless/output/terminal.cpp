@@ -20,7 +20,7 @@ namespace xbr::host {
 namespace {
 
 struct LineTexts {
-    Q_DECLARE_TR_FUNCTIONS(Output)
+    Q_DECLARE_TR_FUNCTIONS(LineTexts)
 };
 
 constexpr std::size_t kUsualColumns = 80;
