@@ -174,7 +174,7 @@ TEST_F(Callbacks, aFloodOfConnectionsIsTurnedAway) {
     ASSERT_TRUE(start());
     std::list<Client> clients;
     for (int i = 0; i < CallbackServer::kMaximumConnections; ++i) {
-        EXPECT_EQ(clients.emplace_back(m_socket).answer(20), "open");
+        clients.emplace_back(m_socket);
     }
     EXPECT_EQ(Client(m_socket).answer(1000), "");
     clients.front().send("test:a\n");
