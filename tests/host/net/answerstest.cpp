@@ -124,7 +124,7 @@ TEST(Answers, countBeforeTheBodyHasEndedUnlessTheyAreBroken) {
         {"", linger, 0, "has stalled"},
     };
     for (const auto& [bytes, then, status, words] : cases) {
-        for (int round = status == 0 ? 19 : 0; round < 20; ++round) { // whether they are lost is a race
+        for (int round = status == 0 ? 39 : 0; round < 40; ++round) { // whether they are lost is a race
             setIdleLimit(std::chrono::milliseconds(status == 0 ? 600 : 60'000));
             const ScriptedServer server([bytes = bytes, then = then](Peer& peer) {
                 peer.readHead();
