@@ -1,7 +1,7 @@
 // The desktop's notification, with a bus and a desktop of the test's own.
 
 #include "host/app/window/look/desktopnotification.h"
-#include "tests/window/stage.h"
+#include "tests/window/person.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -129,7 +129,7 @@ std::string Stage::status() {
 std::size_t Stage::arrived() const {
     std::size_t count = 0;
     for (const auto& entry : fs::directory_iterator(m_service->inbox())) {
-        count += fs::exists(entry.path() / "metadata.json") ? 1 : 0;
+        count += fs::exists(entry.path() / "metadata.json") ? 1U : 0U;
     }
     return count;
 }
