@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>%1 left</source>
-        <translation></translation>
+        <translation>reste %1</translation>
     </message>
 </context>
 <context>
