@@ -1,13 +1,10 @@
 #include "client/configuration.h"
 #include "tests/client/clientfixture.h"
 
-#include <gmock/gmock.h>
-
 namespace brindlex {
 
 namespace {
 
-using fakehost::host;
 using testing::Contains;
 using testing::Not;
 
@@ -20,30 +17,28 @@ TEST_F(ManagerTest, ConnectsWithStoredTokensWithoutADialog) {
     EXPECT_THAT(host().objects.log, Not(Contains("run BrindlexConnectDialog 66")));
     EXPECT_EQ(host().web.sent.back().method, "GET");
     EXPECT_EQ(host().web.sent.back().url, "https://service/api/frontstage/account");
-    EXPECT_EQ(text("userName"), "Mara");
     EXPECT_EQ(text("userURL"), "https://web/me");
     host().objects.log.clear();
     perform("connect");
     EXPECT_TRUE(host().objects.log.empty()) << "connected already";
 }
 
-TEST_F(ManagerTest, NoDialogMeansNoAuthorization) {
-    host().objects.hasDialog = false;
+TEST_F(ManagerTest, LoadsTheConfigurationOncePerClientAndOpensNoPageWithoutADialog) {
+    const auto& configuration = manager->client().configuration();
+    host().failing = {"load"};
     perform("connect");
-    EXPECT_TRUE(host().shell.opened.empty());
-    EXPECT_EQ(manager->client().state(), ClientState::kIdle);
-}
-
-TEST_F(ManagerTest, LoadsTheConfigurationOncePerClient) {
-    host().objects.configurationResult = xbr::kFalse;
+    EXPECT_EQ(configuration.consumerKey, "") << "nothing is applied";
+    host().failing.clear();
     perform("connect");
-    EXPECT_EQ(manager->client().configuration().consumerKey, "") << "nothing is applied";
-    host().objects.configurationResult = xbr::kOk;
-    perform("connect");
-    EXPECT_EQ(manager->client().configuration().consumerKey, "key");
+    EXPECT_EQ(configuration.consumerKey, "key");
+    signOut();
+    host().shell.opened.clear();
+    host().failing = {"createInstance"};
     host().objects.configuration["ConsumerKey"] = "other";
     perform("connect");
-    EXPECT_EQ(manager->client().configuration().consumerKey, "key");
+    EXPECT_EQ(configuration.consumerKey, "key");
+    EXPECT_TRUE(host().shell.opened.empty());
+    EXPECT_EQ(manager->client().state(), ClientState::kIdle);
 }
 
 TEST_F(ManagerTest, ConfigurationTakesWhatIsThere) {
@@ -67,31 +62,24 @@ TEST_F(ManagerTest, ConfigurationTakesWhatIsThere) {
 }
 
 TEST_F(ManagerTest, AccountReplyDecidesWhoIsShown) {
-    struct Case {
-        std::int32_t status;
-        const char* body;
-        const char* name;
-    };
     for (const auto& [status, body, name] :
-         {Case{200, R"({"user":{"name":"Nils"}})", "Nils"}, Case{200, "no json", ""}, Case{204, "", ""},
-          Case{500, R"({"user":{"name":"Nils"}})", "old"}, Case{401, "", "old"}, Case{0, "", "old"}}) {
-        signIn();
-        manager->client().resetAuthorization(Silence::kSilent);
-        manager->findParameter(xbr::toText("userName"))->setValue(xbr::textValue("old"));
-        host().credentials.stored = {"Kestrova_Brindlex_Client", "OAuth2Tokens", "A&R", ""};
-        perform("connect");
-        host().signals.pump();
+         Rows<int, const char*, const char*>{{200, R"({"user":{"name":"Nils"}})", "Nils"},
+                                             {200, "no json", ""},
+                                             {204, "", ""},
+                                             {500, R"({"user":{"name":"Nils"}})", "old"},
+                                             {401, "", "old"},
+                                             {0, "", "old"}}) {
+        fakehost::set(*manager, "userName", xbr::textValue("old"));
+        connectWithStoredTokens();
+        host().signals.posts.clear();
         host().web.answer(status, body);
         EXPECT_EQ(text("userName"), name) << status;
         EXPECT_EQ(host().signals.posts.size(), status == 401 ? 1U : 0U) << status;
-        host().signals.posts.clear();
-        manager->client().resetAuthorization(Silence::kTold);
-        host().signals.pump();
+        signOut();
     }
 }
 
 TEST_F(ManagerTest, FirstInstanceIsTheCurrentOne) {
-    EXPECT_EQ(Manager::current(), manager.get());
     auto second = xbr::make<Manager>();
     EXPECT_EQ(Manager::current(), manager.get());
     second.reset();
@@ -102,14 +90,12 @@ TEST_F(ManagerTest, FirstInstanceIsTheCurrentOne) {
 }
 
 TEST_F(ManagerTest, DashboardVisibleIsTruncated) {
-    struct Case {
-        xbr::Value value;
-        bool visible;
-    };
-    for (const auto& [value, visible] :
-         {Case{xbr::integerValue(2), true}, Case{xbr::floatValue(0.5), false},
-          Case{xbr::floatValue(1.7), true}, Case{xbr::floatValue(-0.9), false},
-          Case{xbr::integerValue(0), false}, Case{xbr::textValue("1"), false}}) {
+    for (const auto& [value, visible] : Rows<xbr::Value, bool>{{xbr::integerValue(2), true},
+                                                               {xbr::floatValue(0.5), false},
+                                                               {xbr::floatValue(1.7), true},
+                                                               {xbr::floatValue(-0.9), false},
+                                                               {xbr::integerValue(0), false},
+                                                               {xbr::textValue("1"), false}}) {
         EXPECT_EQ(manager->setProperty(xbr::toText("dashboardVisible"), value), xbr::kFalse);
         EXPECT_EQ(manager->isDashboardVisible(), visible);
     }

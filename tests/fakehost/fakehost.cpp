@@ -18,11 +18,19 @@ FakeHost& host() {
 }
 
 bool fails(const char* call) {
-    const bool isThis = ++host().calls == host().failingCall;
+    const bool isThis = ++host().calls == host().failingCall || host().failing.contains(call);
     if (isThis) {
         host().failed = call;
     }
     return isThis;
+}
+
+void FakeGraphicsHelper::endDecoding() {
+    holdsDecoding = false;
+    for (const auto& task : std::exchange(held, {})) {
+        xbr::signal(*task, "decoded");
+    }
+    host().signals.pump();
 }
 
 void resetHost() {
@@ -46,7 +54,7 @@ xbr::IFileSystem* XBRGetFileSystem() noexcept {
     return &host().files;
 }
 xbr::IPackageHandler* XBRGetPackageHandler() noexcept {
-    return &host().packages;
+    return &host().files;
 }
 xbr::ISystem* XBRGetSystem() noexcept {
     return &host().system;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "tests/fakehost/fakedownloads.h"
-#include "tests/fakehost/fakefeeds.h"
+#include "tests/fakehost/answers.h"
 #include "tests/fakehost/fakefiles.h"
-#include "tests/fakehost/fakegraphics.h"
 #include "tests/fakehost/fakeobjects.h"
 #include "tests/fakehost/fakesignalhandler.h"
 #include "tests/fakehost/fakesystem.h"
@@ -17,10 +15,8 @@ struct FakeHost {
     FakeSignalHandler signals;
     FakeWebService web;
     FakeDownloads downloads;
-    FakeFeeds feeds;
     FakeGraphicsHelper graphics;
     FakeFileSystem files;
-    FakePackageHandler packages;
     FakeSystem system;
     FakeSystemShell shell;
     FakeCredentialManager credentials;
@@ -28,13 +24,11 @@ struct FakeHost {
     FakeLocaleManager locale;
     FakePlugInManager objects;
 
-    int calls = 0;       ///< that may fail
-    int failingCall = 0; ///< the one of them that does, counted from 1; 0: none
-    std::string failed;  ///< its name
+    int calls = 0;                      ///< that may fail
+    int failingCall = 0;                ///< the one of them that does, counted from 1; 0: none
+    std::string failed;                 ///< its name
+    std::set<std::string> failing = {}; ///< the names of those that always do
 };
-
-/// True for the one call of the host that is to fail; remembers its name.
-bool fails(const char* call = __builtin_FUNCTION());
 
 /// The host of the running test.
 FakeHost& host();

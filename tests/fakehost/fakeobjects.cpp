@@ -1,9 +1,6 @@
 #include "tests/fakehost/fakeobjects.h"
 
-#include "framework/support/objects/text.h"
-#include "framework/support/objects/value.h"
 #include "tests/fakehost/fakehost.h"
-#include "tests/fakehost/lender.h"
 
 namespace fakehost {
 
@@ -31,16 +28,11 @@ class FakeTheme final : public xbr::Object<xbr::ITheme> {
 public:
     xbr::Result load(xbr::Text folder) noexcept override {
         objects().log.push_back("theme " + xbr::toString(folder));
-        return objects().themeLoads && !fails() ? xbr::kOk : xbr::kInvalidArgument;
+        return okUnlessItFails();
     }
     bool hasForm(xbr::Text) const noexcept override { return true; }
     xbr::Result createView(xbr::Text form, xbr::IController* controller, xbr::IView** out) noexcept override {
-        if (fails()) {
-            *out = nullptr;
-            return xbr::kUnexpected;
-        }
-        *out = xbr::make<FakeView>(xbr::toString(form), controller).detach();
-        return xbr::kOk;
+        return giveUnlessItFails(xbr::make<FakeView>(xbr::toString(form), controller), out);
     }
 };
 
@@ -58,8 +50,8 @@ public:
     xbr::Result runModal(xbr::IView* view, std::int32_t styleFlags) noexcept override {
         objects().log.push_back("run " + xbr::toString(view->formName()) + " " + std::to_string(styleFlags) +
                                 (m_hasTheme && m_hasTable ? "" : " without skin or translation"));
-        if (objects().onModalRun) {
-            objects().onModalRun();
+        if (const auto act = objects().onModalRun) {
+            act();
         }
         return xbr::kOk;
     }
@@ -107,8 +99,8 @@ public:
     void begin() noexcept override { objects().log.emplace_back("begin"); }
     void end() noexcept override { objects().log.emplace_back("end"); }
     void update(double, xbr::Text) noexcept override {
-        if (objects().onProgressUpdate) {
-            objects().onProgressUpdate();
+        if (const auto act = objects().onProgressUpdate) { // which may put another in its place
+            act();
         }
     }
     bool isCancelled() noexcept override { return objects().cancelled; }
@@ -123,7 +115,7 @@ public:
         for (const auto& [key, value] : objects().configuration) {
             out->set(xbr::toText(key), xbr::textValue(value));
         }
-        return fails() ? xbr::kUnexpected : objects().configurationResult;
+        return okUnlessItFails();
     }
 };
 
@@ -146,7 +138,7 @@ private:
 
 class FakeJoinTokenPermission final : public xbr::Object<xbr::IJoinTokenPermission> {
 public:
-    bool isAllowed() noexcept override { return objects().joinTokenAllowed; }
+    bool isAllowed() noexcept override { return *objects().joinTokenAllowed; }
 };
 
 template <class T>
@@ -158,30 +150,25 @@ xbr::Result create(const xbr::Uid& interfaceUid, void** out) {
 
 xbr::Result FakePlugInManager::createInstance(const xbr::Uid& classUid, const xbr::Uid& interfaceUid,
                                               void** out) noexcept {
+    using Creator = xbr::Result (*)(const xbr::Uid&, void**);
+    static const std::pair<xbr::Uid, Creator> kCreators[] = {
+        {xbr::ITheme::kClassUid, create<FakeTheme>},
+        {xbr::IDialog::kClassUid, create<FakeDialog>},
+        {xbr::IFileSelector::kClassUid, create<FakeFileSelector>},
+        {xbr::IProgressIndicator::kClassUid, create<FakeProgressIndicator>},
+        {xbr::IConfigurationStore::kClassUid, create<FakeConfigurationStore>},
+        {xbr::IMediaFileInfo::kClassUid, create<FakeMediaFileInfo>},
+        {xbr::IJoinTokenPermission::kClassUid, create<FakeJoinTokenPermission>},
+    };
     *out = nullptr;
     if (fails()) {
         return xbr::kUnexpected;
     }
-    if (classUid == xbr::ITheme::kClassUid) {
-        return create<FakeTheme>(interfaceUid, out);
-    }
-    if (classUid == xbr::IDialog::kClassUid && hasDialog) {
-        return create<FakeDialog>(interfaceUid, out);
-    }
-    if (classUid == xbr::IFileSelector::kClassUid) {
-        return create<FakeFileSelector>(interfaceUid, out);
-    }
-    if (classUid == xbr::IProgressIndicator::kClassUid) {
-        return create<FakeProgressIndicator>(interfaceUid, out);
-    }
-    if (classUid == xbr::IConfigurationStore::kClassUid) {
-        return create<FakeConfigurationStore>(interfaceUid, out);
-    }
-    if (classUid == xbr::IMediaFileInfo::kClassUid) {
-        return create<FakeMediaFileInfo>(interfaceUid, out);
-    }
-    if (classUid == xbr::IJoinTokenPermission::kClassUid && hasJoinTokenPermission) {
-        return create<FakeJoinTokenPermission>(interfaceUid, out);
+    for (const auto& [uid, creator] : kCreators) {
+        const bool isThere = uid != xbr::IJoinTokenPermission::kClassUid || joinTokenAllowed.has_value();
+        if (uid == classUid && isThere) {
+            return creator(interfaceUid, out);
+        }
     }
     return xbr::kNoInterface;
 }

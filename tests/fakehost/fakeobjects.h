@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,11 +34,7 @@ public:
 
     std::vector<xbr::IClassFactory*> factories; ///< those that were added
 
-    bool joinTokenAllowed = false;
-    bool hasJoinTokenPermission = false;
-    bool themeLoads = true;
-    bool hasDialog = true;
-    xbr::Result configurationResult = xbr::kOk;
+    std::optional<bool> joinTokenAllowed; ///< none: the host knows nothing of it
     std::map<std::string, std::string> configuration;
     std::map<std::string, std::map<std::string, std::string>> tags; ///< by file URL
 

@@ -1,9 +1,6 @@
 #include "framework/abi/textformats.h"
 #include "framework/support/data/memorystream.h"
-#include "framework/support/objects/text.h"
-#include "framework/support/objects/value.h"
 #include "tests/fakehost/fakehost.h"
-#include "tests/fakehost/lender.h"
 
 #include <nlohmann/json.hpp>
 
@@ -108,11 +105,8 @@ public:
     explicit Lines(std::string text) : m_text(std::move(text)) {}
     xbr::Result readLine(xbr::IString** out) noexcept override {
         std::string line;
-        if (!std::getline(m_text, line)) {
-            *out = nullptr;
-            return xbr::kFalse;
-        }
-        return xbr::giveText(line, out);
+        *out = nullptr;
+        return std::getline(m_text, line) ? xbr::giveText(line, out) : xbr::kFalse;
     }
 
 private:
@@ -160,12 +154,7 @@ xbr::Result XBRXmlParse(xbr::IStream* stream, xbr::IXmlHandler* handler) noexcep
 }
 
 xbr::Result XBRCreateTextStreamer(xbr::IStream* stream, xbr::ITextStreamer** out) noexcept {
-    if (fakehost::fails()) {
-        *out = nullptr;
-        return xbr::kUnexpected;
-    }
-    *out = xbr::make<Lines>(xbr::readAll(*stream)).detach();
-    return xbr::kOk;
+    return fakehost::giveUnlessItFails(xbr::make<Lines>(xbr::readAll(*stream)), out);
 }
 
 xbr::Result XBRFoldCase(xbr::Text text, xbr::IString** out) noexcept {

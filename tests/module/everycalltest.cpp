@@ -40,22 +40,16 @@ public:
     int calls() const { return host().calls; }
 
 private:
-    template <class Interface>
-    static xbr::Ref<Interface> create(xbr::IClassFactory& factory, std::int32_t index) {
-        void* object = nullptr;
-        factory.createInstance(factory.classAt(index)->uid, Interface::kUid, &object);
-        return xbr::Ref<Interface>::adopt(static_cast<Interface*>(object));
-    }
-
     void runService() {
         const auto context = xbr::make<FakeContext>();
-        const auto service = create<xbr::IProgramService>(*XBRGetClassFactory(), 0);
+        const auto service =
+            create<xbr::IProgramService>(*XBRGetClassFactory(), XBRGetClassFactory()->classAt(0)->uid);
         xbr::Ref<xbr::IClassFactory> classes;
         if (service->initialise(context.get()) == xbr::kOk &&
             service->getClasses(classes.out()) == xbr::kOk) {
-            const auto publisher = create<xbr::IPublisher>(*classes, 0);
-            const auto panel = create<xbr::IController>(*classes, 1);
-            const auto description = create<xbr::IGadgetDescription>(*classes, 2);
+            const auto publisher = create<xbr::IPublisher>(*classes, classes->classAt(0)->uid);
+            const auto panel = create<xbr::IController>(*classes, classes->classAt(1)->uid);
+            const auto description = create<xbr::IGadgetDescription>(*classes, classes->classAt(2)->uid);
             runPanel(*publisher);
         }
         service->terminate();
@@ -64,14 +58,11 @@ private:
     void runPanel(xbr::IPublisher& publisher) {
         Manager& manager = *Manager::current();
         signIn(manager);
-        publish(publisher);
+        EXPECT_EQ(publisher.publish(songs({"a", "b", "c"}).get()), xbr::kOk);
         manager.trackList().prepareMode(UploadMode::kSingles);
         upload(manager);
-        publish(publisher); // several songs: an album
-        manager.trackList()
-            .editor()
-            .findParameter(xbr::toText("albumTitle"))
-            ->setValue(xbr::textValue("Album"));
+        publisher.publish(songs({"a", "b", "c"}).get()); // several songs: an album
+        fakehost::set(manager.trackList().editor(), "albumTitle", xbr::textValue("Album"));
         upload(manager);
         manager.client().resetAuthorization(Silence::kTold);
         EXPECT_FALSE(manager.client().isAuthorized());
@@ -84,24 +75,13 @@ private:
             answer(200,
                    R"({"access_token":"confidential-4","refresh_token":"confidential-5","expires_in":3600})");
         };
-        manager.findParameter(xbr::toText("connect"))->setValue(xbr::integerValue(1));
+        fakehost::press(manager, "connect");
         answer(200, R"({"user":{"name":"Mara"}})");
-    }
-
-    static void publish(xbr::IPublisher& publisher) {
-        const auto songs = xbr::make<xbr::ObjectList>();
-        for (const std::string title : {"a", "b", "c"}) {
-            const std::string url = "file:///music/" + title + ".wav";
-            host().files.files[url] = "audio of " + title;
-            const auto song = xbr::make<Song>(url, title);
-            songs->add(xbr::query<xbr::IObject>(song.get()));
-        }
-        EXPECT_EQ(publisher.publish(songs.get()), xbr::kOk);
     }
 
     void upload(Manager& manager) {
         const auto before = host().web.sent.size();
-        manager.findParameter(xbr::toText("upload"))->setValue(xbr::integerValue(1));
+        fakehost::press(manager, "upload");
         for (int i = 0; i < 9 && host().web.isInFlight(); ++i) { // an end that does not come is no success
             answer(200);
         }

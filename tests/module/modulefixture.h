@@ -42,6 +42,24 @@ private:
     std::string m_title;
 };
 
+/// Songs of these titles, with their files.
+inline xbr::Ref<xbr::ObjectList> songs(std::initializer_list<const char*> titles) {
+    auto list = xbr::make<xbr::ObjectList>();
+    for (const std::string title : titles) {
+        const std::string url = "file:///music/" + title + ".wav";
+        fakehost::host().files.files[url] = "audio of " + title;
+        list->add(xbr::query<xbr::IObject>(xbr::make<Song>(url, title).get()));
+    }
+    return list;
+}
+
+template <class Interface>
+xbr::Ref<Interface> create(xbr::IClassFactory& factory, const xbr::Uid& uid) {
+    void* object = nullptr;
+    factory.createInstance(uid, Interface::kUid, &object);
+    return xbr::Ref<Interface>::adopt(static_cast<Interface*>(object));
+}
+
 /// The genres of every host in this program, as the catalogue is filled once.
 inline void addGenres() {
     fakehost::host().files.files["resource://brindlex/brindlex_genres.csv"] = "Rock\nJazz\n";
@@ -62,13 +80,6 @@ protected:
         XBRModuleMain(this, 2);
         EXPECT_EQ(fakehost::host().signals.remaining(), 0U);
         EXPECT_TRUE(fakehost::host().fileTypes.handlers.empty());
-    }
-
-    template <class Interface>
-    static xbr::Ref<Interface> create(xbr::IClassFactory& factory, const xbr::Uid& uid) {
-        void* object = nullptr;
-        factory.createInstance(uid, Interface::kUid, &object);
-        return xbr::Ref<Interface>::adopt(static_cast<Interface*>(object));
     }
 
     xbr::Ref<FakeContext> context = xbr::make<FakeContext>();

@@ -102,12 +102,10 @@ protected:
     static std::string properties(const xbr::Ref<xbr::IObject>& object,
                                   std::initializer_list<const char*> names) {
         std::string text;
+        const auto source = xbr::query<xbr::IPropertySource>(object.get());
         for (const char* name : names) {
-            xbr::Value value{};
-            const auto source = xbr::query<xbr::IPropertySource>(object.get());
-            if (source->getProperty(xbr::toText(name), &value) == xbr::kOk) {
-                text += name + (" " + fakehost::written(value)) + "\n";
-            }
+            const auto value = fakehost::property(*source, name);
+            text += value.kind == xbr::ValueKind::kNone ? "" : name + (" " + fakehost::written(value)) + "\n";
         }
         return text;
     }
@@ -142,14 +140,15 @@ TEST_F(SurfaceTest, IsWhatFormsAreMadeFor) {
 }
 
 TEST_F(SurfaceTest, ATrackTellsWhatItIs) {
-    const auto record = xbr::make<TrackMetadata>();
-    record->albumTitle = "album";
-    record->albumArtist = "band";
-    record->primaryGenre = "genre";
-    record->trackNumber = 3;
-    record->songTitle = "song";
-    record->songArtist = "singer";
-    const auto track = xbr::make<TrackItem>("title", xbr::Url("file:///a%20b.wav"), record);
+    const auto track =
+        xbr::make<TrackItem>("title", xbr::Url("file:///a%20b.wav"), xbr::make<TrackMetadata>());
+    TrackMetadata& record = *track->metadata;
+    record.albumTitle = "album";
+    record.albumArtist = "band";
+    record.primaryGenre = "genre";
+    record.trackNumber = 3;
+    record.songTitle = "song";
+    record.songArtist = "singer";
     track->uploading = true;
     track->progress = 2.5;
     track->state = TrackUploadState::kFailed;

@@ -15,13 +15,9 @@ using fakehost::host;
 /// at once or posted.
 class ToldTest : public ModuleFixture {
 protected:
-    struct Step {
-        const char* name;
-        std::function<void()> action;
-        const char* told;
-    };
+    using Steps = fakehost::Rows<const char*, std::function<void()>, const char*>;
 
-    static void play(const std::vector<Step>& steps) {
+    static void play(const Steps& steps) {
         for (const auto& [name, action, told] : steps) {
             host().signals.takeTold();
             action();
@@ -37,24 +33,6 @@ protected:
         }
         return text.empty() ? text : text + '\n';
     }
-
-    static void set(xbr::IController& controller, const char* name, const xbr::Value& value) {
-        controller.findParameter(xbr::toText(name))->setValue(value);
-    }
-    static void perform(xbr::IController& controller, const char* name) {
-        set(controller, name, xbr::integerValue(1));
-    }
-
-    static void publish(std::initializer_list<const char*> titles) {
-        const auto songs = xbr::make<xbr::ObjectList>();
-        for (const std::string title : titles) {
-            const std::string url = "file:///music/" + title + ".wav";
-            host().files.files[url] = "audio";
-            const auto song = xbr::make<Song>(url, title);
-            songs->add(xbr::query<xbr::IObject>(song.get()));
-        }
-        xbr::make<UploadPublisher>()->publish(songs.get());
-    }
 };
 
 TEST_F(ToldTest, SigningInAndUploading) {
@@ -68,7 +46,7 @@ TEST_F(ToldTest, SigningInAndUploading) {
         host().web.answer(200, R"({"access_token":"A"})");
     };
     play({
-        {"sign in", [&] { perform(*manager, "connect"); },
+        {"sign in", [&] { fakehost::press(*manager, "connect"); },
          "Client: propertyChanged, Client: propertyChanged, Client: propertyChanged, Client: "
          "propertyChanged, Client: propertyChanged, post Client: authorizationCompleted, Client: "
          "propertyChanged"},
@@ -76,7 +54,7 @@ TEST_F(ToldTest, SigningInAndUploading) {
          "Client: propertyChanged, userName = \"Mara\", userURL = \"https://me\""},
         {"publish",
          [] {
-             publish({"a", "b"});
+             xbr::make<UploadPublisher>()->publish(songs({"a", "b"}).get());
          },
          "TrackProperties: changed, TrackList: changed, list: changed, TrackList: changed, list: changed, "
          "removeAll = 0, TrackList: changed, TrackProperties: changed, TrackList: changed, upload = 0, "
@@ -89,11 +67,11 @@ TEST_F(ToldTest, SigningInAndUploading) {
          " = 7, songTitle = \"a\", songArtist = \"Artist\", albumTitleMissing = 0, albumArtistMissing = 0,"
          " primaryGenreMissing = 0, songTitleMissing = 0, songArtistMissing = 0, TrackProperties: changed,"
          " TrackList: changed"},
-        {"edit", [&] { set(list.editor(), "albumTitle", xbr::textValue("New")); },
+        {"edit", [&] { fakehost::set(list.editor(), "albumTitle", xbr::textValue("New")); },
          "list: changed, TrackList: changed, albumTitle = \"New\""},
-        {"clear", [&] { set(list.editor(), "songArtist", xbr::textValue("")); },
+        {"clear", [&] { fakehost::set(list.editor(), "songArtist", xbr::textValue("")); },
          "list: changed, TrackList: changed, songArtist = \"\""},
-        {"upload an album", [&] { perform(*manager, "upload"); },
+        {"upload an album", [&] { fakehost::press(*manager, "upload"); },
          "Client: propertyChanged, upload = 0 (disabled), list: changed, removeAll = 0 (disabled), "
          "albumUpload = 1 (disabled), TrackList: changed, list: changed, TrackList: changed, "
          "TrackProperties: changed, TrackList: changed, songTitle = \"b\", songArtist = \"Artist\", "
@@ -108,9 +86,9 @@ TEST_F(ToldTest, SigningInAndUploading) {
          "primaryGenreMissing = 1, songTitle = \"a\", songArtist = \"\", songArtistMissing = 1, "
          "TrackProperties: changed, TrackList: changed, list: changed, removeAll = 0, albumUpload = 1, "
          "TrackList: changed"},
-        {"fill in", [&] { set(list.editor(), "songArtist", xbr::textValue("Ann")); },
+        {"fill in", [&] { fakehost::set(list.editor(), "songArtist", xbr::textValue("Ann")); },
          "songArtistMissing = 0, list: changed, TrackList: changed, songArtist = \"Ann\""},
-        {"singles", [&] { set(list, "albumUpload", xbr::integerValue(0)); },
+        {"singles", [&] { fakehost::set(list, "albumUpload", xbr::integerValue(0)); },
          "list: changed, TrackList: changed, albumTitle = \"a\", albumArtist = \"Ann\", trackNumber = 1, "
          "TrackProperties: changed, TrackList: changed, albumUpload = 0"},
         {"reset",
@@ -123,7 +101,7 @@ TEST_F(ToldTest, SigningInAndUploading) {
          },
          "list: selectionChanged, TrackProperties: changed, TrackList: changed, list: changed, TrackList: "
          "changed"},
-        {"upload singles", [&] { perform(*manager, "upload"); },
+        {"upload singles", [&] { fakehost::press(*manager, "upload"); },
          "Client: propertyChanged, upload = 0 (disabled), list: changed, removeAll = 0 (disabled), "
          "albumUpload = 0 (disabled), TrackList: changed, TrackProperties: changed, TrackList: changed, "
          "primaryGenreMissing = 0, TrackProperties: changed, TrackList: changed"},
@@ -146,10 +124,10 @@ TEST_F(ToldTest, SigningInAndUploading) {
          "albumTitleMissing = 0 (disabled), albumArtistMissing = 0 (disabled), primaryGenreMissing = 0 "
          "(disabled), songTitleMissing = 0 (disabled), songArtistMissing = 0 (disabled), TrackProperties: "
          "changed, TrackList: changed, list: changed, TrackList: changed"},
-        {"remove all", [&] { perform(list, "removeAll"); },
+        {"remove all", [&] { fakehost::press(list, "removeAll"); },
          "TrackProperties: changed, TrackList: changed, TrackProperties: changed, TrackList: changed, "
          "upload = 0 (disabled), list: changed, removeAll = 0 (disabled), TrackList: changed"},
-        {"sign out", [&] { perform(manager->client(), "resetAuthorization"); },
+        {"sign out", [&] { fakehost::press(manager->client(), "resetAuthorization"); },
          "Client: propertyChanged, post Client: authorizationCanceled, resetAuthorization = 1, userName = "
          "\"\", userURL = \"\""},
         {"sign in again, in vain",
@@ -158,7 +136,7 @@ TEST_F(ToldTest, SigningInAndUploading) {
                  host().fileTypes.openUrl(xbr::toText("brindlex://back?code=c"));
                  host().web.answer(400);
              };
-             perform(*manager, "connect");
+             fakehost::press(*manager, "connect");
          },
          "Client: propertyChanged, Client: propertyChanged, Client: propertyChanged, Client: "
          "propertyChanged, Client: propertyChanged, to Client: authorizationLost, Client: propertyChanged,"
@@ -168,7 +146,7 @@ TEST_F(ToldTest, SigningInAndUploading) {
 
 TEST_F(ToldTest, News) {
     const auto news = xbr::make<FeedElement>();
-    host().feeds.documents["document"] = {
+    host().web.documents["document"] = {
         {.title = "One",
          .links = {{{"rel", "enclosure"}, {"type", "image/png"}, {"href", "https://p/1.png"}}}}};
     const auto image = [&] { return xbr::query<xbr::IShownImage>(news->findObject(xbr::toText("image0"))); };

@@ -64,13 +64,13 @@ TEST_F(GenreCatalogueTest, ShippedListHasItsNamesInOrder) {
     EXPECT_EQ(names[1], "140 / Deep Dubstep / Grime");
     EXPECT_EQ(names[14], "Ax\xC3\xA9");
     EXPECT_EQ(names[134], "World");
-    struct Case {
-        const char* text;
-        const char* name;
-    };
     for (const auto& [text, name] :
-         {Case{"rock", "Rock"}, Case{"AX\xC3\x89", "Ax\xC3\xA9"}, Case{"dubstep", "Dubstep"},
-          Case{"Deep Dub", "140 / Deep Dubstep / Grime"}, Case{"Polka", ""}, Case{"", ""}}) {
+         fakehost::Rows<const char*, const char*>{{"rock", "Rock"},
+                                                  {"AX\xC3\x89", "Ax\xC3\xA9"},
+                                                  {"dubstep", "Dubstep"},
+                                                  {"Deep Dub", "140 / Deep Dubstep / Grime"},
+                                                  {"Polka", ""},
+                                                  {"", ""}}) {
         EXPECT_EQ(names[static_cast<std::size_t>(indexOf(text))], name) << text;
         EXPECT_EQ(brindlex::getGenreText(*parameter), name) << text;
     }

@@ -9,14 +9,12 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace {
 
 using fakehost::host;
+using fakehost::Rows;
 
 constexpr const char* kSong = "file:///music/My%20Song.wav";
-constexpr const char* kArchive = "file:///tmp/host/Brindlex/payload.zip";
 
 class PayloadTest : public testing::Test {
 protected:
@@ -28,22 +26,16 @@ protected:
         host().files.files["file:///music/b.mp3"] = "ID3";
     }
 
-    xbr::Ref<brindlex::IngestionRequest>
-    build(const std::vector<std::pair<const char*, const char*>>& songs) {
+    xbr::Ref<brindlex::IngestionRequest> build(const Rows<std::string, const char*>& songs) {
         std::vector<xbr::Ref<brindlex::TrackMetadata>> records;
         std::vector<xbr::Url> files;
         for (const auto& [title, file] : songs) {
-            records.push_back(record(title));
+            records.push_back(xbr::make<brindlex::TrackMetadata>());
+            records.back()->songTitle = title;
+            records.back()->albumTitle = "Album of " + title;
             files.emplace_back(file);
         }
         return brindlex::buildPayload(records, files, "key", *progress);
-    }
-
-    static xbr::Ref<brindlex::TrackMetadata> record(const char* title) {
-        auto metadata = xbr::make<brindlex::TrackMetadata>();
-        metadata->songTitle = title;
-        metadata->albumTitle = std::string("Album of ") + title;
-        return metadata;
     }
 
     xbr::Ref<xbr::IProgressIndicator> indicator;
@@ -51,12 +43,8 @@ protected:
 };
 
 TEST_F(PayloadTest, BoundaryHasFifteenBitsInFourDigits) {
-    struct Case {
-        int number;
-        const char* digits;
-    };
-    for (const auto& [number, digits] : {Case{10, "000A"}, Case{0, "0000"}, Case{0x7FFF, "7FFF"},
-                                         Case{0x7FFFFFFF, "7FFF"}, Case{0x12348765, "0765"}}) {
+    for (const auto& [number, digits] : Rows<int, const char*>{
+             {10, "000A"}, {0, "0000"}, {0x7FFF, "7FFF"}, {0x7FFFFFFF, "7FFF"}, {0x12348765, "0765"}}) {
         EXPECT_EQ(brindlex::makeBoundary(number), std::string(28, '-') + "XXBOUNDARY" + digits);
     }
 }
@@ -83,38 +71,29 @@ TEST_F(PayloadTest, BodyIsExactToTheByte) {
 }
 
 TEST_F(PayloadTest, WithoutAWholeArchiveThereIsNoRequest) {
-    const std::pair<const char*, std::function<void()>> faults[] = {
-        {"no file", [] { host().files.unreadable.insert(kSong); }},
-        {"not created", [] { host().packages.failsToCreate = true; }},
-        {"not written", [] { host().packages.failsToFlush = true; }},
-        {"not read", [] { host().files.unreadable.insert(kArchive); }},
-    };
-    for (const auto& [name, fault] : faults) {
-        host().files.unreadable.clear();
-        host().packages.failsToCreate = host().packages.failsToFlush = false;
-        fault();
-        EXPECT_FALSE(build({{"B", "file:///music/b.mp3"}, {"A", kSong}})) << name;
-        EXPECT_TRUE(brindlex::isPayloadOnDisk()) << name << ": the files stay until they are cleaned up";
+    for (const char* call : {"copyFile", "create", "flush", "openForReading"}) {
+        host().failing.clear();
+        host().files.onCopy = [call] {
+            host().failing = {call};
+        }; // the second song's copy is the first to fail
+        EXPECT_FALSE(build({{"B", "file:///music/b.mp3"}, {"A", kSong}})) << call;
+        EXPECT_TRUE(brindlex::isPayloadOnDisk()) << call << ": the files stay until they are cleaned up";
         brindlex::cleanupPayload();
-        EXPECT_FALSE(brindlex::isPayloadOnDisk()) << name;
+        EXPECT_FALSE(brindlex::isPayloadOnDisk()) << call;
         brindlex::cleanupPayload();
     }
-    host().failingCall = host().calls + 1;
+    host().failing = {"getTemporaryFolder"};
     EXPECT_TRUE(brindlex::isPayloadOnDisk()) << "nobody knows where to look";
 }
 
 TEST_F(PayloadTest, OnlyAudioFilesOfTheServiceAreTaken) {
-    struct Case {
-        const char* url;
-        bool supported;
-    };
     host().files.files["file:///a/folder.wav/inside.txt"] = "";
-    for (const auto& [url, supported] :
-         {Case{"file:///a/folder.wav", false}, Case{"file:///a/Song.FLAC", true},
-          Case{"file:///a/s.wav", true}, Case{"file:///a/s.Mp3", true}, Case{"file:///a/s.aiff", false},
-          Case{"file:///a/wav", false}, Case{"file:///a/s.wav/", false}, Case{"file:///a/s.wav%20", false},
-          Case{"https://h/s.wav", false}, Case{"file:///a/s.wav.zip", false}, Case{"", false}}) {
-        EXPECT_EQ(brindlex::isSupportedAudioFile(xbr::Url(url)), supported) << url;
+    for (const char* url : {"file:///a/Song.FLAC", "file:///a/s.wav", "file:///a/s.Mp3"}) {
+        EXPECT_TRUE(brindlex::isSupportedAudioFile(xbr::Url(url))) << url;
+    }
+    for (const char* url : {"file:///a/folder.wav", "file:///a/s.aiff", "file:///a/wav", "file:///a/s.wav/",
+                            "file:///a/s.wav%20", "https://h/s.wav", "file:///a/s.wav.zip", ""}) {
+        EXPECT_FALSE(brindlex::isSupportedAudioFile(xbr::Url(url))) << url;
     }
 }
 

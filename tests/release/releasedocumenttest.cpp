@@ -8,6 +8,8 @@
 
 namespace {
 
+using fakehost::Rows;
+
 std::string toJson(const xbr::Attributes& attributes) {
     const auto stream = xbr::make<xbr::MemoryStream>();
     xbr::writeJson(attributes, *stream);
@@ -17,52 +19,40 @@ std::string toJson(const xbr::Attributes& attributes) {
 
 TEST(ReleaseDocument, ReleaseKeysDependOnWhatIsKnown) {
     fakehost::resetHost();
-    struct Case {
-        const char* title;
-        const char* artist;
-        const char* genre;
-        const char* expected;
-    };
-    const Case cases[] = {
-        {"Night Drive", "The Lamps", "Electronica",
-         R"({"external_release_id":"","client_id":"abc","title":"Night Drive","main_artists":[{"name":"The Lamps"}],"primary_genre":"Electronica"})"},
-        {"", "", "", R"({"external_release_id":"","client_id":"abc","main_artists":[{}]})"},
-        {"", "VARIOUS ARTISTS", "",
-         R"({"external_release_id":"","client_id":"abc","various":"true","main_artists":[{"name":"VARIOUS ARTISTS"}]})"},
-        {"", "various artistry", "",
-         R"({"external_release_id":"","client_id":"abc","various":"true","main_artists":[{"name":"various artistry"}]})"},
-        {"", "Various-Artists", "",
-         R"({"external_release_id":"","client_id":"abc","main_artists":[{"name":"Various-Artists"}]})"},
-    };
-    for (const auto& [title, artist, genre, expected] : cases) {
+    for (const auto& [title, artist, genre, expected] :
+         Rows<const char*, const char*, const char*, const char*>{
+             {"Night Drive", "The Lamps", "Electronica",
+              R"("title":"Night Drive","main_artists":[{"name":"The Lamps"}],"primary_genre":"Electronica")"},
+             {"", "", "", R"("main_artists":[{}])"},
+             {"", "VARIOUS ARTISTS", "", R"("various":"true","main_artists":[{"name":"VARIOUS ARTISTS"}])"},
+             {"", "various artistry", "", R"("various":"true","main_artists":[{"name":"various artistry"}])"},
+             {"", "Various-Artists", "", R"("main_artists":[{"name":"Various-Artists"}])"},
+         }) {
         brindlex::TrackMetadata record;
         record.albumTitle = title;
         record.albumArtist = artist;
         record.primaryGenre = genre;
         const auto release = xbr::make<xbr::Attributes>();
         brindlex::writeReleaseAttributes(*release, record, "abc");
-        EXPECT_EQ(toJson(*release), expected);
+        EXPECT_EQ(toJson(*release),
+                  R"({"external_release_id":"","client_id":"abc",)" + std::string(expected) + "}");
     }
 }
 
 TEST(ReleaseDocument, SongKeysDependOnWhatIsKnown) {
     fakehost::resetHost();
-    struct Case {
-        const char* title;
-        const char* artist;
-        std::int32_t number;
-        const char* file;
-        const char* expected;
-    };
-    const Case cases[] = {
-        {"Opening", "The Lamps", 1, "o.wav",
-         R"({"title":"Opening","audio_filename":"o.wav","artists":[{"name":"The Lamps","roles":["Main Artist"]}],"track_number":1})"},
-        {"", "", 0, "take 2.final.flac",
-         R"({"title":"take 2.final","audio_filename":"take 2.final.flac","artists":[{"roles":["Main Artist"]}]})"},
-        {"", "", -3, "README",
-         R"({"title":"README","audio_filename":"README","artists":[{"roles":["Main Artist"]}],"track_number":-3})"},
-    };
-    for (const auto& [title, artist, number, file, expected] : cases) {
+    for (const auto& [title, artist, number, file, expected] :
+         Rows<const char*, const char*, int, const char*, const char*>{
+             {"Opening", "The Lamps", 1, "o.wav",
+              R"({"title":"Opening","audio_filename":"o.wav","artists":[{"name":"The Lamps",)"
+              R"("roles":["Main Artist"]}],"track_number":1})"},
+             {"", "", 0, "take 2.final.flac",
+              R"({"title":"take 2.final","audio_filename":"take 2.final.flac",)"
+              R"("artists":[{"roles":["Main Artist"]}]})"},
+             {"", "", -3, "README",
+              R"({"title":"README","audio_filename":"README","artists":[{"roles":["Main Artist"]}],)"
+              R"("track_number":-3})"},
+         }) {
         brindlex::TrackMetadata record;
         record.songTitle = title;
         record.songArtist = artist;

@@ -24,6 +24,7 @@ struct Track {
     int number = 1, albumNumber = 1;
     Flags missing{};
 
+    bool operator==(const Track&) const = default;
     bool isComplete() const {
         return std::none_of(texts.begin(), texts.end(), [](const auto& text) { return text.empty(); });
     }

@@ -15,22 +15,22 @@ namespace brindlex {
 
 using fakehost::FakeEntry;
 using fakehost::host;
+using fakehost::property;
+using fakehost::Rows;
 
-/// Writes down what a subject sends.
+/// Does something when a subject sends anything.
 class FeedObserver final : public xbr::Object<xbr::IObserver> {
 public:
     explicit FeedObserver(xbr::ISubject& subject) { XBRGetSignalHandler()->addObserver(&subject, this); }
     ~FeedObserver() override { XBRGetSignalHandler()->forgetObserver(this); }
 
     void notify(xbr::ISubject*, xbr::IMessage* message) noexcept override {
-        heard.push_back(xbr::toString(message->name()));
         if (hook) {
-            hook();
+            hook(xbr::toString(message->name()));
         }
     }
 
-    std::vector<std::string> heard;
-    std::function<void()> hook;
+    std::function<void(std::string)> hook;
 };
 
 /// Shows a picture, as a form does.
@@ -58,13 +58,18 @@ protected:
         fakehost::resetHost();
         module = xbr::make<xbr::ModuleComponent>("brindlex", "Kestrova", "Brindlex Support", "");
         module->loadTheme("");
-        feed = xbr::make<FeedElement>();
-        feed->setLocation(kFeed);
+        feed = newFeed();
     }
     ~FeedFixture() override {
         feed.reset();
         EXPECT_EQ(host().signals.remaining(), 0U);
         EXPECT_EQ(host().downloads.running(), 0U);
+    }
+
+    static xbr::Ref<FeedElement> newFeed() {
+        auto made = xbr::make<FeedElement>();
+        made->setLocation(kFeed);
+        return made;
     }
 
     static void post(xbr::IObserver& element, const char* message) {
@@ -74,18 +79,12 @@ protected:
 
     /// Makes the feed show these entries.
     void show(const std::vector<FakeEntry>& entries) {
-        host().feeds.documents["document"] = entries;
+        host().web.documents["document"] = entries;
         post(*feed, "restartDownload");
         ASSERT_TRUE(host().downloads.complete(kFeed, "document"));
     }
 
-    static xbr::Value property(xbr::IPropertySource& source, const std::string& name,
-                               xbr::Result expected = xbr::kOk) {
-        xbr::Value value{};
-        EXPECT_EQ(source.getProperty(xbr::toText(name), &value), expected) << name;
-        return value;
-    }
-    std::int64_t number(const std::string& name) { return xbr::integerOf(property(*feed, name), -1); }
+    std::int64_t number(const char* name) { return xbr::integerOf(property(*feed, name), -1); }
 
     /// All parameters as "name=value" lines.
     std::string parameters() {
@@ -103,13 +102,9 @@ protected:
         return xbr::query<xbr::IController>(feed->findObject(xbr::toText(name)));
     }
 
-    xbr::Ref<xbr::IPropertySource> properties(const std::string& name) {
-        return xbr::query<xbr::IPropertySource>(feed->findObject(xbr::toText(name)));
-    }
-
-    /// The size of a child's picture, "(none)" without one.
-    std::string picture(const std::string& name) {
-        const auto source = xbr::query<xbr::IImageSource>(child(name).get());
+    /// The size of a picture, "(none)" without one.
+    static std::string sizeOf(const xbr::Ref<xbr::IController>& element) {
+        const auto source = xbr::query<xbr::IImageSource>(element.get());
         xbr::Ref<xbr::IImage> image;
         return source && source->getImage(image.out()) == xbr::kOk
                    ? std::to_string(image->width()) + "x" + std::to_string(image->height())

@@ -34,8 +34,7 @@ protected:
     static xbr::Ref<xbr::ObjectList> files(std::initializer_list<const char*> urls) {
         auto objects = xbr::make<xbr::ObjectList>();
         for (const char* url : urls) {
-            const auto file = xbr::make<DraggedFile>(url);
-            objects->add(xbr::query<xbr::IObject>(file.get()));
+            objects->add(xbr::query<xbr::IObject>(xbr::make<DraggedFile>(url).get()));
         }
         return objects;
     }
@@ -45,23 +44,7 @@ protected:
     TrackMetadata& record(std::size_t index) { return *track(index).metadata; }
 
     void switchTo(UploadMode mode) {
-        list->findParameter(xbr::toText("albumUpload"))
-            ->setValue(xbr::integerValue(mode == UploadMode::kAlbum ? 1 : 0));
-    }
-
-    /// What the user types or chooses in the editor.
-    void edit(const char* name, const xbr::Value& value) {
-        list->editor().findParameter(xbr::toText(name))->setValue(value);
-    }
-    void edit(const char* name, const char* text) { edit(name, xbr::textValue(text)); }
-
-    xbr::Value shown(const char* name) { return list->editor().findParameter(xbr::toText(name))->value(); }
-    std::string text(const char* name) { return std::string(xbr::textOf(shown(name))); }
-    std::int64_t number(const char* name) { return xbr::integerOf(shown(name)); }
-
-    void select(std::initializer_list<std::int32_t> rows, std::int32_t focus) {
-        list->model().setSelection(rows.begin(), static_cast<std::int32_t>(rows.size()));
-        list->model().setFocus(focus);
+        fakehost::set(*list, "albumUpload", xbr::integerValue(mode == UploadMode::kAlbum ? 1 : 0));
     }
 
     xbr::Ref<TrackListComponent> list;
