@@ -33,7 +33,10 @@ def files_below(folder):
 
 
 def output_of(*command, **options):
-    return subprocess.run(command, check=True, capture_output=True, text=True, **options).stdout
+    result = subprocess.run(command, check=False, capture_output=True, text=True, **options)
+    if result.returncode != 0:
+        raise AssertionError(f"{command}: {result.returncode}: {result.stderr[-2000:]}")
+    return result.stdout
 
 
 class InstalledTest(unittest.TestCase):
