@@ -29,13 +29,17 @@ protected:
         host().objects.log.clear();
     }
 
+    static std::string packed(const std::string& title) {
+        return "assets/" + title + ".wav=audio of " + title + ";";
+    }
+
     /// Titles of the songs whose audio is in the last request.
     static std::string sentAudio() {
         std::string titles;
         const std::string body = host().web.sent.empty() ? "" : host().web.sent.back().body;
         for (auto at = body.find("assets/"); at != std::string::npos; at = body.find("assets/", at + 1)) {
             const std::string title = body.substr(at + 7, body.find('.', at) - at - 7);
-            EXPECT_THAT(body, HasSubstr("assets/" + title + ".wav=audio of " + title + ";"));
+            EXPECT_THAT(body, HasSubstr(packed(title)));
             titles += title;
         }
         return titles;

@@ -73,9 +73,7 @@ TEST_F(PayloadTest, BodyIsExactToTheByte) {
 TEST_F(PayloadTest, WithoutAWholeArchiveThereIsNoRequest) {
     for (const char* call : {"copyFile", "create", "flush", "openForReading"}) {
         host().failing.clear();
-        host().files.onCopy = [call] {
-            host().failing = {call};
-        }; // the second song's copy is the first to fail
+        host().files.onCopy = [call] { host().failing = {call}; }; // from the first song's copy on
         EXPECT_FALSE(build({{"B", "file:///music/b.mp3"}, {"A", kSong}})) << call;
         EXPECT_TRUE(brindlex::isPayloadOnDisk()) << call << ": the files stay until they are cleaned up";
         brindlex::cleanupPayload();

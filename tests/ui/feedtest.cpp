@@ -36,10 +36,10 @@ TEST_F(FeedTest, OffersTheTextsOfEachEntryInOrder) {
            .links = Links{{{"rel", "self"}, {"href", "https://x.example/self"}},
                           {{"rel", "alternate"}, {"href", "https://x.example/1"}},
                           {{"rel", "alternate"}, {"href", "https://x.example/2"}}}},
-          {.title = "Second"}});
+          {.title = "Second", .links = Links{{{"rel", "alternate"}, {"href", "https://x.example/3"}}}}});
     EXPECT_EQ(parameters(), "title=First\nsummary=Short\ncontent=Long\ntext\nlink=https://x.example/1\n"
                             "date=2025-6-2/5\n"
-                            "title=Second\nsummary=\ncontent=\nlink=\ndate=1900-1-1/5\n");
+                            "title=Second\nsummary=\ncontent=\nlink=https://x.example/3\ndate=1900-1-1/5\n");
     for (const char* name : {"entry0", "entry1"}) {
         const auto entry = xbr::query<xbr::IPropertySource>(feed->findObject(xbr::toText(name)));
         EXPECT_EQ(property(*entry, "hasDate").boolean, name == std::string("entry0"));
