@@ -112,6 +112,8 @@ class InstalledTest(unittest.TestCase):
         root = self.folder / "bare"
         output_of("debootstrap", "--variant=minbase", "bookworm", str(root))
         shutil.copy(self.make_package(), root / "xbrhost.deb")
+        output_of("mount", "-t", "proc", "proc", str(root / "proc"))  # by which a program finds where it lies
+        self.addCleanup(output_of, "umount", str(root / "proc"))
 
         def inside(command):
             return output_of("chroot", str(root), "sh", "-ec", command, env={"PATH": "/usr/sbin:/usr/bin:/sbin:/bin",
