@@ -122,7 +122,7 @@ class InstalledTest(unittest.TestCase):
         inside("apt-get -qq install -y --no-install-recommends ./xbrhost.deb")
         self.assertIn("xbrhost 0.1.0", inside("xbrhost --version"))
         self.assertIn("Drum & Bass", inside("xbrhost genres drum"))
-        self.assertIn("brindlex", inside("grep -l x-scheme-handler/brindlex /usr/share/applications/*.desktop"))
+        self.assertIn("xbrhost-open-url", inside("grep -l x-scheme-handler/brindlex /usr/share/applications/*.desktop"))
         inside("apt-get -qq purge -y xbrhost; apt-get -qq autoremove -y --purge; apt-get clean")
         left = {path for path in files_below(root / "usr") - before if "xbrhost" in path or "brindlex" in path}
         self.assertEqual(left, set())
