@@ -4,7 +4,6 @@
 #include "tests/host/system/filesfixture.h"
 
 #include <cstdlib>
-#include <ctime>
 #include <sys/inotify.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -29,11 +28,6 @@ void runInChild(const std::function<void()>& work) {
         std::exit(0); // NOLINT(concurrency-mt-unsafe)
     }
     ASSERT_EQ(waitpid(child, nullptr, 0), child);
-}
-
-TEST(SystemTest, TellsTheTime) {
-    EXPECT_NEAR(static_cast<double>(XBRGetSystem()->currentTime()), static_cast<double>(std::time(nullptr)),
-                2);
 }
 
 TEST(SystemTest, APlaceForTemporaryFilesThatIsNotThereIsNamed) {
@@ -139,11 +133,10 @@ TEST_F(SystemShellTest, OpensWebUrlsOnlyAndWithoutAShell) {
 
 TEST_F(SystemShellTest, WithoutABrowserTheAnnouncerDecides) {
     setPath("/nowhere");
-    const std::string url = "https://example.com/";
-    EXPECT_EQ(open(url), kUnexpected);
-    for (const auto result : {kUnexpected, kOk}) {
-        setBrowserAnnouncer([&](std::string_view told) { return told == url && result == kOk; });
-        EXPECT_EQ(open(url), result);
+    EXPECT_EQ(open("https://example.com/"), kUnexpected);
+    for (const bool isTaken : {false, true}) {
+        setBrowserAnnouncer([&](std::string_view) { return isTaken; });
+        EXPECT_EQ(open("https://example.com/"), isTaken ? kOk : kUnexpected);
     }
 }
 
