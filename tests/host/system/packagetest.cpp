@@ -214,35 +214,31 @@ TEST_F(PackageTest, AFolderWithoutWhatWasMeantForItIsNotPacked) {
         EXPECT_EQ(flush(), result);
         EXPECT_EQ(fs::exists(archive), result == kOk);
     };
-    const Act faults[] = {[&] {
-                              fs::remove(source);
-                              EXPECT_EQ(copy(), kUnexpected);
-                          },
-                          [&] {
-                              const FileSizeLimit full(5);
-                              EXPECT_EQ(copy(), kUnexpected);
-                          },
-                          [&] {
-                              const FileSizeLimit full(5);
-                              EXPECT_EQ(write(), kUnexpected);
-                          }};
-    for (const auto& fault : faults) {
+    const std::pair<bool, std::function<Result()>> faults[] = {{true, copy}, {false, copy}, {false, write}};
+    for (const auto& [isSourceGone, call] : faults) {
+        const auto fail = [&source, &call = call, isSourceGone = isSourceGone] {
+            const FileSizeLimit full(5);
+            if (isSourceGone) {
+                fs::remove(source);
+            }
+            EXPECT_EQ(call(), kUnexpected);
+        };
         for (const bool isOldOneThere : {false, true}) {
-            SCOPED_TRACE(&fault - faults);
+            SCOPED_TRACE(testing::Message() << isSourceGone << isOldOneThere);
             fs::remove_all(payload);
             writeFile(payload / "other.wav", "x");
             writeFile(source, "new song");
             if (isOldOneThere) {
                 writeFile(payload / "assets/song.wav", "old song");
             }
-            fault();
+            fail();
             expectAdd(kUnexpected);
             writeFile(source, "new song");
             EXPECT_EQ(copy(), kOk);
             EXPECT_EQ(write(), kOk);
             expectAdd(kOk); // all that was missing is there now
             files.removeFolder(toText(folder.url("payload")));
-            fault();
+            fail();
             files.removeFolder(toText(folder.url("payload")));
             writeFile(payload / "other.wav", "x");
             expectAdd(kOk); // the folder is a new one
