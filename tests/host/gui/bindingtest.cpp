@@ -179,14 +179,7 @@ TEST_F(Lifetime, theViewGoesFirst) {
     EXPECT_TRUE(life.expired());
 }
 
-TEST_F(Lifetime, theViewKeepsItsControllerAndNothingElseDoes) {
-    dropControllers();
-    QTest::keyClicks(&at("text"), "!");
-    form.reset();
-    EXPECT_TRUE(life.expired());
-}
-
-TEST_F(Lifetime, theListsOwnerGoesFirst) {
+TEST_F(Lifetime, theOwnersOfTheListAndOfTheControllersGoFirst) {
     auto& rows = at<QTreeView>("rows");
     rows.selectAll();
     list.reset();
@@ -194,6 +187,10 @@ TEST_F(Lifetime, theListsOwnerGoesFirst) {
     settle();
     EXPECT_EQ(rows.model()->rowCount(), 0);
     rows.grab();
+    dropControllers();
+    QTest::keyClicks(&at("text"), "!");
+    form.reset();
+    EXPECT_TRUE(life.expired());
 }
 
 TEST_F(Lifetime, theViewGoesWithinASignal) {
