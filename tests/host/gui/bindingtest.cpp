@@ -49,11 +49,8 @@ TEST_F(Binding, showsWhatTheParameterHasWithoutSettingIt) {
     EXPECT_EQ(at<QSpinBox>("number").value(), 42);
     EXPECT_EQ(at<QSpinBox>("number").maximum(), 10000);
     EXPECT_EQ(at<QComboBox>("choice").currentText().toStdString(), "Jazz");
-    EXPECT_EQ(shownChoice(), "Jazz");
-    for (const char* name : {"command", "toggle", "text", "number", "choice"}) {
+    for (const char* name : {"command", "text", "number", "choice"}) {
         root->named(name).setEnabled(false);
-    }
-    for (const char* name : {"command", "on", "off", "text", "number", "choice", "found"}) {
         EXPECT_FALSE(at(name).isEnabled()) << name;
     }
     EXPECT_EQ(root->changes, Texts());
@@ -117,10 +114,6 @@ TEST_F(Binding, findsAnEntryByWhatIsTyped) {
         if (isConfirmed) {
             QTest::keyClick(box.lineEdit(), Qt::Key_Return);
         }
-        if (typed == std::string_view("rOck")) {
-            EXPECT_EQ(integer("choice"), chosen) << "without leaving the field";
-            EXPECT_EQ(shownChoice(), typed);
-        }
         box.completer()->popup()->hide();
         QApplication::setActiveWindow(form.get()); // a window system would do that
         at("text").setFocus();
@@ -165,7 +158,6 @@ protected:
         list->model().append(query<IObject>(item.get()));
         list->signalTracksChanged();
     }
-    bool isGone() const { return life.expired(); }
     void dropControllers() {
         inner.reset();
         root.reset();
@@ -184,18 +176,10 @@ TEST_F(Lifetime, theViewGoesFirst) {
     addRow();
     settle();
     dropControllers();
-    EXPECT_TRUE(isGone());
+    EXPECT_TRUE(life.expired());
 }
 
-TEST_F(Lifetime, theViewKeepsItsControllerAndNothingElseDoes) {
-    dropControllers();
-    EXPECT_FALSE(isGone());
-    QTest::keyClicks(&at("text"), "!");
-    form.reset();
-    EXPECT_TRUE(isGone());
-}
-
-TEST_F(Lifetime, theListsOwnerGoesFirst) {
+TEST_F(Lifetime, theOwnersOfTheListAndOfTheControllersGoFirst) {
     auto& rows = at<QTreeView>("rows");
     rows.selectAll();
     list.reset();
@@ -203,6 +187,10 @@ TEST_F(Lifetime, theListsOwnerGoesFirst) {
     settle();
     EXPECT_EQ(rows.model()->rowCount(), 0);
     rows.grab();
+    dropControllers();
+    QTest::keyClicks(&at("text"), "!");
+    form.reset();
+    EXPECT_TRUE(life.expired());
 }
 
 TEST_F(Lifetime, theViewGoesWithinASignal) {
@@ -223,7 +211,7 @@ TEST_F(Lifetime, theViewGoesWhileItsCommandRuns) {
     };
     QTest::mouseClick(&at("command"), Qt::LeftButton);
     EXPECT_FALSE(form);
-    EXPECT_TRUE(isGone());
+    EXPECT_TRUE(life.expired());
 }
 
 TEST_F(Lifetime, theControllerGoesWithinItsOwnSignal) {
@@ -236,7 +224,7 @@ TEST_F(Lifetime, theControllerGoesWithinItsOwnSignal) {
     dropControllers();
     borrowed->change("state", 0);
     EXPECT_FALSE(form);
-    EXPECT_TRUE(isGone());
+    EXPECT_TRUE(life.expired());
     XBRGetSignalHandler()->forgetObserver(remover.observer());
 }
 

@@ -65,13 +65,10 @@ TEST_F(ResourcesTest, AreReadByTheirExactNames) {
         EXPECT_TRUE(read(path) == text) << path;
         EXPECT_EQ(files.fileExists(toText("resource://" + std::string(path))), text != "-") << path;
     }
-    for (const auto* url :
-         {"resource://brindlex/skin/forms", "resource://brindlex/skin/", "resource://brindlex"}) {
-        EXPECT_TRUE(files.folderExists(toText(url))) << url;
+    for (const std::string path : {"brindlex/skin/forms", "brindlex/skin/", "brindlex"}) {
+        EXPECT_TRUE(files.folderExists(toText("resource://" + path))) << path;
     }
-    for (const auto* url : {"resource://brindlex/gadget.xml", "resource://other"}) {
-        EXPECT_FALSE(files.folderExists(toText(url))) << url;
-    }
+    EXPECT_FALSE(files.folderExists(toText("resource://brindlex/gadget.xml")));
     EXPECT_EQ(remove(), kOk);
     EXPECT_EQ(remove(), kFalse);
     EXPECT_EQ(read("brindlex/gadget.xml"), "-");
@@ -85,11 +82,6 @@ TEST_F(ResourcesTest, AStreamOutlivesItsArchive) {
     EXPECT_EQ(measure(*stream), 10);
     EXPECT_EQ(stream->seek(-4, SeekOrigin::kEnd, nullptr), kOk);
     EXPECT_EQ(readAll(*stream), "6789");
-    EXPECT_EQ(stream->seek(100, SeekOrigin::kStart, nullptr), kOk);
-    EXPECT_EQ(readAll(*stream), "");
-    std::uint64_t done = 1;
-    EXPECT_EQ(stream->write("x", 1, &done), kNotImplemented);
-    EXPECT_EQ(done, 0U);
 }
 
 TEST_F(ResourcesTest, DamagedAndOversizedArchivesAreRefused) {

@@ -94,14 +94,12 @@ TEST_F(Media, bytesTellWhatAFileIsAndSays) {
         {waveFile(infoChunk({{"INAM", "Ax\xE9"}})), "Axé|||||0"},
         {tag + std::string(100, '\0') + kFrame + std::string(500, '\0'), "Song|||||0"},
         {"", "no audio"},
-        {"RIFF", "no audio"},
         {"just text, long enough to be looked at as something else", "no audio"},
         {wave.substr(0, 12), "no audio"},                                        // nothing behind the head
         {wave.substr(0, 36), "no audio"},                                        // no audio
         {wave.substr(0, 8) + "AVI " + wave.substr(12), "no audio"},              // another form
         {"RIFF\xFF\xFF\xFF\xFFWAVE" + std::string(4000, '\xFF'), "no audio"},    // sizes beyond the end
         {"ID3\x04" + std::string(3, '\0') + std::string(4, '\x7F'), "no audio"}, // 256 MiB that are not there
-        {std::string("PK\x03\x04", 4) + std::string(1000, 'x'), "no audio"},
         {manyChunks + chunk("data", "xx"), "no audio"},
     };
     for (const auto& [bytes, expected] : cases) {
@@ -114,8 +112,7 @@ TEST_F(Media, bytesTellWhatAFileIsAndSays) {
 
 TEST_F(Media, tagsOfForeignFormatsAreRead) {
     for (const auto& [name, format] : {std::pair{"a.aiff", SF_FORMAT_AIFF | SF_FORMAT_PCM_16},
-                                       std::pair{"a.ogg", SF_FORMAT_OGG | SF_FORMAT_VORBIS},
-                                       std::pair{"a.opus", SF_FORMAT_OGG | SF_FORMAT_OPUS}}) {
+                                       std::pair{"a.ogg", SF_FORMAT_OGG | SF_FORMAT_VORBIS}}) {
         const std::string song = m_folder.path(name);
         writeSound(song, format, 48000);
         EXPECT_EQ(readForeignTags(song).texts.size(), 0U) << name;
@@ -153,13 +150,11 @@ TEST_F(Media, hostileTagsCostLittle) {
         {"many frames", many, 0, kFrame, ""},
         {"a text of many parts", parts, 0, kFrame, ""},
         {"a frame that grows", compressed, 0, kFrame, "Song"},
-        {"the same in a recording", waveFile(chunk("id3 ", compressed)), 0, "", "Song"},
         {"and in a chapter", id3Tag({{"CHAP", std::string(17, 'c') + inner, '\x20'}}), 0, kFrame, ""},
         {"an APE tag of 64 MiB", kFrame, 100 * kMiB, apeFooter(64 * kMiB), ""},
         {"the same before an ID3v1 tag", kFrame, 100 * kMiB,
          apeFooter(64 * kMiB) + "TAGSong" + std::string(121, '\0'), ""},
         {"a gap before the first frame", std::string(500, '\0') + kFrame, 200 * kMiB, "", ""},
-        {"picture", "fLaC" + flacBlock(6, 16) + std::string(16, 'p') + flacBlock('\x81', 9), 0, "", ""},
         {"texts of 16 MiB", flacTexts, 17 * kMiB, "", ""},
         {"endless blocks", "fLaC" + flacBlock(6, 16 * kMiB - 1), 100 * kMiB, "", ""},
         {"info of 1 MiB", info + littleEndian(kMiB) + "INFO", kMiB + info.size(), "", ""},

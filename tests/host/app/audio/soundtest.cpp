@@ -70,16 +70,12 @@ protected:
 TEST_F(Renderer, keepsDepthRateAndSamplesOrHas24BitsOfWhatIsLossy) {
     const std::tuple<const char*, int, int, int> cases[] = {
         {"a.aiff", SF_FORMAT_AIFF | SF_FORMAT_PCM_16, 44100, SF_FORMAT_PCM_16},
-        {"b.aif", SF_FORMAT_AIFF | SF_FORMAT_PCM_24, 96000, SF_FORMAT_PCM_24},
         {"c.aiff", SF_FORMAT_AIFF | SF_FORMAT_PCM_32, 192000, SF_FORMAT_PCM_32},
         {"d.aiff", SF_FORMAT_AIFF | SF_FORMAT_PCM_S8, 22050, SF_FORMAT_PCM_U8},
         {"e.aifc", SF_FORMAT_AIFF | SF_FORMAT_FLOAT, 48000, SF_FORMAT_FLOAT},
         {"f.aifc", SF_FORMAT_AIFF | SF_FORMAT_DOUBLE, 48000, SF_FORMAT_DOUBLE},
         {"g.caf", SF_FORMAT_CAF | SF_FORMAT_ALAC_24, 44100, SF_FORMAT_PCM_24},
-        {"h.au", SF_FORMAT_AU | SF_FORMAT_PCM_24, 11025, SF_FORMAT_PCM_24},
-        {"i.w64", SF_FORMAT_W64 | SF_FORMAT_PCM_24, 44100, SF_FORMAT_PCM_24},
         {"j.ogg", SF_FORMAT_OGG | SF_FORMAT_VORBIS, 48000, SF_FORMAT_PCM_24},
-        {"k.ogg", SF_FORMAT_OGG | SF_FORMAT_OPUS, 48000, SF_FORMAT_PCM_24},
     };
     for (const auto& [name, format, rate, subtype] : cases) {
         SCOPED_TRACE(name);
@@ -90,7 +86,6 @@ TEST_F(Renderer, keepsDepthRateAndSamplesOrHas24BitsOfWhatIsLossy) {
         const SF_INFO info = soundInfo(m_target);
         EXPECT_EQ(info.format, SF_FORMAT_WAV | subtype);
         EXPECT_EQ(info.samplerate, rate);
-        EXPECT_EQ(info.channels, 2);
         const auto samples = readNumbers(song);
         const auto rendered = readNumbers(m_target);
         ASSERT_EQ(rendered.size(), samples.size());
@@ -109,7 +104,6 @@ TEST_F(Renderer, whatDoesNotFitIntoFourGibibytesIsRf64) {
         {1'073'000'000, 1, SF_FORMAT_FLOAT, SF_FORMAT_WAV},
         {1'074'000'000, 1, SF_FORMAT_FLOAT, SF_FORMAT_RF64},
         {716'000'000, 2, SF_FORMAT_VORBIS, SF_FORMAT_RF64},
-        {716'000'000, 2, SF_FORMAT_PCM_16, SF_FORMAT_WAV},
     };
     for (const auto& [frames, channels, subtype, container] : cases) {
         SF_INFO info{};
@@ -155,15 +149,13 @@ TEST_F(Renderer, whatEndsEarlyLeavesNothing) {
 }
 
 TEST_F(Renderer, renderedSongsGoWithTheirOwner) {
-    std::string path;
-    {
-        RenderedSongs songs;
-        path = songs.pathOf("a (2).wav");
-        writeSound(m_folder.path("a.aiff"), SF_FORMAT_AIFF | SF_FORMAT_PCM_16);
-        EXPECT_EQ(songs.render(m_folder.path("a.aiff"), path).problem(), Problem());
-        EXPECT_TRUE(std::filesystem::exists(path));
-    }
-    EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(path).parent_path()));
+    writeSound(m_folder.path("a.aiff"), SF_FORMAT_AIFF | SF_FORMAT_PCM_16);
+    auto songs = std::make_unique<RenderedSongs>();
+    const std::filesystem::path path = songs->pathOf("a (2).wav");
+    EXPECT_EQ(songs->render(m_folder.path("a.aiff"), path).problem(), Problem());
+    EXPECT_TRUE(std::filesystem::exists(path));
+    songs.reset();
+    EXPECT_FALSE(std::filesystem::exists(path.parent_path()));
 }
 
 TEST_F(Wholeness, isAskedOfEveryFormat) {
@@ -200,7 +192,7 @@ TEST_F(Wholeness, isThereWhereASizeSaysUnknown) {
     EXPECT_EQ(fault(), Fault::kNotAudio) << "no frames, but texts behind them";
 }
 
-TEST_F(Wholeness, isLookedForAtTheEndOfAFlacThatDoesNotTellItsLength) {
+TEST_F(Wholeness, isLookedForAtTheEndWhereTheLengthIsNotTold) {
     write(SF_FORMAT_FLAC | SF_FORMAT_PCM_16);
     patch(21, std::string(1, static_cast<char>(readFile(m_path)[21] & 0xF0)) + std::string(4, '\0'));
     const auto whole = readAudioFormat(m_path);
@@ -209,9 +201,6 @@ TEST_F(Wholeness, isLookedForAtTheEndOfAFlacThatDoesNotTellItsLength) {
     EXPECT_EQ(fault(), Fault::kNone) << "with a tag behind the audio";
     cut(size() - 129);
     EXPECT_EQ(fault(), Fault::kCutShort);
-}
-
-TEST_F(Wholeness, isNotThereWhereNobodyCanTellTheLength) {
     write(SF_FORMAT_OGG | SF_FORMAT_VORBIS, 44100, 44100);
     patch(-40, std::string(8, '\0')); // the page that holds the length fails its check sum
     EXPECT_EQ(fault(), Fault::kCutShort);
