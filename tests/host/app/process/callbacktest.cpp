@@ -248,6 +248,8 @@ TEST_F(Callbacks, aPlantedFolderIsRefused) {
     if (chown(m_folder.c_str(), 1, 1) == 0) { // the superuser runs the tests
         EXPECT_FALSE(start()) << "somebody else's";
     }
+    fs::remove(m_folder);
+    folderWith(fs::perms::owner_all);
     fs::rename(m_folder, m_place.path("elsewhere"));
     fs::create_symlink("elsewhere", m_folder);
     EXPECT_FALSE(start());
