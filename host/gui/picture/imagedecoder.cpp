@@ -172,9 +172,12 @@ DecodeResult decodePicture(const QByteArray& file, std::string_view extension, s
         reader.setScaledSize(reduced(size, maximumPixels));
     }
     const bool isTurned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-    const QImage decoded = reader.read();
+    QImage decoded = reader.read();
     if (decoded.isNull() || countOf(decoded.size()) > kMaximumPixels) {
         return DecodeResult::kUnusable;
+    }
+    if (countOf(decoded.size()) > maximumPixels) { // a GIF's frame may say less than its screen
+        decoded = decoded.scaled(reduced(decoded.size(), maximumPixels));
     }
     picture = {normalised(decoded), isTurned ? size.transposed() : size};
     return DecodeResult::kDecoded;
