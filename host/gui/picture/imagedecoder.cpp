@@ -138,7 +138,9 @@ std::int64_t countOf(const QSize& size) {
 QSize reduced(const QSize& size, std::int64_t maximumPixels) {
     const double factor = std::sqrt(static_cast<double>(maximumPixels) / static_cast<double>(countOf(size)));
     const QSize near = (QSizeF(size) * factor).toSize().expandedTo(QSize(1, 1));
-    const auto width = static_cast<int>(std::min<std::int64_t>(near.width(), maximumPixels / near.height()));
+    // Of a picture like a hair one side stays a pixel wide.
+    const auto width =
+        static_cast<int>(std::clamp<std::int64_t>(maximumPixels / near.height(), 1, near.width()));
     return {width, static_cast<int>(std::min<std::int64_t>(near.height(), maximumPixels / width))};
 }
 

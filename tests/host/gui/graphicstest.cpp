@@ -148,6 +148,7 @@ TEST(Graphics, decodesBesideTheLoopToTheSizeThatIsShown) {
         {encoded(400, 200, "PNG"), 80'000, kOk, {400, 200}, {400, 200}},
         {animation(), 1, kOk, {1, 1}, {2, 1}},
         {encoded(3000, 1, "PNG"), 100, kOk, {100, 1}, {3000, 1}},
+        {encoded(1, 3000, "PNG"), 100, kOk, {1, 100}, {1, 3000}},
         {"words", 100, kNotImplemented, {}, {}},
         {encoded(400, 200, "JPG").substr(0, 500), 100, kInvalidArgument, {}, {}},
     };
