@@ -32,6 +32,11 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
     return QUiLoader::createWidget(className, parent, name);
 }
 
+QLayout* FormLoader::createLayout(const QString& className, QObject* parent, const QString& name) {
+    QLayout* const layout = QUiLoader::createLayout(className, parent, name);
+    return layout ? layout : QUiLoader::createLayout(QStringLiteral("QVBoxLayout"), parent, name);
+}
+
 QString translate(const QString& source, ITranslationTable& translations) {
     const std::string text = source.toStdString();
     Ref<IString> translated;

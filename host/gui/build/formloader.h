@@ -17,6 +17,9 @@ public:
     FormLoader();
 
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override;
+
+    /// An unknown kind becomes a column, as Qt goes on with what it gets, be it null.
+    QLayout* createLayout(const QString& className, QObject* parent, const QString& name) override;
 };
 
 /// A text in the user's language; as it is when there is no translation.

@@ -68,6 +68,10 @@ TEST_F(Display, warnsOnceOfWhatItCannotBindAndShowsTheRest) {
         EXPECT_EQ(text("rest"), binding);
     }
     EXPECT_FALSE(view("None"));
+    const std::string margin = "<property name='leftMargin'><number>0</number></property>";
+    show("<layout class='QNone'>" + margin + "<item>" + widgetXml("QLabel", "rest", "xbrText=title") +
+         "</item><item><layout class='QNone'>" + margin + "</layout></item></layout>");
+    EXPECT_EQ(text("rest"), "xbrRows=Other");
     show("<nonsense/>");
     EXPECT_FALSE(form);
     EXPECT_NE(warnings.find("form F"), std::string::npos) << warnings;
