@@ -27,7 +27,8 @@ void startQt() {
 
 } // namespace
 
-/// Qt's form loader forgets the place of a widget whose cell is taken, and fontconfig what it read: neither is ours.
+/// Qt's form loader forgets the place of a widget whose cell is taken, and fontconfig what it read: neither
+/// is ours.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the sanitizer's name
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libQt6UiTools\nleak:libfontconfig\n";

@@ -2,6 +2,7 @@
 
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
+#include "framework/support/parts/translation.h"
 
 namespace xbr {
 
@@ -48,9 +49,7 @@ Ref<ITranslationTable> ModuleComponent::translations() {
 
 std::string translate(std::string_view source) {
     const auto table = ModuleComponent::current() ? ModuleComponent::current()->translations() : nullptr;
-    Ref<IString> translated;
-    return table && table->translate(toText(source), translated.out()) == kOk ? take(translated)
-                                                                              : std::string(source);
+    return translate(toText(source), table.get());
 }
 
 } // namespace xbr

@@ -3,6 +3,7 @@
 #include "framework/abi/locale.h"
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
+#include "framework/support/parts/translation.h"
 #include "host/app/modules/gadgetpanel.h"
 
 #include <filesystem>
@@ -11,27 +12,35 @@ namespace xbr::host {
 
 namespace {
 
-/// The name of a class in the user's language, where the skin of one of the panels has it.
-std::string translated(Text name) {
+/// The tables of the modules that have a panel.
+std::vector<Ref<ITranslationTable>> tablesOfPanels() {
+    std::vector<Ref<ITranslationTable>> tables;
     for (const GadgetClass& gadget : findGadgets()) {
-        Ref<ITranslationTable> table;
-        Ref<IString> found;
-        if (XBRGetLocaleManager()->getTable(toText(gadget.themeName), table.out()) == kOk &&
-            table->translate(name, found.out()) == kOk && toString(found->text()) != toString(name)) {
-            return toString(found->text());
+        XBRGetLocaleManager()->getTable(toText(gadget.themeName), tables.emplace_back().out());
+    }
+    return tables;
+}
+
+/// The name of a class in the user's language, where one of the tables has it.
+std::string nameOf(const ClassDescription& found, const std::vector<Ref<ITranslationTable>>& tables) {
+    const std::string source = toString(found.name);
+    for (const auto& table : tables) {
+        if (auto translated = translate(found.name, table.get()); translated != source) {
+            return translated;
         }
     }
-    return toString(name);
+    return source;
 }
 
 } // namespace
 
 std::vector<PublishEntry> findPublishEntries() {
     static constexpr std::string_view kCategory = "Publisher";
+    const auto tables = tablesOfPanels();
     std::vector<PublishEntry> entries;
     for (std::int32_t i = 0; i < XBRGetPlugInManager()->countClasses(toText(kCategory)); ++i) {
         const ClassDescription* found = XBRGetPlugInManager()->classAt(toText(kCategory), i, nullptr);
-        entries.push_back({found->uid, translated(found->name)});
+        entries.push_back({found->uid, nameOf(*found, tables)});
     }
     return entries;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/abi/locale.h"
 #include "host/gui/bind/valuesource.h"
 #include "host/gui/skin/skin.h"
 
@@ -65,8 +66,9 @@ bool bindDifference(QWidget& widget, IController& scope, const std::string& path
 /// The picture of an image source, instead of a label's text.
 bool bindImage(QWidget& widget, IController& scope, const std::string& path);
 
-/// A button for a command of the scope's ICommandList, by its number there.
-bool bindCommand(QWidget& widget, IController& scope, const std::string& number);
+/// A button for a command of the scope's ICommandList, by its number there, named in the user's language.
+bool bindCommand(QWidget& widget, IController& scope, const std::string& number,
+                 ITranslationTable& translations);
 
 /// A picture of the skin, on a button or instead of a label's text.
 bool bindIcon(QWidget& widget, const Skin& skin, const std::string& file);

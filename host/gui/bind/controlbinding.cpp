@@ -2,6 +2,7 @@
 
 #include "framework/abi/listmodel.h"
 #include "framework/support/objects/text.h"
+#include "framework/support/parts/translation.h"
 #include "host/gui/bind/bindings.h"
 
 #include <QAbstractButton>
@@ -206,7 +207,8 @@ bool bindParameter(QWidget& widget, std::unique_ptr<ValueSource> source) {
     return bindChoice(widget, std::move(source));
 }
 
-bool bindCommand(QWidget& widget, IController& scope, const std::string& number) {
+bool bindCommand(QWidget& widget, IController& scope, const std::string& number,
+                 ITranslationTable& translations) {
     auto* button = qobject_cast<QAbstractButton*>(&widget);
     auto commands = query<ICommandList>(&scope);
     bool isNumber = false;
@@ -215,8 +217,8 @@ bool bindCommand(QWidget& widget, IController& scope, const std::string& number)
         return false;
     }
     // A "&" of a name is a letter of it.
-    const QString name = QString::fromStdString(toString(commands->nameAt(index)));
-    button->setText(QString(name).replace(QLatin1Char('&'), QLatin1String("&&")));
+    auto name = QString::fromStdString(translate(commands->nameAt(index), &translations));
+    button->setText(name.replace(QLatin1Char('&'), QLatin1String("&&")));
     button->setEnabled(commands->isEnabled(index));
     QObject::connect(button, &QAbstractButton::clicked, button,
                      [commands = std::move(commands), index] { commands->perform(index); });

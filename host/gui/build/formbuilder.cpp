@@ -12,7 +12,6 @@
 #include "host/gui/build/taborder.h"
 #include "host/gui/list/listview.h"
 
-#include <QAbstractButton>
 #include <QBuffer>
 #include <QEvent>
 #include <QScrollArea>
@@ -99,11 +98,8 @@ struct ScopeBinding {
     bool (*bind)(QWidget& widget, IController& scope, const std::string& path);
 };
 constexpr ScopeBinding kObjects[] = {
-    {"xbrListModel", bindList},
-    {"xbrImage", bindImage},
-    {"xbrCommand", bindCommand},
-    {"xbrLockedBy", bindLock},
-    {"xbrEditorHeader", bindEditorHeader},
+    {"xbrListModel", bindList},        {"xbrImage", bindImage},
+    {"xbrLockedBy", bindLock},         {"xbrEditorHeader", bindEditorHeader},
     {"xbrDifference", bindDifference},
 };
 
@@ -151,10 +147,6 @@ void FormBuilder::bindTree(QWidget& widget, Ref<IController> scope) {
     if (auto* list = qobject_cast<ListView*>(&widget)) {
         list->setTranslations(m_translations);
     }
-    if (auto* button = qobject_cast<QAbstractButton*>(&widget);
-        button && widget.property("xbrCommand").isValid()) {
-        button->setText(translate(button->text(), *m_translations)); // the module names it in English
-    }
     for (QWidget* child : children) {
         bindTree(*child, scope);
     }
@@ -195,6 +187,9 @@ void FormBuilder::bindWidget(QWidget& widget, IController& scope) {
         if (const auto path = propertyOf(widget, property); !path.empty()) {
             check(bind(widget, scope, path), widget, path);
         }
+    }
+    if (const auto number = propertyOf(widget, "xbrCommand"); !number.empty()) {
+        check(bindCommand(widget, scope, number, *m_translations), widget, number);
     }
     if (const auto file = propertyOf(widget, "xbrIcon"); !file.empty()) {
         check(bindIcon(widget, m_skin, file), widget, file);

@@ -1,6 +1,7 @@
 #include "host/gui/build/formloader.h"
 
 #include "framework/support/objects/text.h"
+#include "framework/support/parts/translation.h"
 #include "host/gui/list/listview.h"
 
 #include <QXmlStreamReader>
@@ -37,14 +38,6 @@ QLayout* FormLoader::createLayout(const QString& className, QObject* parent, con
     return layout ? layout : QUiLoader::createLayout(QStringLiteral("QVBoxLayout"), parent, name);
 }
 
-QString translate(const QString& source, ITranslationTable& translations) {
-    const std::string text = source.toStdString();
-    Ref<IString> translated;
-    return translations.translate(toText(text), translated.out()) == kOk
-               ? QString::fromStdString(take(translated))
-               : source;
-}
-
 QByteArray translateForm(const std::string& form, ITranslationTable& translations) {
     QByteArray translated;
     QXmlStreamReader reader(QByteArray::fromRawData(form.data(), static_cast<qsizetype>(form.size())));
@@ -53,8 +46,9 @@ QByteArray translateForm(const std::string& form, ITranslationTable& translation
         reader.readNext();
         writer.writeCurrentToken(reader);
         if (startsText(reader)) {
-            const QString source = reader.readElementText();
-            writer.writeCharacters(source.isEmpty() ? source : translate(source, translations));
+            const std::string source = reader.readElementText().toStdString();
+            writer.writeCharacters(
+                QString::fromStdString(source.empty() ? source : translate(toText(source), &translations)));
             writer.writeEndElement();
         }
     }

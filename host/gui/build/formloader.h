@@ -22,9 +22,6 @@ public:
     QLayout* createLayout(const QString& className, QObject* parent, const QString& name) override;
 };
 
-/// A text in the user's language; as it is when there is no translation.
-QString translate(const QString& source, ITranslationTable& translations);
-
 /// The form with its texts in the user's language. `form` is well-formed; texts marked as not to be
 /// translated (`notr`) stay as they are.
 QByteArray translateForm(const std::string& form, ITranslationTable& translations);

@@ -2,6 +2,7 @@
 
 #include "framework/support/objects/object.h"
 #include "framework/support/objects/text.h"
+#include "framework/support/parts/translation.h"
 
 #include <QMenu>
 #include <QMimeData>
@@ -40,11 +41,8 @@ void addCommands(QMenu& menu, const Ref<ICommandList>& commands, ITranslationTab
             category = std::move(own);
         }
         // A "&" of a name is a letter of it.
-        const Text source = commands->nameAt(i);
-        Ref<IString> translated;
-        const bool isTranslated = translations && translations->translate(source, translated.out()) == kOk;
-        const auto name = QString::fromStdString(isTranslated ? take(translated) : toString(source));
-        auto* action = menu.addAction(QString(name).replace(QLatin1Char('&'), QLatin1String("&&")));
+        auto name = QString::fromStdString(translate(commands->nameAt(i), translations));
+        auto* action = menu.addAction(name.replace(QLatin1Char('&'), QLatin1String("&&")));
         action->setEnabled(commands->isEnabled(i));
         QObject::connect(action, &QAction::triggered, &menu, [commands, i] { commands->perform(i); });
     }
