@@ -23,7 +23,7 @@ std::vector<Ref<ITranslationTable>> tablesOfPanels() {
 
 /// The name of a class in the user's language, where one of the tables has it.
 std::string nameOf(const ClassDescription& found, const std::vector<Ref<ITranslationTable>>& tables) {
-    const std::string source = toString(found.name);
+    std::string source = toString(found.name);
     for (const auto& table : tables) {
         if (auto translated = translate(found.name, table.get()); translated != source) {
             return translated;
