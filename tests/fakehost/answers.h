@@ -5,6 +5,7 @@
 #include "framework/support/objects/value.h"
 
 #include <memory>
+#include <regex>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -49,6 +50,11 @@ public:
 private:
     mutable std::unique_ptr<char[]> m_lent;
 };
+
+/// A document on one line.
+inline std::string withoutLayout(const std::string& json) {
+    return std::regex_replace(json, std::regex("\n *|(:) "), "$1");
+}
 
 // What users and forms do with a component.
 

@@ -90,7 +90,7 @@ public:
         }
         for (const auto& [url, bytes] : m_disk.files) {
             if (url.starts_with(prefix)) {
-                m_listing += url.substr(prefix.size()) + "=" + bytes + ";";
+                m_listing += url.substr(prefix.size()) + "=" + withoutLayout(bytes) + ";";
             }
         }
         progress->update(0.5, xbr::toText("half"));

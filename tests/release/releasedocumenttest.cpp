@@ -14,7 +14,7 @@ std::string toJson(const xbr::Attributes& attributes) {
     const auto stream = xbr::make<xbr::MemoryStream>();
     xbr::writeJson(attributes, *stream);
     xbr::rewind(*stream);
-    return xbr::readAll(*stream);
+    return fakehost::withoutLayout(xbr::readAll(*stream));
 }
 
 TEST(ReleaseDocument, ReleaseKeysDependOnWhatIsKnown) {
