@@ -5,12 +5,8 @@
 
 #include <nlohmann/json.hpp>
 
+namespace xbr::host::tests {
 namespace {
-
-using e2e::Moment;
-using e2e::Panel;
-using e2e::PublishingStage;
-namespace fs = std::filesystem;
 
 /// Something that happens in the middle of an upload.
 struct Disturbance {
@@ -28,13 +24,10 @@ const Disturbance kDisturbances[] = {
          }
      }},
     {"SignOut", [](auto& stage, Moment) { stage.first->perform("Client/resetAuthorization"); }},
-    {"ModeSwitch",
-     [](auto& stage, Moment) {
-         stage.first->setMode(stage.first->mode() == Panel::kAlbum ? Panel::kSingles : Panel::kAlbum);
-     }},
+    {"ModeSwitch", [](auto& stage, Moment) { stage.first->setAlbum(!stage.first->isAlbum()); }},
     {"TrackAdded", [](auto& stage, Moment) { stage.first->add({stage.song("later")}); }},
     {"TrackRemoved", [](auto& stage, Moment) { stage.first->remove(0); }},
-    {"TrackEdited", [](auto& stage, Moment) { stage.first->edit(0, "songTitle", xbr::textValue("edited")); }},
+    {"TrackEdited", [](auto& stage, Moment) { stage.first->edit(0, "songTitle", textValue("edited")); }},
     {"SecondPanel", [](auto& stage, Moment) { stage.second->perform("upload"); }},
     {"SecondPublish",
      [](auto& stage, Moment) {
@@ -62,12 +55,12 @@ protected:
                 continue;
             }
             Release& release = releases.emplace_back();
-            const auto document = nlohmann::json::parse(xbr::host::readFile(folder.path() / "metadata.json"));
+            const auto document = nlohmann::json::parse(readFile(folder.path() / "metadata.json"));
             for (const auto& song : document.at("songs")) {
                 release.titles[song.at("audio_filename")] = song.at("title");
             }
             for (const auto& file : fs::directory_iterator(folder.path() / "assets")) {
-                release.audio[file.path().filename()] = xbr::host::readFile(file.path());
+                release.audio[file.path().filename()] = readFile(file.path());
             }
         }
         return releases;
@@ -86,8 +79,8 @@ protected:
         for (auto* panel : {&stage.first, &stage.second}) {
             for (const auto& track : (*panel)->tracks()) {
                 EXPECT_FALSE(track.isUploading) << track.file;
-                if (track.state == Panel::kDone) {
-                    EXPECT_EQ(m_arrivals[track.file], 1) << track.file << " shows Done";
+                if (track.state == TrackState::kDone) {
+                    EXPECT_EQ(m_arrivals[fs::path(track.file).filename()], 1) << track.file << " shows Done";
                 }
             }
         }
@@ -96,10 +89,7 @@ protected:
     /// A release that follows holds its own file and no other.
     void expectNextReleaseIsClean() {
         stage.signInAgain();
-        stage.first->clear();
-        stage.first->setMode(Panel::kSingles);
-        stage.first->add({stage.song("next")});
-        stage.first->complete();
+        stage.first->prepare(false, {stage.song("next")});
         stage.first->perform("upload");
         stage.settle();
         auto releases = arrived();
@@ -108,7 +98,7 @@ protected:
         std::erase_if(releases, [](const Release& release) { return !release.audio.contains("next.wav"); });
         ASSERT_EQ(releases.size(), 1U);
         EXPECT_EQ(releases[0].audio.size(), 1U);
-        EXPECT_EQ(stage.first->tracks().at(0).state, Panel::kDone);
+        EXPECT_EQ(stage.first->tracks().at(0).state, TrackState::kDone);
         EXPECT_EQ(stage.leftFiles(), std::vector<fs::path>());
     }
 
@@ -122,10 +112,10 @@ TEST_P(Disturbances, LeaveTheTruthInEveryTrack) {
                                                       {"packing", Moment::kPacking},
                                                       {"sending", Moment::kSending},
                                                       {"waiting", Moment::kWaiting}};
-    for (const auto mode : {Panel::kSingles, Panel::kAlbum}) {
+    for (const bool asAlbum : {false, true}) {
         for (const auto& [name, moment] : moments) {
-            SCOPED_TRACE(std::string(mode == Panel::kAlbum ? "album, " : "singles, ") + name);
-            stage.prepare(mode);
+            SCOPED_TRACE(std::string(asAlbum ? "album, " : "singles, ") + name);
+            stage.prepare(asAlbum);
             m_arrivals.clear();
             const auto& happen = GetParam().happen;
             if (!happen) {
@@ -152,3 +142,4 @@ INSTANTIATE_TEST_SUITE_P(Each, Disturbances, testing::ValuesIn(kDisturbances),
                          [](const auto& each) { return std::string(each.param.name); });
 
 } // namespace
+} // namespace xbr::host::tests

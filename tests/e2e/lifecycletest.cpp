@@ -1,57 +1,58 @@
-// Loads and unloads the built extension through its two entry points, as a host does.
+// Loads and unloads the built extension as the host does.
 
 #include "framework/abi/filesystem.h"
 #include "framework/abi/filetype.h"
-#include "framework/abi/pluginmanager.h"
-#include "framework/abi/publisher.h"
-#include "framework/abi/view.h"
+#include "framework/support/objects/text.h"
 #include "framework/support/parts/path.h"
+#include "host/app/modules/gadgetpanel.h"
+#include "host/app/modules/loadedmodule.h"
+#include "host/app/modules/publishentry.h"
 #include "host/gui/hostgui.h"
-#include "tests/e2e/builtmodule.h"
 
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+namespace xbr::host::tests {
 namespace {
 
-using e2e::create;
-using e2e::Library;
+struct Context final : Object<IHostContext> {
+    std::uint32_t borderVersion() const noexcept override { return kBorderVersion; }
+    Text hostName() const noexcept override { return toText("lifecycle test"); }
+    Text hostVersion() const noexcept override { return toText("1"); }
+};
 
 /// Everything that a host makes of a module, and back.
-void useEverything(xbr::IClassFactory& factory) {
-    const auto callback = xbr::toText("brindlex://authorize?code=c");
-    const auto context = xbr::make<e2e::Context>();
-    const auto service = create<xbr::IProgramService>(factory, 0);
-    ASSERT_TRUE(service);
-    ASSERT_EQ(service->initialise(context.get()), xbr::kOk);
-    xbr::Ref<xbr::IClassFactory> classes;
-    ASSERT_EQ(service->getClasses(classes.out()), xbr::kOk);
+void useEverything(IHostContext& context) {
+    const auto callback = toText("brindlex://authorize?code=c");
     {
-        EXPECT_TRUE(create<xbr::IPublisher>(*classes, 0));
-        EXPECT_TRUE(create<xbr::IGadgetDescription>(*classes, 2));
-        const auto gadget = create<xbr::IController>(*classes, 1);
-        ASSERT_TRUE(gadget);
-        const auto* genres = xbr::findParameter(*gadget, "TrackList/TrackProperties/primaryGenre");
+        const auto module = LoadedModule::load(BRINDLEX_MODULE, context);
+        ASSERT_TRUE(module);
+        EXPECT_TRUE(createPublisher(findPublishEntries().at(0)));
+        const auto panel = GadgetPanel::open(findGadgets().at(0), {});
+        ASSERT_TRUE(panel);
+        const auto* genres = findParameter((*panel)->controller(), "TrackList/TrackProperties/primaryGenre");
         ASSERT_NE(genres, nullptr);
         EXPECT_EQ(genres->countChoices(), 135);
         EXPECT_TRUE(XBRGetFileTypeRegistry()->openUrl(callback));
     }
-    EXPECT_EQ(service->terminate(), xbr::kOk);
     EXPECT_FALSE(XBRGetFileTypeRegistry()->openUrl(callback));
+    EXPECT_FALSE(XBRGetFileSystem()->fileExists(toText("resource://brindlex/gadget.xml")));
 }
 
 TEST(Lifecycle, TheModuleIsLoadedAndItsLibraryOpenedAgainAndAgain) {
-    xbr::host::registerGuiClasses();
+    registerGuiClasses();
+    const auto context = make<Context>();
     for (int opened = 0; opened < 5; ++opened) {
-        {
-            Library library;
-            for (int loaded = 0; loaded < 5; ++loaded) {
-                ASSERT_EQ(library.load(), 1);
-                useEverything(*library.getFactory());
-                ASSERT_EQ(library.unload(), 1);
-                ASSERT_FALSE(XBRGetFileSystem()->fileExists(xbr::toText("resource://brindlex/gadget.xml")));
-            }
+        void* const library = dlopen(BRINDLEX_MODULE, RTLD_NOW | RTLD_LOCAL);
+        for (int loaded = 0; loaded < 5; ++loaded) {
+            useEverything(*context);
         }
-        ASSERT_FALSE(Library::isMapped()) << "something keeps the library from being closed";
+        dlclose(library);
+        ASSERT_EQ(dlopen(BRINDLEX_MODULE, RTLD_NOW | RTLD_NOLOAD), nullptr)
+            << "something keeps the library from being closed";
     }
-    xbr::host::unregisterGuiClasses();
+    unregisterGuiClasses();
 }
 
 } // namespace
+} // namespace xbr::host::tests

@@ -77,20 +77,52 @@ TEST_F(Display, warnsOnceOfWhatItCannotBindAndShowsTheRest) {
     EXPECT_NE(warnings.find("form F"), std::string::npos) << warnings;
 }
 
-TEST_F(Display, aBrokenSkinIsRefused) {
-    folder.write("good.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
-    folder.write("bad.svg", "<svg>");
-    folder.write("a.qss", "QLabel { color: red }");
-    const std::pair<const char*, Result> table[] = {
-        {"<Image file='good.svg'/><Style file='a.qss' appearance='dark'/>", kOk},
-        {"<Image file='bad.svg'/>", kInvalidArgument},
-        {"<Image file='none.svg'/>", kInvalidArgument},
-        {"<Image file='a.qss'/>", kInvalidArgument},
-        {"<Image file='good.svg'/><Image file='good.svg'/>", kInvalidArgument},
-        {"<Style file='a.qss' appearance='odd'/>", kInvalidArgument},
+TEST_F(Display, aBrokenSkinIsRefusedAsAWhole) {
+    const std::string form = "<ui version='4.0'><class>F</class></ui>";
+    folder.write("skin/f.ui", form);
+    const auto expectLoaded = [&](const std::string& manifest, Result result) {
+        folder.write("skin/skin.xml", manifest);
+        const auto theme = createHostObject<ITheme>();
+        EXPECT_EQ(theme->load(toText(folder.url("skin"))), result) << manifest.substr(0, 99);
+        EXPECT_EQ(theme->hasForm(toText("F")), result == kOk && manifest != "<Skin/>") << manifest;
+        EXPECT_FALSE(theme->hasForm(toText("X")));
+        Ref<IView> view;
+        EXPECT_EQ(theme->createView(toText("X"), root.get(), view.out()), kFalse);
+        EXPECT_EQ(theme->createView(toText("F"), nullptr, view.out()), kInvalidArgument);
     };
-    for (const auto& [entries, result] : table) {
-        EXPECT_EQ(load(entries), result) << entries;
+    folder.write("outside.ui", form);
+    folder.write("skin/good.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    folder.write("skin/bad.svg", "<svg>");
+    folder.write("skin/a.qss", "QLabel { color: red }");
+    folder.write("skin/latin.qss", "/* \xE9 */");
+    const std::string good =
+        "<Skin><Images><Form name='X' file='none'/></Images><Form name='F' file='f.ui'/>";
+    for (const char* entry : {"", "<Image file='good.svg'/><Style file='a.qss' appearance='dark'/>"}) {
+        expectLoaded(good + entry + "</Skin>", kOk);
+    }
+    expectLoaded("<Skin/>", kOk);
+    for (const char* entry :
+         {"<Form name='B' file='none.ui'/>", "<Form name='B' file=''/>", "<Form name='B'/>",
+          "<Form file='f.ui'/>", "<Form name='F' file='f.ui'/>", "<Form name='B' file='../outside.ui'/>",
+          "<Form name='B' file='/etc/hosts'/>", "<Form name='B' file='.'/>", "<Style file='none.qss'/>",
+          "<Style file='latin.qss'/>", "<Style file='a.qss' appearance='odd'/>", "<Image file='bad.svg'/>",
+          "<Image file='none.svg'/>", "<Image file='a.qss'/>",
+          "<Image file='good.svg'/><Image file='good.svg'/>"}) {
+        expectLoaded(good + entry + "</Skin>", kInvalidArgument);
+    }
+    for (const std::string& bad :
+         {std::string("<html/>"), std::string("<ui><class>"), std::string("<ui/><ui/>"),
+          std::string("<!DOCTYPE ui [<!ENTITY a 'b'>]><ui>&a;</ui>"),
+          "<ui>" + std::string(5U << 20U, ' ') + "</ui>"}) {
+        folder.write("skin/b.ui", bad);
+        expectLoaded(good + "<Form name='B' file='b.ui'/></Skin>", kInvalidArgument);
+    }
+    for (const char* manifest : {"", "<Skin>", "<Theme/>", "no xml", "<!DOCTYPE Skin><Skin/>"}) {
+        expectLoaded(manifest, kInvalidArgument);
+    }
+    const auto theme = createHostObject<ITheme>();
+    for (const auto& url : {std::string("resource://nobody/skin"), folder.url("")}) {
+        EXPECT_EQ(theme->load(toText(url)), kFalse) << "a folder without manifest is no skin";
     }
 }
 

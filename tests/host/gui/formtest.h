@@ -72,14 +72,9 @@ protected:
         for (const std::string& each : m_forms) {
             entries += each;
         }
-        load(entries);
-    }
-
-    /// Reads a skin of these entries.
-    Result load(const std::string& entries) {
         folder.write("skin.xml", "<Skin>" + entries + "</Skin>");
         m_theme = createHostObject<ITheme>();
-        return m_theme->load(toText(folder.url("")));
+        EXPECT_EQ(m_theme->load(toText(folder.url(""))), kOk);
     }
 
     Ref<IView> view(std::string_view name) {
