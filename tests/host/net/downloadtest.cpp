@@ -39,7 +39,7 @@ struct Download {
     DownloadState run() {
         EXPECT_EQ(task->start(), kOk);
         EXPECT_EQ(recorder->names, Names()) << "nothing is heard inside start";
-        spinUntil([this] { return !isRunning(); });
+        runUntil([this] { return !isRunning(); });
         return task->state();
     }
     std::string data() const {
@@ -71,7 +71,7 @@ TEST(Downloads, tellTheirEndOnce) {
         const ScriptedServer server(answering(bytes));
         Download download(server.url("/feed"));
         EXPECT_EQ(download.run(), data ? DownloadState::kComplete : DownloadState::kFailed);
-        spinFor(20);
+        runFor(20);
         EXPECT_EQ(download.data(), data ? data : "(none)");
         EXPECT_EQ(download.recorder->names, Names{"stateChanged"}) << bytes.substr(0, 99);
         EXPECT_EQ(download.recorder->sender, download.subject.get());
@@ -167,7 +167,7 @@ TEST(Downloads, takeTheirTurnsAFewAtATime) {
         EXPECT_EQ(downloads[i]->task->cancel(), kFalse);
         downloads.erase(downloads.begin() + static_cast<std::ptrdiff_t>(i) - 2); // goes in the same state
     }
-    spinUntil([&] {
+    runUntil([&] {
         return std::none_of(downloads.begin(), downloads.end(), [](auto& each) { return each->isRunning(); });
     });
     for (const auto& download : downloads) {
@@ -194,7 +194,7 @@ TEST(Downloads, endSilentlyWithTheProgramAndMayEndInTheirOwnMessage) {
     const ScriptedServer silent(&Peer::waitForClose);
     const auto all = crowd(silent);
     abortAllRequests();
-    spinFor(50);
+    runFor(50);
     for (const auto& download : all) {
         EXPECT_FALSE(download->isRunning());
         EXPECT_EQ(download->recorder->names, Names());
@@ -206,7 +206,7 @@ TEST(Downloads, endSilentlyWithTheProgramAndMayEndInTheirOwnMessage) {
         download.task.reset();
     };
     download.task->start();
-    EXPECT_TRUE(spinUntil([&] { return !download.task; }));
+    EXPECT_TRUE(runUntil([&] { return !download.task; }));
 }
 
 } // namespace

@@ -4,10 +4,7 @@
 #include "framework/support/objects/text.h"
 #include "framework/support/objects/value.h"
 #include "tests/fixtures/streams.h"
-
-#include <QElapsedTimer>
-#include <QEventLoop>
-#include <QTimer>
+#include "tests/fixtures/testfolder.h"
 
 #include <algorithm>
 #include <functional>
@@ -16,27 +13,6 @@
 #include <vector>
 
 namespace xbr::host::test {
-
-/// Runs the event loop until `done`; false when that took longer than `milliseconds`.
-inline bool spinUntil(const std::function<bool()>& done, int milliseconds = 10'000) {
-    QEventLoop loop;
-    QElapsedTimer clock;
-    clock.start();
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        if (done() || clock.elapsed() > milliseconds) {
-            loop.quit();
-        }
-    });
-    poll.start(1);
-    loop.exec();
-    return done();
-}
-
-/// Runs the event loop for that long.
-inline void spinFor(int milliseconds) {
-    spinUntil([] { return false; }, milliseconds);
-}
 
 /// A handler that writes down what it hears.
 class Recorder final : public Object<IObserver> {
@@ -100,7 +76,7 @@ inline Exchanged exchange(IWebRequest& request, IStream* body = nullptr) {
     if (request.send(body, recorder.get()) != kOk) {
         return {};
     }
-    spinUntil([&] { return recorder->heard("onloadend") + recorder->heard("onabort") > 0; });
+    runUntil([&] { return recorder->heard("onloadend") + recorder->heard("onabort") > 0; });
     Ref<IStream> answered;
     Ref<IString> error;
     request.getErrorText(error.out());

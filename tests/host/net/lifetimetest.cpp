@@ -88,7 +88,7 @@ TEST_F(Lifetime, oneShot) {
     EXPECT_TRUE(request->isBusy());
     EXPECT_EQ(request->send(nullptr, recorder.get()), kUnexpected);
     EXPECT_EQ(request->open(toText("GET"), toText(quick.url()), nullptr), kUnexpected);
-    ASSERT_TRUE(spinUntil([&] { return recorder->heard("onloadend") > 0; }));
+    ASSERT_TRUE(runUntil([&] { return recorder->heard("onloadend") > 0; }));
     EXPECT_FALSE(busyInHandler);
     EXPECT_EQ(recorder->sender, query<ISubject>(request.get()).get());
     EXPECT_EQ(request->send(nullptr, recorder.get()), kUnexpected);
@@ -109,12 +109,12 @@ TEST_F(Lifetime, abortAtAnyMoment) {
                                        {hanging.url(), later},
                                        {hanging.url(), inTheBody}}) {
         const auto request = send("POST", url, body());
-        EXPECT_TRUE(reached() || spinUntil(reached));
+        EXPECT_TRUE(reached() || runUntil(reached));
         EXPECT_EQ(request->abort(), kOk);
         EXPECT_FALSE(request->isBusy());
         EXPECT_EQ(recorder->heard("onabort"), 0) << "told from within abort";
         EXPECT_EQ(request->abort(), kFalse);
-        spinFor(150);
+        runFor(150);
         EXPECT_EQ(recorder->heard("onabort"), 1);
         EXPECT_EQ(recorder->names.back(), "onabort");
         EXPECT_EQ(request->status(), 0);
@@ -158,8 +158,8 @@ TEST_F(Lifetime, handlersMayDoAnything) {
             const bool isOver = deed == kRelease || deed == kEndAll;
             const bool isEnding = moment == "onprogress" && !isOver;
             const std::string last = !isEnding ? moment : deed == kAbort ? "onabort" : "onloadend";
-            EXPECT_TRUE(spinUntil([&] { return !names.empty() && names.back() == last; }));
-            spinFor(50);
+            EXPECT_TRUE(runUntil([&] { return !names.empty() && names.back() == last; }));
+            runFor(50);
             EXPECT_EQ(names.back(), last);
             EXPECT_FALSE(request && request->isBusy());
             EXPECT_EQ(flying->isBusy(), deed != kEndAll);
@@ -172,7 +172,7 @@ TEST_F(Lifetime, handlersMayDoAnything) {
 TEST_F(Lifetime, bodyMayEndTheRequestThatReadsItOrBeUnreadable) {
     Ref<IWebRequest> request;
     const auto runLoop = [&] {
-        spinFor(100);
+        runFor(100);
         request->abort();
     };
     const struct {
@@ -189,7 +189,7 @@ TEST_F(Lifetime, bodyMayEndTheRequestThatReadsItOrBeUnreadable) {
     const ScriptedServer reading(&Peer::waitForClose);
     for (const auto& [onRead, aborts, ends, result, excess] : cases) {
         request = send("POST", reading.url(), make<BodyStream>(onRead, result, excess));
-        spinUntil([&] { return recorder->heard("onloadend") > 0; }, ends > 0 ? 10'000 : 300);
+        runUntil([&] { return recorder->heard("onloadend") > 0; }, ends > 0 ? 10'000 : 300);
         EXPECT_FALSE(request && request->isBusy());
         EXPECT_EQ(recorder->heard("onabort"), aborts);
         EXPECT_EQ(recorder->heard("onloadend"), ends);
@@ -209,23 +209,23 @@ TEST_F(Lifetime, releasedInFlight) {
     }));
     auto request = send("POST", server.url(), body());
     const auto* heard = std::exchange(recorder, {}).get();
-    spinUntil([&] { return heard->heard("onprogress") > 0; });
+    runUntil([&] { return heard->heard("onprogress") > 0; });
     EXPECT_EQ(Recorder::alive(), 1) << "the request keeps its handler";
     request.reset();
     EXPECT_EQ(Recorder::alive(), 0);
-    EXPECT_TRUE(spinUntil([&] { return closed.load(); }));
+    EXPECT_TRUE(runUntil([&] { return closed.load(); }));
     recorder = make<Recorder>();
 }
 
 TEST_F(Lifetime, endOfAllRequests) {
     const auto aborted = send("POST", hanging.url(), body());
     const auto lookingUp = send("GET", "http://slow.invalid/", body());
-    spinFor(100);
+    runFor(100);
     aborted->abort();
     recorder->names.clear();
     abortAllRequests();
     EXPECT_FALSE(lookingUp->isBusy());
-    spinFor(100);
+    runFor(100);
     EXPECT_TRUE(recorder->names.empty());
 }
 

@@ -67,7 +67,7 @@ TEST_F(Tls, documentsStayWithIt) {
     Ref<IDownloadTask> task;
     query<IDownloadService>(XBRGetWebService())->createTask(toText(secure.url()), task.out());
     task->start();
-    EXPECT_TRUE(spinUntil([&] { return task->state() != DownloadState::kRunning; }));
+    EXPECT_TRUE(runUntil([&] { return task->state() != DownloadState::kRunning; }));
     EXPECT_EQ(task->state(), DownloadState::kFailed);
     EXPECT_EQ(plain.connections(), 0);
 }

@@ -29,9 +29,6 @@ protected:
     void becameQuiet() override { m_log.emplace_back("quiet"); }
 
     std::vector<std::string> log() { return std::exchange(m_log, {}); }
-    void runLoop() {
-        runUntil([] { return false; }, 20);
-    }
 
     Activity m_activity;
     Activity::Handle m_watching = m_activity.watch(*this);
@@ -54,26 +51,26 @@ TEST_F(ActivityTest, restComesWhenTheLastThingHasEnded) {
     EXPECT_TRUE(m_activity.isQuiet()) << "for a moment, inside a call that goes on";
     {
         const Activity::Run next(m_activity, Kind::kDialog, {});
-        runLoop();
+        runFor(20);
         EXPECT_THAT(log(), ElementsAre("begins 1", "cancelled", "begins 0"));
     }
     const auto receiver = make<Receiver>([this] {
         m_log.emplace_back("message");
-        runLoop(); // as a dialog does
+        runFor(20); // as a dialog does
     });
     XBRGetSignalHandler()->post(receiver.get(), make<Message>("x").get(), 0);
     EXPECT_FALSE(m_activity.isQuiet());
-    runLoop();
+    runFor(20);
     EXPECT_THAT(m_log, ElementsAre("ends", "message", "quiet"));
     log();
 
     m_activity.askForQuiet();
     EXPECT_THAT(log(), IsEmpty());
-    runLoop();
+    runFor(20);
     EXPECT_THAT(log(), ElementsAre("quiet"));
     m_watching.reset();
     m_activity.askForQuiet();
-    runLoop();
+    runFor(20);
     EXPECT_THAT(log(), IsEmpty());
 }
 
@@ -85,7 +82,7 @@ TEST_F(ActivityTest, requestsAreWaitedFor) {
     ASSERT_EQ(request->send(nullptr, next.get()), kOk);
     EXPECT_FALSE(m_activity.isQuiet());
     EXPECT_TRUE(runUntil([this] { return m_activity.isQuiet(); }));
-    runLoop();
+    runFor(20);
     EXPECT_THAT(log(), ElementsAre("request", "handler", "no server", "quiet"));
 }
 
