@@ -9,8 +9,9 @@
 #include "host/app/modules/publishentry.h"
 #include "host/gui/hostgui.h"
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
+
+#include <dlfcn.h>
 
 namespace xbr::host::tests {
 namespace {
