@@ -1,8 +1,8 @@
 // The same songs, options and answers through both front ends: one plan, one verdict, one sentence.
 
 #include "host/app/window/frame/statusline.h"
-#include "tests/e2e/fulldisk.h"
 #include "tests/window/fixture.h"
+#include "tests/window/smalldisk.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -50,9 +50,9 @@ Case singles(std::vector<std::string> songs, const More&... more) {
 
 class CasesTest : public WindowTest {
 protected:
-    CasesTest() { qputenv("TMPDIR", e2e::SmallDisk::place().c_str()); }
+    CasesTest() { qputenv("TMPDIR", SmallDisk::place().c_str()); }
 
-    const bool isDiskSmall = e2e::SmallDisk::place() != fs::temp_directory_path();
+    const bool isDiskSmall = SmallDisk::place() != fs::temp_directory_path();
 
     /// What a run of the program told.
     struct Ran {
@@ -186,7 +186,7 @@ TEST_F(CasesTest, bothFrontEndsSayTheSame) {
     const std::vector<std::string> numbered(songs.rbegin(), songs.rend()); // the window sorts
     writeFile(stage.path("text.wav"), "no song");
     const std::string all = "published published published ";
-    const std::string filler = (e2e::SmallDisk::place() / "filler").string();
+    const std::string filler = (SmallDisk::place() / "filler").string();
     const std::string going = "rm '" + stage.path("going.wav") + "'";
     const std::string filling = "cat /dev/zero >'" + filler + "' 2>/dev/null";
     const Case cases[] = {

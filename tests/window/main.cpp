@@ -1,5 +1,5 @@
 #include "host/app/texts/programtexts.h"
-#include "tests/e2e/fulldisk.h"
+#include "tests/window/smalldisk.h"
 
 #include <QApplication>
 #include <QStyleFactory>
@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-    e2e::SmallDisk::mountOne();
+    xbr::host::tests::SmallDisk::mountOne();
     ::testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create("Fusion"));

@@ -1,11 +1,11 @@
-#include "tests/e2e/fulldisk.h"
+#include "tests/window/smalldisk.h"
 
 #include <fstream>
 #include <sched.h>
 #include <sys/mount.h>
 #include <unistd.h>
 
-namespace e2e {
+namespace xbr::host::tests {
 
 namespace {
 
@@ -42,4 +42,4 @@ std::filesystem::path SmallDisk::place() {
     return g_isMounted ? kPlace : std::filesystem::temp_directory_path();
 }
 
-} // namespace e2e
+} // namespace xbr::host::tests

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-namespace e2e {
+namespace xbr::host::tests {
 
 /// A small file system of its own that can be filled up, where the system lets a process mount one.
 class SmallDisk {
@@ -14,4 +14,4 @@ public:
     static std::filesystem::path place();
 };
 
-} // namespace e2e
+} // namespace xbr::host::tests
