@@ -17,7 +17,7 @@ namespace xbr::host {
 namespace {
 
 /// How long rows are made before others have their turn.
-constexpr int kMilliseconds = 6;
+constexpr int kMilliseconds = 2;
 
 /// In heights of the list: how far from what is seen rows are made, and how far away they go.
 constexpr int kNear = 1;
