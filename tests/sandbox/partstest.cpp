@@ -1,5 +1,4 @@
 #include "sandbox/http/form.h"
-#include "sandbox/pages/grants.h"
 #include "sandbox/upload/metadata.h"
 #include "sandbox/upload/multipart.h"
 #include "sandbox/upload/refusal.h"
@@ -9,9 +8,7 @@
 
 namespace {
 
-using namespace std::chrono_literals;
 using namespace std::string_literals;
-using sandbox::Grants;
 
 TEST(Metadata, IsTakenAsTheServiceTakesIt) {
     const auto good =
@@ -136,30 +133,6 @@ TEST(Visitor, OpensThisComputerOnly) {
           "http://127.0.0.1:80@example.org/", "http://localhost:\\example.org"}) {
         EXPECT_FALSE(sandbox::isOfThisComputer(url)) << url;
     }
-}
-
-TEST(GrantsTest, WorkOnceForTheirClientAndAddressAndForSomeTime) {
-    Grants::Clock::time_point now{};
-    Grants grants(1h, [&] { return now; });
-    const auto used = grants.issueCode("c", "u");
-    EXPECT_TRUE(grants.redeemCode(used, "c", "u"));
-    EXPECT_FALSE(grants.redeemCode(used, "c", "u"));
-    for (const auto& [client, address] : {std::pair{"c", "v"}, {"d", "u"}, {"", ""}}) {
-        const auto code = grants.issueCode("c", "u");
-        EXPECT_FALSE(grants.redeemCode(code, client, address));
-        EXPECT_FALSE(grants.redeemCode(code, "c", "u")) << "a failed try uses the code up";
-    }
-    const auto code = grants.issueCode("c", "u");
-    const auto ticket = grants.issueTicket();
-    const auto token = grants.issueAccessToken();
-    now += 10min;
-    EXPECT_FALSE(grants.redeemCode(code, "c", "u"));
-    EXPECT_FALSE(grants.redeemTicket(ticket));
-    EXPECT_TRUE(grants.accepts(token));
-    now += 50min;
-    EXPECT_FALSE(grants.accepts(token));
-    grants.issueAccessToken();
-    EXPECT_EQ(grants.counts().tokens, 1U) << "what ran out is forgotten";
 }
 
 } // namespace
