@@ -74,9 +74,17 @@ TEST_F(ManagerTest, AccountReplyDecidesWhoIsShown) {
         host().signals.posts.clear();
         host().web.answer(status, body);
         EXPECT_EQ(text("userName"), name) << status;
-        EXPECT_EQ(host().signals.posts.size(), status == 401 ? 1U : 0U) << status;
+        EXPECT_EQ(host().signals.posts, std::vector<std::string>(status == 401, "refreshAccessToken 0"));
         signOut();
     }
+}
+
+TEST_F(ManagerTest, AViewMayHoldTheClientLonger) {
+    connectWithStoredTokens();
+    EXPECT_TRUE(host().web.isInFlight());
+    const auto client = xbr::Ref<xbr::IController>::share(&manager->client());
+    manager.reset();
+    EXPECT_FALSE(host().web.isInFlight());
 }
 
 TEST_F(ManagerTest, FirstInstanceIsTheCurrentOne) {

@@ -36,4 +36,19 @@ FakeHost& host();
 /// Starts a new one; call it at the beginning of each test, when nothing of the last one is left.
 void resetHost();
 
+/// Does something when a subject sends anything.
+class Listener final : public xbr::Object<xbr::IObserver> {
+public:
+    explicit Listener(xbr::ISubject& subject) { XBRGetSignalHandler()->addObserver(&subject, this); }
+    ~Listener() override { XBRGetSignalHandler()->forgetObserver(this); }
+
+    void notify(xbr::ISubject*, xbr::IMessage* message) noexcept override {
+        if (hook) {
+            hook(xbr::toString(message->name()));
+        }
+    }
+
+    std::function<void(std::string)> hook;
+};
+
 } // namespace fakehost

@@ -48,6 +48,7 @@ TEST_F(ComponentTest, ActsOnlyOnRealChangesByTheUser) {
     EXPECT_EQ(text.setValue(xbr::integerValue(1)), xbr::kInvalidArgument);
     EXPECT_EQ(text.setValue(xbr::textValue("a")), xbr::kOk);
     text.set(xbr::textValue("b"));
+    EXPECT_EQ(number.setValue(xbr::textValue("7")), xbr::kInvalidArgument);
     EXPECT_EQ(number.setValue(xbr::floatValue(99.9)), xbr::kOk);
     EXPECT_EQ(number.integer(), 10) << "held to the range";
     EXPECT_EQ(command.setValue(xbr::integerValue(1)), xbr::kOk);

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,23 +14,9 @@ namespace brindlex {
 
 using fakehost::FakeEntry;
 using fakehost::host;
+using fakehost::Listener;
 using fakehost::property;
 using fakehost::Rows;
-
-/// Does something when a subject sends anything.
-class FeedObserver final : public xbr::Object<xbr::IObserver> {
-public:
-    explicit FeedObserver(xbr::ISubject& subject) { XBRGetSignalHandler()->addObserver(&subject, this); }
-    ~FeedObserver() override { XBRGetSignalHandler()->forgetObserver(this); }
-
-    void notify(xbr::ISubject*, xbr::IMessage* message) noexcept override {
-        if (hook) {
-            hook(xbr::toString(message->name()));
-        }
-    }
-
-    std::function<void(std::string)> hook;
-};
 
 /// Shows a picture, as a form does.
 class Shown {

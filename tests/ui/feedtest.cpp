@@ -180,7 +180,7 @@ TEST_F(FeedTest, DoesNotMixOldAndNew) {
     EXPECT_EQ(host().downloads.started.size(), 1U) << "it runs";
     post(*feed, "restartDownload");
     EXPECT_EQ(host().downloads.running(), 1U) << "the first is given up";
-    const auto observer = xbr::make<FeedObserver>(*feed);
+    const auto observer = xbr::make<Listener>(*feed);
     std::vector<int> seen;
     observer->hook = [&](const std::string& message) {
         if (message == "changed") {
@@ -199,7 +199,7 @@ TEST_F(FeedTest, DoesNotMixOldAndNew) {
 
 TEST_F(FeedTest, LeavesNoOldEntriesBehind) {
     show(manyEntries(3));
-    const auto observer = xbr::make<FeedObserver>(*feed);
+    const auto observer = xbr::make<Listener>(*feed);
     observer->hook = [&](const auto&) {
         observer->hook = nullptr;
         feed->setMaximumEntryCount(2);
@@ -279,7 +279,7 @@ TEST_F(FeedTest, MayGoAtAnyTime) {
     const Shown shown(image);
     const auto parameter = xbr::Ref<xbr::IParameter>::share(feed->parameterAt(0));
     EXPECT_EQ(image->parent(), static_cast<xbr::IController*>(feed.get()));
-    const auto observer = xbr::make<FeedObserver>(*feed);
+    const auto observer = xbr::make<Listener>(*feed);
     observer->hook = [&](const auto&) { feed.reset(); };
     post(*feed, "restartDownload"); // its state changes, and the observer lets go of it
     EXPECT_FALSE(feed);

@@ -101,6 +101,25 @@ TEST_F(TrackListTest, ResetSendsSelectedTracksAgain) {
     EXPECT_FALSE(commands->isEnabled(0));
 }
 
+TEST_F(TrackListTest, AViewThatWritesBackWhatItIsShownChangesNothing) {
+    add({"file:///m/a.wav", "file:///m/b.wav"});
+    list->model().setFocus(0);
+    fakehost::set(list->editor(), "songArtist", xbr::textValue("Ann"));
+    const auto echo = xbr::make<fakehost::Listener>(
+        *xbr::query<xbr::ISubject>(list->editor().findParameter(xbr::toText("songArtist"))));
+    echo->hook = [&](const auto&) { fakehost::set(list->editor(), "songTitle", xbr::textValue("echo")); };
+    list->model().setFocus(1);
+    EXPECT_EQ(record(0).songTitle + record(1).songTitle, "ab");
+}
+
+TEST_F(TrackListTest, APreparedModeHoldsForTheTracksThatAreThere) {
+    add({"file:///m/a.wav"});
+    EXPECT_EQ(record(0).albumTitle, "a");
+    list->prepareMode(UploadMode::kAlbum);
+    add({"file:///m/b.wav"});
+    EXPECT_EQ(record(0).albumTitle, "");
+}
+
 TEST_F(TrackListTest, AlbumTracksStayMarkedUntilTheEnd) {
     add({"file:///m/a.wav", "file:///m/b.wav"});
     list->setCurrentUploadItem(&track(0));
