@@ -78,8 +78,8 @@ TEST_F(Display, warnsOnceOfWhatItCannotBindAndShowsTheRest) {
 }
 
 TEST_F(Display, aBrokenSkinIsRefusedAsAWhole) {
-    const std::string form = "<ui version='4.0'><class>F</class></ui>";
-    folder.write("skin/f.ui", form);
+    const std::string sound = "<ui version='4.0'><class>F</class></ui>";
+    folder.write("skin/f.ui", sound);
     const auto expectLoaded = [&](const std::string& manifest, Result result) {
         folder.write("skin/skin.xml", manifest);
         const auto theme = createHostObject<ITheme>();
@@ -90,7 +90,7 @@ TEST_F(Display, aBrokenSkinIsRefusedAsAWhole) {
         EXPECT_EQ(theme->createView(toText("X"), root.get(), view.out()), kFalse);
         EXPECT_EQ(theme->createView(toText("F"), nullptr, view.out()), kInvalidArgument);
     };
-    folder.write("outside.ui", form);
+    folder.write("outside.ui", sound);
     folder.write("skin/good.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
     folder.write("skin/bad.svg", "<svg>");
     folder.write("skin/a.qss", "QLabel { color: red }");
