@@ -52,10 +52,10 @@ void SystemShell::forget(QProcess* browser, const std::string& problem) {
     std::erase(m_browsers, browser);
     browser->deleteLater();
     if (!problem.empty()) {
-        QTimer::singleShot(0, [this, problem] {
+        QTimer::singleShot(0, [this, url = browser->arguments().front().toStdString(), problem] {
             if (m_problemListener) {
                 const auto listener = m_problemListener; // a copy: it may be replaced while it runs
-                listener(problem);
+                listener(url, problem);
             }
         });
     }

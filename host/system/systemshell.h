@@ -17,8 +17,8 @@ namespace xbr::host {
 /// user can reach the URL without that browser; opening it is a success then in any case.
 using BrowserAnnouncer = std::function<bool(std::string_view url)>;
 
-/// Hears, from the event loop, why a browser that was started has failed.
-using BrowserProblemListener = std::function<void(const std::string& reason)>;
+/// Hears, from the event loop, why a browser that was started for a URL has failed.
+using BrowserProblemListener = std::function<void(const std::string& url, const std::string& reason)>;
 
 class SystemShell final : public Object<ISystemShell> {
 public:

@@ -90,7 +90,8 @@ public:
         }
         for (const auto& [url, bytes] : m_disk.files) {
             if (url.starts_with(prefix)) {
-                m_listing += url.substr(prefix.size()) + "=" + withoutLayout(bytes) + ";";
+                m_listing += url.substr(prefix.size()) + "=";
+                m_listing += (url.ends_with(".json") ? withoutLayout(bytes) : bytes) + ";";
             }
         }
         progress->update(0.5, xbr::toText("half"));

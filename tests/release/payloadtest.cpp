@@ -84,6 +84,20 @@ TEST_F(PayloadTest, WithoutAWholeArchiveThereIsNoRequest) {
     EXPECT_TRUE(brindlex::isPayloadOnDisk()) << "nobody knows where to look";
 }
 
+TEST_F(PayloadTest, TheHostLivesWhileALargeArchiveIsReadAndMayCancel) {
+    int updates = 0;
+    int last = 0;
+    host().objects.onProgressUpdate = [&] { host().objects.cancelled = ++updates == last; };
+    EXPECT_TRUE(build({{"A", kSong}}));
+    const int atLeast = std::exchange(updates, 0);
+    host().files.files[kSong] = std::string(std::size_t{40} << 20U, 'x');
+    EXPECT_TRUE(build({{"A", kSong}}));
+    EXPECT_EQ(std::exchange(updates, 0), atLeast + 2) << "after each 16 MiB, the last 8 aside";
+    last = atLeast + 1;
+    EXPECT_FALSE(build({{"A", kSong}}));
+    EXPECT_EQ(updates, last);
+}
+
 TEST_F(PayloadTest, OnlyAudioFilesOfTheServiceAreTaken) {
     host().files.files["file:///a/folder.wav/inside.txt"] = "";
     for (const char* url : {"file:///a/Song.FLAC", "file:///a/s.wav", "file:///a/s.Mp3"}) {

@@ -224,6 +224,17 @@ TEST_F(WindowTest, aSignInThatComesToNothingSaysWhyAndWorksAgain) {
     EXPECT_TRUE(statusSays("the sign-in was given up"));
     EXPECT_TRUE(isShown("connect"));
 
+    stage.setVisit(Stage::Visit::kGoAway, "sleep 0.3; exit 1"); // a browser that fails too late to matter
+    {
+        const auto cancelling = inDialog<QDialog>([](QDialog& dialog) {
+            dialog.reject();
+            return true;
+        });
+        click(window(), "connect");
+    }
+    QTest::qWait(1000);
+    EXPECT_TRUE(statusSays("the sign-in was given up"));
+
     stage.setVisit(Stage::Visit::kAllow);
     signIn();
     click(window(), "disconnect");

@@ -197,7 +197,7 @@ bool ConsoleFront::keyringWaits(bool isForUser) {
     return true;
 }
 
-void ConsoleFront::browserFailed(const std::string& reason) {
+void ConsoleFront::browserFailed(const std::string&, const std::string& reason) {
     m_output->message(say(Words::tr("The web browser could not be started: %1."), reason));
 }
 

@@ -34,7 +34,7 @@ public:
     bool announceBrowser(std::string_view url) override;
     bool keyringWaits(bool isForUser) override;
     void keyringAnswered() override { m_isKeyringTold = false; }
-    void browserFailed(const std::string& reason) override;
+    void browserFailed(const std::string& url, const std::string& reason) override;
     void callbackCame() override;
 
     Dialogs dialogs() const { return m_dialogs; }

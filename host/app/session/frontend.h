@@ -23,7 +23,7 @@ public:
     virtual bool announceBrowser(std::string_view /*url*/) { return false; }
 
     /// The web browser that was to show a page has failed; comes from the event loop.
-    virtual void browserFailed(const std::string& /*reason*/) {}
+    virtual void browserFailed(const std::string& /*url*/, const std::string& /*reason*/) {}
 
     /// With no more input than to give it up.
     bool keyringWaits(bool /*isForUser*/) override { return true; }

@@ -38,7 +38,8 @@ HostSession::HostSession(FrontEnd& front, SessionOptions options)
         m_browserOpened = std::chrono::steady_clock::now().time_since_epoch().count();
         return m_front.announceBrowser(url);
     });
-    setBrowserProblemListener([this](const std::string& reason) { m_front.browserFailed(reason); });
+    setBrowserProblemListener(
+        [this](const std::string& url, const std::string& reason) { m_front.browserFailed(url, reason); });
     m_activity.setKeyringWaiter(&front);
 }
 

@@ -123,18 +123,21 @@ void WindowFront::tell(const std::vector<Problem>& problems) {
 }
 
 bool WindowFront::announceBrowser(std::string_view url) {
-    m_place.address = toQString(url);
-    return m_session.isBrowserAwaited(); // the address can be copied
+    const bool isForSignIn = m_session.isBrowserAwaited();
+    if (isForSignIn) {
+        m_place.address = toQString(url); // can be copied
+    }
+    return isForSignIn;
 }
 
-void WindowFront::browserFailed(const std::string& reason) {
+void WindowFront::browserFailed(const std::string& url, const std::string& reason) {
     const QString words = QString::fromStdString(reason);
     if (m_place.dialog) {
         m_place.dialog->setNotice(
             Words::tr("The web browser could not be started: %1. Copy the address and open it "
                       "in a browser.")
                 .arg(words));
-    } else {
+    } else if (m_place.address != toQString(url)) { // who has closed the dialog needs its page no more
         m_window->showNotice(
             {NoticeKind::kError, Words::tr("The web browser could not be started: %1.").arg(words)});
     }

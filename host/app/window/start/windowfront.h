@@ -33,7 +33,7 @@ public:
     bool keyringWaits(bool isForUser) override;
     void keyringAnswered() override { m_keyring.reset(); }
     bool announceBrowser(std::string_view url) override;
-    void browserFailed(const std::string& reason) override;
+    void browserFailed(const std::string& url, const std::string& reason) override;
     void callbackCame() override;
 
 private:
