@@ -115,8 +115,10 @@ Delivery sendLinkBack(const std::string& url) {
     std::sort(hosts.begin(), hosts.end(), [](const Host& left, const Host& right) {
         return waitsSince(left.answer) > waitsSince(right.answer);
     });
+    // One that took another link since it was asked leaves this one to the next.
+    const std::string line = std::string(kLinkBack) + url;
     return std::any_of(hosts.begin(), hosts.end(),
-                       [&url](const Host& host) { return ask(host.path, url) == kTaken; })
+                       [&line](const Host& host) { return ask(host.path, line) == kTaken; })
                ? Delivery::kTaken
                : Delivery::kNoHost;
 }

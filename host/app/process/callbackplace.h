@@ -11,10 +11,12 @@ namespace xbr::host {
 /// How long a URL may be, in bytes without the end of the line.
 constexpr std::size_t kMaximumUrlSize = 8192;
 
-// What is said on a connection: one line with a URL is answered by one with `kTaken` or `kNotTaken`, and the
-// question `kWhoWaits` by `kWaits` and a time, or by `kNotTaken`.
+// What is said on a connection, a line each: a URL is answered by `kTaken` or `kNotTaken`, and so is
+// `kLinkBack` and a URL, which only a host takes that waits for a browser at that moment; the question
+// `kWhoWaits` by `kWaits` and a time, or by `kNotTaken`.
 constexpr std::string_view kWhoWaits = "?";
 constexpr std::string_view kWaits = "waits ";
+constexpr std::string_view kLinkBack = "back ";
 constexpr std::string_view kTaken = "ok";
 constexpr std::string_view kNotTaken = "no";
 

@@ -16,6 +16,8 @@ namespace xbr::host {
 
 namespace {
 
+constexpr std::size_t kMaximumLineSize = kLinkBack.size() + kMaximumUrlSize;
+
 bool isPrintable(const std::string& url) {
     return !url.empty() && std::all_of(url.begin(), url.end(), [](char c) {
         const auto byte = static_cast<unsigned char>(c);
@@ -55,7 +57,7 @@ Connection::Connection(QLocalSocket& socket, QObject& parent, CallbackServer& se
     m_later.setInterval(kLookAgain);
     m_later.callOnTimeout([this] { read(); });
     m_socket->setParent(this);
-    m_socket->setReadBufferSize(kMaximumUrlSize + 2);
+    m_socket->setReadBufferSize(kMaximumLineSize + 2);
     connect(m_socket, &QLocalSocket::readyRead, this, [this] { read(); });
     connect(m_socket, &QLocalSocket::disconnected, this, [this] { deleteLater(); });
     m_limit.setSingleShot(true);
@@ -67,23 +69,27 @@ void Connection::read() {
     if (m_isAnswered) {
         return;
     }
-    m_received += m_socket->read(static_cast<qint64>(kMaximumUrlSize) + 1 - m_received.size());
+    m_received += m_socket->read(static_cast<qint64>(kMaximumLineSize) + 1 - m_received.size());
     const auto end = m_received.indexOf('\n');
     if (end >= 0 && m_host->isHeld()) {
         m_later.start();
     } else if (end >= 0) {
         answer(m_received.left(end));
-    } else if (m_received.size() > static_cast<qsizetype>(kMaximumUrlSize)) {
+    } else if (m_received.size() > static_cast<qsizetype>(kMaximumLineSize)) {
         drop();
     }
 }
 
 std::string Connection::answerTo(const std::string& line) {
-    if (line != kWhoWaits) {
-        return std::string(m_server->openUrl(line) ? kTaken : kNotTaken);
+    const bool isQuestion = line == kWhoWaits;
+    const bool isLinkBack = line.starts_with(kLinkBack);
+    const auto since = isQuestion || isLinkBack ? m_host->waitsForBrowserSince() : std::nullopt;
+    if (isQuestion) {
+        return since ? std::string(kWaits) + std::to_string(*since) : std::string(kNotTaken);
     }
-    const auto since = m_host->waitsForBrowserSince();
-    return since ? std::string(kWaits) + std::to_string(*since) : std::string(kNotTaken);
+    const bool isTaken =
+        isLinkBack ? since && m_server->openUrl(line.substr(kLinkBack.size())) : m_server->openUrl(line);
+    return std::string(isTaken ? kTaken : kNotTaken);
 }
 
 void Connection::answer(const QByteArray& line) {

@@ -107,11 +107,14 @@ protected:
         return result.get();
     }
 
-    std::optional<std::int64_t> waitsForBrowserSince() override { return m_since; }
+    std::optional<std::int64_t> waitsForBrowserSince() override {
+        return m_isOvertaken ? std::exchange(m_since, std::nullopt) : m_since;
+    }
     bool isHeld() override { return m_isHeld; }
     void urlCame() override { ++m_told; }
 
     std::optional<std::int64_t> m_since;
+    bool m_isOvertaken = false; ///< another link comes between the question who waits and the link
     bool m_isHeld = false;
     int m_told = 0;
     TestFolder m_place;
@@ -142,7 +145,7 @@ TEST_F(Callbacks, onlyOneOrdinaryLineIsTaken) {
     const std::pair<std::string, const char*> cases[] = {
         {"test:a\ntest:b\n", "ok\n"}, {"\n", "no\n"},
         {"test:a\x1b[2J\n", "no\n"},  {std::string("test:a\0b\n", 9), "no\n"},
-        {"test:a b\n", "no\n"},       {std::string(8193, 'x') + "\n", ""},
+        {"test:a b\n", "no\n"},       {std::string(9000, 'x') + "\n", ""},
     };
     for (const auto& [sent, answer] : cases) {
         Client client(m_socket);
@@ -221,6 +224,16 @@ TEST_F(Callbacks, oneHostThatWaitsGetsTheLinkBack) {
     m_since = 5;
     EXPECT_EQ(sendElsewhere("other:a", &sendLinkBack), Delivery::kNoHost) << "it waits, and takes another";
     EXPECT_EQ(sendElsewhere("test:a\nb", &sendLinkBack), Delivery::kTooLong);
+}
+
+TEST_F(Callbacks, ofTwoLinksAtOnceEachGoesToAHostThatStillWaits) {
+    ASSERT_TRUE(start());
+    const OtherHost other(m_folder + "/1.sock", "waits 4");
+    m_since = 5;
+    m_isOvertaken = true;
+    EXPECT_EQ(sendElsewhere("test:a", &sendLinkBack), Delivery::kTaken);
+    EXPECT_THAT(m_handler->urls, IsEmpty());
+    EXPECT_TRUE(other.wasSentUrl);
 }
 
 TEST_F(Callbacks, socketsOfDeadHostsAreRemoved) {
