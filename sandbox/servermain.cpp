@@ -8,7 +8,6 @@
 #include <iostream>
 #include <limits>
 #include <pthread.h>
-#include <sstream>
 #include <thread>
 
 namespace {
@@ -101,16 +100,11 @@ void checkSettingsFile(const std::string& file) {
     }
 }
 
-void writeSettings(const std::filesystem::path& file, const sandbox::ClientRegistration& client,
-                   const std::string& server) {
+void writeSettings(const std::filesystem::path& file, const std::string& settings) {
     if (file.has_parent_path()) {
         std::filesystem::create_directories(file.parent_path());
     }
-    std::ostringstream text;
-    text << kOurSettings << "\n[brindlex]\nServerURL=" << server << "\nUserURL=" << server
-         << "/\nConsumerKey=" << client.id << "\nConsumerSecret=" << client.secret
-         << "\nCallbackURL=" << client.redirectUri << "\nFeedURL=" << server << "/feed.atom\n";
-    writeWhole(file, text.str());
+    writeWhole(file, std::string(kOurSettings) + "\n" + settings);
 }
 
 void serve(const Options& options) {
@@ -126,7 +120,7 @@ void serve(const Options& options) {
     }
     const std::string address = "http://127.0.0.1:" + std::to_string(port);
     if (!options.settingsFile.empty()) {
-        writeSettings(options.settingsFile, options.settings.client, address);
+        writeSettings(options.settingsFile, sandbox::hostSettings(options.settings.client, address));
     }
     if (!options.portFile.empty()) { // last: who waits for it finds the rest
         writeWhole(options.portFile, std::to_string(port) + "\n");

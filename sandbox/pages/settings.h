@@ -27,4 +27,7 @@ struct Settings {
     std::chrono::seconds tokenLifetime{3600};
 };
 
+// The settings with which xbrhost finds a server of this address.
+std::string hostSettings(const ClientRegistration& client, const std::string& server);
+
 } // namespace sandbox

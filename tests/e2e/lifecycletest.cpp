@@ -8,6 +8,7 @@
 #include "host/app/modules/loadedmodule.h"
 #include "host/app/modules/publishentry.h"
 #include "host/gui/hostgui.h"
+#include "tests/fixtures/hostcontext.h"
 
 #include <gtest/gtest.h>
 
@@ -15,12 +16,6 @@
 
 namespace xbr::host::tests {
 namespace {
-
-struct Context final : Object<IHostContext> {
-    std::uint32_t borderVersion() const noexcept override { return kBorderVersion; }
-    Text hostName() const noexcept override { return toText("lifecycle test"); }
-    Text hostVersion() const noexcept override { return toText("1"); }
-};
 
 /// Everything that a host makes of a module, and back.
 void useEverything(IHostContext& context) {
@@ -42,7 +37,7 @@ void useEverything(IHostContext& context) {
 
 TEST(Lifecycle, TheModuleIsLoadedAndItsLibraryOpenedAgainAndAgain) {
     registerGuiClasses();
-    const auto context = make<Context>();
+    const auto context = make<TestHostContext>();
     for (int opened = 0; opened < 5; ++opened) {
         void* const library = dlopen(BRINDLEX_MODULE, RTLD_NOW | RTLD_LOCAL);
         for (int loaded = 0; loaded < 5; ++loaded) {

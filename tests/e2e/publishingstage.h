@@ -103,10 +103,7 @@ class PublishingStage final : private FrontEnd {
 public:
     PublishingStage() {
         qunsetenv("DISPLAY");
-        writeFile(m_service.folder() / "services.ini",
-                  "[brindlex]\nServerURL=" + m_service.origin() +
-                      "\nConsumerKey=brindlex-demo\nConsumerSecret=brindlex-demo-secret\n"
-                      "CallbackURL=brindlex://authorize\n");
+        writeFile(m_service.folder() / "services.ini", m_service.settings());
         EXPECT_TRUE(m_session.start().empty());
         reopen(first);
         reopen(second);

@@ -41,7 +41,7 @@ public:
 
 private:
     void runService() {
-        const auto context = xbr::make<FakeContext>();
+        const auto context = xbr::make<xbr::host::TestHostContext>();
         const auto service =
             create<xbr::IProgramService>(*XBRGetClassFactory(), XBRGetClassFactory()->classAt(0)->uid);
         xbr::Ref<xbr::IClassFactory> classes;

@@ -5,20 +5,12 @@
 #include "framework/abi/publisher.h"
 #include "framework/support/objects/text.h"
 #include "tests/fakehost/fakehost.h"
+#include "tests/fixtures/hostcontext.h"
 #include "ui/tracks/trackitem.h"
 
 #include <gtest/gtest.h>
 
 namespace brindlex {
-
-class FakeContext final : public xbr::Object<xbr::IHostContext> {
-public:
-    std::uint32_t borderVersion() const noexcept override { return version; }
-    xbr::Text hostName() const noexcept override { return xbr::toText("fake"); }
-    xbr::Text hostVersion() const noexcept override { return xbr::toText("1"); }
-
-    std::uint32_t version = xbr::kBorderVersion;
-};
 
 /// A song that the host rendered. Its tags are named after their keys, but for the title.
 class Song final : public xbr::Object<xbr::IUrlSource, xbr::IMediaAttributes> {
@@ -82,7 +74,7 @@ protected:
         EXPECT_TRUE(fakehost::host().fileTypes.handlers.empty());
     }
 
-    xbr::Ref<FakeContext> context = xbr::make<FakeContext>();
+    xbr::Ref<xbr::host::TestHostContext> context = xbr::make<xbr::host::TestHostContext>();
     xbr::Ref<xbr::IProgramService> service;
 };
 

@@ -1,6 +1,7 @@
 #include "tests/sandbox/runningservice.h"
 
 #include "sandbox/http/server.h"
+#include "sandbox/pages/settings.h"
 #include "sandbox/service.h"
 
 #include <gtest/gtest.h>
@@ -35,6 +36,10 @@ RunningService::~RunningService() {
 
 std::string RunningService::origin() const {
     return "http://127.0.0.1:" + std::to_string(m_parts->port);
+}
+
+std::string RunningService::settings() const {
+    return sandbox::hostSettings({}, origin());
 }
 
 std::string RunningService::authorizeUrl() const {

@@ -17,6 +17,8 @@ public:
     RunningService& operator=(const RunningService&) = delete;
 
     std::string origin() const;
+    // The settings with which xbrhost finds it.
+    std::string settings() const;
     std::string authorizeUrl() const;
     httplib::Client& client();
     const std::filesystem::path& folder() const { return m_folder; }

@@ -35,7 +35,7 @@ Stage::Stage(int seconds) : m_service(std::make_unique<RunningService>()) {
     setVariable("BROWSER", path("browser"));
     setVisit(Visit::kAllow);
     setVariable("BRINDLEX_CALLBACK_PROGRAM", TEST_PROGRAM);
-    configure(m_service->origin());
+    configure(m_service->settings());
     makeSongs(seconds);
 }
 
@@ -84,13 +84,6 @@ void Stage::setVisit(Visit visit, const std::string& before) const {
 void Stage::writeScript(const std::string& name, const std::string& commands) const {
     m_folder.write(name, "#!/bin/sh\n" + commands + "\n");
     fs::permissions(path(name), fs::perms::owner_all);
-}
-
-void Stage::configure(const std::string& server) const {
-    const std::string settings = "[brindlex]\nServerURL=" + server + "\nUserURL=" + server +
-                                 "/\nConsumerKey=brindlex-demo\nConsumerSecret=brindlex-demo-secret\n"
-                                 "CallbackURL=brindlex://authorize\n";
-    m_folder.write("services.ini", server.empty() ? "" : settings);
 }
 
 void Stage::silenceSessionBus() {

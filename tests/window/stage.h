@@ -43,8 +43,8 @@ public:
     enum class Visit { kAllow, kDeny, kGoAway };
     void setVisit(Visit visit, const std::string& before = "true") const;
 
-    /// Settings of the service; an empty address leaves them out.
-    void configure(const std::string& server) const;
+    /// Writes the settings of the service.
+    void configure(const std::string& settings) const { m_folder.write("services.ini", settings); }
 
     /// From now on there is a session bus that accepts and never says a word. This process's Qt goes without.
     void silenceSessionBus();

@@ -213,7 +213,7 @@ TEST_F(WindowTest, aSignInThatComesToNothingSaysWhyAndWorksAgain) {
     EXPECT_TRUE(statusSays("is not set up: "));
     EXPECT_TRUE(statusSays("services.ini"));
 
-    stage.configure(stage.service().origin());
+    stage.configure(stage.service().settings());
     stage.service().addFault(R"({"path":"/oauth/token","status":500})");
     click(window(), "connect");
     EXPECT_TRUE(statusSays("Not signed in: the service did not accept it."));

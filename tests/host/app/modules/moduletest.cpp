@@ -1,6 +1,7 @@
 #include "framework/abi/pluginmanager.h"
 #include "framework/support/objects/text.h"
 #include "host/app/modules/loadedmodule.h"
+#include "tests/fixtures/hostcontext.h"
 #include "tests/fixtures/testfolder.h"
 
 #include <gmock/gmock.h>
@@ -29,17 +30,11 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-struct FakeContext final : Object<IHostContext> {
-    std::uint32_t borderVersion() const noexcept override { return kBorderVersion; }
-    Text hostName() const noexcept override { return toText("test host"); }
-    Text hostVersion() const noexcept override { return toText("1"); }
-};
-
 struct ModuleLoading : testing::Test {
     static std::int32_t countThings() { return XBRGetPlugInManager()->countClasses(toText("Test")); }
 
     TestFolder folder;
-    Ref<FakeContext> context = make<FakeContext>();
+    Ref<TestHostContext> context = make<TestHostContext>();
 };
 
 } // namespace
