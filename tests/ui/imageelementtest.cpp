@@ -266,9 +266,9 @@ TEST_F(ImageElementTest, KeepsTheFolderWithinItsLimits) {
 
 TEST_F(ImageElementTest, KeepsMemoryWithinItsLimits) {
     for (const auto& [name, size, kept] : Rows<std::string, const char*, const char*>{
-             {"1", "1400x1400", "1"},
-             {"2", "1400x1400", "21"}, // looked for in this order: the first is wanted last
-             {"3", "1400x1400", "31"},
+             {"1", "1000x1000", "1"},
+             {"2", "1000x1000", "21"}, // looked for in this order: the first is wanted last
+             {"3", "1000x1000", "31"},
              {"4", "3000x3000", "31"}, // larger than all the room
              {"3", "damaged", "1"},
          }) {

@@ -27,8 +27,8 @@ public:
     /// The class itself, for telling a cache from other objects that are handed in.
     static constexpr xbr::Uid kClassUid = xbr::uid("8f1bd8a2-6e3a-4dd5-8f5b-1f2c6f0c1d5e");
 
-    /// Some thirty pictures of the news.
-    static constexpr std::int64_t kMaximumPixels = std::int64_t{4} << 20U;
+    /// Sixteen pictures of the news: a few more than are near what is seen.
+    static constexpr std::int64_t kMaximumPixels = std::int64_t{2} << 20U;
 
     ImageElementCache() : Component("ImageElementCache") {}
 

@@ -72,7 +72,8 @@ Result PublishedItems::next(IObject** out) noexcept {
     if (m_next == m_items.size()) {
         return kFalse;
     }
-    *out = query<IObject>(m_items[m_next++].get()).detach();
+    const auto item = std::move(m_items[m_next++]); // nobody goes through them twice
+    *out = query<IObject>(item.get()).detach();
     return kOk;
 }
 

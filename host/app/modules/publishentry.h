@@ -42,6 +42,7 @@ class PublishedItems final : public Object<IObjectIterator> {
 public:
     void add(std::string url, Ref<Attributes> media);
 
+    /// Gives each item away.
     Result next(IObject** out) noexcept override;
 
 private:

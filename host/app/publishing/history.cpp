@@ -88,11 +88,8 @@ void History::add(const std::vector<std::string>& paths, const std::string& acco
 }
 
 void History::write() const {
-    QJsonArray all;
-    for (const Publication& each : m_all) {
-        all.append(objectOf(each));
-    }
-    writeKeptList(QFile::decodeName(m_path.c_str()), all);
+    writeKeptList(QFile::decodeName(m_path.c_str()), m_all.size(),
+                  [this](std::size_t i) { return objectOf(m_all[i]); });
 }
 
 } // namespace xbr::host

@@ -113,6 +113,7 @@ private:
 
     void planSongs() {
         std::vector<std::pair<std::size_t, Problem>> bad;
+        m_songs.reserve(m_files->size());
         for (std::size_t i = 0; i < m_files->size(); ++i) {
             const bool isPublished = (*m_files)[i].published != 0 && !m_wish->sendsAgain;
             if (Problem problem = problemOf((*m_files)[i], *m_offer)) {
@@ -218,10 +219,13 @@ private:
     }
 
     void makeReleases() {
+        if (m_plan.isAlbum() && !m_songs.empty()) {
+            m_plan.releases.push_back(makeRelease(m_songs.front()));
+            m_plan.releases.back().songs = std::move(m_songs);
+            return;
+        }
         for (PlannedSong& song : m_songs) {
-            if (m_plan.releases.empty() || !m_plan.isAlbum()) {
-                m_plan.releases.push_back(makeRelease(song));
-            }
+            m_plan.releases.push_back(makeRelease(song));
             m_plan.releases.back().songs.push_back(std::move(song));
         }
     }

@@ -242,7 +242,7 @@ bool Publishing::canTryAgain() {
 }
 
 void Publishing::uploadComes() {
-    const auto all = m_follow.tracks();
+    const auto& all = m_follow.tracks();
     const bool isWaiting = std::any_of(
         all.begin(), all.end(), [](const TrackReport& track) { return track.state == TrackState::kNone; });
     const auto rows = notTakenOf(all);

@@ -20,13 +20,20 @@ std::optional<QJsonArray> readKeptList(const QString& path, qint64 mostBytes) {
     return document.isArray() ? std::optional(document.array()) : std::nullopt;
 }
 
-void writeKeptList(const QString& path, const QJsonArray& list) {
+void writeKeptList(const QString& path, std::size_t count,
+                   const std::function<QJsonObject(std::size_t index)>& entry) {
     QDir().mkpath(QFileInfo(path).path());
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(QJsonDocument(list).toJson());
-        file.commit();
+    if (!file.open(QIODevice::WriteOnly)) {
+        return;
     }
+    file.write("[");
+    for (std::size_t i = 0; i < count; ++i) {
+        file.write(i == 0 ? "\n" : ",\n");
+        file.write(QJsonDocument(entry(i)).toJson(QJsonDocument::Compact));
+    }
+    file.write("\n]\n");
+    file.commit();
 }
 
 } // namespace xbr::host

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QString>
 
+#include <cstddef>
+#include <functional>
 #include <optional>
 
 namespace xbr::host {
@@ -11,7 +14,9 @@ namespace xbr::host {
 /// when it cannot be read: no list, or beyond `mostBytes`.
 std::optional<QJsonArray> readKeptList(const QString& path, qint64 mostBytes);
 
-/// Makes the folder when it has to, and writes the file whole or not at all.
-void writeKeptList(const QString& path, const QJsonArray& list);
+/// Makes the folder when it has to, and writes the file whole or not at all: a line for each entry, of which
+/// one is in memory at a time.
+void writeKeptList(const QString& path, std::size_t count,
+                   const std::function<QJsonObject(std::size_t index)>& entry);
 
 } // namespace xbr::host

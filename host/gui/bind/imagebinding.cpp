@@ -66,6 +66,7 @@ private:
         Ref<IImage> image;
         const bool isThere = m_source->getImage(image.out()) == kOk && image;
         m_pixels = isThere ? pixelsOf(*image) : QImage();
+        m_own = isThere ? QSizeF(image->width(), image->height()) : QSizeF();
         m_shown = QImage();
         m_label->setVisible(!m_pixels.isNull() || m_showing.mayHaveImage());
         m_label->update();
@@ -73,10 +74,9 @@ private:
 
     /// In points.
     QSizeF size() const {
-        const QSizeF own = m_pixels.deviceIndependentSize();
         const QSizeF area = m_label->contentsRect().size();
-        const bool fits = own.width() <= area.width() && own.height() <= area.height();
-        return fits ? own : own.scaled(area, Qt::KeepAspectRatio);
+        const bool fits = m_own.width() <= area.width() && m_own.height() <= area.height();
+        return fits ? m_own : m_own.scaled(area, Qt::KeepAspectRatio);
     }
 
     void paint() {
@@ -86,7 +86,6 @@ private:
         const QSize pixels = (QSizeF(points) * ratio).toSize();
         if (m_shown.size() != pixels) {
             m_shown = m_pixels.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-            m_shown.setDevicePixelRatio(1.0);
         }
         const QRect place = QStyle::alignedRect(m_label->layoutDirection(), m_label->alignment(), points,
                                                 m_label->contentsRect());
@@ -104,6 +103,7 @@ private:
     Showing m_showing; ///< what it signals at its end is not heard any more
     Listener m_listener;
     QImage m_pixels;
+    QSizeF m_own;   ///< of the picture, in points
     QImage m_shown; ///< in the size of the moment; null when it has to be made
 };
 

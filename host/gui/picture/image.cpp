@@ -41,12 +41,7 @@ Result Image::queryInterface(const Uid& interfaceUid, void** out) noexcept {
 
 QImage pixelsOf(IImage& image) {
     const Image* own = Image::from(image);
-    if (!own || own->width() < 1) {
-        return {};
-    }
-    QImage pixels = own->pixels()->image();
-    pixels.setDevicePixelRatio(static_cast<double>(own->pixelWidth()) / own->width());
-    return pixels;
+    return own ? own->pixels()->image() : QImage();
 }
 
 } // namespace xbr::host

@@ -56,9 +56,9 @@ private:
     std::int32_t m_height;
 };
 
-/// For front ends with windows: the pixels of an image, with the ratio at which they are shown in its size in
-/// points. Null for an image that is not of this library. The pixels are shared as long as nobody changes
-/// them.
+/// For front ends with windows: the pixels of an image, whatever its size in points. Null for an image that
+/// is not of this library. They are shared with it as long as nobody changes them or what is known of them,
+/// the ratio of a device for one.
 [[gnu::visibility("default")]] QImage pixelsOf(IImage& image);
 
 } // namespace xbr::host

@@ -121,8 +121,7 @@ TEST(Graphics, showsHighResolutionInFewerPoints) {
     EXPECT_EQ(QSize(high->width(), high->height()), QSize(101, 50));
     EXPECT_EQ(high->pixelWidth(), 201);
     EXPECT_EQ(pixelsOf(*high).size(), QSize(201, 99));
-    EXPECT_NEAR(pixelsOf(*high).devicePixelRatio(), 1.99, 0.01);
-    EXPECT_EQ(pixelsOf(*image).devicePixelRatio(), 1.0);
+    EXPECT_EQ(pixelsOf(*high).constBits(), pixelsOf(*image).constBits()) << "shared by both";
     EXPECT_EQ(graphics->createHighResolutionImage(image.get(), 0, 50, high.out()), kInvalidArgument);
     EXPECT_EQ(graphics->createHighResolutionImage(nullptr, 1, 1, high.out()), kInvalidArgument);
     EXPECT_GE(graphics->displayScale(), 1.0);

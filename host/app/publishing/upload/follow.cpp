@@ -19,6 +19,10 @@ bool isUpload(const Exchange& exchange) {
     return exchange.hadCredentials && exchange.hadBody;
 }
 
+std::string userFileOf(const TrackReport& track) {
+    return localPath(track.file).value_or(track.file);
+}
+
 } // namespace
 
 Follow::Follow(GadgetPanel& panel, Activity& activity, Listener listener)
@@ -28,14 +32,12 @@ Follow::Follow(GadgetPanel& panel, Activity& activity, Listener listener)
       m_follower(
           panel.tracks(), [this] { m_hears.touched(); },
           [this](const TrackReport& track) {
-              if (const auto row = static_cast<std::size_t>(track.index); row < m_named.size()) {
-                  m_named[row] = named(track);
-              }
               noteTravelling(track);
               if (isBusy()) {
-                  m_hears.changed(named(track));
+                  m_hears.changed(track);
               }
-          }),
+          },
+          [this](TrackReport& track) { name(track); }),
       m_watching(activity.watch(*this)) {
     static constexpr int kTellEvery = 250; // milliseconds
     m_later.setSingleShot(true);
@@ -50,8 +52,8 @@ void Follow::named(const std::vector<HandedSong>& songs) {
     for (const HandedSong& song : songs) {
         m_sources.emplace(song.file, song.source);
     }
-    m_named.clear();
     m_carried.clear();
+    m_follower.rename();
 }
 
 void Follow::setPhase(Phase phase) {
@@ -85,7 +87,7 @@ void Follow::beginUpload() {
     m_meter = {};
     for (const TrackReport& track : m_follower.reports()) {
         if (track.state == TrackState::kNone) {
-            m_carried.erase(track.file); // it goes anew
+            m_carried.erase(sentFile(track)); // it goes anew
         }
     }
 }
@@ -100,14 +102,15 @@ void Follow::checkNames() {
     const auto& reports = m_follower.reports();
     names.reserve(reports.size());
     for (const TrackReport& track : reports) {
-        names.push_back(fileNameOf(localPath(track.file).value_or(track.file)));
+        const std::string& file = sentFile(track);
+        names.push_back(fileNameOf(localPath(file).value_or(file)));
     }
     if (const auto pair = sameNames(names)) {
         Finding finding;
         finding.kind = Finding::Kind::kSameName;
         finding.weight = Finding::Weight::kFatal;
-        finding.text = sourceOf(reports[pair->first].file);
-        finding.path = sourceOf(reports[pair->second].file);
+        finding.text = userFileOf(reports[pair->first]);
+        finding.path = userFileOf(reports[pair->second]);
         m_findings.push_back(std::move(finding));
         m_activity->end(Activity::Kind::kPreparing);
     }
@@ -147,7 +150,7 @@ void Follow::noteTravelling() {
 
 void Follow::noteTravelling(const TrackReport& track) {
     if (track.isUploading) {
-        m_travelling.insert(track.file);
+        m_travelling.insert(sentFile(track));
     }
     if (!m_travelling.empty() && m_phase == Phase::kPreparing &&
         !m_activity->isOpen(Activity::Kind::kPreparing)) {
@@ -184,11 +187,7 @@ void Follow::tellSending() {
     if (m_phase != Phase::kSending) {
         return;
     }
-    UploadProgress progress = m_meter.upload(m_follower.reports(), m_panel->isAlbum());
-    if (!progress.isAlbum && !progress.label.empty()) {
-        progress.label = labelOf(tracks().at(static_cast<std::size_t>(progress.index)));
-    }
-    m_hears.sending(progress);
+    m_hears.sending(m_meter.upload(m_follower.reports(), m_panel->isAlbum()));
 }
 
 void Follow::workProgressed(Activity::Kind kind, double fraction, const std::string& what) {
@@ -200,7 +199,7 @@ void Follow::workProgressed(Activity::Kind kind, double fraction, const std::str
 void Follow::fileFailed(const Problem& problem) {
     if (m_phase == Phase::kPreparing) {
         m_files.push_back(problem);
-        m_files.back().subject = sourceOf(fileUrl(problem.subject));
+        m_files.back().subject = sourceOf(problem.subject);
     }
 }
 
@@ -250,34 +249,29 @@ void Follow::finish() {
     m_hears.ended(found);
 }
 
-std::string Follow::sourceOf(const std::string& url) const {
-    const std::string path = localPath(url).value_or(url);
+std::string Follow::sourceOf(const std::string& path) const {
     const auto found = m_sources.find(path);
     return found == m_sources.end() ? path : found->second;
 }
 
 /// The user knows a song by the file that it came from, not by what was rendered from it.
-TrackReport Follow::named(TrackReport report) const {
-    report.file = fileUrl(sourceOf(report.file));
-    return report;
-}
-
-const std::vector<TrackReport>& Follow::tracks() {
-    const auto& reports = m_follower.reports(); // reads what has changed
-    for (std::size_t row = m_named.size(); row < reports.size(); ++row) {
-        m_named.push_back(named(reports[row]));
+void Follow::name(TrackReport& report) const {
+    if (m_sources.empty()) {
+        return; // the rule, and each key that is typed asks for all of a long list
     }
-    m_named.resize(reports.size());
-    return m_named;
+    const std::string path = localPath(report.file).value_or(report.file);
+    if (std::string source = sourceOf(path); source != path) {
+        report.rendered = std::exchange(report.file, fileUrl(source));
+    }
 }
 
 TrackFact Follow::factOf(const TrackReport& report) const {
     TrackFact fact;
-    fact.label = labelOf(named(report));
-    fact.source = sourceOf(report.file);
+    fact.label = labelOf(report);
+    fact.source = userFileOf(report);
     fact.state = report.state;
     fact.missing = missingDetails(report);
-    const auto carried = m_carried.find(report.file);
+    const auto carried = m_carried.find(sentFile(report));
     fact.wasSent = carried != m_carried.end();
     if (fact.wasSent) {
         const Exchange& exchange = carried->second.exchange;

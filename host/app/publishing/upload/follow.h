@@ -36,7 +36,8 @@ public:
     Follow(const Follow&) = delete;
     Follow& operator=(const Follow&) = delete;
 
-    /// The panel was given songs: tracks are called by the user's files, and former uploads are forgotten.
+    /// The panel was given songs, these of them as other files: tracks are called by the user's, and former
+    /// uploads are forgotten.
     void named(const std::vector<HandedSong>& songs);
 
     /// "upload" was performed, and has come back. When nothing was prepared in there, nothing will be.
@@ -53,7 +54,7 @@ public:
     bool isBusy() const { return m_phase != Phase::kIdle; }
 
     /// The tracks as they are now, by the user's files.
-    const std::vector<TrackReport>& tracks();
+    const std::vector<TrackReport>& tracks() { return m_follower.reports(); }
 
 private:
     enum class Phase : std::uint8_t { kIdle, kPreparing, kSending };
@@ -83,8 +84,8 @@ private:
     void noteTravelling();
     void noteTravelling(const TrackReport& track);
     void tellSending();
-    TrackReport named(TrackReport report) const;
-    std::string sourceOf(const std::string& url) const;
+    std::string sourceOf(const std::string& path) const;
+    void name(TrackReport& report) const;
     UploadFacts facts();
     TrackFact factOf(const TrackReport& report) const;
     void addMissing(UploadFacts& facts);
@@ -98,7 +99,6 @@ private:
     bool m_hasNoRoom = false;
     /// The paths of the user's files, by those that the module got.
     std::unordered_map<std::string, std::string> m_sources;
-    std::vector<TrackReport> m_named; ///< the tracks, by the user's files
     std::vector<Problem> m_files;
     std::vector<Finding> m_findings;
     std::map<std::string, Carried> m_carried; ///< by the URL of the track's file

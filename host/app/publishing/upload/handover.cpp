@@ -126,9 +126,9 @@ Outcome<std::vector<HandedSong>> handOver(const Plan& plan, GadgetPanel& panel, 
                     return done.problem();
                 }
                 writeWavTags(file, tags);
+                handed.push_back({file, source});
             }
             items->add(fileUrl(file), attributesOf(tags));
-            handed.push_back({file, source});
         }
     }
     if (auto given = give(plan, *items, panel, entry); !given) {

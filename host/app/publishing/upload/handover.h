@@ -20,8 +20,7 @@ struct HandedSong {
 };
 
 /// Puts the songs of a plan into a panel: renders those that the module does not take, and passes on what the
-/// plan says of them. Runs the event loop while songs are rendered. The songs, in the order of the panel's
-/// list.
+/// plan says of them. Runs the event loop while songs are rendered. Those that were.
 Outcome<std::vector<HandedSong>> handOver(const Plan& plan, GadgetPanel& panel, const PublishEntry& entry,
                                           RenderedSongs& rendered);
 

@@ -26,10 +26,10 @@ void Meter::requestEnded(std::int64_t sent) {
 }
 
 std::int64_t Meter::sizeOf(const TrackReport& track) {
-    const auto [found, isNew] = m_sizes.try_emplace(track.file, 0);
+    const auto [found, isNew] = m_sizes.try_emplace(sentFile(track), 0);
     if (isNew) {
         std::error_code failed;
-        const auto size = std::filesystem::file_size(localPath(track.file).value_or(""), failed);
+        const auto size = std::filesystem::file_size(localPath(sentFile(track)).value_or(""), failed);
         found->second = failed ? 0 : static_cast<std::int64_t>(size);
     }
     return found->second;

@@ -69,10 +69,12 @@ std::vector<Detail> missingDetails(const TrackReport& track) {
     return missing;
 }
 
-TrackFollower::TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed)
+TrackFollower::TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed,
+                             Name name)
     : m_tracks(std::move(tracks)),
       m_touched(std::move(touched)),
       m_changed(std::move(changed)),
+      m_name(std::move(name)),
       m_listener([this](ISubject*, const IMessage& message) {
           if (isNamed(message, "itemChanged")) {
               readRow(static_cast<std::int32_t>(integerOf(message.argument(0), -1)));
@@ -121,6 +123,7 @@ void TrackFollower::readRow(std::int32_t row) {
         return;
     }
     TrackReport report = read(*m_tracks, row);
+    m_name(report);
     auto& known = m_reports[static_cast<std::size_t>(row)];
     if (!(report == known)) {
         known = report;

@@ -30,7 +30,8 @@ struct TrackDetails {
 struct TrackReport {
     std::int32_t index = 0; ///< from 0
     std::string title;
-    std::string file; ///< URL
+    std::string file;     ///< URL, of the user's file where that is known
+    std::string rendered; ///< URL of what the module got in its place; empty when it got the file itself
     TrackState state = TrackState::kNone;
     bool isUploading = false;
     double progress = 0.0; ///< fraction of the transfer
@@ -38,6 +39,11 @@ struct TrackReport {
 
     bool operator==(const TrackReport&) const = default;
 };
+
+/// The URL by which the module knows the track.
+inline const std::string& sentFile(const TrackReport& track) {
+    return track.rendered.empty() ? track.file : track.rendered;
+}
 
 /// What to call a track: its title, or the name of its file when it has none.
 std::string labelOf(const TrackReport& track);
@@ -50,14 +56,21 @@ std::vector<Detail> missingDetails(const TrackReport& track);
 class TrackFollower {
 public:
     using Changed = std::function<void(const TrackReport& track)>;
+    using Name = std::function<void(TrackReport& track)>;
 
     /// `touched` is called once the list was read after it had changed, and for each of its rows that says
-    /// so; `changed` before that for each track that looks different from before.
-    TrackFollower(Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed);
+    /// so; `changed` before that for each track that looks different from before. `name` puts the user's file
+    /// into what was read.
+    TrackFollower(
+        Ref<IListViewModel> tracks, std::function<void()> touched, Changed changed,
+        Name name = [](TrackReport&) {});
 
     /// The tracks as they are now. May call `changed`.
     const std::vector<TrackReport>& reports();
     bool isUploading();
+
+    /// Tracks have other names from now on: the list is read as if it had changed.
+    void rename() { m_later.start(); }
 
 private:
     void catchUp();
@@ -67,6 +80,7 @@ private:
     Ref<IListViewModel> m_tracks;
     std::function<void()> m_touched;
     Changed m_changed;
+    Name m_name;
     std::vector<TrackReport> m_reports;
     QTimer m_later; ///< runs while the list has changed and was not read since
     Listener m_listener;

@@ -7,6 +7,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <optional>
 
 namespace xbr::host {
 
@@ -57,10 +58,9 @@ bool mayLeaveOut(DialogPlace& place, const Plan& plan) {
 }
 
 /// The songs are in the panel: how many, or what is open there.
-Notice noticeOf(const Plan& plan, PanelNotices& panel) {
+Notice noticeOf(const Verdict& verdict, PanelNotices& panel) {
     const auto& tracks = panel.publishing().tracks();
     const auto count = static_cast<int>(tracks.size());
-    const Verdict verdict = judge(plan);
     QStringList warnings;
     for (const std::string& warning : verdict.warnings) {
         warnings.append(words(warning));
@@ -95,30 +95,39 @@ Notice noticeOf(const Plan& plan, PanelNotices& panel) {
     return {NoticeKind::kWarning, text, {show}, {}};
 }
 
-} // namespace
-
-Notice handOverSongs(DialogPlace& place, PanelNotices& panel, const PublishEntry& entry,
-                     const std::vector<SongFile>& songs) {
+Plan makePlan(DialogPlace& place, const Publishing& publishing, const PublishEntry& entry,
+              const std::vector<SongFile>& songs) {
     ReleaseWish wish;
     wish.mode = ReleaseMode::kPanel;
     wish.songs.resize(songs.size());
-    const QPointer<PanelNotices> self(&panel);
-    Publishing& publishing = panel.publishing();
     Plan plan = publishing.plan(entry, wish, songs);
     if (mayLeaveOut(place, plan)) {
         wish.skipsUnreadable = true;
         plan = publishing.plan(entry, wish, songs);
     }
-    if (!self || (plan.canBeHandedOver() && !mayReplace(place, panel)) || !self) {
+    return plan;
+}
+
+} // namespace
+
+Notice handOverSongs(DialogPlace& place, PanelNotices& panel, const PublishEntry& entry,
+                     std::vector<SongFile> songs) {
+    const QPointer<PanelNotices> self(&panel);
+    Publishing& publishing = panel.publishing();
+    std::optional<Plan> plan = makePlan(place, publishing, entry, songs);
+    songs = {}; // a long list is held often enough: the plan knows what is needed
+    if (!self || (plan->canBeHandedOver() && !mayReplace(place, panel)) || !self) {
         return {};
     }
     panel.memory().pause();
-    const auto failed = publishing.handOver(entry, plan);
+    const auto failed = publishing.handOver(entry, *plan);
     if (!self) {
         return {};
     }
+    const Verdict verdict = failed ? *failed : judge(*plan);
+    plan.reset(); // before the panel is read
     panel.memory().handedOver();
-    return failed ? Notice{failed->kind, words(failed->sentence), {}, {}} : noticeOf(plan, panel);
+    return failed ? Notice{verdict.kind, words(verdict.sentence), {}, {}} : noticeOf(verdict, panel);
 }
 
 } // namespace xbr::host

@@ -11,6 +11,6 @@ namespace xbr::host {
 /// Hands songs of the list over to a panel, and asks before that loses something. What to tell the user; of
 /// the kind kNone when the user would rather not.
 Notice handOverSongs(DialogPlace& place, PanelNotices& panel, const PublishEntry& entry,
-                     const std::vector<SongFile>& songs);
+                     std::vector<SongFile> songs);
 
 } // namespace xbr::host

@@ -28,6 +28,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace xbr::host {
 
@@ -265,7 +266,9 @@ void MainWindow::showNotice(const Notice& notice) {
 void MainWindow::publish(const PublishEntry& entry) {
     std::vector<SongFile> songs;
     bool isReading = false;
-    for (const int row : m_view->chosenRows()) {
+    const auto rows = m_view->chosenRows();
+    songs.reserve(rows.size());
+    for (const int row : rows) {
         songs.push_back(fileOf(m_songs.song(row)));
         isReading = isReading || m_songs.song(row).isBeingRead;
     }
@@ -284,7 +287,7 @@ void MainWindow::publish(const PublishEntry& entry) {
             showNotice({NoticeKind::kError, QString::fromStdString(judgeModule({}).sentence), {}, {}});
         } else {
             const QPointer<MainWindow> self(this);
-            const Notice notice = handOverSongs(*m_place, *(*dock)->notices(), entry, songs);
+            const Notice notice = handOverSongs(*m_place, *(*dock)->notices(), entry, std::move(songs));
             if (self) {
                 showNotice(notice);
             }

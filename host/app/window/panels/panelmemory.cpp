@@ -110,7 +110,9 @@ std::string PanelMemory::valueOf(const TrackReport& report, const QString& param
 PanelMemory::Rows PanelMemory::read() {
     Rows rows;
     const auto list = m_panel->tracks();
-    for (const TrackReport& report : m_publishing->tracks()) {
+    const auto& tracks = m_publishing->tracks();
+    rows.reserve(tracks.size());
+    for (const TrackReport& report : tracks) {
         Item item;
         list->getItem(report.index, item.out());
         rows.push_back({std::move(item), report});

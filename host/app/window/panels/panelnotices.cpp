@@ -121,7 +121,7 @@ void PanelNotices::ended(const Verdict& verdict) {
 }
 
 QString PanelNotices::wordsOfLoss() {
-    const auto tracks = m_publishing.tracks();
+    const auto& tracks = m_publishing.tracks();
     const auto done = std::count_if(tracks.begin(), tracks.end(), [](const TrackReport& track) {
         return track.state == TrackState::kDone;
     });
@@ -182,7 +182,7 @@ bool PanelNotices::askAboutPublished() {
     std::vector<std::int32_t> rows;
     std::int64_t time = 0;
     std::string label;
-    const auto tracks = m_publishing.tracks();
+    const auto tracks = m_publishing.tracks(); // the list may change while the question is open
     for (const TrackReport& track : tracks) {
         const std::string path = localPath(track.file).value_or("");
         const bool isWaiting = track.state == TrackState::kNone && !m_wantedAgain.contains(path);

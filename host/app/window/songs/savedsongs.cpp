@@ -59,11 +59,7 @@ std::vector<Song> SavedSongs::load() const {
 }
 
 void SavedSongs::save(const std::vector<Song>& songs) const {
-    QJsonArray all;
-    for (const Song& song : songs) {
-        all.append(objectOf(song));
-    }
-    writeKeptList(filePath(), all);
+    writeKeptList(filePath(), songs.size(), [&songs](std::size_t i) { return objectOf(songs[i]); });
 }
 
 } // namespace xbr::host

@@ -58,6 +58,7 @@ std::vector<std::string> SongListModel::addFiles(const std::vector<std::string>&
     }
     const int first = rowCount();
     beginInsertRows({}, first, first + static_cast<int>(added.size()) - 1);
+    m_songs.reserve(m_songs.size() + added.size());
     for (const std::string& path : added) {
         Song song;
         song.path = path;
