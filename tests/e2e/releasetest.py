@@ -25,7 +25,11 @@ class ReleaseTest(StageTest):
         return shutil.copy(song, self.stage.folder / name)
 
     def test_aiff_and_mp3_arrive_as_one_album(self):
-        self.publish("--album", self.aiff, self.mp3, self.copy(self.mp3, "other.mp3"), "--title", "Other", "--track-number", "7")
+        events = self.events("--album", self.aiff, self.mp3, self.copy(self.mp3, "other.mp3"), "--title", "Other",
+                             "--track-number", "7")
+        for kind, file in (("track", self.aiff.as_uri()), ("song", str(self.aiff))):
+            self.assertIn(file, [event["file"] for event in events if event["event"] == kind], "not the rendered one")
+        self.publish("--dry-run", self.aiff, code=11)  # which is known to have gone
         [(document, audio)] = self.stage.releases()
         self.assertEqual((document["title"], document["main_artists"], document["primary_genre"]),
                          ("Night Drive", [{"name": "The Lamps"}], "Electronica"), "the first song's")
