@@ -120,12 +120,32 @@ PanelMemory::Rows PanelMemory::read() {
     return rows;
 }
 
+/// Comes by with each key that is typed: of a long list only what has changed is copied.
 void PanelMemory::look() {
-    Rows now = read();
-    if (!m_isPaused && !findRemoval(now)) {
-        findEdit(now);
+    const auto list = m_panel->tracks();
+    const auto& tracks = m_publishing->tracks();
+    const bool hasSameItems = std::equal(tracks.begin(), tracks.end(), m_rows.begin(), m_rows.end(),
+                                         [&list](const TrackReport& track, const Row& row) {
+                                             Item item;
+                                             list->getItem(track.index, item.out());
+                                             return item.get() == row.item.get();
+                                         });
+    if (!hasSameItems) {
+        Rows now = read();
+        if (!m_isPaused) {
+            findRemoval(now);
+        }
+        m_rows = std::move(now);
+        return;
     }
-    m_rows = std::move(now);
+    if (!m_isPaused) {
+        findEdit(tracks);
+    }
+    for (std::size_t row = 0; row < tracks.size(); ++row) {
+        if (!(m_rows[row].report == tracks[row])) {
+            m_rows[row].report = tracks[row];
+        }
+    }
 }
 
 std::unordered_set<const IObject*> PanelMemory::itemsOf(const Rows& rows) {
@@ -151,7 +171,7 @@ void PanelMemory::handedOver() {
     }
 }
 
-bool PanelMemory::findRemoval(const Rows& now) {
+void PanelMemory::findRemoval(const Rows& now) {
     const auto there = itemsOf(now);
     std::vector<Item> gone;
     for (const Row& row : m_rows) {
@@ -160,17 +180,16 @@ bool PanelMemory::findRemoval(const Rows& now) {
         }
     }
     if (gone.empty()) {
-        return false;
+        return;
     }
     m_edit = {};
     const auto count = static_cast<int>(gone.size());
     emit changed({tr("%n song(s) removed from the panel.", nullptr, count),
                   [this, before = m_rows] { restore(before); }, [this, gone] { removeItems(gone); }, -1});
-    return true;
 }
 
 // NOLINTNEXTLINE(readability-function-cognitive-complexity): one walk through the fields
-void PanelMemory::findEdit(const Rows& now) {
+void PanelMemory::findEdit(const std::vector<TrackReport>& now) {
     const auto list = m_panel->tracks();
     std::vector<std::int32_t> selected;
     for (std::int32_t row = 0; row < list->countRows(); ++row) {
@@ -178,7 +197,7 @@ void PanelMemory::findEdit(const Rows& now) {
             selected.push_back(row);
         }
     }
-    if (now.size() != m_rows.size() || selected.size() < 2) {
+    if (selected.size() < 2) {
         return;
     }
     for (const QString& field : fieldsOf(m_panel->isAlbum())) {
@@ -188,10 +207,10 @@ void PanelMemory::findEdit(const Rows& now) {
         for (const std::int32_t row : selected) {
             const auto index = static_cast<std::size_t>(row);
             const std::string before = valueOf(m_rows[index].report, field);
-            const std::string value = valueOf(now[index].report, field);
+            const std::string value = valueOf(now[index], field);
             isChanged = isChanged || before != value;
-            edit.before[now[index].item.get()] = before;
-            after.before[now[index].item.get()] = value;
+            edit.before[m_rows[index].item.get()] = before;
+            after.before[m_rows[index].item.get()] = value;
         }
         if (!isChanged) {
             continue;

@@ -56,8 +56,8 @@ private:
     Rows read();
     static std::unordered_set<const IObject*> itemsOf(const Rows& rows);
     void catchUp();
-    bool findRemoval(const Rows& now);
-    void findEdit(const Rows& now);
+    void findRemoval(const Rows& now);
+    void findEdit(const std::vector<TrackReport>& now);
     void restore(const Rows& rows);
     void removeItems(const std::vector<Item>& items);
     void write(const Edit& edit);
