@@ -73,6 +73,8 @@ TEST_F(Keeping, whatIsRemovedOrChangedInThePanelComesBack) {
     EXPECT_TRUE(
         waitFor([&] { return text("editorHeader") == "2 songs selected: an edit changes all of them."; }));
     EXPECT_EQ(text("songTitleDiffers"), "≠ 2 values");
+    type(window(), "songTitle", "One");
+    EXPECT_TRUE(statusSays("Song title changed in 2 songs."));
     type(window(), "songArtist", "Both");
     EXPECT_TRUE(statusSays("Song artist changed in 2 songs."));
     EXPECT_TRUE(waitFor([&] { return text("songArtistDiffers") == "same"; }));
